@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+/// The event and error log, inert unless the program was started with "/L". Each line rewrites the whole file, so that a crash loses
+/// at most one line.
+class Log
+{
+public:
+    explicit Log(QString file = {}) : file_(std::move(file)) {}
+
+    bool enabled() const { return enabled_; }
+    QString file() const { return file_; }
+    void enable(const QString &file);
+
+    /// Appends the trimmed `text` with " - " and the time. Returns at once while the log is off; errors of the writer are swallowed.
+    void WriteLog(const QString &text);
+
+private:
+    QString file_;
+    bool enabled_ = false;
+};

@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QWidget>
+
+/// The floating copy of a held tile, `BtnMove1`: it stands over the board and lets pointer events through.
+class FloatingTile : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit FloatingTile(QWidget *parent = nullptr);
+    void setTile(const QString &caption, const QColor &back, const QColor &text);
+    QString Caption() const { return caption_; }
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QString caption_;
+    QColor back_;
+    QColor text_;
+};

@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QImage>
+#include <QWidget>
+
+/// A picture box that keeps its image: what was painted on it survives being covered. The image has the screen's device pixel ratio, so that tiles are sharp on a
+/// fine display; all coordinates are logical pixels. Painting can be frozen during bulk work, which hides the steps between.
+class PictureBox : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PictureBox(QWidget *parent = nullptr);
+
+    /// The persistent image. Grows with the widget (old content stays); never shrinks below it.
+    QImage &image() { return image_; }
+    const QImage &image() const { return image_; }
+
+    void setBackColour(const QColor &colour);
+    QColor backColour() const { return backColour_; }
+    /// A picture shown behind what is painted, at the top left corner in its own size; a null image removes it.
+    void setPicture(const QImage &picture);
+    QImage picture() const { return picture_; }
+    /// Clears the image to the back colour and the picture.
+    void cls();
+
+    /// Suspends (True) or resumes repainting of this surface. Not counted: one resume ends any number of suspends.
+    void LockWindow(bool locked);
+    bool isLocked() const { return locked_; }
+
+signals:
+    void mouseDown(QMouseEvent *event);
+    void mouseMoved(QMouseEvent *event);
+    void mouseUp(QMouseEvent *event);
+    void resized();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+
+private:
+    void ensureImage();
+
+    QImage image_;
+    QImage picture_;
+    QColor backColour_;
+    bool locked_ = false;
+};

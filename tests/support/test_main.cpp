@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/registry.h"
+
+#include <QApplication>
+#include <QFont>
+#include <QStyleFactory>
+#include <QtTest>
+
+std::vector<testing::Entry> &testing::registry()
+{
+    static std::vector<Entry> entries;
+    return entries;
+}
+
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QFont font(QStringLiteral("Liberation Sans"));
+    font.setPixelSize(11);
+    QApplication::setFont(font);
+
+    QStringList arguments = QCoreApplication::arguments();
+    QString only;
+    if (arguments.size() > 1 && !arguments.at(1).startsWith(u'-'))
+        only = arguments.takeAt(1);
+
+    int failed = 0;
+    int run = 0;
+    for (const testing::Entry &entry : testing::registry()) {
+        if (!only.isEmpty() && only != QLatin1String(entry.name))
+            continue;
+        const std::unique_ptr<QObject> test = entry.make();
+        failed += QTest::qExec(test.get(), arguments);
+        ++run;
+    }
+    if (run == 0)
+        qWarning("no test of that name");
+    return failed == 0 && run > 0 ? 0 : 1;
+}
