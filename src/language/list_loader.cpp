@@ -1,0 +1,158 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "language/list_loader.h"
+
+#include "platform/boxes.h"
+#include "platform/files.h"
+#include "platform/ground.h"
+#include "platform/options.h"
+#include "platform/procedure.h"
+#include "platform/rnd.h"
+#include "platform/text.h"
+#include "platform/word_lists.h"
+
+#include <QSet>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The lists of the start in the order in which their files are tested.
+struct StartList
+{
+    QString WordLists::*path;
+    WordStore WordLists::*store;
+    bool removesDuplicates;
+};
+
+constexpr std::array<StartList, 4> startLists{{
+    {&WordLists::CurrentWortelFile, &WordLists::WortelList, true},
+    {&WordLists::CurrentLexiconFile, &WordLists::LexiconList, false},
+    {&WordLists::PrefixFile, &WordLists::PrefixList, true},
+    {&WordLists::SuffixFile, &WordLists::SuffixList, true},
+}};
+
+QString missing(const QString &path) { return u"Datei "_s + path + u" fehlt"_s; }
+
+QString missingIn(const QString &path, const char *procedure, int line)
+{
+    return missing(path) + u"\n\nBreche ab...\n\nSub: "_s + QLatin1String(procedure) + u" Line: "_s +
+           QString::number(line);
+}
+
+} // namespace
+
+ListLoader::ListLoader(Ground &ground, WordLists &lists, QObject *parent)
+    : QObject(parent)
+    , ground_(ground)
+    , lists_(lists)
+{}
+
+QString ListLoader::facitPath(const QString &path)
+{
+    QString result = path;
+    return result.replace(u"\\text"_s, u"\\facit"_s);
+}
+
+QString ListLoader::dictionaryOf(const QString &path)
+{
+    return RTrimText(facitPath(path), u".txt"_s) + u".lex"_s;
+}
+
+std::optional<QString> ListLoader::loadAtStart()
+{
+    lists_.CurrentWortelFile = ground_.options.text(Setting::WortelFile);
+    lists_.PrefixFile = ground_.AppFolder + u"affix\\prefix.afx"_s;
+    lists_.SuffixFile = ground_.AppFolder + u"affix\\suffix.afx"_s;
+    lists_.CurrentLexiconFile = dictionaryOf(lists_.CurrentWortelFile);
+    if (loadedAtStart_)
+        return std::nullopt;
+    loadedAtStart_ = true;
+
+    Procedure step{ground_.log, "ProgInit", "frmMain", Procedure::Silent};
+    emit busy(true);
+    std::optional<QString> fatal;
+    for (const StartList &row : startLists) {
+        const QString &path = lists_.*row.path;
+        if (!IsTextFile(path)) {
+            fatal = missingIn(path, "ProgInit", __LINE__);
+            break;
+        }
+        WordStore &store = lists_.*row.store;
+        emit loading(&store);
+        ground_.rnd.Randomize();
+        step([&] { store.clear(); });
+        step([&] { append(store, path); });
+        if (row.removesDuplicates)
+            step([&] { store.removeNeighbouringDuplicates(); });
+    }
+    emit busy(false);
+    return fatal;
+}
+
+void ListLoader::FillWortelList(QString &path)
+{
+    Procedure step{ground_.log, "FillWortelList", "frmMain"};
+    lists_.CurrentWortelFile = path;
+    if (!IsTextFile(path)) {
+        emit busy(false);
+        return;
+    }
+    emit busy(true);
+    step([&] { append(lists_.WortelList, path); });
+    step([&] { lists_.WortelList.removeNeighbouringDuplicates(); });
+    lists_.CurrentLexiconFile = dictionaryOf(path);
+    path = facitPath(path);
+    step([&] { Fill_Lexicon(lists_.CurrentLexiconFile); });
+    emit busy(false);
+}
+
+void ListLoader::Fill_Lexicon(const QString &path)
+{
+    Procedure step{ground_.log, "Fill_Lexicon", "frmMain"};
+    ground_.rnd.Randomize();
+    if (!IsTextFile(path)) {
+        step([&] {
+            ground_.boxes.plainBox(Boxes::Icon::Warning, u"Wortel-Meister - Fehler"_s, missing(path));
+        });
+        emit busy(false);
+        return;
+    }
+    emit loading(&lists_.LexiconList);
+    step([&] { append(lists_.LexiconList, path); });
+    step([&] { lists_.LexiconList.removeNeighbouringDuplicates(); });
+    emit busy(false);
+}
+
+void ListLoader::FillKurzLanglist()
+{
+    Procedure step{ground_.log, "FillKurzLanglist", "frmMain"};
+    langVokalFile_ = ground_.AppFolder + u"text kurz lang\\langer Stammvokal.Txt"_s;
+    kurzVokalFile_ = ground_.AppFolder + u"text kurz lang\\kurzer Stammvokal.Txt"_s;
+    step([&] { fillVowelList(lists_.langvokalList, langVokalFile_, false, __LINE__); });
+    // Blank lines of this file become empty entries: required, odd as it is.
+    step([&] { fillVowelList(lists_.kurzvokalList, kurzVokalFile_, true, __LINE__); });
+}
+
+void ListLoader::append(WordStore &store, const QString &path) { store.addAll(readListFile(path)); }
+
+void ListLoader::fillVowelList(WordStore &store, const QString &path, bool keepBlank, int line)
+{
+    if (!IsTextFile(path)) {
+        ground_.boxes.plainBox(Boxes::Icon::Warning, u"Wortel-Meister - Fehler"_s,
+                               missingIn(path, "FillKurzLanglist", line));
+        return;
+    }
+    QSet<QString> seen;
+    QStringList fresh;
+    for (const QString &word : readListFile(path, keepBlank)) {
+        const QString folded = UCase(word);
+        if (!word.isEmpty() && (seen.contains(folded) || store.contains(word)))
+            continue;
+        seen.insert(folded);
+        fresh.append(word);
+    }
+    store.addAll(fresh);
+}
