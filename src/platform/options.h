@@ -9,39 +9,51 @@
 
 #include <array>
 
+class Log;
 class SettingsStore;
 
-/// The run-time copy of the settings: for each setting the *edited* value, that is, what the options window's control shows at this moment. The window
-/// writes here on every edit, so that an edit which was neither confirmed nor thrown away is seen by the rest of the program; that is required.
+/// The run-time copy of the settings: for each setting the *edited* value, that is, what the options window's
+/// control shows at this moment. The window writes here on every edit, so that an edit which was neither
+/// confirmed nor thrown away is seen by the rest of the program; that is required.
 class Options : public QObject
 {
     Q_OBJECT
 
 public:
     /// Starts with every default. `appFolder` stands in for the folder of default paths.
-    Options(SettingsStore &store, const QString &appFolder);
+    Options(SettingsStore &store, const QString &appFolder, Log &log);
 
     QString text(Setting id) const;
-    /// A box's value: 0, 1 or 2. A stored text that is no number gives 0.
+    /// A box's value: 0, 1 or 2.
     int box(Setting id) const;
     /// True if a box is exactly 1, or an option is set.
     bool isOn(Setting id) const;
     /// The number in a text field by `Val`, as a double: callers round and check widths themselves.
     double number(Setting id) const;
 
+    /// Takes a text as its field does: what the field's mask does not admit is dropped.
     void setText(Setting id, const QString &value);
+    /// Throws RuntimeError 380 for a value that is not 0, 1 or 2.
     void setBox(Setting id, int value);
     /// Sets an option and clears the others of its group (scroller position, export layout, difficulty).
     void setOption(Setting id);
 
-    /// Store to run-time copy, for all keys of the table.
+    /// Store to run-time copy, for all keys of the table. A stored value that fails its conversion is logged
+    /// and the value from before stays.
     void GetSettings();
-    /// Repairs blank fields, writes every key to the store and emits `applied`.
-    void ApplySettings();
+    /// Repairs blank fields, writes every key to the store and emits `applied`. Returns false if the store
+    /// could not be written.
+    bool ApplySettings();
     void FillBlankFields();
+
+    /// Remembers all values, for `IsChanged`.
+    void subSnapShot() { snapshot_ = values_; }
+    bool IsChanged() const { return values_ != snapshot_; }
 
     /// Straight from the store at the point of use, past the edited value, as some readers do.
     QString stored(Setting id) const;
+    /// The same as a boolean: any number but 0 is on. A text that is neither number nor boolean is logged and
+    /// gives the default.
     bool storedIsOn(Setting id) const;
 
     SettingsStore &store() const { return store_; }
@@ -51,7 +63,18 @@ signals:
     void applied();
 
 private:
+    using Values = std::array<QString, static_cast<std::size_t>(Setting::Count)>;
+
+    QString &value(Setting id) { return values_[static_cast<std::size_t>(id)]; }
+    const QString &value(Setting id) const { return values_[static_cast<std::size_t>(id)]; }
+    QString fallback(const SettingRow &row) const;
+    QString withFolder(const char16_t *text) const;
+    void load(const SettingRow &row, const QString &text);
+    void change(Setting id, const QString &text);
+
     SettingsStore &store_;
+    Log &log_;
     QString appFolder_;
-    std::array<QString, static_cast<std::size_t>(Setting::Count)> values_;
+    Values values_;
+    Values snapshot_;
 };

@@ -1,0 +1,160 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/options.h"
+
+#include "platform/procedure.h"
+#include "platform/runtime_error.h"
+#include "platform/settings_store.h"
+#include "platform/text.h"
+#include "platform/text_masks.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString section = u"Settings"_s;
+const QString on = u"True"_s;
+const QString off = u"False"_s;
+
+constexpr int invalidPropertyValue = 380;
+
+/// "True" and "False" in any case; else a number, of which 0 is False. Throws RuntimeError 13 for other
+/// texts.
+bool toBoolean(const QString &text)
+{
+    const QString trimmed = Trim(text);
+    if (equalsIgnoreCase(trimmed, on))
+        return true;
+    if (equalsIgnoreCase(trimmed, off))
+        return false;
+    return CDbl(trimmed) != 0;
+}
+
+QString masked(SettingType type, const QString &text)
+{
+    switch (type) {
+    case SettingType::Integer:
+        return Integer_Pos(text);
+    case SettingType::SignedInteger:
+        return Integer_All(text);
+    default:
+        return text;
+    }
+}
+
+} // namespace
+
+Options::Options(SettingsStore &store, const QString &appFolder, Log &log)
+    : store_(store)
+    , log_(log)
+    , appFolder_(appFolder)
+{
+    for (const SettingRow &row : settingsTable())
+        value(row.id) = fallback(row);
+    subSnapShot();
+}
+
+QString Options::text(Setting id) const { return value(id); }
+
+int Options::box(Setting id) const { return value(id).toInt(); }
+
+bool Options::isOn(Setting id) const
+{
+    return value(id) == (settingRow(id).type == SettingType::Option ? on : u"1"_s);
+}
+
+double Options::number(Setting id) const { return Val(value(id)); }
+
+void Options::setText(Setting id, const QString &text) { change(id, masked(settingRow(id).type, text)); }
+
+void Options::setBox(Setting id, int boxValue)
+{
+    if (boxValue < 0 || boxValue > 2)
+        throw RuntimeError(invalidPropertyValue, u"Invalid property value"_s);
+    change(id, QString::number(boxValue));
+}
+
+void Options::setOption(Setting id)
+{
+    const OptionGroup *group = optionGroup(id);
+    if (!group)
+        throw RuntimeError::of(RuntimeError::InvalidCall);
+    for (const SettingRow &row : settingsTable())
+        if (row.id >= group->first && row.id <= group->last && row.id != id)
+            change(row.id, off);
+    change(id, on);
+}
+
+void Options::GetSettings()
+{
+    Procedure step{log_, "GetSettings", "frmOptions"};
+    for (const SettingRow &row : settingsTable())
+        step([&] { load(row, stored(row.id)); });
+}
+
+void Options::load(const SettingRow &row, const QString &text)
+{
+    switch (row.type) {
+    case SettingType::Box:
+        setBox(row.id, CInt(CDbl(text)));
+        break;
+    case SettingType::Option:
+        if (toBoolean(text))
+            setOption(row.id);
+        else
+            change(row.id, off);
+        break;
+    default:
+        setText(row.id, text);
+    }
+}
+
+bool Options::ApplySettings()
+{
+    Procedure step{log_, "ApplySettings", "frmOptions"};
+    step([&] { FillBlankFields(); });
+    const bool saved = step([&] {
+        QList<QPair<QString, QString>> all;
+        for (const SettingRow &row : settingsTable())
+            all.append({QLatin1String(row.key), value(row.id)});
+        store_.SaveSettings(section, all);
+    });
+    step([&] { emit applied(); });
+    return saved;
+}
+
+void Options::FillBlankFields()
+{
+    for (const SettingRow &row : settingsTable())
+        if (row.repair && Trim(value(row.id)).isEmpty())
+            change(row.id, withFolder(row.repair));
+}
+
+QString Options::stored(Setting id) const
+{
+    const SettingRow &row = settingRow(id);
+    return store_.GetSetting(section, QLatin1String(row.key), fallback(row));
+}
+
+bool Options::storedIsOn(Setting id) const
+{
+    bool result = toBoolean(fallback(settingRow(id)));
+    Procedure step{log_, "GetSetting", "frmOptions", Procedure::Silent};
+    step([&] { result = toBoolean(stored(id)); });
+    return result;
+}
+
+QString Options::fallback(const SettingRow &row) const { return withFolder(row.fallback); }
+
+QString Options::withFolder(const char16_t *text) const
+{
+    return QString::fromUtf16(text).replace(u"%APP%"_s, appFolder_);
+}
+
+void Options::change(Setting id, const QString &text)
+{
+    if (value(id) == text)
+        return;
+    value(id) = text;
+    emit edited(id);
+}
