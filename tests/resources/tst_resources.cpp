@@ -1,0 +1,201 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/registry.h"
+
+#include <QDirIterator>
+#include <QFile>
+#include <QImage>
+#include <QMap>
+#include <QPainter>
+#include <QSet>
+#include <QSvgRenderer>
+#include <QXmlStreamReader>
+#include <QtEndian>
+#include <QtTest>
+
+#include <algorithm>
+#include <cstdlib>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString sourceFolder() { return QStringLiteral(WORTEL_SOURCE_DIR); }
+
+/// Name inside the program -> file, relative to the resources folder.
+QMap<QString, QString> aliases()
+{
+    QMap<QString, QString> found;
+    QFile file(sourceFolder() + u"/resources/wortel.qrc"_s);
+    if (!file.open(QIODevice::ReadOnly))
+        return found;
+    QXmlStreamReader reader(&file);
+    while (!reader.atEnd()) {
+        if (reader.readNext() != QXmlStreamReader::StartElement || reader.name() != u"file")
+            continue;
+        const QString alias = reader.attributes().value("alias"_L1).toString();
+        found.insert(alias, reader.readElementText());
+    }
+    return found;
+}
+
+struct Wave
+{
+    bool canonical = false; ///< RIFF, PCM, 22.05 kHz, mono, 16 bit
+    int peak = 0;           ///< of 32768
+    double seconds = 0;
+};
+
+Wave readWave(const QString &path)
+{
+    constexpr qsizetype headerSize = 44;
+    Wave wave;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return wave;
+    const QByteArray bytes = file.readAll();
+    if (bytes.size() <= headerSize)
+        return wave;
+    const auto number16 = [&](qsizetype at) { return qFromLittleEndian<qint16>(bytes.constData() + at); };
+    const auto number32 = [&](qsizetype at) { return qFromLittleEndian<qint32>(bytes.constData() + at); };
+    const qsizetype dataSize = bytes.size() - headerSize;
+    wave.canonical = bytes.startsWith("RIFF") && bytes.mid(8, 8) == "WAVEfmt " && number16(20) == 1 &&
+                     number16(22) == 1 && number32(24) == 22050 && number16(34) == 16 &&
+                     bytes.mid(36, 4) == "data" && number32(40) == dataSize;
+    for (qsizetype at = headerSize; at + 1 < bytes.size(); at += 2)
+        wave.peak = std::max(wave.peak, std::abs(static_cast<int>(number16(at))));
+    wave.seconds = static_cast<double>(dataSize) / 2 / 22050;
+    return wave;
+}
+
+/// The picture in a square of `side` pixels; null if it is not valid.
+QImage render(const QString &path, int side)
+{
+    QSvgRenderer renderer(path);
+    if (!renderer.isValid())
+        return {};
+    QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    renderer.render(&painter);
+    return image;
+}
+
+int paintedPixels(const QImage &image)
+{
+    int painted = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            painted += qAlpha(image.pixel(x, y)) > 127 ? 1 : 0;
+    return painted;
+}
+
+} // namespace
+
+class ResourcesTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        aliases_ = aliases();
+        QVERIFY(!aliases_.isEmpty());
+    }
+
+    void everyMenuIndexHasItsPicture()
+    {
+        constexpr int indexes[] = {0,  1,  2,  3,  4,  5,  6,  7,  8,  9,  10, 11, 12, 13, 14, 15, 16, 17,
+                                   19, 20, 21, 22, 24, 25, 26, 27, 28, 29, 30, 32, 33, 34, 35, 51, 52, 56};
+        for (const int index : indexes) {
+            const QString digits = u"%1"_s.arg(index, 2, 10, '0'_L1);
+            const QString file = aliases_.value(u"icons/menu/"_s + digits + u".svg"_s);
+            QVERIFY2(file.startsWith(u"icons/menu/"_s + digits + u'-'), qPrintable(digits));
+        }
+    }
+
+    void everySoundNumberHasItsFile()
+    {
+        for (int number = 101; number <= 124; ++number)
+            QCOMPARE(aliases_.contains(u"sounds/%1.wav"_s.arg(number)), number != 116);
+    }
+
+    void listAndFolderAgree()
+    {
+        QSet<QString> listed;
+        for (const QString &file : std::as_const(aliases_)) {
+            QVERIFY2(QFile::exists(sourceFolder() + u"/resources/"_s + file), qPrintable(file));
+            listed.insert(file);
+        }
+        const QDir folder(sourceFolder() + u"/resources"_s);
+        QDirIterator files(folder.path(), {u"*.svg"_s, u"*.wav"_s}, QDir::Files,
+                           QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            const QString file = folder.relativeFilePath(files.next());
+            QVERIFY2(listed.contains(file), qPrintable(file));
+        }
+    }
+
+    /// Each picture is valid, fills a good part of its square at every size, and needs nothing that the SVG
+    /// module leaves out.
+    void picturesRender()
+    {
+        QTest::failOnWarning(QRegularExpression(u".*"_s));
+        QList<QImage> seen;
+        const QStringList files = QSet<QString>(aliases_.cbegin(), aliases_.cend()).values();
+        for (const QString &file : files) {
+            if (!file.endsWith(u".svg"_s))
+                continue;
+            const QString path = sourceFolder() + u"/resources/"_s + file;
+            for (const int side : {16, 64, 256}) {
+                const QImage image = render(path, side);
+                QVERIFY2(paintedPixels(image) * 8 > side * side,
+                         qPrintable(u"%1 at %2"_s.arg(file).arg(side)));
+            }
+            const QImage small = render(path, 16);
+            QVERIFY2(!seen.contains(small), qPrintable(file + u" looks like another picture at 16 pixels"_s));
+            seen.append(small);
+        }
+    }
+
+    void soundsAreSoftAndShort_data()
+    {
+        QTest::addColumn<QString>("folder");
+        QTest::addColumn<int>("count");
+        QTest::addColumn<double>("longest");
+        QTest::newRow("numbered") << u"/resources/sounds"_s << 23 << 4.0;
+        QTest::newRow("vowels") << u"/data/sounds kurz lang"_s << 39 << 0.7;
+    }
+    void soundsAreSoftAndShort()
+    {
+        QFETCH(QString, folder);
+        QFETCH(int, count);
+        QFETCH(double, longest);
+        const QDir sounds(sourceFolder() + folder);
+        const QStringList names = sounds.entryList({u"*.wav"_s}, QDir::Files);
+        QCOMPARE(names.size(), count);
+        for (const QString &name : names) {
+            const Wave wave = readWave(sounds.filePath(name));
+            QVERIFY2(wave.canonical, qPrintable(name));
+            QVERIFY2(wave.peak > 3000 && wave.peak <= 16384,
+                     qPrintable(u"%1 peaks at %2"_s.arg(name).arg(wave.peak)));
+            QVERIFY2(wave.seconds > 0.05 && wave.seconds < longest, qPrintable(name));
+        }
+    }
+
+    void longVowelsLastTwiceAsLong()
+    {
+        const QString folder = sourceFolder() + u"/data/sounds kurz lang/"_s;
+        for (const QChar vowel : u"aeiouäöü"_s) {
+            const double brief = readWave(folder + u'k' + vowel + u".wav"_s).seconds;
+            const double held = readWave(folder + u'l' + vowel + u".wav"_s).seconds;
+            QVERIFY2(brief > 0 && held >= 2 * brief, qPrintable(QString(vowel)));
+        }
+    }
+
+private:
+    QMap<QString, QString> aliases_;
+};
+
+WORTEL_TEST(ResourcesTest)
+#include "tst_resources.moc"
