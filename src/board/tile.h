@@ -4,7 +4,8 @@
 
 #include "board/tile_kind.h"
 
-/// What a tile needs of a drawing surface: it draws itself with these four calls. The board's canvas is one; a test or a printer can be another.
+/// What a tile needs of a drawing surface: it draws itself with these four calls. The board's canvas is one;
+/// a test or a printer can be another.
 class TileSurface
 {
 public:
@@ -19,8 +20,8 @@ public:
     virtual void clear() = 0;
 };
 
-/// A tile of the board: one morpheme. Its height is always 25 pixels, its kind is its `BGColor`. Right and bottom edge follow from the left edge, the
-/// top edge and the width.
+/// A tile of the board: one morpheme. Its height is always 25 pixels, its kind is its `BGColor`. Right and
+/// bottom edge follow from the left edge, the top edge and the width.
 class cWortel
 {
 public:

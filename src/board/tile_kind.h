@@ -23,8 +23,8 @@ inline constexpr Colour black = 0x000000;
 inline constexpr Colour board = 0xC08000;
 } // namespace colours
 
-/// One row a kind of tile. A tile has no kind field: its back colour is its kind, compared as an exact value. `filterIndex` is the index of
-/// the kind's `OptType` button, which is at once its filter and its counter.
+/// One row a kind of tile. A tile has no kind field: its back colour is its kind, compared as an exact value.
+/// `filterIndex` is the index of the kind's `OptType` button, which is at once its filter and its counter.
 struct TileKind
 {
     Colour back;
