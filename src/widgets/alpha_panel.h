@@ -5,7 +5,8 @@
 #include <QImage>
 #include <QWidget>
 
-/// The translucent panel that lies over the board and shows a tip: its own white face mixed with a faint copy of the board beneath. It has a thin border.
+/// The translucent panel that lies over the board and shows a tip: its own white face mixed with a faint copy
+/// of the board beneath. It has a thin border.
 class AlphaPanel : public QWidget
 {
     Q_OBJECT
@@ -16,8 +17,10 @@ public:
 
     explicit AlphaPanel(QWidget *parent = nullptr);
 
-    /// Mixes the part of `board` (logical pixels) that lies at this panel's place in its parent into the panel's face. Pixels of the key colour are left out.
+    /// Mixes the part of `board` that lies at this panel's place in its parent (logical pixels) into the
+    /// panel's face. Pixels of the key colour, and all beyond the board's edge, are left out.
     void blend(const QImage &board);
+    const QImage &face() const { return face_; }
 
 signals:
     void clicked();

@@ -6,8 +6,8 @@
 
 class QLineEdit;
 
-/// The word field: a control with one text box. A key press that is not Enter is announced by `keyTyped`, Enter by `EnterPress`. `Highlight` and `UnHighlight` are
-/// the feedback while a tile is dragged over it.
+/// The word field: a control with one text box. A typed key that is not Enter is announced by `keyTyped`,
+/// Enter by `EnterPress`. `Highlight` and `UnHighlight` are the feedback while a tile is dragged over it.
 class Dropper : public QWidget
 {
     Q_OBJECT
@@ -19,6 +19,7 @@ public:
     void setCaption(const QString &text);
     int SelStart() const;
     int SelLength() const;
+    /// Kept within the text.
     void select(int start, int length);
     void selectAll();
     void setForeColour(const QColor &colour);
@@ -38,6 +39,8 @@ signals:
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
 
 private:
     QLineEdit *lblprefix_;

@@ -5,8 +5,10 @@
 #include <QImage>
 #include <QWidget>
 
-/// A picture box that keeps its image: what was painted on it survives being covered. The image has the screen's device pixel ratio, so that tiles are sharp on a
-/// fine display; all coordinates are logical pixels. Painting can be frozen during bulk work, which hides the steps between.
+/// A picture box that keeps its image: what was painted on it survives being covered. The image has the
+/// screen's device pixel ratio, so that tiles are sharp on a fine display; all coordinates are logical
+/// pixels. Painting can be frozen during bulk work, which hides the steps between. Who paints on the image
+/// calls `update` for what changed.
 class PictureBox : public QWidget
 {
     Q_OBJECT
@@ -14,19 +16,22 @@ class PictureBox : public QWidget
 public:
     explicit PictureBox(QWidget *parent = nullptr);
 
-    /// The persistent image. Grows with the widget (old content stays); never shrinks below it.
+    /// The persistent image. Grows with the widget (old content stays) and never shrinks.
     QImage &image() { return image_; }
     const QImage &image() const { return image_; }
 
+    /// Takes effect with the next `cls`.
     void setBackColour(const QColor &colour);
     QColor backColour() const { return backColour_; }
-    /// A picture shown behind what is painted, at the top left corner in its own size; a null image removes it.
+    /// A picture that lies at the top left corner in its own size (one picture point a logical pixel); a null
+    /// image removes it. Clears the surface, so that the owner draws on it anew.
     void setPicture(const QImage &picture);
     QImage picture() const { return picture_; }
     /// Clears the image to the back colour and the picture.
     void cls();
 
-    /// Suspends (True) or resumes repainting of this surface. Not counted: one resume ends any number of suspends.
+    /// Suspends (True) or resumes repainting of this surface. Not counted: one resume ends any number of
+    /// suspends.
     void LockWindow(bool locked);
     bool isLocked() const { return locked_; }
 
@@ -45,9 +50,10 @@ protected:
 
 private:
     void ensureImage();
+    void clearImage(QImage &image) const;
 
     QImage image_;
     QImage picture_;
-    QColor backColour_;
+    QColor backColour_{Qt::white};
     bool locked_ = false;
 };

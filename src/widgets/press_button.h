@@ -6,21 +6,27 @@
 
 class QTimer;
 
-/// A tool of the lower band: a push, check or option button with an icon or a short text that tells left from right presses, because most tools do two things. A long
-/// press with a finger is the right button. It never takes the keyboard focus, so the keyboard stays with the board.
+/// A tool of the lower band: a push, check or option button with an icon or a short text that tells left from
+/// right presses, because most tools do two things. A long press with a finger is the right button. It never
+/// takes the keyboard focus, so the keyboard stays with the board.
 class PressButton : public QToolButton
 {
     Q_OBJECT
 
 public:
+    static constexpr int longPressTime = 700; ///< milliseconds that a finger rests for the right button
+
     explicit PressButton(QWidget *parent = nullptr);
 
     /// The face in a colour of its own (a kind's colour, a running game's); invalid for the normal face.
     void setFace(const QColor &back, const QColor &text = {});
     QColor faceColour() const { return back_; }
 
+    QSize sizeHint() const override;
+
 signals:
-    /// A press with the left or the right button, enabled buttons only. A left press arrives on release inside the button, as a click does.
+    /// A press with the left or the right button, enabled buttons only. A left press arrives on release
+    /// inside the button, behind `toggled` and `clicked`; a right press at once.
     void mouseDown(Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
 
 protected:
@@ -29,8 +35,15 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
+    struct Look;
+    Look look() const;
+    void paintFace(QPainter &painter, const Look &look) const;
+    void paintContent(QPainter &painter, const Look &look) const;
+    void onLongPress();
+
     QTimer *longPress_;
     bool longPressed_ = false;
+    Qt::KeyboardModifiers pressModifiers_;
     QColor back_;
     QColor text_;
 };

@@ -4,20 +4,26 @@
 
 #include <QListView>
 
+class QTimer;
 class WordStore;
-class QStringListModel;
 
-/// A list box that shows a word store. It holds no words of its own: the store is the list, this is its picture, brought up to date when it is visible.
+/// A list box that shows a word store. It holds no words of its own: the store is the list, this is its
+/// picture, brought up to date when it is visible.
 class StoreList : public QListView
 {
     Q_OBJECT
 
 public:
     explicit StoreList(QWidget *parent = nullptr);
+    ~StoreList() override;
+
+    using QListView::show;
+    /// Shows the rows of `store` (which must live as long as the list does, or until another one is shown).
     void show(WordStore *store);
     WordStore *store() const { return store_; }
     /// The selected row, or -1.
     int ListIndex() const;
+    /// Selects a row and scrolls to it; a row that is not there selects none.
     void setListIndex(int row);
 
 signals:
@@ -32,8 +38,11 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
-    void refresh();
+    class Rows;
+    void markStale();
+    void refresh() const;
 
     WordStore *store_ = nullptr;
-    QStringListModel *model_;
+    Rows *rows_;
+    QTimer *later_;
 };

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "widgets/floating_tile.h"
+
+#include <QPainter>
+
+FloatingTile::FloatingTile(QWidget *parent)
+    : QWidget(parent)
+{
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    QFont bold = font();
+    bold.setBold(true);
+    setFont(bold);
+}
+
+void FloatingTile::setTile(const QString &caption, const QColor &back, const QColor &text)
+{
+    caption_ = caption;
+    back_ = back;
+    text_ = text;
+    update();
+}
+
+void FloatingTile::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), back_);
+    painter.setPen(Qt::white);
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    painter.setPen(text_);
+    painter.drawText(rect().adjusted(2, 0, -1, 0), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                     caption_);
+}

@@ -1,0 +1,147 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "widgets/store_list.h"
+
+#include "platform/word_store.h"
+
+#include <QAbstractListModel>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QTimer>
+
+/// The rows of a store as a model. A store tells that it has changed, not how; the count that the view works
+/// with is therefore one of the last refresh, and a row that has gone since reads as the empty string.
+class StoreList::Rows : public QAbstractListModel
+{
+public:
+    using QAbstractListModel::QAbstractListModel;
+
+    int rowCount(const QModelIndex &parent = {}) const override { return parent.isValid() ? 0 : count_; }
+
+    QVariant data(const QModelIndex &index, int role) const override
+    {
+        if (role != Qt::DisplayRole || !index.isValid() || store_ == nullptr)
+            return {};
+        return store_->at(index.row());
+    }
+
+    void show(const WordStore *store)
+    {
+        store_ = store;
+        stale_ = true;
+    }
+
+    void markStale() { stale_ = true; }
+    bool isStale() const { return stale_; }
+
+    void reload()
+    {
+        beginResetModel();
+        count_ = store_ == nullptr ? 0 : store_->count();
+        stale_ = false;
+        endResetModel();
+    }
+
+private:
+    const WordStore *store_ = nullptr;
+    int count_ = 0;
+    bool stale_ = false;
+};
+
+StoreList::StoreList(QWidget *parent)
+    : QListView(parent)
+    , rows_(new Rows(this))
+    , later_(new QTimer(this))
+{
+    setModel(rows_);
+    setUniformItemSizes(true);
+    setEditTriggers(NoEditTriggers);
+    setSelectionMode(SingleSelection);
+    setVerticalScrollMode(ScrollPerItem);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setTextElideMode(Qt::ElideRight);
+    later_->setSingleShot(true);
+    connect(later_, &QTimer::timeout, this, &StoreList::refresh);
+}
+
+StoreList::~StoreList() = default;
+
+void StoreList::show(WordStore *store)
+{
+    if (store_ != nullptr)
+        disconnect(store_, nullptr, this, nullptr);
+    store_ = store;
+    rows_->show(store);
+    if (store_ != nullptr) {
+        connect(store_, &WordStore::changed, this, &StoreList::markStale);
+        connect(store_, &QObject::destroyed, this, [this] {
+            store_ = nullptr;
+            rows_->show(nullptr);
+            rows_->reload();
+        });
+    }
+    clearSelection();
+    refresh();
+}
+
+void StoreList::markStale()
+{
+    // Thousands of changes may come in a row: the picture is put right once, when they are done or a row is
+    // asked for.
+    rows_->markStale();
+    if (isVisible() && !later_->isActive())
+        later_->start(0);
+}
+
+void StoreList::refresh() const
+{
+    if (!rows_->isStale())
+        return;
+    const int row = currentIndex().row();
+    const int top = verticalScrollBar()->value();
+    rows_->reload();
+    const bool stays = row >= 0 && row < rows_->rowCount();
+    selectionModel()->setCurrentIndex(stays ? rows_->index(row) : QModelIndex(),
+                                      QItemSelectionModel::ClearAndSelect);
+    verticalScrollBar()->setValue(top);
+}
+
+int StoreList::ListIndex() const
+{
+    refresh();
+    return currentIndex().row();
+}
+
+void StoreList::setListIndex(int row)
+{
+    refresh();
+    const QModelIndex index = row >= 0 && row < rows_->rowCount() ? rows_->index(row) : QModelIndex();
+    selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
+    if (index.isValid())
+        scrollTo(index);
+}
+
+void StoreList::mousePressEvent(QMouseEvent *event)
+{
+    refresh();
+    if (event->button() == Qt::RightButton) {
+        event->accept();
+        emit rightPressed(event->position().toPoint());
+        return;
+    }
+    QListView::mousePressEvent(event);
+}
+
+void StoreList::mouseReleaseEvent(QMouseEvent *event)
+{
+    QListView::mouseReleaseEvent(event);
+    const QModelIndex index = indexAt(event->position().toPoint());
+    if (event->button() == Qt::LeftButton && index.isValid())
+        emit rowClicked(index.row());
+}
+
+void StoreList::showEvent(QShowEvent *event)
+{
+    refresh();
+    QListView::showEvent(event);
+}
