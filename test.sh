@@ -1,0 +1,12 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Installs what is missing, builds, and runs all tests. ./test.sh asan does the same under address and undefined-behaviour sanitizers.
+set -euo pipefail
+cd "$(dirname "$(realpath "$0")")"
+. tools/setup/packages.sh
+preset=${1:-dev}
+install_missing "${build_packages[@]}" "${display_packages[@]}"
+build_preset "$preset"
+cd "build/$preset"
+exec ctest --output-on-failure -j2
