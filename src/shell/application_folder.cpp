@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/application_folder.h"
+
+#include "platform/files.h"
+#include "version.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+
+namespace {
+
+/// Written last when a folder has been filled: its text is the version of the program that filled it.
+constexpr char16_t filledMark[] = u"/.filled";
+
+QString versionText()
+{
+    return QStringLiteral("%1.%2.%3").arg(version::major).arg(version::minor).arg(version::revision);
+}
+
+bool holdsData(const QString &folder)
+{
+    return QFileInfo(folder + QStringLiteral("/text")).isDir() && QFileInfo(folder + QStringLiteral("/facit")).isDir();
+}
+
+bool isFilled(const QString &folder)
+{
+    QFile mark(folder + QString::fromUtf16(filledMark));
+    return mark.open(QIODevice::ReadOnly) && QString::fromUtf8(mark.readAll()) == versionText() && holdsData(folder);
+}
+
+/// Copies what is missing. A copy appears under its name only when it is whole.
+void fill(const QString &folder, const QString &installedData)
+{
+    QDirIterator files(installedData, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString source = files.next();
+        const QString target = folder + source.mid(installedData.size());
+        if (QFileInfo::exists(target))
+            continue;
+        QDir().mkpath(QFileInfo(target).path());
+        writeFileAtomically(target, ReadWholeFile(source));
+    }
+    writeFileAtomically(folder + QString::fromUtf16(filledMark), versionText().toUtf8());
+}
+
+} // namespace
+
+QString application_folder::withTrailingBackslash(const QString &folder)
+{
+    const QString stored = storedPath(folder);
+    return stored.endsWith(u'\\') ? stored : stored + u'\\';
+}
+
+QString application_folder::find(const QString &programFolder, const QString &installedData, const QString &userFolder)
+{
+    if (holdsData(programFolder) && QFileInfo(programFolder).isWritable())
+        return withTrailingBackslash(programFolder);
+    if (!QFileInfo(installedData).isDir())
+        return withTrailingBackslash(programFolder);
+    try {
+        if (!isFilled(userFolder))
+            fill(userFolder, installedData);
+    } catch (const std::exception &) {
+        // A full disk: what is missing is told by the start, which names the file.
+    }
+    return withTrailingBackslash(userFolder);
+}
