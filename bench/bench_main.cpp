@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bench.h"
 
+#include "widgets/resources.h"
+
 #include <QApplication>
 #include <QFont>
 #include <QString>
@@ -24,6 +26,7 @@ bench::Row::Row(const char *rowName, double rowLimit, std::function<double()> ro
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
+    initResources();
     QFont font(QStringLiteral("Liberation Sans"));
     font.setPixelSize(11);
     QApplication::setFont(font);

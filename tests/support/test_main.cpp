@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/registry.h"
 
+#include "widgets/resources.h"
+
 #include <QApplication>
 #include <QFont>
 #include <QStyleFactory>
@@ -16,6 +18,7 @@ std::vector<testing::Entry> &testing::registry()
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
+    initResources();
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QFont font(QStringLiteral("Liberation Sans"));
     font.setPixelSize(11);
