@@ -27,7 +27,8 @@ QLabel *line(const QString &text, int pixelSize, bool bold, QWidget *parent)
 
 } // namespace
 
-fAbout::fAbout(QWidget *parent) : QDialog(parent)
+fAbout::fAbout(QWidget *parent)
+    : QDialog(parent)
 {
     setObjectName(QStringLiteral("fAbout"));
     setWindowTitle(QStringLiteral("Über Wortel-Meister"));
@@ -41,11 +42,14 @@ fAbout::fAbout(QWidget *parent) : QDialog(parent)
     inner->addWidget(icon);
     inner->addWidget(line(QStringLiteral("Wortel-Meister"), 26, true, panel));
     inner->addWidget(line(QStringLiteral("Version ") + frmSplash::versionText(), 13, false, panel));
-    inner->addWidget(line(QStringLiteral("Ein Werkzeug zum Erkennen von Wortstrukturen\nSpiel mit Wortbausteinen"), 14, false, panel));
-    inner->addWidget(line(QStringLiteral("Freie Software unter der GNU General Public License, Version 3 oder später.\n"
-                                         "Die Wörterbücher sind aus dem deutschen Hunspell-Wörterbuch (frami) gemacht:\n"
-                                         "Björn Jacke, Franz Michael Baumann. Einzelheiten stehen in der Datei NOTICE."),
-                          12, false, panel));
+    inner->addWidget(
+        line(QStringLiteral("Ein Werkzeug zum Erkennen von Wortstrukturen\nSpiel mit Wortbausteinen"), 14,
+             false, panel));
+    inner->addWidget(
+        line(QStringLiteral("Freie Software unter der GNU General Public License, Version 3 oder später.\n"
+                            "Die Wörterbücher sind aus dem deutschen Hunspell-Wörterbuch (frami) gemacht:\n"
+                            "Björn Jacke, Franz Michael Baumann. Einzelheiten stehen in der Datei NOTICE."),
+             12, false, panel));
 
     auto *close = new QPushButton(QStringLiteral("Schließen"), this);
     close->setDefault(true);

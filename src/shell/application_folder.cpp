@@ -22,13 +22,15 @@ QString versionText()
 
 bool holdsData(const QString &folder)
 {
-    return QFileInfo(folder + QStringLiteral("/text")).isDir() && QFileInfo(folder + QStringLiteral("/facit")).isDir();
+    return QFileInfo(folder + QStringLiteral("/text")).isDir() &&
+           QFileInfo(folder + QStringLiteral("/facit")).isDir();
 }
 
 bool isFilled(const QString &folder)
 {
     QFile mark(folder + QString::fromUtf16(filledMark));
-    return mark.open(QIODevice::ReadOnly) && QString::fromUtf8(mark.readAll()) == versionText() && holdsData(folder);
+    return mark.open(QIODevice::ReadOnly) && QString::fromUtf8(mark.readAll()) == versionText() &&
+           holdsData(folder);
 }
 
 /// Copies what is missing. A copy appears under its name only when it is whole.
@@ -54,7 +56,8 @@ QString application_folder::withTrailingBackslash(const QString &folder)
     return stored.endsWith(u'\\') ? stored : stored + u'\\';
 }
 
-QString application_folder::find(const QString &programFolder, const QString &installedData, const QString &userFolder)
+QString application_folder::find(const QString &programFolder, const QString &installedData,
+                                 const QString &userFolder)
 {
     if (holdsData(programFolder) && QFileInfo(programFolder).isWritable())
         return withTrailingBackslash(programFolder);

@@ -34,10 +34,7 @@ const Argument &ArgumentHandler::GetArgumentKey(const QString &key) const
     return GetArgumentIndex(index);
 }
 
-bool ArgumentHandler::CheckArgumentKey(const QString &key) const
-{
-    return indexOf(key) >= 0;
-}
+bool ArgumentHandler::CheckArgumentKey(const QString &key) const { return indexOf(key) >= 0; }
 
 bool ArgumentHandler::SetArgumentIndex(int index)
 {

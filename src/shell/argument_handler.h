@@ -23,7 +23,8 @@ private:
     QString value_;
 };
 
-/// The arguments of the command line that begin with "/", in their order and by their name, with one of them current.
+/// The arguments of the command line that begin with "/", in their order and by their name, with one of them
+/// current.
 class ArgumentHandler
 {
 public:
@@ -41,7 +42,8 @@ public:
 
     /// Appends an argument; a second one of the same name is left out.
     void AddArgument(const QString &name, const QString &value);
-    /// Starts afresh from `text`: pieces between blanks; those that begin with "/" become arguments, cut at their first ":".
+    /// Starts afresh from `text`: pieces between blanks; those that begin with "/" become arguments, cut at
+    /// their first ":".
     void ParseCommandLine(const QString &text);
 
 private:

@@ -71,7 +71,8 @@ constexpr std::array<SignalRow, 12> signalTable{{
 
 constexpr std::array<int, 5> fatalSignals{SIGSEGV, SIGBUS, SIGILL, SIGFPE, SIGABRT};
 
-// What the handler reads. A signal handler has no other way to know it, so this is the one place with file-wide state.
+// What the handler reads. A signal handler has no other way to know it, so this is the one place with
+// file-wide state.
 std::array<char, 4096> logPath{};
 long secondsEastOfGreenwich = 0;
 std::array<char, 64 * 1024> handlerStack{};
@@ -126,12 +127,14 @@ void handle(int number, siginfo_t *info, void *)
         const int file = open(logPath.data(), O_WRONLY | O_CREAT | O_APPEND, 0644);
         if (file >= 0) {
             char line[160];
-            const std::size_t length = formatLine(line, crash_filter::codeOfSignal(number, info->si_code), time(nullptr));
+            const std::size_t length =
+                formatLine(line, crash_filter::codeOfSignal(number, info->si_code), time(nullptr));
             [[maybe_unused]] const ssize_t written = write(file, line, length);
             close(file);
         }
     }
-    // The handler was installed for one shot, so the signal raised again ends the program in the system's own way.
+    // The handler was installed for one shot, so the signal raised again ends the program in the system's own
+    // way.
     raise(number);
 }
 
@@ -169,7 +172,8 @@ void crash_filter::install(const QString &logFile)
     stack.ss_size = handlerStack.size();
     sigaltstack(&stack, nullptr);
 
-    struct sigaction action{};
+    struct sigaction action
+    {};
     action.sa_sigaction = handle;
     action.sa_flags = SA_SIGINFO | SA_ONSTACK | static_cast<int>(SA_RESETHAND);
     sigemptyset(&action.sa_mask);

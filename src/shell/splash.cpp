@@ -38,7 +38,8 @@ constexpr Qt::WindowFlags splashFlags = Qt::SplashScreen | Qt::FramelessWindowHi
 
 } // namespace
 
-frmShadow::frmShadow() : QWidget(nullptr, splashFlags)
+frmShadow::frmShadow()
+    : QWidget(nullptr, splashFlags)
 {
     setAttribute(Qt::WA_ShowWithoutActivating);
 }
@@ -60,7 +61,9 @@ void frmShadow::paintEvent(QPaintEvent *)
     painter.fillRect(rect(), QColor(0, 0, 0, 110));
 }
 
-frmSplash::frmSplash(Clock &clock) : QWidget(nullptr, splashFlags), clock_(clock)
+frmSplash::frmSplash(Clock &clock)
+    : QWidget(nullptr, splashFlags)
+    , clock_(clock)
 {
     setObjectName(QStringLiteral("frmSplash"));
     setWindowTitle(QStringLiteral("Wortel-Meister"));
@@ -95,7 +98,8 @@ void frmSplash::showWithShadow()
 
 void frmSplash::leaveTop()
 {
-    // Changing the flag hides a window; both are about to go, so it is enough that the board may come over them.
+    // Changing the flag hides a window; both are about to go, so it is enough that the board may come over
+    // them.
     if (shadow_)
         shadow_->lower();
     lower();
@@ -103,8 +107,8 @@ void frmSplash::leaveTop()
 
 QString frmSplash::versionText()
 {
-    return QString::number(version::major) + u'.' + FormatNumber(version::minor, 2) + u'.'
-           + FormatNumber(version::revision, 2);
+    return QString::number(version::major) + u'.' + FormatNumber(version::minor, 2) + u'.' +
+           FormatNumber(version::revision, 2);
 }
 
 void frmSplash::paintEvent(QPaintEvent *)

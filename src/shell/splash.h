@@ -9,7 +9,8 @@
 
 class Clock;
 
-/// The grey drop shadow of the splash: a window of its own, painted with the dimmed copy of the screen behind it.
+/// The grey drop shadow of the splash: a window of its own, painted with the dimmed copy of the screen behind
+/// it.
 class frmShadow : public QWidget
 {
     Q_OBJECT
@@ -28,7 +29,8 @@ private:
     QImage behind_;
 };
 
-/// The splash: a borderless box in the middle of the screen with the program's name and version. It goes, with its shadow, when it is destroyed.
+/// The splash: a borderless box in the middle of the screen with the program's name and version. It goes,
+/// with its shadow, when it is destroyed.
 class frmSplash : public QWidget
 {
     Q_OBJECT

@@ -16,14 +16,18 @@ void startLog(Ground &ground, bool useBackup)
 {
     const QString file = ground.AppFolder + u"errors.log"_s;
     ground.log.enable(file);
-    const QString question = u"Möchten Sie erst die Fehleraufzeichnungsdatei\n\n"_s + file + u" (error.log) zurücksetzen?  "_s;
-    const int answer = ground.boxes.ShowMBox(question, true, 4, u"Wortel-Meister - Bestätigen"_s, u"CONFIRM"_s);
+    const QString question =
+        u"Möchten Sie erst die Fehleraufzeichnungsdatei\n\n"_s + file + u" (error.log) zurücksetzen?  "_s;
+    const int answer =
+        ground.boxes.ShowMBox(question, true, 4, u"Wortel-Meister - Bestätigen"_s, u"CONFIRM"_s);
     if (answer == 0)
         KillFile(file);
 
     const QString rule(64, u'-');
     ground.log.WriteLog(rule);
-    ground.log.WriteLog(u"Starting new application-log: Wortel-Meister v.%1.%2.%3"_s.arg(version::major).arg(version::minor).arg(version::revision));
+    ground.log.WriteLog(u"Starting new application-log: Wortel-Meister v.%1.%2.%3"_s.arg(version::major)
+                            .arg(version::minor)
+                            .arg(version::revision));
     ground.log.WriteLog(u"Date/Time: "_s + FormatDateTime(ground.clock.now()));
     ground.log.WriteLog(u"OS: "_s + GetOSName());
     ground.log.WriteLog(u"User: "_s + GetUserName());

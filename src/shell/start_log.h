@@ -4,5 +4,6 @@
 
 struct Ground;
 
-/// Switches the log on, asks if the old one is to be emptied first, and writes the header. `useBackup`: the setting, for the header's last line.
+/// Switches the log on, asks if the old one is to be emptied first, and writes the header. `useBackup`: the
+/// setting, for the header's last line.
 void startLog(Ground &ground, bool useBackup);

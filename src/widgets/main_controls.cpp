@@ -20,7 +20,8 @@
 
 namespace {
 
-// The band is drawn for this width; on a wider window its controls grow in width with it, up to the largest factor.
+// The band is drawn for this width; on a wider window its controls grow in width with it, up to the largest
+// factor.
 constexpr int designWidth = 632;
 constexpr double largestFactor = 1.5;
 constexpr int bandHeight = 88;
@@ -34,7 +35,8 @@ constexpr int statusHeight = 14;
 
 using C = MainControls;
 
-/// One row a control of the band: where it stands in its panel (pixels at the design width), what it says, and its picture.
+/// One row a control of the band: where it stands in its panel (pixels at the design width), what it says,
+/// and its picture.
 struct ControlRow
 {
     QWidget *(*get)(const C &);
@@ -48,34 +50,51 @@ struct ControlRow
 #define CONTROL(member) [](const C &c) -> QWidget * { return c.member; }, #member
 constexpr ControlRow bandRows[] = {
     // The filters stand in the order of a word: prefix, Wortel, suffix.
-    {[](const C &c) -> QWidget * { return c.OptType[1]; }, "OptType(1)", 4, firstRow, 46, rowHeight, u"0", u"nur Präfix zeigen / Präfix-Liste zeigen", nullptr},
-    {[](const C &c) -> QWidget * { return c.OptType[0]; }, "OptType(0)", 52, firstRow, 46, rowHeight, u"0", u"nur Wortel zeigen / Wortel-Liste zeigen", nullptr},
-    {[](const C &c) -> QWidget * { return c.OptType[2]; }, "OptType(2)", 100, firstRow, 46, rowHeight, u"0", u"nur Suffix zeigen / Suffix-Liste zeigen", nullptr},
-    {[](const C &c) -> QWidget * { return c.OptType[3]; }, "OptType(3)", 148, firstRow, 46, rowHeight, u"0", u"Präfix+Wortel+Suffix zeigen / Listen zeigen", nullptr},
+    {[](const C &c) -> QWidget * { return c.OptType[1]; }, "OptType(1)", 4, firstRow, 46, rowHeight, u"0",
+     u"nur Präfix zeigen / Präfix-Liste zeigen", nullptr},
+    {[](const C &c) -> QWidget * { return c.OptType[0]; }, "OptType(0)", 52, firstRow, 46, rowHeight, u"0",
+     u"nur Wortel zeigen / Wortel-Liste zeigen", nullptr},
+    {[](const C &c) -> QWidget * { return c.OptType[2]; }, "OptType(2)", 100, firstRow, 46, rowHeight, u"0",
+     u"nur Suffix zeigen / Suffix-Liste zeigen", nullptr},
+    {[](const C &c) -> QWidget * { return c.OptType[3]; }, "OptType(3)", 148, firstRow, 46, rowHeight, u"0",
+     u"Präfix+Wortel+Suffix zeigen / Listen zeigen", nullptr},
     {CONTROL(Check1), 198, firstRow, 48, rowHeight, u"Alle", u"", nullptr},
     {CONTROL(Text1), 4, secondRow, 34, rowHeight, u"", u"Anzahl Wortel", nullptr},
-    {CONTROL(Check2), 41, secondRow, 62, rowHeight, u"Wortel", u"Wortel einfügen / Wortel-Liste laden", nullptr},
-    {[](const C &c) -> QWidget * { return c.Option1[0]; }, "Option1(0)", 106, secondRow, 33, rowHeight, u"", u"Ziehmodus Wortkontrolle", ":/icons/drag-word-check.svg"},
-    {[](const C &c) -> QWidget * { return c.Option1[1]; }, "Option1(1)", 141, secondRow, 33, rowHeight, u"", u"normaler Ziehmodus", ":/icons/drag-normal.svg"},
-    {CONTROL(Command6), 178, secondRow, 33, rowHeight, u"", u"Optionen", ":/icons/menu/05.svg"},
-    {CONTROL(Command1), 213, secondRow, 33, rowHeight, u"", u"Hilfe für Wortel", ":/icons/menu/16.svg"},
+    {CONTROL(Check2), 41, secondRow, 62, rowHeight, u"Wortel", u"Wortel einfügen / Wortel-Liste laden",
+     nullptr},
+    {[](const C &c) -> QWidget * { return c.Option1[0]; }, "Option1(0)", 106, secondRow, 33, rowHeight, u"",
+     u"Ziehmodus Wortkontrolle", ":/icons/drag-word-check.svg"},
+    {[](const C &c) -> QWidget * { return c.Option1[1]; }, "Option1(1)", 141, secondRow, 33, rowHeight, u"",
+     u"normaler Ziehmodus", ":/icons/drag-normal.svg"},
+    {CONTROL(Command6), 178, secondRow, 33, rowHeight, u"", u"Optionen", ":/icons/options.svg"},
+    {CONTROL(Command1), 213, secondRow, 33, rowHeight, u"", u"Hilfe für Wortel", ":/icons/help.svg"},
 
     {CONTROL(Dropper1), 2, firstRow, 114, rowHeight, u"", u"", nullptr},
-    {CONTROL(Command2), 119, firstRow, 33, rowHeight, u"", u"Wortkontrolle / Wortsuche", ":/icons/check-mark.svg"},
+    {CONTROL(Command2), 119, firstRow, 33, rowHeight, u"", u"Wortkontrolle / Wortsuche",
+     ":/icons/word-check.svg"},
     {CONTROL(Command5), 155, firstRow, 33, rowHeight, u"", u"Löschen / Großschreibung", ":/icons/erase.svg"},
-    {CONTROL(Command3), 2, secondRow, 40, rowHeight, u"", u"Wörterbuch zeigen / Wörterbuch laden", ":/icons/menu/09.svg"},
-    {CONTROL(Command4), 45, secondRow, 40, rowHeight, u"", u"Wörterliste zeigen / Wörterliste speichern", ":/icons/menu/03.svg"},
+    {CONTROL(Command3), 2, secondRow, 40, rowHeight, u"", u"Wörterbuch zeigen / Wörterbuch laden",
+     ":/icons/dictionary.svg"},
+    {CONTROL(Command4), 45, secondRow, 40, rowHeight, u"", u"Wörterliste zeigen / Wörterliste speichern",
+     ":/icons/check-mark.svg"},
     {CONTROL(Label6), 89, secondRow, 99, rowHeight, u"Richtige Wörter", u"", nullptr},
 
-    {CONTROL(Check3), 2, firstRow, 40, rowHeight, u"", u"Spiel starten / Bestenliste zeigen", ":/icons/menu/04.svg"},
-    {[](const C &c) -> QWidget * { return c.Option2[0]; }, "Option2(0)", 45, firstRow, 26, rowHeight, u"1", u"Schwierigkeitsstufe 1", nullptr},
-    {[](const C &c) -> QWidget * { return c.Option2[1]; }, "Option2(1)", 73, firstRow, 26, rowHeight, u"2", u"Schwierigkeitsstufe 2", nullptr},
-    {[](const C &c) -> QWidget * { return c.Option2[2]; }, "Option2(2)", 101, firstRow, 26, rowHeight, u"3", u"Schwierigkeitsstufe 3", nullptr},
+    {CONTROL(Check3), 2, firstRow, 40, rowHeight, u"", u"Spiel starten / Bestenliste zeigen",
+     ":/icons/stopwatch.svg"},
+    {[](const C &c) -> QWidget * { return c.Option2[0]; }, "Option2(0)", 45, firstRow, 26, rowHeight, u"1",
+     u"Schwierigkeitsstufe 1", nullptr},
+    {[](const C &c) -> QWidget * { return c.Option2[1]; }, "Option2(1)", 73, firstRow, 26, rowHeight, u"2",
+     u"Schwierigkeitsstufe 2", nullptr},
+    {[](const C &c) -> QWidget * { return c.Option2[2]; }, "Option2(2)", 101, firstRow, 26, rowHeight, u"3",
+     u"Schwierigkeitsstufe 3", nullptr},
     {CONTROL(Label1), 130, firstRow, 24, rowHeight, u"", u"", nullptr},
-    {CONTROL(Image1), 156, firstRow, 32, rowHeight, u"", u"Rechtschreib-Tipp zeigen", ":/icons/menu/32.svg"},
-    {CONTROL(Check4), 2, secondRow, 40, rowHeight, u"", u"Abschreiben: Wörterliste / Wörterbuch (+Umschalt: Unsinnswörter)", ":/icons/menu/25.svg"},
-    {[](const C &c) -> QWidget * { return c.ChkVokal[0]; }, "ChkVokal(0)", 45, secondRow, 70, rowHeight, u"kurz", u"Kurzvokal-Kontrolle", ":/icons/short-vowel.svg"},
-    {[](const C &c) -> QWidget * { return c.ChkVokal[1]; }, "ChkVokal(1)", 118, secondRow, 70, rowHeight, u"lang", u"Langvokal-Kontrolle", ":/icons/long-vowel.svg"},
+    {CONTROL(Image1), 156, firstRow, 32, rowHeight, u"", u"Rechtschreib-Tipp zeigen", ":/icons/bulb.svg"},
+    {CONTROL(Check4), 2, secondRow, 40, rowHeight, u"",
+     u"Abschreiben: Wörterliste / Wörterbuch (+Umschalt: Unsinnswörter)", ":/icons/copy-down.svg"},
+    {[](const C &c) -> QWidget * { return c.ChkVokal[0]; }, "ChkVokal(0)", 45, secondRow, 70, rowHeight,
+     u"kurz", u"Kurzvokal-Kontrolle", ":/icons/short-vowel.svg"},
+    {[](const C &c) -> QWidget * { return c.ChkVokal[1]; }, "ChkVokal(1)", 118, secondRow, 70, rowHeight,
+     u"lang", u"Langvokal-Kontrolle", ":/icons/long-vowel.svg"},
 
     {CONTROL(Label3), 86, statusRow, 160, statusHeight, u"", u"", nullptr},
     {CONTROL(GameProgress), 252, statusRow, 352, statusHeight, u"", u"", nullptr},
@@ -83,7 +102,8 @@ constexpr ControlRow bandRows[] = {
 };
 #undef CONTROL
 
-/// Where a panel of the band begins and how wide it is, at the design width. `align`: 0 left, 1 middle, 2 right.
+/// Where a panel of the band begins and how wide it is, at the design width. `align`: 0 left, 1 middle, 2
+/// right.
 struct PanelRow
 {
     QWidget *C::*panel;
@@ -206,7 +226,8 @@ void makeStatusLine(C &c)
     c.GameProgress->hide();
     c.Label4 = make<ClickLabel>(c.Picture1, "Label4");
     c.Label4->setAlignment(Qt::AlignCenter);
-    c.Label4->setStyleSheet(QStringLiteral("background: #c00000; color: white; font-weight: bold; border-radius: 4px"));
+    c.Label4->setStyleSheet(
+        QStringLiteral("background: #c00000; color: white; font-weight: bold; border-radius: 4px"));
     c.Label4->hide();
     c.Label2 = make<ClickLabel>(c.form, "Label2");
     c.Label2->setText(QStringLiteral("NORDVEKT"));
