@@ -47,7 +47,7 @@ frmShadow::frmShadow()
 void frmShadow::Init(const QRect &form, Clock &clock)
 {
     setGeometry(form.translated(offset, offset));
-    if (const QScreen *where = QGuiApplication::primaryScreen())
+    if (QScreen *where = QGuiApplication::primaryScreen())
         behind_ = where->grabWindow(0, x(), y(), width(), height()).toImage();
     clock.wait(20);
     show();
@@ -82,7 +82,7 @@ frmSplash::frmSplash(Clock &clock)
         label->setGeometry(0, row.top, splashSize.width(), row.height);
     }
     findChild<QLabel *>(QStringLiteral("lblversion"))->setText(versionText());
-    if (const QScreen *where = QGuiApplication::primaryScreen())
+    if (QScreen *where = QGuiApplication::primaryScreen())
         move(where->geometry().center() - rect().center());
 }
 
