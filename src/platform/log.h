@@ -4,8 +4,8 @@
 
 #include <QString>
 
-/// The event and error log, inert unless the program was started with "/L". Each line rewrites the whole file, so that a crash loses
-/// at most one line.
+/// The event and error log, inert unless the program was started with "/L". Each line is one unbuffered write behind what the file
+/// holds (Windows-1252, CR LF), so that a crash loses at most one line.
 class Log
 {
 public:

@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QHash>
+#include "platform/case_blind_index.h"
+#include "platform/int16.h"
+
 #include <QObject>
 #include <QString>
 #include <QStringList>
-
-#include "platform/int16.h"
 
 /// An ordered list of strings with the semantics of a list box: 0-based rows, a signed 16-bit count, a whole-item find that ignores case, and an
 /// order that is either that of appending or kept sorted (German collation, case-blind). Reading a row that is not there gives the empty string.
@@ -48,7 +48,11 @@ signals:
     void changed();
 
 private:
+    int insert(const QString &item);
+    void checkRow(int row) const;
+
     Order order_;
     QStringList rows_;
-    // plus the index: the implementer chooses how it survives insertions and removals cheaply (lazily rebuilt is fine)
+    /// Filled by the first find, grows with appended rows, and is made anew by the first find behind any other change.
+    mutable CaseBlindIndex index_;
 };

@@ -1,0 +1,199 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/boxes.h"
+#include "platform/clock.h"
+#include "platform/file_dialogs.h"
+#include "platform/ground.h"
+#include "platform/log.h"
+#include "platform/options.h"
+#include "platform/rnd.h"
+#include "platform/settings_store.h"
+#include "platform/sound.h"
+
+#include <QHash>
+#include <QList>
+#include <QQueue>
+#include <QTemporaryDir>
+
+#include <functional>
+#include <optional>
+
+/// What a box or a file dialog was asked.
+struct Question
+{
+    QString kind; ///< the seam's function: "plainBox", "ShowMBox", "openFiles", ...
+    QString title;
+    QString text;  ///< the prompt; of a file dialog the filter
+    QString style; ///< of a box the style, of a box for input the default text, of a file dialog the folder
+    int code = 0;  ///< the icon, the buttons' code or the kind of tile
+};
+
+/// Answers of one seam: queued by the test, taken by the program. A question without an answer fails the
+/// running test.
+template <typename Answer> class Answers
+{
+public:
+    void add(const Answer &answer) { queue_.enqueue(answer); }
+    bool isEmpty() const { return queue_.isEmpty(); }
+    std::optional<Answer> take()
+    {
+        return queue_.isEmpty() ? std::nullopt : std::optional<Answer>(queue_.dequeue());
+    }
+
+private:
+    QQueue<Answer> queue_;
+};
+
+/// The boxes of a test. `will...` queues an answer; `asked` holds every question in its order.
+class QueuedBoxes : public Boxes
+{
+public:
+    void willAnswer(Answer answer) { plain_.add(answer); }
+    /// The index of the button that `ShowMBox` gives.
+    void willPress(int button) { pressed_.add(button); }
+    /// The notice box is closed, by default with Enter.
+    void willBeRead(int result = 0) { notices_.add(result); }
+    void willType(const QString &text) { typed_.add(text); }
+    void willTypeWord(const QString &text) { words_.add(text); }
+
+    QList<Question> asked;
+    int unexpected = 0;
+    /// Called before a box gives its answer: a test may look at the window, or act while the box is open.
+    std::function<void(const Question &)> whileOpen;
+
+    bool allTaken() const;
+
+    Answer plainBox(Icon icon, const QString &title, const QString &text, Buttons buttons) override;
+    int ShowMBox(const QString &prompt, bool show, int buttons, const QString &title,
+                 const QString &style) override;
+    int ShowInfoBox(const QString &prompt, const QString &style, const QString &title) override;
+    QString ShowIBox(const QString &prompt, int kind, const QString &defaultText, const QString &title,
+                     int left, int top) override;
+    QString ShowWordBox(const QString &prompt, int kind, const QString &defaultText, const QString &title,
+                        int left, int top) override;
+
+private:
+    template <typename A> A answer(const Question &question, Answers<A> &answers, const A &otherwise);
+
+    Answers<Answer> plain_;
+    Answers<int> pressed_;
+    Answers<int> notices_;
+    Answers<QString> typed_;
+    Answers<QString> words_;
+};
+
+/// The file dialogs of a test. An empty answer is a cancelled dialog.
+class QueuedFileDialogs : public FileDialogs
+{
+public:
+    void willOpen(const QStringList &paths) { opened_.add(paths); }
+    void willSave(const QString &path) { saved_.add(path); }
+
+    QList<Question> asked;
+    int unexpected = 0;
+
+    bool allTaken() const { return opened_.isEmpty() && saved_.isEmpty(); }
+
+    QStringList openFiles(const QString &title, const QString &folder, const QString &filter,
+                          bool multiple) override;
+    QString saveFile(const QString &title, const QString &folder, const QString &filter,
+                     const QString &suffix, const QString &suggestedName) override;
+
+private:
+    Answers<QStringList> opened_;
+    Answers<QString> saved_;
+};
+
+/// Keeps what would have been heard.
+class RecordedSound : public Sound
+{
+public:
+    QList<int> resources;
+    QStringList files;
+    bool filesCanBePlayed = true;
+
+    void PlayResourceSound(int id) override { resources.append(id); }
+    bool playFile(const QString &path) override
+    {
+        files.append(path);
+        return filesCanBePlayed;
+    }
+};
+
+/// A clock that stands until a wait or the test moves it on.
+class TestClock : public Clock
+{
+public:
+    QDateTime moment{QDate(2026, 3, 14), QTime(9, 26, 53)};
+    int waited = 0; ///< milliseconds, all waits together
+
+    QDateTime now() const override { return moment; }
+    void wait(int milliseconds) override
+    {
+        waited += milliseconds;
+        moment = moment.addMSecs(milliseconds);
+    }
+};
+
+/// Counts yields, and lets a test act in them as a user would.
+class TestPump : public EventPump
+{
+public:
+    int yields = 0;
+    bool waiting = false;
+    std::function<void()> onYield;
+
+    void yield() override
+    {
+        ++yields;
+        if (onYield)
+            onYield();
+    }
+    bool inputWaiting() override { return waiting; }
+};
+
+/// Settings in memory.
+class MemoryStore : public SettingsStore
+{
+public:
+    QString GetSetting(const QString &section, const QString &key, const QString &fallback) const override
+    {
+        return values_.value({section, key}, fallback);
+    }
+    void SaveSetting(const QString &section, const QString &key, const QString &value) override
+    {
+        values_[{section, key}] = value;
+    }
+
+private:
+    QHash<std::pair<QString, QString>, QString> values_;
+};
+
+/// A whole ground for one test: an empty program folder that goes with the test, a fixed seed, and seams that
+/// answer from queues. A question that the test did not expect fails it. Say `QVERIFY(t.ok())` at the end to
+/// learn of answers nobody asked for.
+struct TestGround
+{
+    explicit TestGround(quint64 seed = 1);
+
+    QTemporaryDir folder;
+    QString AppFolder; ///< stored form
+    Log log;
+    QueuedBoxes boxes;
+    QueuedFileDialogs fileDialogs;
+    Rnd rnd;
+    RecordedSound sound;
+    TestClock clock;
+    TestPump pump;
+    MemoryStore store;
+    Options options;
+    Ground ground;
+
+    /// No question was unexpected and no answer is left.
+    bool ok() const;
+    /// Writes a file below the program's folder (`name` in stored form), with its folders, in Windows-1252,
+    /// and returns its stored path.
+    QString writeFile(const QString &name, const QString &text) const;
+};
