@@ -82,6 +82,20 @@ int writeError(QFileDevice::FileError error)
     }
 }
 
+/// Writes everything or gives false. A disk that fills up takes a part first and tells its error with the
+/// next write.
+bool writeWhole(QFileDevice &file, const QByteArray &bytes)
+{
+    qint64 done = 0;
+    while (done < bytes.size()) {
+        const qint64 count = file.write(bytes.constData() + done, bytes.size() - done);
+        if (count <= 0)
+            return false;
+        done += count;
+    }
+    return true;
+}
+
 /// For a file that may be written in a folder that may not: in place, and the old bytes put back if that
 /// fails.
 void writeInPlace(const QString &path, const QByteArray &bytes)
@@ -90,11 +104,11 @@ void writeInPlace(const QString &path, const QByteArray &bytes)
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadWrite | QIODevice::Unbuffered))
         raise(openError(path));
     const QByteArray old = file.readAll();
-    if (file.seek(0) && file.write(bytes) == bytes.size() && file.resize(bytes.size()))
+    if (file.seek(0) && writeWhole(file, bytes) && file.resize(bytes.size()))
         return;
     const int number = writeError(file.error());
     file.seek(0);
-    file.write(old);
+    writeWhole(file, old);
     file.resize(old.size());
     raise(number);
 }
@@ -189,11 +203,12 @@ void writeFileAtomically(const QString &path, const QByteArray &bytes)
 {
     const QString native = nativePath(path);
     QSaveFile file(native);
-    if (!file.open(QIODevice::WriteOnly)) {
+    // Unbuffered, because a buffer that is written only in part when it is flushed counts as written.
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
         writeInPlace(native, bytes);
         return;
     }
-    if (file.write(bytes) == bytes.size() && file.commit())
+    if (writeWhole(file, bytes) && file.commit())
         return;
     const int number = writeError(file.error());
     file.cancelWriting();

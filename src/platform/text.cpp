@@ -9,6 +9,8 @@
 
 #include <cmath>
 #include <limits>
+#include <locale>
+#include <sstream>
 
 namespace {
 
@@ -69,11 +71,16 @@ qsizetype numberLength(QStringView text)
 /// value.
 double numberValue(QStringView number)
 {
-    const double value = number.toLatin1().toDouble();
-    if (std::isfinite(value))
-        return value;
-    const double largest = std::numeric_limits<double>::max();
-    return number.startsWith(u'-') ? -largest : largest;
+    const QByteArray digits = number.toLatin1();
+    bool inRange = false;
+    const double plain = digits.toDouble(&inRange);
+    if (inRange)
+        return plain;
+    std::istringstream stream(digits.toStdString()); // a stream clamps where QByteArray gives 0
+    stream.imbue(std::locale::classic());
+    double clamped = 0.0;
+    stream >> clamped;
+    return clamped;
 }
 
 template <typename Whole> int checkedRound(double value)

@@ -2,5 +2,9 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 wortel_test(platform
     SOURCES
+        tst_files.cpp
+        tst_procedure.cpp
         tst_runtime_error.cpp
+        tst_text.cpp
+        tst_word_store.cpp
 )

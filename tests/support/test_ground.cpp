@@ -15,7 +15,8 @@ namespace {
 
 void failUnexpected(const Question &question)
 {
-    const QString message = question.kind + u" was not expected: "_s + question.title + u" / "_s + question.text;
+    const QString message =
+        question.kind + u" was not expected: "_s + question.title + u" / "_s + question.text;
     QTest::qFail(qPrintable(message), __FILE__, __LINE__);
 }
 
@@ -95,7 +96,7 @@ QString QueuedFileDialogs::saveFile(const QString &title, const QString &folder,
 TestGround::TestGround(quint64 seed)
     : AppFolder(storedPath(folder.path()) + u'\\')
     , rnd(seed)
-    , options(store, AppFolder)
+    , options(store, AppFolder, log)
     , ground{AppFolder, log, boxes, fileDialogs, rnd, sound, clock, pump, store, options}
 {}
 
