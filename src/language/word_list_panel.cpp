@@ -1,0 +1,206 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "language/word_list_panel.h"
+
+#include "language/dictionary_panel.h"
+#include "language/list_stand.h"
+#include "language/word_tests.h"
+#include "platform/boxes.h"
+#include "platform/file_dialogs.h"
+#include "platform/files.h"
+#include "platform/ground.h"
+#include "platform/modes.h"
+#include "platform/options.h"
+#include "platform/procedure.h"
+#include "platform/settings_store.h"
+#include "platform/windows1252.h"
+#include "platform/word_lists.h"
+#include "widgets/main_controls.h"
+#include "widgets/store_list.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMenu>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString program = u"Wortel-Meister"_s;
+
+QAction *addTo(QMenu *menu, const QString &name, const QString &caption)
+{
+    QAction *action = menu->addAction(caption);
+    action->setObjectName(name);
+    return action;
+}
+
+} // namespace
+
+WordListPanel::WordListPanel(Ground &ground, const MainControls &controls, WordLists &lists, Modes &modes,
+                             const WordTests &tests, DictionaryPanel &dictionary, QObject *parent)
+    : QObject(parent)
+    , ground_(ground)
+    , controls_(controls)
+    , lists_(lists)
+    , modes_(modes)
+    , tests_(tests)
+    , dictionary_(dictionary)
+    , mnuTest_(makeFilledMenu())
+    , mnuTest2_(makeEmptyMenu())
+{}
+
+QMenu *WordListPanel::makeFilledMenu()
+{
+    auto *menu = new QMenu(controls_.form);
+    menu->setObjectName(u"mnuTest"_s);
+    connect(addTo(menu, u"mnuEditWord"_s, u"Wort bearbeiten"_s), &QAction::triggered, this,
+            [this] { askWord(Entry::Edit); });
+    menu->addSeparator();
+    connect(addTo(menu, u"mnuDeleteWord"_s, u"Wort entfernen"_s), &QAction::triggered, this,
+            &WordListPanel::mnuDeleteWord);
+    connect(addTo(menu, u"mnuDeleteAllWords"_s, u"Alle Wörter entfernen"_s), &QAction::triggered, this,
+            &WordListPanel::mnuDeleteAllWords);
+    menu->addSeparator();
+    connect(addTo(menu, u"mnuMoveUp"_s, u"Wort darüber markieren"_s), &QAction::triggered, this,
+            [this] { moveSelection(-1); });
+    connect(addTo(menu, u"mnuMoveDown"_s, u"Wort darunter markieren"_s), &QAction::triggered, this,
+            [this] { moveSelection(1); });
+    menu->addSeparator();
+    connect(addTo(menu, u"mnuAddWord"_s, u"Wort hinzufügen"_s), &QAction::triggered, this,
+            [this] { askWord(Entry::Add); });
+    menu->addSeparator();
+    connect(addTo(menu, u"mnuCloseTheList"_s, u"Schließen"_s), &QAction::triggered, this,
+            &WordListPanel::Show_Result);
+    return menu;
+}
+
+QMenu *WordListPanel::makeEmptyMenu()
+{
+    auto *menu = new QMenu(controls_.form);
+    menu->setObjectName(u"mnuTest2"_s);
+    connect(addTo(menu, u"mnuAddWord2"_s, u"Wort hinzufügen"_s), &QAction::triggered, this,
+            [this] { askWord(Entry::Add); });
+    return menu;
+}
+
+void WordListPanel::CorrectWordList_MouseDown(const QPoint &position)
+{
+    QMenu *menu = lists_.CorrectWordList.isEmpty() ? mnuTest2_ : mnuTest_;
+    menu->popup(controls_.CorrectWordList->mapToGlobal(position));
+}
+
+void WordListPanel::Show_Result()
+{
+    Procedure step{ground_.log, "Show_Result", "frmMain"};
+    StoreList *list = controls_.CorrectWordList;
+    step([&] { standOnBand(controls_, list); });
+    list->setVisible(list->isHidden());
+    if (dictionary_.isOpen())
+        step([&] { dictionary_.toggle(); });
+}
+
+void WordListPanel::Save_Result()
+{
+    Procedure step{ground_.log, "Save_Result", "frmMain"};
+    if (lists_.CorrectWordList.isEmpty()) {
+        step([&] {
+            ground_.boxes.ShowInfoBox(u"Es gibt noch keine richtigen Wörter zum Speichern !"_s, u"INFO"_s,
+                                      program);
+        });
+        return;
+    }
+    const QString folder = ground_.store.GetSetting(u"Path"_s, u"Export"_s, ground_.AppFolder);
+    QString path;
+    step([&] {
+        path = ground_.fileDialogs.saveFile(u"Richtige Wörter Speichern"_s, folder,
+                                            u"Text files (*.txt)|*.txt"_s, u".txt"_s);
+    });
+    if (path.isEmpty())
+        return;
+    const QString text = lists_.CorrectWordList.rows().join(u"\r\n"_s) + u"\r\n"_s;
+    if (step([&] { writeFileAtomically(path, windows1252::encodeLossy(text)); }))
+        step([&] { emit wordListSaved(path); });
+
+    QString chosen = path.left(path.lastIndexOf(u'\\') + 1);
+    if (chosen.endsWith(u'\\'))
+        chosen.chop(1);
+    step([&] { ground_.store.SaveSetting(u"Path"_s, u"Export"_s, chosen); });
+}
+
+void WordListPanel::CorrectWordsToClip()
+{
+    Procedure step{ground_.log, "CorrectWordsToClip", "frmMain"};
+    step([&] {
+        if (lists_.CorrectWordList.isEmpty())
+            ground_.boxes.ShowInfoBox(u"Es gibt noch keine richtigen Wörter zum kopieren !"_s, u"INFO"_s,
+                                      program);
+        else
+            QGuiApplication::clipboard()->setText(lists_.CorrectWordList.rows().join(u"\r\n"_s) + u"\r\n"_s);
+    });
+}
+
+/// In a vowel mode no dialog is shown, and the last answer is used as it stands.
+void WordListPanel::askWord(Entry entry)
+{
+    const bool adds = entry == Entry::Add;
+    Procedure step{ground_.log, adds ? "mnuAddWord_Click" : "mnuEditWord_Click", "frmMain"};
+    const StoreList *list = controls_.CorrectWordList;
+    if (!modes_.KurzVokalMode && !modes_.LangVokalMode) {
+        const QPoint corner = list->mapToGlobal(QPoint(0, 0));
+        const QString shown = adds ? QString() : lists_.CorrectWordList.at(list->ListIndex());
+        step([&] {
+            inputResult_ = ground_.boxes.ShowWordBox(
+                u"Bitte gib ein Wort ein.\nEs wird aber nur in deine Liste übernommen, wenn es auch im "
+                u"Wortel-Wörterbuch vorkommt!"_s,
+                2, shown, adds ? u"Wort hinzufügen"_s : u"Wort bearbeiten"_s, std::max(0, corner.x()),
+                std::max(0, corner.y()));
+        });
+    }
+    step([&] { takeWord(entry); });
+}
+
+void WordListPanel::takeWord(Entry entry)
+{
+    if (!tests_.ChkForDuplicates2(inputResult_) || tests_.ChkForDuplicates(inputResult_))
+        return;
+    const QString word = tests_.ProperCase(inputResult_);
+    if (entry == Entry::Add)
+        lists_.CorrectWordList.add(word);
+    else
+        lists_.CorrectWordList.replace(controls_.CorrectWordList->ListIndex(), word);
+    emit wordsEdited(lists_.CorrectWordList.rows(), true);
+}
+
+void WordListPanel::mnuDeleteWord()
+{
+    Procedure step{ground_.log, "mnuDeleteWord_Click", "frmMain"};
+    const int row = controls_.CorrectWordList->ListIndex();
+    if (step([&] { lists_.CorrectWordList.removeAt(row); }))
+        emit wordsEdited(lists_.CorrectWordList.rows(), false);
+}
+
+void WordListPanel::mnuDeleteAllWords()
+{
+    Procedure step{ground_.log, "mnuDeleteAllWords_Click", "frmMain"};
+    int answer = 0;
+    step([&] {
+        answer = ground_.boxes.ShowMBox(u"Entfernen alle Wörter?"_s,
+                                        ground_.options.isOn(Setting::ConfirmBeforeErase), 3,
+                                        u"Wortel - Bestätigen"_s, u"CONFIRM"_s);
+    });
+    if (answer == 1)
+        return;
+    step([&] { lists_.CorrectWordList.clear(); });
+    emit wordsEdited({}, false);
+}
+
+/// The list is sorted: words cannot be moved, only the mark can.
+void WordListPanel::moveSelection(int step)
+{
+    const int row = controls_.CorrectWordList->ListIndex() + step;
+    if (row >= 0 && row < lists_.CorrectWordList.count())
+        controls_.CorrectWordList->setListIndex(row);
+}
