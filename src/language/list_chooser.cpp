@@ -1,0 +1,137 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "language/list_chooser.h"
+
+#include "board/tile_store.h"
+#include "language/list_loader.h"
+#include "platform/clock.h"
+#include "platform/file_dialogs.h"
+#include "platform/files.h"
+#include "platform/ground.h"
+#include "platform/procedure.h"
+#include "platform/text.h"
+#include "platform/word_lists.h"
+#include "widgets/alpha_panel.h"
+#include "widgets/guards.h"
+#include "widgets/main_controls.h"
+#include "widgets/press_button.h"
+#include "widgets/store_list.h"
+
+#include <QLabel>
+#include <QLineEdit>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int heightOverList = 40; ///< pixels between a list's upper edge and the tile laid from it
+
+/// Locks the tools that deal tiles while one of these lives.
+class ToolsLock
+{
+public:
+    explicit ToolsLock(const MainControls &controls)
+        : controls_(controls)
+    {
+        enable(false);
+    }
+    ~ToolsLock() { enable(true); }
+    ToolsLock(const ToolsLock &) = delete;
+    ToolsLock &operator=(const ToolsLock &) = delete;
+
+private:
+    void enable(bool on)
+    {
+        controls_.Check2->setEnabled(on);
+        controls_.Check1->setEnabled(on);
+        controls_.Text1->setEnabled(on);
+    }
+
+    const MainControls &controls_;
+};
+
+QString inBrackets(qsizetype count) { return u'[' + QString::number(count) + u']'; }
+
+} // namespace
+
+ListChooser::ListChooser(Ground &ground, const MainControls &controls, WordLists &lists, ListLoader &loader,
+                         TileStore &tiles, BoardCalls board, QObject *parent)
+    : QObject(parent)
+    , ground_(ground)
+    , controls_(controls)
+    , lists_(lists)
+    , loader_(loader)
+    , tiles_(tiles)
+    , board_(std::move(board))
+{}
+
+void ListChooser::chooseStemLists()
+{
+    Procedure step{ground_.log, "Check2_MouseDown", "frmMain"};
+    const ToolsLock lock(controls_);
+    const Hourglass hourglass;
+    QStringList paths;
+    step([&] {
+        paths = ground_.fileDialogs.openFiles(u"Wortel laden (Multi)"_s, ground_.AppFolder + u"text"_s,
+                                              u"Text Dateien (*.txt)|*.txt"_s, true);
+    });
+    if (paths.isEmpty())
+        return;
+    controls_.PicAlpha->hide();
+    controls_.Label3->setText(inBrackets(paths.size()));
+    step([&] { lists_.CorrectWordList.clear(); });
+    step([&] { lists_.WortelList.clear(); });
+    controls_.WortelList->hide();
+    step([&] { lists_.LexiconList.clear(); });
+    // Several names are joined without a folder, so that nothing stands behind a last backslash: the tool tip
+    // stays empty.
+    const QString shownName = paths.size() == 1 ? listBaseName(paths.first()) : QString();
+    for (QString path : paths)
+        step([&] { loader_.FillWortelList(path); });
+    controls_.Label3->setToolTip(shownName);
+    step([&] { board_.Refill(); });
+}
+
+void ListChooser::chooseDictionaries()
+{
+    Procedure step{ground_.log, "Command3_MouseDown", "frmMain"};
+    const Hourglass hourglass;
+    QStringList paths;
+    step([&] {
+        paths = ground_.fileDialogs.openFiles(u"Wörterbuch laden (multi)"_s, ground_.AppFolder + u"facit"_s,
+                                              u"Wörterbücher (*.lex)|*.lex"_s, true);
+    });
+    if (paths.isEmpty()) {
+        controls_.Check2->setEnabled(true);
+        return;
+    }
+    controls_.Label3->setText(inBrackets(paths.size()));
+    step([&] { lists_.CorrectWordList.clear(); });
+    step([&] { lists_.LexiconList.clear(); });
+    for (const QString &path : paths)
+        step([&] { loader_.Fill_Lexicon(RTrimText(ListLoader::facitPath(path), u".txt"_s)); });
+}
+
+void ListChooser::WortelList_Click(int row) { layTile(*kindOfColour(colours::wortelBack), row); }
+void ListChooser::PrefixList_Click(int row) { layTile(*kindOfColour(colours::prefixBack), row); }
+void ListChooser::SuffixList_Click(int row) { layTile(*kindOfColour(colours::suffixBack), row); }
+
+void ListChooser::layTile(const TileKind &kind, int row)
+{
+    const StoreList *const views[] = {controls_.WortelList, controls_.PrefixList, controls_.SuffixList};
+    const WordStore *const stores[] = {&lists_.WortelList, &lists_.PrefixList, &lists_.SuffixList};
+    const char *const names[] = {"WortelList_Click", "PrefixList_Click", "SuffixList_Click"};
+    const auto index = static_cast<std::size_t>(kind.filterIndex);
+
+    Procedure step{ground_.log, names[index], "frmMain"};
+    if (row < 0 || row >= stores[index]->count())
+        return;
+    const QPoint corner = views[index]->pos();
+    step([&] {
+        tiles_.CanvasDrawWortel(Int16(corner.x()), Int16(corner.y() - heightOverList), stores[index]->at(row),
+                                kind.back, kind.text);
+    });
+    step([&] { tiles_.counters().add(kind.filterIndex, 1); });
+    step([&] { ground_.pump.yield(); });
+    step([&] { board_.DoOnDrop(); });
+}
