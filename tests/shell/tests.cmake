@@ -1,0 +1,6 @@
+# SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+# SPDX-License-Identifier: GPL-3.0-or-later
+wortel_test(shell
+    SOURCES
+        tst_start_rules.cpp
+)

@@ -1,0 +1,193 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/files.h"
+#include "platform/runtime_error.h"
+#include "shell/affix_rows.h"
+#include "shell/application_folder.h"
+#include "shell/argument_handler.h"
+#include "shell/crash_filter.h"
+#include "support/registry.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <csignal>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+/// The rules of the start that need no window.
+class StartRulesTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void parsesTheCommandLine_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<QStringList>("expected"); // name=value
+        QTest::newRow("empty") << u""_s << QStringList{};
+        QTest::newRow("blanks") << u"   "_s << QStringList{};
+        QTest::newRow("one") << u"/L"_s << QStringList{u"L="_s};
+        QTest::newRow("order kept, files ignored")
+            << u"a.wlx  /L b.wlx /I "_s << QStringList{u"L="_s, u"I="_s};
+        QTest::newRow("value") << u"/Name:Wert"_s << QStringList{u"Name=Wert"_s};
+        QTest::newRow("quoted value") << u"/Name:\"Wert\""_s << QStringList{u"Name=Wert"_s};
+        QTest::newRow("value with a colon") << u"/Pfad:C:\\a"_s << QStringList{u"Pfad=C:\\a"_s};
+        QTest::newRow("slash alone") << u"/"_s << QStringList{u"="_s};
+        QTest::newRow("case tells names apart") << u"/l /L"_s << QStringList{u"l="_s, u"L="_s};
+        QTest::newRow("a second of the same name") << u"/L:1 /L:2"_s << QStringList{u"L=1"_s};
+    }
+    void parsesTheCommandLine()
+    {
+        QFETCH(QString, line);
+        QFETCH(QStringList, expected);
+        ArgumentHandler handler;
+        handler.ParseCommandLine(u"/old"_s);
+        handler.ParseCommandLine(line);
+        QStringList found;
+        for (int i = 0; i < handler.ArgumentCount(); ++i) {
+            const Argument &argument = handler.GetArgumentIndex(i);
+            QVERIFY(!argument.Dirty());
+            found << argument.ArgumentName() + u'=' + argument.ArgumentValue();
+        }
+        QCOMPARE(found, expected);
+    }
+
+    void choosesTheCurrentArgument()
+    {
+        ArgumentHandler handler;
+        handler.ParseCommandLine(u"/L /Name:Wert"_s);
+        QVERIFY(handler.current() == nullptr);
+        QVERIFY(handler.CheckArgumentKey(u"Name"_s));
+        QVERIFY(!handler.CheckArgumentKey(u"name"_s));
+        QVERIFY(handler.SetArgumentKey(u"Name"_s));
+        QCOMPARE(handler.current()->ArgumentValue(), u"Wert"_s);
+        QVERIFY_THROWS_EXCEPTION(RuntimeError, handler.SetArgumentIndex(2));
+        QVERIFY_THROWS_EXCEPTION(RuntimeError, handler.GetArgumentKey(u"X"_s));
+        QCOMPARE(handler.current()->ArgumentName(), u"Name"_s);
+        Argument copy = handler.GetArgumentIndex(0);
+        copy.setArgumentValue(u"1"_s);
+        QVERIFY(copy.Dirty());
+    }
+
+    void knowsTheScreens_data()
+    {
+        QTest::addColumn<QSize>("screen");
+        QTest::addColumn<int>("code");
+        QTest::addColumn<int>("suffixTop");
+        QTest::newRow("800x600") << QSize(800, 600) << 1 << 453;
+        QTest::newRow("1024x768") << QSize(1024, 768) << 2 << 617;
+        QTest::newRow("1600x1200") << QSize(1600, 1200) << 3 << 873;
+        QTest::newRow("1280x1024") << QSize(1280, 1024) << 4 << 853;
+        QTest::newRow("1152x864") << QSize(1152, 864) << 5 << 693;
+        QTest::newRow("any other") << QSize(1920, 1080) << 1 << 453;
+    }
+    void knowsTheScreens()
+    {
+        QFETCH(QSize, screen);
+        QFETCH(int, code);
+        QFETCH(int, suffixTop);
+        QCOMPARE(affix_rows::GetScreenResolution(screen.width(), screen.height()), code);
+        QCOMPARE(affix_rows::suffixTop(573, code, 0), suffixTop);
+        QCOMPARE(affix_rows::suffixTop(573, code, -3), suffixTop - 30);
+    }
+
+    void affixRowsEndWhereTheyShould()
+    {
+        int prefixLeft = 0;
+        int suffixLeft = 0;
+        for (int i = 1; i < affix_rows::tilesInRow; ++i) {
+            prefixLeft += affix_rows::prefixStep(i);
+            suffixLeft += affix_rows::suffixStep(i);
+        }
+        QCOMPARE(prefixLeft, 16 * 37 + 45 + 29 + 92);
+        QCOMPARE(suffixLeft, 4 * 33 + 42 + 30 + 2 * 77 + 7 * 35 + 3 * 40 + 44);
+    }
+
+    void namesExceptions_data()
+    {
+        QTest::addColumn<quint32>("code");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("first") << 0x80000001U << u"Guard Page Violation"_s;
+        QTest::newRow("access") << 0xC0000005U << u"Access Violation"_s;
+        QTest::newRow("last") << 0xC000013AU << u"Control-C Exit"_s;
+        QTest::newRow("unknown") << 0xE0000001U << u"Unknown (&HE0000001)"_s;
+        QTest::newRow("leading zeros") << 0x1AU << u"Unknown (&H0000001A)"_s;
+        QTest::newRow("of a signal") << crash_filter::codeOfSignal(SIGFPE, FPE_INTDIV)
+                                     << u"Integer Divide By Zero"_s;
+    }
+    void namesExceptions()
+    {
+        QFETCH(quint32, code);
+        QFETCH(QString, name);
+        QCOMPARE(crash_filter::exceptionName(code), name);
+    }
+
+    void aCrashLeavesItsLine()
+    {
+        QTemporaryDir folder;
+        const QString log = folder.filePath(u"errors.log"_s);
+        const pid_t child = fork();
+        if (child == 0) {
+            crash_filter::install(log);
+            kill(getpid(), SIGSEGV);
+            _exit(0);
+        }
+        int status = 0;
+        QCOMPARE(waitpid(child, &status, 0), child);
+        QVERIFY(WIFSIGNALED(status));
+        QCOMPARE(WTERMSIG(status), SIGSEGV);
+        const QString line = QString::fromLatin1(ReadWholeFile(log));
+        static const QRegularExpression expected(
+            u"^\\*\\*\\* Unhandled Exception: Access Violation at 0 \\*\\*\\* - \\d\\d:\\d\\d:\\d\\d\r\n$"_s);
+        QVERIFY2(expected.match(line).hasMatch(), qPrintable(line));
+    }
+
+    void findsTheProgramsFolder()
+    {
+        QTemporaryDir place;
+        const QString program = place.filePath(u"program"_s);
+        const QString installed = place.filePath(u"share"_s);
+        const QString user = place.filePath(u"user"_s);
+        QDir().mkpath(program);
+        for (const QString &name : {u"/text/Ä.txt"_s, u"/facit/Ä.lex"_s, u"/lextip.ini"_s}) {
+            QDir().mkpath(QFileInfo(installed + name).path());
+            writeFileAtomically(installed + name, "alt");
+        }
+
+        // Installed: the user gets a copy, once.
+        QCOMPARE(application_folder::find(program, installed, user),
+                 application_folder::withTrailingBackslash(user));
+        QCOMPARE(ReadWholeFile(user + u"/text/Ä.txt"_s), QByteArray("alt"));
+        writeFileAtomically(user + u"/text/Ä.txt"_s, "vom Lehrer");
+        QFile::remove(user + u"/lextip.ini"_s);
+        application_folder::find(program, installed, user);
+        QCOMPARE(ReadWholeFile(user + u"/text/Ä.txt"_s), QByteArray("vom Lehrer"));
+        QVERIFY(
+            !QFile::exists(user + u"/lextip.ini"_s)); // filled already: what the teacher took away stays away
+
+        // A copy that was cut off is completed.
+        QFile::remove(user + u"/.filled"_s);
+        application_folder::find(program, installed, user);
+        QVERIFY(QFile::exists(user + u"/lextip.ini"_s));
+        QCOMPARE(ReadWholeFile(user + u"/text/Ä.txt"_s), QByteArray("vom Lehrer"));
+
+        // Portable: the data lie beside the program.
+        QDir().mkpath(program + u"/text"_s);
+        QDir().mkpath(program + u"/facit"_s);
+        QCOMPARE(application_folder::find(program, installed, user),
+                 application_folder::withTrailingBackslash(program));
+    }
+
+    void endsFoldersWithOneBackslash()
+    {
+        QCOMPARE(application_folder::withTrailingBackslash(u"/a/b"_s), u"\\a\\b\\"_s);
+        QCOMPARE(application_folder::withTrailingBackslash(u"/"_s), u"\\"_s);
+    }
+};
+
+WORTEL_TEST(StartRulesTest)
+#include "tst_start_rules.moc"
