@@ -2276,9 +2276,6 @@ unerwartete
 unerwarteten
 ungeachtet
 ungerecht
-ungerechte
-ungerechten
-ungerechter
 Ungerechtigkeit
 unhaltbar
 unkleidsam

@@ -1885,6 +1885,7 @@ fehlerhaft
 fehlerhafte
 fehlerhaften
 fehlerhafter
+fehlerlos
 Fehlern
 Fehlers
 fehlst

@@ -9123,6 +9123,7 @@ fehlerhaft
 fehlerhafte
 fehlerhaften
 fehlerhafter
+fehlerlos
 Fehlern
 Fehlers
 fehlst
@@ -10902,7 +10903,6 @@ nachgelesen
 nachgeliefert
 nachgesagt
 nachgeschaut
-nachgesetzt
 nachgibst
 nachgibt
 nachgieße
@@ -12812,8 +12812,6 @@ trugt
 übergeordnet
 übergeordnete
 übergeordneten
-übergesetzlich
-übergesetzt
 übergib
 übergibst
 übergibt
@@ -14024,12 +14022,8 @@ ungenutzt
 ungeprüfte
 ungeprüftes
 ungerecht
-ungerechte
-ungerechten
-ungerechter
 Ungerechtigkeit
 ungeschlagen
-ungesetzlich
 ungestört
 ungewohnt
 ungewohnten
@@ -14216,7 +14210,6 @@ untergeht
 untergeordnet
 untergeordnete
 untergeordneten
-untergesetzt
 unterging
 unterginge
 untergingen
@@ -16240,7 +16233,6 @@ vorgemerkt
 vorgeschlagen
 vorgeschrieben
 vorgesehen
-vorgesetzt
 vorgesetzte
 vorgesetzten
 vorgestellt

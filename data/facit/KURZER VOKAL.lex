@@ -3277,7 +3277,6 @@ Nachgang
 nachgegangen
 nachgekommen
 nachgerüstet
-nachgesetzt
 nachhaltig
 nachhaltige
 nachhaltigen
@@ -3849,8 +3848,6 @@ Trennungen
 überfüllt
 übergangen
 übergegangen
-übergesetzlich
-übergesetzt
 übergriff
 übergriffen
 übergriffst
@@ -4202,7 +4199,6 @@ unfolgsam
 ungangbar
 ungeachtet
 ungenutzt
-ungesetzlich
 unhaltbar
 unlenksam
 unmerkbar
@@ -4247,7 +4243,6 @@ unterfangen
 unterfangend
 unterfangt
 unterfassen
-untergesetzt
 unterhalte
 unterhalten
 unterhaltend
@@ -4813,7 +4808,6 @@ vorgegangen
 vorgehalten
 vorgekommen
 vorgemerkt
-vorgesetzt
 vorgesetzte
 vorgesetzten
 vorgestellt

@@ -2220,6 +2220,7 @@ fehlerhaft
 fehlerhafte
 fehlerhaften
 fehlerhafter
+fehlerlos
 Fehlern
 Fehlers
 fehlst
@@ -2628,7 +2629,6 @@ nachgeht
 Nachgelegen
 nachgelesen
 nachgeliefert
-nachgesetzt
 nachhänge
 nachhängen
 nachhängend
@@ -3009,8 +3009,6 @@ Tretung
 übergehst
 übergeht
 Übergehung
-übergesetzlich
-übergesetzt
 überhänge
 überhängen
 überhängend
@@ -3312,11 +3310,7 @@ ungeklärt
 ungelegen
 ungelesen
 ungerecht
-ungerechte
-ungerechten
-ungerechter
 Ungerechtigkeit
-ungesetzlich
 unlesbar
 unmerkbar
 unmerklich
@@ -3362,7 +3356,6 @@ untergehen
 untergehend
 untergehst
 untergeht
-untergesetzt
 unterglieder
 untergliedere
 untergliederst
@@ -3859,7 +3852,6 @@ vorgelegten
 vorgelesen
 vorgemerkt
 vorgesehen
-vorgesetzt
 vorgesetzte
 vorgesetzten
 vorgestellt
