@@ -159,7 +159,6 @@ abtreiben
 abtreibend
 abtreibst
 abtreibt
-Abtreibung
 aburteile
 aburteilen
 aburteilend
@@ -490,7 +489,6 @@ Aufreihung
 aufreiße
 aufreißen
 aufreißend
-Aufreißer
 aufreißt
 aufreite
 aufreiten
@@ -2603,7 +2601,6 @@ Verbauung
 verbleib
 verbleibe
 verbleiben
-Verbleiben
 verbleibend
 verbleibende
 verbleibenden
@@ -2801,7 +2798,6 @@ Verschraubung
 verschreib
 verschreibe
 verschreiben
-Verschreiben
 verschreibend
 verschreibst
 verschreibt
@@ -2809,14 +2805,12 @@ Verschreibung
 verschweig
 verschweige
 verschweigen
-Verschweigen
 verschweigend
 verschweigst
 verschweigt
 Verschweigung
 verspeise
 verspeisen
-Verspeisen
 verspeisend
 verspeist
 Verspeisung
@@ -2873,7 +2867,6 @@ Vertrauung
 vertreib
 vertreibe
 vertreiben
-Vertreiben
 vertreibend
 Vertreiber
 vertreibst
@@ -2959,8 +2952,6 @@ vorlaut
 vorlaute
 vorlauten
 vorlauter
-Vorscheid
-Vorscheider
 Vorscheids
 vorschreibe
 vorschreiben
@@ -3002,7 +2993,6 @@ weicher
 weiches
 Weichheit
 weichlich
-Weichs
 weichst
 weicht
 weih
@@ -3073,8 +3063,6 @@ zerreibend
 zerreibst
 zerreibt
 Zerreibung
-Zerreiche
-Zerreichen
 zerreiß
 zerreißbar
 zerreiße

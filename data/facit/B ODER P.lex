@@ -4,6 +4,7 @@ abblieben
 abbliebst
 abbliebt
 Aberglaube
+Aberglauben
 abfärbe
 abfärben
 abfärbend
@@ -157,7 +158,6 @@ abtreiben
 abtreibend
 abtreibst
 abtreibt
-Abtreibung
 Abtrieb
 abtrieb
 abtriebe
@@ -1459,9 +1459,7 @@ nachgebend
 nachgebt
 nachgibst
 nachgibt
-Nachgraben
 Nachgrabung
-Nachleben
 nachschiebe
 nachschieben
 nachschiebend
@@ -2002,7 +2000,6 @@ unüblich
 verbleib
 verbleibe
 verbleiben
-Verbleiben
 verbleibend
 verbleibende
 verbleibenden
@@ -2023,7 +2020,6 @@ vererbt
 Vererbung
 verfärbe
 verfärben
-Verfärben
 verfärbend
 verfärbst
 verfärbt
@@ -2158,7 +2154,6 @@ Verschraubung
 verschreib
 verschreibe
 verschreiben
-Verschreiben
 verschreibend
 verschreibst
 verschreibt
@@ -2206,7 +2201,6 @@ vertippt
 vertreib
 vertreibe
 vertreiben
-Vertreiben
 vertreibend
 Vertreiber
 vertreibst

@@ -198,10 +198,8 @@ abtaucht
 Abtausch
 Abtausche
 abtausche
-Abtäusche
 abtauschen
 Abtauschen
-Abtäuschen
 abtauschend
 Abtauschs
 abtauschst
@@ -1811,6 +1809,7 @@ klatsch
 klatsche
 klatschen
 klatschend
+Klatschereien
 klatschhaft
 klatschst
 klatscht
@@ -1829,6 +1828,7 @@ kochend
 kochendem
 Kocher
 Kocherei
+Kochereien
 Kochs
 kochst
 kocht
@@ -2601,7 +2601,6 @@ verbuchend
 verbuchst
 verbucht
 Verbuchung
-Verdachen
 verdacht
 Verdacht
 verdachte
@@ -2686,7 +2685,6 @@ vermischst
 vermischt
 vermischtes
 Vermischung
-Verrauschen
 verrauscht
 verrechne
 verrechnen
@@ -2712,7 +2710,6 @@ verschreckt
 verschreib
 verschreibe
 verschreiben
-Verschreiben
 verschreibend
 verschreibst
 verschreibt
@@ -2908,7 +2905,6 @@ weicher
 weiches
 Weichheit
 weichlich
-Weichs
 weichst
 weicht
 Wisch
@@ -2963,8 +2959,6 @@ zerkochen
 zerkochend
 zerkochst
 zerkocht
-Zerreiche
-Zerreichen
 zersteche
 zerstechen
 zerstechend

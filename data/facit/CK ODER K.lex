@@ -100,7 +100,6 @@ abschmecken
 abschmeckend
 abschmeckst
 abschmeckt
-Abschranken
 Abschrankung
 abschrecke
 abschrecken
@@ -180,6 +179,7 @@ anecke
 anecken
 aneckst
 aneckt
+Angedenken
 angeguckt
 angeklickt
 angemerkt
@@ -396,7 +396,6 @@ Ausgucke
 Ausgucken
 Ausgucks
 auslecken
-Auslenken
 Auslenkung
 ausmelke
 ausmelken
@@ -1759,7 +1758,6 @@ Verdeckung
 verdenk
 verdenke
 verdenken
-Verdenken
 verdenkend
 verdenkst
 verdenkt
@@ -1901,7 +1899,6 @@ verstocken
 verstockend
 verstockst
 verstockt
-Verstrecken
 Verstreckung
 verstricke
 verstricken

@@ -92,10 +92,6 @@ abmelden
 abmeldend
 Abmeldung
 Abmeldungen
-Abort
-Aborte
-Aborten
-Aborts
 abrate
 abraten
 abratend
@@ -694,7 +690,6 @@ banden
 Bandes
 Bands
 bandst
-Bandung
 beabsichtigen
 beabsichtigt
 beabsichtigte
@@ -1337,7 +1332,6 @@ entscheidet
 Entscheids
 Entscheidung
 Entscheidungen
-Entschriftung
 entschuldbar
 entschulde
 entschulden
@@ -1565,9 +1559,7 @@ gemeldet
 gemeldete
 gemeldeten
 gemietet
-Gemünd
 Gemünden
-Gemünder
 Gemünds
 gerate
 geraten
@@ -2490,7 +2482,6 @@ verfeindend
 Verfeindung
 vergelte
 vergelten
-Vergelten
 vergeltend
 Vergeltung
 verhalt
@@ -2571,7 +2562,6 @@ verrieten
 verrietst
 verschalt
 verschalte
-Verschalten
 verschalten
 verschalter
 Verschaltung
@@ -2670,7 +2660,6 @@ verwertet
 Verwertung
 verwinde
 verwinden
-Verwinden
 verwindend
 Verwindung
 vorarbeite
@@ -2725,8 +2714,6 @@ vorrichtend
 vorschalte
 vorschalten
 vorschaltend
-Vorscheid
-Vorscheider
 Vorscheids
 vorschriftlich
 vorsichtig

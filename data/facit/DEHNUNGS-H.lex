@@ -108,7 +108,6 @@ abzählst
 abzahlt
 abzählt
 Abzahlung
-Abzehren
 Abzehrung
 abzulehnen
 abzunehmen
@@ -1282,7 +1281,6 @@ mehrt
 Mehrung
 Mühle
 Mühlen
-Nachbohren
 Nachfahr
 Nachfahre
 Nachfahren
@@ -1300,7 +1298,6 @@ nachführen
 nachführst
 nachführt
 Nachführung
-Nachkühlen
 Nachkühlung
 Nachnahme
 Nachruhm
@@ -1849,7 +1846,6 @@ wahrhaftig
 Wahrhaftigkeit
 Wahrheit
 Wahrheiten
-Wahrig
 wahrlich
 wahrst
 währst

@@ -1211,7 +1211,6 @@ durchflog
 durchflogen
 durchflogst
 durchflogt
-Durchformen
 Durchformung
 durchforsche
 durchforschen
@@ -3131,7 +3130,6 @@ verfangt
 verfängt
 verfärbe
 verfärben
-Verfärben
 verfärbend
 verfärbst
 verfärbt
@@ -3191,7 +3189,6 @@ verfingt
 verflieg
 verfliege
 verfliegen
-Verfliegen
 verfliegend
 verfliegst
 verfliegt
@@ -3337,7 +3334,6 @@ verschafft
 verschaffte
 verschärfe
 verschärfen
-Verschärfen
 verschärfend
 verschärfst
 verschärft
@@ -3383,7 +3379,6 @@ verwarfst
 verwarft
 verwerfe
 verwerfen
-Verwerfen
 verwerfend
 verwerflich
 verwerft

@@ -1546,7 +1546,6 @@ kommst
 kommt
 Mann
 mannbar
-Manne
 Mannen
 Mannes
 mannhaft
@@ -2012,7 +2011,6 @@ umklappen
 umklappend
 umklappst
 umklappt
-Umklemmen
 umkomme
 umkommen
 umkommend
@@ -2204,7 +2202,6 @@ verkannter
 verkanntst
 verkenne
 verkennen
-Verkennen
 verkennend
 verkennst
 verkennt

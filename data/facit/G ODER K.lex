@@ -81,7 +81,6 @@ abmelken
 abmelkend
 abmelkst
 abmelkt
-Abneigen
 Abneigung
 abrege
 abregen
@@ -1353,7 +1352,6 @@ entflogen
 entflogst
 entflogt
 entlegen
-Entmarkung
 entsage
 entsagen
 entsagend
@@ -1838,7 +1836,6 @@ nachfügend
 nachfügst
 nachfügt
 nachgefragt
-Nachgelegen
 nachgesagt
 nachhake
 nachhaken
@@ -1849,7 +1846,6 @@ nachjage
 nachjagen
 nachjagst
 nachjagt
-Nachkriegs
 nachlege
 nachlegen
 nachlegend
@@ -2209,7 +2205,6 @@ trügt
 überfragend
 überfragst
 überfragt
-Überjagung
 überlager
 überlagere
 überlagerst
@@ -2491,7 +2486,6 @@ verbergend
 verbergt
 verbeuge
 verbeugen
-Verbeugen
 verbeugend
 verbeugst
 verbeugt
@@ -2499,7 +2493,6 @@ Verbeugung
 verbieg
 verbiege
 verbiegen
-Verbiegen
 verbiegend
 verbiegst
 verbiegt
@@ -2519,7 +2512,6 @@ verbürgt
 verflieg
 verfliege
 verfliegen
-Verfliegen
 verfliegend
 verfliegst
 verfliegt
@@ -2646,7 +2638,6 @@ verschlugt
 verschweig
 verschweige
 verschweigen
-Verschweigen
 verschweigend
 verschweigst
 verschweigt

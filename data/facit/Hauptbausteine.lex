@@ -628,10 +628,6 @@ abordne
 abordnen
 abordnend
 Abordnung
-Abort
-Aborte
-Aborten
-Aborts
 abpackbar
 abpacke
 abpacken
@@ -999,10 +995,8 @@ absucht
 Abtausch
 Abtausche
 abtausche
-Abtäusche
 abtauschen
 Abtauschen
-Abtäuschen
 abtauschend
 Abtauschs
 abtauschst
@@ -1042,7 +1036,6 @@ abtreiben
 abtreibend
 abtreibst
 abtreibt
-Abtreibung
 abtrennbar
 abtrenne
 abtrennen
@@ -1453,6 +1446,7 @@ angebliche
 angeblichen
 angebt
 angedacht
+Angedenken
 angefahren
 angefallen
 angefangen
@@ -2952,7 +2946,6 @@ Aufreibung
 aufreiße
 aufreißen
 aufreißend
-Aufreißer
 aufreißt
 aufrichte
 aufrichten
@@ -4503,7 +4496,6 @@ banden
 Bandes
 Bands
 bandst
-Bandung
 Bau
 baubar
 baue
@@ -5221,13 +5213,9 @@ beriefe
 beriefen
 beriefst
 berieft
-Bering
-Beringe
 beringe
 beringen
-Beringen
 beringend
-Berings
 beringst
 beringt
 Beringung
@@ -5485,10 +5473,6 @@ besprechend
 besprecht
 Besprechung
 Besprechungen
-bespringe
-bespringen
-bespringst
-bespringt
 Bestand
 bestand
 Bestände
@@ -6246,7 +6230,6 @@ durchflog
 durchflogen
 durchflogst
 durchflogt
-Durchformen
 Durchformung
 durchfrage
 durchfragen
@@ -8146,7 +8129,6 @@ entschließe
 entschließen
 entschließt
 Entschließung
-Entschriftung
 entschuldbar
 entschulde
 entschulden
@@ -10283,6 +10265,7 @@ kochend
 kochendem
 Kocher
 Kocherei
+Kochereien
 Kochs
 kochst
 kocht
@@ -10760,7 +10743,6 @@ nachblicken
 nachblickend
 nachblickst
 nachblickt
-Nachbohren
 Nachbrenner
 Nachbuchung
 nachdachte
@@ -10898,7 +10880,6 @@ nachgeholt
 nachgehst
 nachgeht
 nachgekommen
-Nachgelegen
 nachgelesen
 nachgeliefert
 nachgesagt
@@ -10914,7 +10895,6 @@ nachginge
 nachgingen
 nachgingst
 nachgingt
-Nachgraben
 Nachgrabung
 nachhaltig
 nachhaltige
@@ -10964,7 +10944,6 @@ nachkommen
 nachkommend
 nachkommst
 nachkommt
-Nachkühlen
 Nachkühlung
 nachladbar
 nachlade
@@ -10992,7 +10971,6 @@ Nachlaufs
 nachläufst
 nachlauft
 nachläuft
-Nachleben
 nachlege
 nachlegen
 nachlegend
@@ -12863,7 +12841,6 @@ trugt
 überhörend
 überhörst
 überhört
-Überjagung
 überkam
 überkamen
 überkamst
@@ -14613,7 +14590,6 @@ Verbindungen
 verbleib
 verbleibe
 verbleiben
-Verbleiben
 verbleibend
 verbleibende
 verbleibenden
@@ -14682,7 +14658,6 @@ verbuchend
 verbuchst
 verbucht
 Verbuchung
-Verdachen
 verdacht
 Verdacht
 verdachte
@@ -14709,7 +14684,6 @@ Verdeckung
 verdenk
 verdenke
 verdenken
-Verdenken
 verdenkend
 verdenkst
 verdenkt
@@ -14826,7 +14800,6 @@ verfangend
 verfangt
 verfärbe
 verfärben
-Verfärben
 verfärbend
 verfärbst
 verfärbt
@@ -14864,7 +14837,6 @@ verfielt
 verflieg
 verfliege
 verfliegen
-Verfliegen
 verfliegend
 verfliegst
 verfliegt
@@ -14958,7 +14930,6 @@ vergibst
 vergibt
 vergieße
 vergießen
-Vergießen
 vergießend
 vergießt
 verging
@@ -15090,7 +15061,6 @@ verkehrten
 Verkehrung
 verkenne
 verkennen
-Verkennen
 verkennend
 verkennst
 verkennt
@@ -15132,7 +15102,6 @@ Verkleidungen
 verkling
 verklinge
 verklingen
-Verklingen
 verklingend
 verklingst
 verklingt
@@ -15255,7 +15224,6 @@ verleiten
 verleitend
 verleitet
 Verleitung
-Verlern
 verlerne
 verlernen
 verlernend
@@ -15263,7 +15231,6 @@ verlernst
 verlernt
 verlese
 verlesen
-Verlesen
 verlesend
 verlest
 Verlesung
@@ -15361,8 +15328,6 @@ Vernehmer
 vernehmlich
 vernehmt
 Vernehmung
-Vernutzen
-Vernutzung
 verordne
 verordnen
 verordnend
@@ -15486,7 +15451,6 @@ verschafft
 verschaffte
 verschalt
 verschalte
-Verschalten
 verschalten
 verschalter
 Verschaltung
@@ -15520,7 +15484,6 @@ Verschiebungen
 verschieß
 verschieße
 verschießen
-Verschießen
 verschießend
 verschießt
 verschiff
@@ -15581,7 +15544,6 @@ verschreckt
 verschreib
 verschreibe
 verschreiben
-Verschreiben
 verschreibend
 verschreibst
 verschreibt
@@ -15610,7 +15572,6 @@ Verschüttung
 verschweig
 verschweige
 verschweigen
-Verschweigen
 verschweigend
 verschweigst
 verschweigt
@@ -15798,7 +15759,6 @@ Verstoß
 verstoß
 verstoße
 verstoßen
-Verstoßen
 verstoßend
 Verstoßes
 verstoßt
@@ -15809,7 +15769,6 @@ verstrahlend
 verstrahlst
 verstrahlt
 Verstrahlung
-Verstrecken
 Verstreckung
 verstreiche
 verstreichen
@@ -15916,7 +15875,6 @@ Vertrauung
 vertreib
 vertreibe
 vertreiben
-Vertreiben
 vertreibend
 Vertreiber
 vertreibst
@@ -16019,7 +15977,6 @@ Verwendung
 Verwendungen
 verwerfe
 verwerfen
-Verwerfen
 verwerfend
 verwerflich
 verwerft
@@ -16034,7 +15991,6 @@ verwertet
 Verwertung
 verwinde
 verwinden
-Verwinden
 verwindend
 Verwindung
 verwirf
@@ -16420,8 +16376,6 @@ vorsaht
 vorschalte
 vorschalten
 vorschaltend
-Vorscheid
-Vorscheider
 Vorscheids
 vorschicke
 vorschicken
@@ -16707,7 +16661,6 @@ wahrhaftig
 Wahrhaftigkeit
 Wahrheit
 Wahrheiten
-Wahrig
 wahrlich
 wahrst
 wahrsten
@@ -16786,7 +16739,6 @@ weicher
 weiches
 Weichheit
 weichlich
-Weichs
 weichst
 weicht
 weis
@@ -17053,8 +17005,6 @@ zerreibend
 zerreibst
 zerreibt
 Zerreibung
-Zerreiche
-Zerreichen
 zerreiß
 zerreißbar
 zerreiße

@@ -1113,13 +1113,9 @@ berieft
 beriet
 berieten
 berietst
-Bering
-Beringe
 beringe
 beringen
-Beringen
 beringend
-Berings
 beringst
 beringt
 Beringung
@@ -1180,10 +1176,6 @@ bespielen
 bespielend
 bespielst
 bespielt
-bespringe
-bespringen
-bespringst
-bespringt
 bestieg
 bestiegen
 bestiegst
@@ -2340,7 +2332,6 @@ nachklingen
 nachklingend
 nachklingst
 nachklingt
-Nachkriegs
 nachlief
 nachliefe
 nachliefen
@@ -2971,7 +2962,6 @@ undichter
 Unding
 Undinge
 Undingen
-Undinger
 Undings
 unlieb
 unliebe
@@ -3127,7 +3117,6 @@ Unwirksamkeit
 verbieg
 verbiege
 verbiegen
-Verbiegen
 verbiegend
 verbiegst
 verbiegt
@@ -3200,7 +3189,6 @@ verfingt
 verflieg
 verfliege
 verfliegen
-Verfliegen
 verfliegend
 verfliegst
 verfliegt
@@ -3229,7 +3217,6 @@ Verkippung
 verkling
 verklinge
 verklingen
-Verklingen
 verklingend
 verklingst
 verklingt
@@ -3315,7 +3302,6 @@ Verschiebungen
 verschieß
 verschieße
 verschießen
-Verschießen
 verschießend
 verschießt
 verschließ
@@ -3402,14 +3388,12 @@ vertriebst
 vertriebt
 verunsichert
 Verunsicherung
-Verviers
 verwies
 verwiese
 verwiesen
 verwiest
 verwinde
 verwinden
-Verwinden
 verwindend
 Verwindung
 verwirf
@@ -3469,7 +3453,6 @@ vorbringen
 vorbringend
 vorbringst
 vorbringt
-Vordingen
 vordringe
 vordringen
 vordringend

@@ -429,6 +429,7 @@ angeblich
 angebliche
 angeblichen
 angebt
+Angedenken
 angedeutet
 angefragt
 angeführt
@@ -1133,7 +1134,6 @@ Ausläufen
 Ausläufer
 ausläufst
 ausläuft
-Auslenken
 Auslenkung
 auslösbar
 auslöse
@@ -3605,7 +3605,6 @@ lösten
 Lösung
 Lösungen
 Lust
-Luster
 lustig
 lustige
 lustigen
@@ -3702,7 +3701,6 @@ nachdrückend
 nachdrücklich
 nachdrückst
 nachdrückt
-Nachdurst
 Nachdursts
 nacheile
 nacheilen
@@ -4874,6 +4872,7 @@ unverbindliche
 unverbindlichen
 unverbindliches
 unvereinbar
+Unvermögen
 unverständig
 unverständlich
 Unverständnis
@@ -4959,7 +4958,6 @@ verbündeten
 verdenk
 verdenke
 verdenken
-Verdenken
 verdenkend
 verdenkst
 verdenkt
@@ -5330,7 +5328,6 @@ Verwendung
 Verwendungen
 verwinde
 verwinden
-Verwinden
 verwindend
 Verwindung
 verwirke
@@ -5561,8 +5558,8 @@ wichtigstes
 Wichtung
 will
 Wille
-Willen
 willen
+Willen
 willig
 willigen
 willst
@@ -5660,8 +5657,6 @@ zerfällt
 zerlässt
 zerläufst
 zerläuft
-Zerreiche
-Zerreichen
 zerschnitt
 zerschnitten
 zerschnittst

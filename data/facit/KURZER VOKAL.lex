@@ -1172,7 +1172,6 @@ auslassen
 auslassend
 auslasst
 Auslassung
-Auslenken
 Auslenkung
 ausmachbar
 ausmache
@@ -4475,7 +4474,6 @@ verhüllt
 Verhüllung
 verkenne
 verkennen
-Verkennen
 verkennend
 verkennst
 verkennt
@@ -4494,7 +4492,6 @@ Verklappung
 verkling
 verklinge
 verklingen
-Verklingen
 verklingend
 verklingst
 verklingt
@@ -4549,8 +4546,6 @@ vermischst
 vermischt
 vermischtes
 Vermischung
-Vernutzen
-Vernutzung
 verpacke
 verpacken
 verpackend
@@ -4594,7 +4589,6 @@ verschafft
 verschaffte
 verschalt
 verschalte
-Verschalten
 verschalten
 verschalter
 Verschaltung
@@ -4744,7 +4738,6 @@ Verwendung
 Verwendungen
 verwerfe
 verwerfen
-Verwerfen
 verwerfend
 verwerflich
 verwerft
@@ -5341,7 +5334,6 @@ zuschalte
 zuschalten
 zuschaltend
 Zuschaltung
-Zuschätzung
 zuschicke
 zuschicken
 zuschickend

@@ -423,7 +423,6 @@ abtreiben
 abtreibend
 abtreibst
 abtreibt
-Abtreibung
 abtrete
 abtreten
 abtretend
@@ -4078,12 +4077,10 @@ nachgehend
 nachgeholt
 nachgehst
 nachgeht
-Nachgelegen
 nachgelesen
 nachgeliefert
 nachgesagt
 nachgewiesen
-Nachgraben
 Nachgrabung
 nachhole
 nachholen
@@ -4125,7 +4122,6 @@ nachlaufen
 nachlaufend
 Nachlaufs
 nachlauft
-Nachleben
 nachlege
 nachlegen
 nachlegend
@@ -5517,7 +5513,6 @@ verfielt
 verflieg
 verfliege
 verfliegen
-Verfliegen
 verfliegend
 verfliegst
 verfliegt
@@ -5686,7 +5681,6 @@ verleitet
 Verleitung
 verlese
 verlesen
-Verlesen
 verlesend
 verlest
 Verlesung
@@ -5763,7 +5757,6 @@ Verschiebungen
 verschieß
 verschieße
 verschießen
-Verschießen
 verschießend
 verschießt
 Verschlag
@@ -5788,7 +5781,6 @@ Verschneidung
 verschreib
 verschreibe
 verschreiben
-Verschreiben
 verschreibend
 verschreibst
 verschreibt
@@ -5834,7 +5826,6 @@ Verstoß
 verstoß
 verstoße
 verstoßen
-Verstoßen
 verstoßend
 Verstoßes
 verstoßt
@@ -5891,7 +5882,6 @@ verträgt
 vertreib
 vertreibe
 vertreiben
-Vertreiben
 vertreibend
 Vertreiber
 vertreibst
@@ -6100,8 +6090,6 @@ vorsah
 vorsahen
 vorsahst
 vorsaht
-Vorscheid
-Vorscheider
 Vorscheids
 vorschiebe
 vorschieben
@@ -6290,8 +6278,6 @@ zerlieft
 zerließ
 zerließen
 zerließt
-Zerreiche
-Zerreichen
 zerschieß
 zerschieße
 zerschießen

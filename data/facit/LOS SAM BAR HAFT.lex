@@ -20,6 +20,7 @@ abendlichen
 Abends
 abends
 Aberglaube
+Aberglauben
 abesse
 abessen
 abessend
@@ -308,6 +309,7 @@ Anführer
 anführst
 anführt
 Anführung
+Angedenken
 angedeutet
 angefahren
 angeführt
@@ -1671,7 +1673,6 @@ durchfahren
 durchfahrend
 Durchfahrt
 durchfahrt
-Durchformen
 Durchformung
 durchführbar
 durchführe
@@ -3194,7 +3195,6 @@ nachgehen
 nachgehend
 nachgehst
 nachgeht
-Nachgelegen
 nachgelesen
 nachhaltig
 nachhaltige
@@ -3209,7 +3209,6 @@ nachhöre
 nachhören
 nachhörst
 nachhört
-Nachleben
 nachlege
 nachlegen
 nachlegend
@@ -4178,7 +4177,6 @@ veranschlagt
 verbieg
 verbiege
 verbiegen
-Verbiegen
 verbiegend
 verbiegst
 verbiegt
@@ -4204,7 +4202,6 @@ verdankt
 verdenk
 verdenke
 verdenken
-Verdenken
 verdenkend
 verdenkst
 verdenkt
@@ -4345,7 +4342,6 @@ verhörst
 verhört
 verkenne
 verkennen
-Verkennen
 verkennend
 verkennst
 verkennt
@@ -4389,7 +4385,6 @@ verlegten
 Verlegung
 verlese
 verlesen
-Verlesen
 verlesend
 verlest
 Verlesung
@@ -4433,8 +4428,6 @@ Vernehmer
 vernehmlich
 vernehmt
 Vernehmung
-Vernutzen
-Vernutzung
 Verrat
 Verrate
 verrate
@@ -4473,7 +4466,6 @@ Verschuldung
 verschweig
 verschweige
 verschweigen
-Verschweigen
 verschweigend
 verschweigst
 verschweigt
@@ -4845,7 +4837,6 @@ wahrhaftig
 Wahrhaftigkeit
 Wahrheit
 Wahrheiten
-Wahrig
 wahrlich
 wahrst
 wahrsten
@@ -5021,8 +5012,6 @@ zerlegst
 zerlegt
 Zerlegung
 zerlesen
-Zerreiche
-Zerreichen
 zerschlag
 zerschlage
 zerschlagen

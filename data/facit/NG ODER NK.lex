@@ -92,7 +92,6 @@ absank
 absanken
 absankst
 absankt
-Abschranken
 Abschrankung
 abschwang
 abschwangen
@@ -197,6 +196,7 @@ anfingst
 anfingt
 Angang
 Angangs
+Angedenken
 angefangen
 angegangen
 angehängt
@@ -412,7 +412,6 @@ ausklingen
 ausklingend
 ausklingst
 ausklingt
-Auslenken
 Auslenkung
 ausschenke
 ausschenken
@@ -510,13 +509,9 @@ beranken
 berankst
 berankt
 Berankung
-Bering
-Beringe
 beringe
 beringen
-Beringen
 beringend
-Berings
 beringst
 beringt
 Beringung
@@ -557,10 +552,6 @@ besprengen
 besprengend
 besprengst
 besprengt
-bespringe
-bespringen
-bespringst
-bespringt
 betanke
 betanken
 betankst
@@ -1658,7 +1649,6 @@ undenklich
 Unding
 Undinge
 Undingen
-Undinger
 Undings
 uneingeschränkt
 uneingeschränkte
@@ -1710,7 +1700,6 @@ verdankt
 verdenk
 verdenke
 verdenken
-Verdenken
 verdenkend
 verdenkst
 verdenkt
@@ -1773,7 +1762,6 @@ verklangt
 verkling
 verklinge
 verklingen
-Verklingen
 verklingend
 verklingst
 verklingt
@@ -1865,7 +1853,6 @@ vorbringen
 vorbringend
 vorbringst
 vorbringt
-Vordingen
 vordrang
 vordränge
 vordrangen

@@ -73,10 +73,6 @@ abspringen
 abspringend
 abspringst
 abspringt
-abspritze
-abspritzen
-abspritzend
-abspritzt
 abspüle
 abspülen
 abspülend
@@ -828,10 +824,6 @@ besprengen
 besprengend
 besprengst
 besprengt
-bespringe
-bespringen
-bespringst
-bespringt
 bespritze
 bespritzen
 bespritzend
@@ -2507,7 +2499,6 @@ Verspannung
 Verspannungen
 verspeise
 verspeisen
-Verspeisen
 verspeisend
 verspeist
 Verspeisung
@@ -2678,7 +2669,6 @@ Verstoß
 verstoß
 verstoße
 verstoßen
-Verstoßen
 verstoßend
 Verstoßes
 verstoßt
@@ -2695,7 +2685,6 @@ verstrebend
 verstrebst
 verstrebt
 Verstrebung
-Verstrecken
 Verstreckung
 verstreiche
 verstreichen

@@ -320,7 +320,6 @@ aufpasst
 aufreiﬂe
 aufreiﬂen
 aufreiﬂend
-Aufreiﬂer
 aufreiﬂt
 Aufriss
 aufriss
@@ -540,7 +539,6 @@ belieﬂen
 belieﬂt
 bemaﬂ
 bem‰ﬂe
-Bemaﬂen
 bemaﬂen
 bem‰ﬂen
 bemaﬂt
@@ -1019,7 +1017,6 @@ gepasst
 gepresst
 gerissen
 geschlossen
-Geschmeiﬂ
 Geschoss
 Geschosse
 geschossen
@@ -1469,7 +1466,6 @@ ver‰uﬂert
 Ver‰uﬂerung
 verbeiﬂe
 verbeiﬂen
-Verbeiﬂen
 verbeiﬂend
 verbeiﬂt
 verbesser
@@ -1522,7 +1518,6 @@ verfressen
 vergewissern
 vergieﬂe
 vergieﬂen
-Vergieﬂen
 vergieﬂend
 vergieﬂt
 vergoss
@@ -1559,7 +1554,6 @@ verlieﬂen
 verlieﬂt
 vermaﬂ
 verm‰ﬂe
-Vermaﬂen
 vermaﬂen
 verm‰ﬂen
 vermaﬂt
@@ -1605,7 +1599,6 @@ verrisst
 verschieﬂ
 verschieﬂe
 verschieﬂen
-Verschieﬂen
 verschieﬂend
 verschieﬂt
 verschlieﬂ
@@ -1637,7 +1630,6 @@ Verstoﬂ
 verstoﬂ
 verstoﬂe
 verstoﬂen
-Verstoﬂen
 verstoﬂend
 Verstoﬂes
 verstoﬂt

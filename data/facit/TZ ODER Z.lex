@@ -86,10 +86,6 @@ abspreize
 abspreizen
 abspreizend
 abspreizt
-abspritze
-abspritzen
-abspritzend
-abspritzt
 Absturz
 Abstürze
 abstürze
@@ -209,7 +205,6 @@ aufhetzend
 Aufhetzer
 aufhetzt
 Aufhetzung
-Aufkratzen
 aufkreuze
 aufkreuzen
 aufkreuzend
@@ -1265,8 +1260,6 @@ vernetzt
 vernetzte
 vernetzten
 Vernetzung
-Vernutzen
-Vernutzung
 verpflanze
 verpflanzen
 verpflanzend
@@ -1290,7 +1283,6 @@ verschätzt
 verschmelz
 verschmelze
 verschmelzen
-Verschmelzen
 verschmelzend
 verschmelzt
 Verschmelzung
@@ -1460,7 +1452,6 @@ zusätzlichem
 zusätzlichen
 zusätzlicher
 zusätzliches
-Zuschätzung
 zusetze
 zusetzen
 zusetzend

@@ -181,8 +181,6 @@ abstützen
 abstützend
 abstützt
 Abstützung
-Abtäusche
-Abtäuschen
 Abträge
 Abträgen
 abträglich
@@ -1825,7 +1823,6 @@ nachhöre
 nachhören
 nachhörst
 nachhört
-Nachkühlen
 Nachkühlung
 Nachlässe
 Nachlässen
@@ -2464,7 +2461,6 @@ verfängst
 verfängt
 verfärbe
 verfärben
-Verfärben
 verfärbend
 verfärbst
 verfärbt
@@ -2602,7 +2598,6 @@ verrührst
 verrührt
 verschärfe
 verschärfen
-Verschärfen
 verschärfend
 verschärfst
 verschärft
@@ -3021,7 +3016,6 @@ zuschärfen
 zuschärfend
 zuschärfst
 zuschärft
-Zuschätzung
 Zuschläge
 Zuschlägen
 zuschlägst

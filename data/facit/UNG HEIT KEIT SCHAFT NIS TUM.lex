@@ -297,10 +297,6 @@ abordne
 abordnen
 abordnend
 Abordnung
-Abort
-Aborte
-Aborten
-Aborts
 abrechne
 abrechnen
 abrechnend
@@ -1525,7 +1521,6 @@ auslegst
 auslegt
 Auslegung
 Ausleitung
-Auslenken
 Auslenkung
 ausliefere
 Auslieferer
@@ -2663,7 +2658,6 @@ durchzieht
 durchzuführen
 durchzusetzen
 eigen
-Eigen
 eigene
 eigenem
 eigenen
@@ -3256,7 +3250,6 @@ Entscheidungen
 entschloss
 entschlossen
 entschlosst
-Entschriftung
 entsende
 entsenden
 entsendend
@@ -4529,7 +4522,6 @@ malt
 malte
 Mann
 mannbar
-Manne
 Mannen
 Mannes
 mannhaft
@@ -4655,7 +4647,6 @@ nachgeben
 nachgebend
 nachgebt
 nachgekommen
-Nachgelegen
 nachgeliefert
 nachgerüstet
 nachgieße
@@ -4694,7 +4685,6 @@ nachlassen
 nachlassend
 Nachlasses
 nachlasst
-Nachleben
 nachlege
 nachlegen
 nachlegend
@@ -6251,7 +6241,6 @@ verfängst
 verfängt
 verfärbe
 verfärben
-Verfärben
 verfärbend
 verfärbst
 verfärbt
@@ -6277,7 +6266,6 @@ Verfinsterung
 verflieg
 verfliege
 verfliegen
-Verfliegen
 verfliegend
 verfliegst
 verfliegt
@@ -6311,7 +6299,6 @@ Vergebung
 vergewissern
 vergieße
 vergießen
-Vergießen
 vergießend
 vergießt
 Vergleich
@@ -6385,7 +6372,6 @@ verirrt
 Verirrung
 verkenne
 verkennen
-Verkennen
 verkennend
 verkennst
 verkennt
@@ -6463,8 +6449,6 @@ vermischst
 vermischt
 vermischtes
 Vermischung
-Vernutzen
-Vernutzung
 verordne
 verordnen
 verordnend
@@ -6508,7 +6492,6 @@ verschafft
 verschaffte
 verschalt
 verschalte
-Verschalten
 verschalten
 verschalter
 Verschaltung
@@ -6519,7 +6502,6 @@ verscheidend
 verschieß
 verschieße
 verschießen
-Verschießen
 verschießend
 verschießt
 Verschläge
@@ -6539,7 +6521,6 @@ verschönern
 verschreib
 verschreibe
 verschreiben
-Verschreiben
 verschreibend
 verschreibst
 verschreibt
@@ -6832,8 +6813,6 @@ vorrichtend
 vorschalte
 vorschalten
 vorschaltend
-Vorscheid
-Vorscheider
 Vorscheids
 vorschieße
 vorschießen
@@ -6939,7 +6918,6 @@ wahrhaftig
 Wahrhaftigkeit
 Wahrheit
 Wahrheiten
-Wahrig
 wahrlich
 wahrst
 wahrsten
@@ -7102,8 +7080,6 @@ zerlegend
 zerlegst
 zerlegt
 Zerlegung
-Zerreiche
-Zerreichen
 zerschieß
 zerschieße
 zerschießen

@@ -373,6 +373,7 @@ angeblich
 angebliche
 angeblichen
 angebt
+Angedenken
 angefertigt
 angefertigte
 angefordert
@@ -2626,7 +2627,6 @@ nachgehen
 nachgehend
 nachgehst
 nachgeht
-Nachgelegen
 nachgelesen
 nachgeliefert
 nachhänge
@@ -2634,7 +2634,6 @@ nachhängen
 nachhängend
 nachhängst
 nachhängt
-Nachleben
 nachlege
 nachlegen
 nachlegend
@@ -3474,7 +3473,6 @@ Verdeckung
 verdenk
 verdenke
 verdenken
-Verdenken
 verdenkend
 verdenkst
 verdenkt
@@ -3555,7 +3553,6 @@ verkehrten
 Verkehrung
 verkenne
 verkennen
-Verkennen
 verkennend
 verkennst
 verkennt
@@ -3591,7 +3588,6 @@ verlegten
 Verlegung
 verlese
 verlesen
-Verlesen
 verlesend
 verlest
 Verlesung
@@ -3788,7 +3784,6 @@ Verwendung
 Verwendungen
 verwerfe
 verwerfen
-Verwerfen
 verwerfend
 verwerflich
 verwerft
@@ -4292,7 +4287,6 @@ zusammenzählen
 zusammenzählend
 zusammenzählst
 zusammenzählt
-Zuschätzung
 Zuschläge
 Zuschlägen
 zuschlägst

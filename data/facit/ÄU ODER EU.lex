@@ -24,8 +24,6 @@ abstreuend
 abstreust
 abstreut
 Abstreuung
-Abtäusche
-Abtäuschen
 abzäune
 abzäunen
 abzäunend
@@ -270,8 +268,6 @@ beteuere
 beteuerst
 beteuert
 Beteuerung
-Beträume
-Beträumen
 betreue
 betreuen
 betreuend
@@ -894,7 +890,6 @@ umsäumen
 umsäumend
 umsäumst
 umsäumt
-Umschäumen
 umsteuere
 umsteuerst
 umsteuert
@@ -934,7 +929,6 @@ veräußert
 Veräußerung
 verbeuge
 verbeugen
-Verbeugen
 verbeugend
 verbeugst
 verbeugt
@@ -1019,7 +1013,6 @@ vorläufigen
 vorläufiger
 vorläufst
 vorläuft
-Vorläuten
 vorseufze
 vorseufzen
 vorseufzt

@@ -61,9 +61,6 @@ Expander::Expander(const QByteArray& affixFile, const QByteArray& dictionary)
     readEntries(dictionary);
     if (flags_.empty() || entries_.empty())
         throw InputError(u"the affix file or the dictionary holds nothing to expand"_s);
-    for (const Entry& entry : entries_)
-        if (isInfinitive(entry))
-            infinitives_.insert(entry.word);
 }
 
 void Expander::readRules(const QByteArray& affixFile)
@@ -95,9 +92,11 @@ void Expander::readEntries(const QByteArray& dictionary)
         const QString line = raw.trimmed();
         if (!word.match(line).hasMatch())
             continue;
-        const QString flags = line.section(u'/', 1);
-        if (!flags.contains(onlyInCompound) && !flags.contains(forbidden))
-            entries_.push_back({line.section(u'/', 0, 0), flags});
+        const Entry entry{line.section(u'/', 0, 0), line.section(u'/', 1)};
+        if (isInfinitive(entry))
+            infinitives_.insert(entry.word);
+        if (!entry.flags.contains(onlyInCompound) && !entry.flags.contains(forbidden))
+            entries_.push_back(entry);
     }
 }
 
@@ -105,9 +104,11 @@ bool Expander::isInfinitive(const Entry& entry)
 {
     if (!entry.word[0].isLower())
         return false;
-    // strong verbs with a prefix stand form by form, without flags
-    return entry.flags.isEmpty() ? endsLikeInfinitive(entry.word)
-                                 : entry.word.endsWith(u'n') && hasAny(entry.flags, verbFlags);
+    // strong verbs with a prefix stand form by form, without flags; of some verbs only the part
+    // for compounds stands there
+    return entry.flags.isEmpty() || entry.flags.contains(onlyInCompound)
+               ? endsLikeInfinitive(entry.word)
+               : entry.word.endsWith(u'n') && hasAny(entry.flags, verbFlags);
 }
 
 unsigned Expander::originOf(const Entry& entry, bool base, QChar suffixFlag) const
