@@ -9503,7 +9503,6 @@ gehe
 geheilt
 geheizt
 gehen
-Gehen
 gehend
 gehende
 gehenden

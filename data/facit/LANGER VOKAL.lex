@@ -3627,7 +3627,6 @@ gegraben
 geh
 gehe
 gehen
-Gehen
 gehend
 gehende
 gehenden

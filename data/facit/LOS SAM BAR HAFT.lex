@@ -2729,7 +2729,6 @@ gehaltlos
 Gehalts
 gehe
 gehen
-Gehen
 gehend
 gehende
 gehenden

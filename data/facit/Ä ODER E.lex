@@ -2312,7 +2312,6 @@ Gehängen
 gehängt
 gehe
 gehen
-Gehen
 gehend
 gehende
 gehenden
