@@ -12,6 +12,7 @@
 #include "platform/procedure.h"
 #include "platform/settings_store.h"
 #include "platform/text.h"
+#include "widgets/guards.h"
 
 #include <QCloseEvent>
 #include <QDropEvent>
@@ -107,10 +108,12 @@ void frmOptions::cmdCancel_Click() { done(QDialog::Rejected); }
 
 void frmOptions::apply()
 {
-    setCursor(Qt::WaitCursor);
-    const bool saved = ground_.options.ApplySettings();
-    ground_.pump.yield();
-    unsetCursor();
+    bool saved = false;
+    {
+        const Hourglass glass;
+        saved = ground_.options.ApplySettings();
+        ground_.pump.yield();
+    }
     if (!saved)
         ground_.boxes.plainBox(
             Boxes::Icon::Warning, programTitle + u" - Fehler"_s,

@@ -38,6 +38,7 @@ clsTextBox::Mask maskOf(SettingType type)
 QLineEdit *makeTextField(const SettingRow &row, Options &options, QWidget *parent)
 {
     auto *box = new QLineEdit(options.text(row.id), parent);
+    box->setFixedHeight(21);
     new clsTextBox(box, maskOf(row.type));
     if (row.type != SettingType::Path) {
         box->setFixedWidth(56);
@@ -106,7 +107,6 @@ clsTextBox::clsTextBox(QLineEdit *box, Mask mask)
     : QObject(box)
     , pBackColor_GotFocus(255, 255, 225)
     , pForeColor_GotFocus(Qt::black)
-    , pBackColor_Normal(box->palette().color(QPalette::Window))
     , pForeColor_Normal(box->palette().color(QPalette::WindowText))
     , box_(box)
     , mask_(mask)
@@ -190,9 +190,11 @@ template <typename Button> void WrappingButton<Button>::paintEvent(QPaintEvent *
     QPainter painter(this);
     QStyleOptionButton option;
     this->initStyleOption(&option);
-    const QRect text(indicatorWidth(), 1, this->width() - indicatorWidth(), this->height() - 2);
+    const int spare = std::max(0, this->height() - heightForWidth(this->width())) / 2;
+    const QRect text(indicatorWidth(), spare + 1, this->width() - indicatorWidth(),
+                     this->height() - spare - 1);
     const int size = this->style()->pixelMetric(QStyle::PM_IndicatorHeight, nullptr, this);
-    const int top = std::max(0, 1 + (this->fontMetrics().height() - size) / 2);
+    const int top = std::max(0, text.top() + (this->fontMetrics().height() - size) / 2);
     option.rect = QRect(0, top, this->style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, this), size);
     const bool isCheck = std::is_same_v<Button, QCheckBox>;
     this->style()->drawPrimitive(isCheck ? QStyle::PE_IndicatorCheckBox : QStyle::PE_IndicatorRadioButton,

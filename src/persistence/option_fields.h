@@ -11,6 +11,9 @@
 class Options;
 class QLineEdit;
 
+/// The background of the options window, and of its text boxes while they have no focus.
+inline constexpr QColor optionsPaper{234, 243, 255};
+
 /// What a text box needs to take numbers only and to show that it has the focus: a mask that drops what is no
 /// number while it is typed, and four colours.
 class clsTextBox : public QObject
@@ -26,7 +29,7 @@ public:
     bool pAllowColorChange = true;
     QColor pBackColor_GotFocus;
     QColor pForeColor_GotFocus;
-    QColor pBackColor_Normal;
+    QColor pBackColor_Normal = optionsPaper;
     QColor pForeColor_Normal;
 
 protected:

@@ -50,11 +50,9 @@ constexpr std::array<ButtonRow, 10> buttonRows{{
 }};
 
 const QString pageStyle = uR"(
-#frmOptions { background: #eaf3ff; }
-QStackedWidget, QScrollArea, QScrollArea > QWidget > QWidget { background: #eaf3ff; }
 QGroupBox { font-weight: bold; border: 1px solid #9cc3f5; border-radius: 6px; margin-top: 7px; padding: 6px 8px 3px 8px; }
 QGroupBox::title { subcontrol-origin: margin; left: 10px; padding: 0 4px; color: #1a4f9c; }
-QToolButton { border: 1px solid transparent; border-radius: 6px; padding: 8px 10px; text-align: left; color: black; background: transparent; }
+QToolButton { border: 1px solid transparent; border-radius: 6px; padding: 8px 10px; color: black; background: transparent; }
 QToolButton:hover { background: rgba(255, 255, 255, 110); }
 QToolButton:checked { background: white; border-color: #3d95ff; font-weight: bold; }
 QToolButton:focus { border-color: #1a4f9c; }
@@ -78,6 +76,10 @@ OptionsView::OptionsView(Options &options, QWidget *parent)
     : QWidget(parent)
     , options_(options)
 {
+    QPalette colours = palette();
+    colours.setColor(QPalette::Window, optionsPaper);
+    setPalette(colours);
+    setAutoFillBackground(true);
     setStyleSheet(pageStyle);
     auto *right = new QVBoxLayout;
     right->setSpacing(0);
@@ -128,7 +130,7 @@ QWidget *OptionsView::makeBanner()
     auto *picBanner = new GradientPanel(this);
     picBanner->setObjectName(u"picBanner"_s);
     auto *line = new QHBoxLayout(picBanner);
-    line->setContentsMargins(14, 7, 14, 7);
+    line->setContentsMargins(14, 5, 14, 5);
     lblSelected_ = new QLabel(picBanner);
     lblSelected_->setObjectName(u"lblSelected"_s);
     lblSelected_->setTextFormat(Qt::PlainText);
@@ -144,7 +146,7 @@ QWidget *OptionsView::makeFoot()
 {
     auto *foot = new QWidget(this);
     auto *line = new QHBoxLayout(foot);
-    line->setContentsMargins(12, 6, 12, 8);
+    line->setContentsMargins(12, 4, 12, 6);
     line->addStretch(1);
     for (const auto &[name, caption] :
          {std::pair{u"cmdOK"_s, u"OK"_s}, std::pair{u"cmdCancel"_s, u"Abbrechen"_s}}) {
@@ -158,41 +160,44 @@ QWidget *OptionsView::makeFoot()
 
 QWidget *OptionsView::makePage(const QString &name)
 {
-    auto *page = new QWidget;
+    auto *page = new QWidget(this);
     page->setObjectName(name);
     auto *columns = new QGridLayout(page);
-    columns->setContentsMargins(12, 4, 12, 4);
+    columns->setContentsMargins(12, 6, 12, 4);
     columns->setHorizontalSpacing(12);
     columns_.insert(name, columns);
     // A page takes lines of its own, above the frames of its first column.
     auto *own = new QVBoxLayout;
+    own->setSpacing(7);
     auto *left = new QVBoxLayout;
     left->addLayout(own);
     columns->addLayout(left, 0, 0);
     columns->addLayout(new QVBoxLayout, 0, 1);
     columns->setColumnStretch(0, 1);
+    columns->setColumnStretch(1, 1);
     frames_.insert(name, own);
 
     auto *area = new QScrollArea(this);
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
     area->setWidget(page);
+    // The paper of the window shows through.
+    page->setAutoFillBackground(false);
+    area->viewport()->setAutoFillBackground(false);
     return area;
 }
 
 void OptionsView::makeFrames()
 {
     for (const FrameRow &row : options_layout::frames) {
-        auto *frame = new QGroupBox(text(row.title));
+        auto *frame = new QGroupBox(text(row.title), this);
         frame->setObjectName(text(row.frame));
         auto *lines = new QVBoxLayout(frame);
         lines->setContentsMargins(4, 6, 4, 2);
-        lines->setSpacing(4);
+        lines->setSpacing(3);
         frames_.insert(text(row.frame), lines);
-        if (QGridLayout *columns = columns_.value(text(row.parent))) {
+        if (QGridLayout *columns = columns_.value(text(row.parent)))
             columns->itemAtPosition(0, row.column)->layout()->addWidget(frame);
-            columns->setColumnStretch(row.column, 1);
-        }
     }
 }
 
