@@ -2,6 +2,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 wortel_test(platform
     SOURCES
+        tst_options.cpp
         tst_files.cpp
         tst_procedure.cpp
         tst_runtime_error.cpp

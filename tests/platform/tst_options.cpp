@@ -1,0 +1,192 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/options.h"
+#include "platform/runtime_error.h"
+#include "platform/text_masks.h"
+#include "support/registry.h"
+#include "support/test_ground.h"
+
+#include <QSet>
+#include <QSignalSpy>
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+
+class OptionsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void everyRowHasAnOwnKeyAndAPlace()
+    {
+        QSet<QLatin1String> keys;
+        for (const SettingRow &row : settingsTable()) {
+            keys.insert(QLatin1String(row.key));
+            QVERIFY2(!QString::fromUtf16(row.caption).isEmpty(), row.key);
+            QCOMPARE(settingRow(row.beside).frame, row.frame);
+            QVERIFY2(settingRow(row.beside).beside == row.beside, row.key);
+            QCOMPARE(optionGroup(row.id) != nullptr, row.type == SettingType::Option);
+        }
+        QCOMPARE(keys.size(), static_cast<qsizetype>(Setting::Count));
+    }
+
+    void firstRunShowsEveryDefault()
+    {
+        TestGround t;
+        t.options.GetSettings();
+        for (const SettingRow &row : settingsTable())
+            QCOMPARE(t.options.text(row.id),
+                     QString::fromUtf16(row.fallback).replace(u"%APP%"_s, t.AppFolder));
+        t.options.subSnapShot();
+        QVERIFY(!t.options.IsChanged());
+        QCOMPARE(t.options.text(Setting::MaxTriesToPlace), u"1"_s);
+        QVERIFY(t.options.isOn(Setting::ScrollerRndPos));
+    }
+
+    void everySettingIsKept()
+    {
+        TestGround t;
+        for (const SettingRow &row : settingsTable()) {
+            if (row.type == SettingType::Box)
+                t.options.setBox(row.id, t.options.isOn(row.id) ? 2 : 1);
+            else if (row.type == SettingType::Option)
+                t.options.setOption(row.id);
+            else
+                t.options.setText(row.id, row.type == SettingType::Path ? u"C:\\Bäume\\x y.txt"_s : u"123"_s);
+        }
+        QVERIFY(t.options.ApplySettings());
+        Options next(t.store, t.AppFolder, t.log);
+        next.GetSettings();
+        for (const SettingRow &row : settingsTable())
+            QCOMPARE(next.text(row.id), t.options.text(row.id));
+        QVERIFY(next.isOn(Setting::GameDifficult3));
+        QVERIFY(!next.isOn(Setting::GameDifficult1));
+        QVERIFY(!next.isOn(Setting::UseUndo)); // third state
+    }
+
+    void storedTexts_data()
+    {
+        QTest::addColumn<Setting>("id");
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<QString>("shown");
+        const QString before = u"(before)"_s;
+        QTest::newRow("box on") << Setting::UseBackup << u"1"_s << u"1"_s;
+        QTest::newRow("box in its third state") << Setting::UseBackup << u"2"_s << u"2"_s;
+        QTest::newRow("box out of range") << Setting::UseBackup << u"3"_s << before;
+        QTest::newRow("box beyond 16 bits") << Setting::UseBackup << u"70000"_s << before;
+        QTest::newRow("box garbage") << Setting::UseBackup << u"ja\x01ö"_s << before;
+        QTest::newRow("box empty") << Setting::UseBackup << QString() << before;
+        QTest::newRow("option by number") << Setting::ScrollerMiddlePos << u"-1"_s << u"True"_s;
+        QTest::newRow("option in small letters") << Setting::ScrollerMiddlePos << u"true"_s << u"True"_s;
+        QTest::newRow("option zero") << Setting::ScrollerRndPos << u"0"_s << u"False"_s;
+        QTest::newRow("option garbage") << Setting::ScrollerRndPos << u"vielleicht"_s << before;
+        QTest::newRow("number garbage") << Setting::NumWortel << u"a1b-2\n3"_s << u"123"_s;
+        QTest::newRow("number huge") << Setting::NumWortel << u"99999999999999999999"_s
+                                     << u"99999999999999999999"_s;
+        QTest::newRow("signed") << Setting::AddToSuffixPosition << u"x-1-00"_s << u"-100"_s;
+        QTest::newRow("any text") << Setting::GamePrepareTimeOut << u"5,5 min"_s << u"5,5 min"_s;
+        QTest::newRow("path") << Setting::WortelFile << u"Z:\\ß\\\"a\".txt"_s << u"Z:\\ß\\\"a\".txt"_s;
+        QTest::newRow("long") << Setting::BackgroundPicture << QString(10000, u'x') << QString(10000, u'x');
+    }
+    void storedTexts()
+    {
+        QFETCH(Setting, id);
+        QFETCH(QString, stored);
+        QFETCH(QString, shown);
+        TestGround t;
+        const QString before = t.options.text(id);
+        t.store.SaveSetting(u"Settings"_s, QLatin1String(settingRow(id).key), stored);
+        t.options.GetSettings();
+        QCOMPARE(t.options.text(id), shown == u"(before)"_s ? before : shown);
+    }
+
+    void readersPastTheEditedValue_data()
+    {
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<bool>("on");
+        QTest::newRow("0") << u"0"_s << false;
+        QTest::newRow("1") << u"1"_s << true;
+        QTest::newRow("2") << u"2"_s << true;
+        QTest::newRow("False") << u"False"_s << false;
+        QTest::newRow("garbage gives the default") << u"??"_s << true;
+    }
+    void readersPastTheEditedValue()
+    {
+        QFETCH(QString, stored);
+        QFETCH(bool, on);
+        TestGround t;
+        t.store.SaveSetting(u"Settings"_s, u"UseUndo"_s, stored);
+        t.options.setBox(Setting::UseUndo, on ? 0 : 1);
+        QCOMPARE(t.options.storedIsOn(Setting::UseUndo), on);
+    }
+
+    void blankFieldsAreRepaired_data()
+    {
+        QTest::addColumn<Setting>("id");
+        QTest::addColumn<QString>("repaired");
+        QTest::newRow("NumWortel") << Setting::NumWortel << u"20"_s;
+        QTest::newRow("MaxTriesToPlace") << Setting::MaxTriesToPlace << u"1000"_s;
+        QTest::newRow("WortelFile") << Setting::WortelFile << u"%APP%text\\Hauptbausteine.Txt"_s;
+        QTest::newRow("VokalTipTime has none") << Setting::VokalTipTime << QString();
+        QTest::newRow("BackgroundPicture has none") << Setting::BackgroundPicture << QString();
+    }
+    void blankFieldsAreRepaired()
+    {
+        QFETCH(Setting, id);
+        QFETCH(QString, repaired);
+        TestGround t;
+        t.options.setText(id, settingRow(id).type == SettingType::Path ? u"   "_s : QString());
+        QSignalSpy applied(&t.options, &Options::applied);
+        QVERIFY(t.options.ApplySettings());
+        QCOMPARE(applied.count(), 1);
+        QCOMPARE(t.options.stored(id).trimmed(), repaired.replace(u"%APP%"_s, t.AppFolder));
+    }
+
+    void aStoreThatCannotBeWrittenIsTold()
+    {
+        struct FullStore : MemoryStore
+        {
+            void SaveSetting(const QString &, const QString &, const QString &) override
+            {
+                throw RuntimeError::of(RuntimeError::DiskFull);
+            }
+        } store;
+        TestGround t;
+        Options options(store, t.AppFolder, t.log);
+        QSignalSpy applied(&options, &Options::applied);
+        options.setText(Setting::NumWortel, u"7"_s);
+        QVERIFY(!options.ApplySettings());
+        QCOMPARE(applied.count(), 1); // in force all the same, until the program ends
+        QCOMPARE(options.number(Setting::NumWortel), 7.0);
+    }
+
+    void masks_data()
+    {
+        QTest::addColumn<bool>("all");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<int>("caret");
+        QTest::addColumn<QString>("kept");
+        QTest::addColumn<int>("caretAfter");
+        QTest::newRow("digits stay") << false << u"0129"_s << 2 << u"0129"_s << 2;
+        QTest::newRow("dropped before the caret") << false << u"1a2b3"_s << 4 << u"123"_s << 2;
+        QTest::newRow("dropped behind the caret") << false << u"1a2b3"_s << 1 << u"123"_s << 1;
+        QTest::newRow("minus goes") << false << u"-100"_s << 1 << u"100"_s << 0;
+        QTest::newRow("minus stays in front") << true << u"-100"_s << 1 << u"-100"_s << 1;
+        QTest::newRow("one minus only") << true << u"--1-0"_s << 5 << u"-10"_s << 3;
+        QTest::newRow("minus behind letters leads") << true << u"ab-4"_s << 4 << u"-4"_s << 2;
+        QTest::newRow("other scripts' digits go") << true << u"\u0663\u00B27"_s << 3 << u"7"_s << 1;
+    }
+    void masks()
+    {
+        QFETCH(bool, all);
+        QFETCH(QString, typed);
+        QFETCH(int, caret);
+        QFETCH(QString, kept);
+        QFETCH(int, caretAfter);
+        QCOMPARE(all ? Integer_All(typed, &caret) : Integer_Pos(typed, &caret), kept);
+        QCOMPARE(caret, caretAfter);
+    }
+};
+
+WORTEL_TEST(OptionsTest)
+#include "tst_options.moc"
