@@ -21,6 +21,7 @@ struct Modes
     bool KernlingCancel = false;
     bool PlacingBusy = false;
     bool StopPlacing = false;
+    bool Closing = false; ///< the window is going: a search that would run on ends
     bool MoveAllowed = true;
     bool WordCheckDrag = false;
     bool BackupBusy = false;

@@ -1,0 +1,76 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "board/opt_types.h"
+
+#include "widgets/main_controls.h"
+#include "widgets/press_button.h"
+
+#include <QButtonGroup>
+
+namespace {
+constexpr int mostWidthsKept = 4096;
+constexpr int longestTextKept = 64;
+} // namespace
+
+OptTypes::OptTypes(const MainControls &controls, QObject *parent)
+    : QObject(parent)
+    , controls_(controls)
+{
+    auto *group = new QButtonGroup(this);
+    for (std::size_t i = 0; i < controls.OptType.size(); ++i) {
+        PressButton *button = controls.OptType[i];
+        button->setCheckable(true);
+        group->addButton(button);
+        const int index = static_cast<int>(i);
+        connect(button, &PressButton::toggled, this, [this, index](bool on) {
+            if (on)
+                emit clicked(index);
+        });
+    }
+}
+
+QString OptTypes::caption(int index) const
+{
+    return controls_.OptType.at(static_cast<std::size_t>(index))->text();
+}
+
+void OptTypes::setCaption(int index, const QString &text)
+{
+    controls_.OptType.at(static_cast<std::size_t>(index))->setText(text);
+}
+
+int OptTypes::selected() const
+{
+    for (std::size_t i = 0; i < controls_.OptType.size(); ++i)
+        if (controls_.OptType[i]->isChecked())
+            return static_cast<int>(i);
+    return TileFilter::all;
+}
+
+void OptTypes::select(int index)
+{
+    if (index >= 0 && index < static_cast<int>(controls_.OptType.size()))
+        controls_.OptType[static_cast<std::size_t>(index)]->setChecked(true);
+}
+
+FormMeasures::FormMeasures(const MainControls &controls)
+    : controls_(controls)
+    , metrics_(controls.form->font())
+{}
+
+int FormMeasures::textWidth(const QString &text) const
+{
+    const auto known = widths_.constFind(text);
+    if (known != widths_.cend())
+        return *known;
+    const int width = metrics_.horizontalAdvance(text);
+    if (widths_.size() >= mostWidthsKept)
+        widths_.clear();
+    if (text.size() <= longestTextKept)
+        widths_.insert(text, width);
+    return width;
+}
+
+int FormMeasures::ScaleWidth() const { return controls_.form->width(); }
+
+int FormMeasures::ScaleHeight() const { return controls_.form->height(); }
