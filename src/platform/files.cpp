@@ -33,20 +33,10 @@ QString entryOf(const QString &folder, const QString &name)
     return {};
 }
 
-/// True if the bytes hold characters beyond ASCII, all of them well-formed UTF-8. German text in Windows-1252
-/// never looks so.
-bool looksLikeUtf8(const QByteArray &bytes)
-{
-    if (std::all_of(bytes.begin(), bytes.end(),
-                    [](char byte) { return static_cast<signed char>(byte) >= 0; }))
-        return false;
-    return bytes.isValidUtf8();
-}
-
 QString decodeList(const QByteArray &bytes)
 {
     QStringDecoder decoder;
-    if (bytes.startsWith("\xEF\xBB\xBF") || looksLikeUtf8(bytes))
+    if (isUtf8(bytes))
         decoder = QStringDecoder(QStringDecoder::Utf8);
     else if (bytes.startsWith("\xFF\xFE") || bytes.startsWith("\xFE\xFF"))
         decoder = QStringDecoder(QStringDecoder::Utf16);
@@ -171,6 +161,14 @@ QByteArray ReadWholeFile(const QString &path)
     if (file.error() != QFileDevice::NoError)
         raise(75);
     return bytes;
+}
+
+bool isUtf8(const QByteArray &bytes)
+{
+    if (bytes.startsWith("\xEF\xBB\xBF"))
+        return true;
+    const auto isAscii = [](char byte) { return static_cast<signed char>(byte) >= 0; };
+    return !std::all_of(bytes.begin(), bytes.end(), isAscii) && bytes.isValidUtf8();
 }
 
 QStringList readListFile(const QString &path, bool keepBlank)

@@ -6,8 +6,9 @@
 #include <QString>
 #include <QStringList>
 
-/// The one place where the program's stored paths (backslashes, any case) meet the file system, and the one helper by which files are
-/// written. Reading maps "\" to "/" and finds a file whatever the case of its name or its folders' names below an existing folder.
+/// The one place where the program's stored paths (backslashes, any case) meet the file system, and the one
+/// helper by which files are written. Reading maps "\" to "/" and finds a file whatever the case of its name
+/// or its folders' names below an existing folder.
 
 /// The path as the file system takes it: separators mapped, the true case of existing parts found. A path
 /// that does not exist is returned mapped, with the case of its longest existing part corrected.
@@ -24,10 +25,15 @@ QString listBaseName(const QString &path);
 
 /// The whole file. Throws RuntimeError 53 if it is missing, 70 if it may not be read, 75 for other faults.
 QByteArray ReadWholeFile(const QString &path);
-/// The trimmed, non-empty entries of a list file (Windows-1252; CR LF, CR or LF; a NUL ends nothing and is dropped; UTF-8 with a
-/// byte-order mark or valid multi-byte sequences throughout is recognised). With `keepBlank` blank lines stay as empty entries. Throws as ReadWholeFile.
+/// True for bytes with a UTF-8 mark, and for bytes that hold characters beyond ASCII, all of them well-formed
+/// UTF-8. German text in Windows-1252 never looks so.
+bool isUtf8(const QByteArray &bytes);
+/// The trimmed, non-empty entries of a list file (Windows-1252; CR LF, CR or LF; a NUL ends nothing and is
+/// dropped; UTF-8 with a byte-order mark or valid multi-byte sequences throughout is recognised). With
+/// `keepBlank` blank lines stay as empty entries. Throws as ReadWholeFile.
 QStringList readListFile(const QString &path, bool keepBlank = false);
 
-/// Replaces `path` by `bytes`: written beside, flushed, renamed, so that a reader finds the old bytes or the new, never a mix.
-/// Falls back to writing in place only if the temporary file could not be opened. Throws RuntimeError 61, 70, 75 or 76; the old file then stays.
+/// Replaces `path` by `bytes`: written beside, flushed, renamed, so that a reader finds the old bytes or the
+/// new, never a mix. Falls back to writing in place only if the temporary file could not be opened. Throws
+/// RuntimeError 61, 70, 75 or 76; the old file then stays.
 void writeFileAtomically(const QString &path, const QByteArray &bytes);

@@ -4,8 +4,11 @@ wortel_test(platform
     SOURCES
         tst_options.cpp
         tst_files.cpp
+        tst_ini_file.cpp
         tst_procedure.cpp
         tst_runtime_error.cpp
+        tst_settings_file.cpp
+        tst_system_info.cpp
         tst_text.cpp
         tst_word_store.cpp
 )

@@ -2,12 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/files.h"
 #include "support/error_of.h"
+#include "support/file_size_limit.h"
 #include "support/registry.h"
 
 #include <QtTest>
 
-#include <csignal>
-#include <sys/resource.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -26,24 +25,6 @@ QByteArray get(const QString &path)
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing");
 }
-
-/// No file may grow beyond `bytes` while this lives: what a full disk looks like to a writer.
-class FileSizeLimit
-{
-public:
-    explicit FileSizeLimit(rlim_t bytes)
-    {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &old_);
-        const rlimit tight{bytes, old_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &tight);
-    }
-    ~FileSizeLimit() { setrlimit(RLIMIT_FSIZE, &old_); }
-    Q_DISABLE_COPY_MOVE(FileSizeLimit)
-
-private:
-    rlimit old_{};
-};
 
 } // namespace
 

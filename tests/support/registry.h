@@ -8,8 +8,9 @@
 #include <memory>
 #include <vector>
 
-/// A test program holds the test classes of one folder. Each registers itself with WORTEL_TEST(Class) at the end of its file; the shared main runs
-/// them in turn. `tst_board TileTest` runs one class, further arguments go to Qt Test.
+/// A test program holds the test classes of one folder. Each registers itself with WORTEL_TEST(Class) at the
+/// end of its file; the shared main runs them in turn. `tst_board TileTest` runs one class, further arguments
+/// go to Qt Test.
 namespace testing {
 
 struct Entry

@@ -1,0 +1,168 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/ini_file.h"
+
+#include "platform/files.h"
+#include "platform/text.h"
+#include "platform/windows1252.h"
+
+#include <QFileInfo>
+#include <QStringDecoder>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QByteArray utf8Mark = "\xEF\xBB\xBF";
+
+/// Without the blanks at its ends, in the form in which names are compared.
+QString foldedName(const QString &name) { return UCase(name.trimmed()); }
+
+/// On one line, since a line end would end the entry.
+QString oneLine(QString text)
+{
+    for (QChar &character : text)
+        if (character == u'\r' || character == u'\n' || character == QChar::Null)
+            character = u' ';
+    return text;
+}
+
+bool isBlank(const QByteArray &line) { return line.trimmed().isEmpty(); }
+
+/// Gives the last line of `lines` a line end, so that another may follow.
+void endLastLine(std::vector<QByteArray> &lines)
+{
+    if (!lines.empty() && !lines.back().endsWith('\n') && !lines.back().endsWith('\r'))
+        lines.back() += "\r\n";
+}
+
+} // namespace
+
+IniFile::IniFile(const QString &path)
+    : path_(path)
+{
+    sections_.emplace_back();
+    if (!QFileInfo::exists(nativePath(path)))
+        return;
+    QByteArray bytes = ReadWholeFile(path);
+    if (bytes.startsWith("\xFF\xFE") || bytes.startsWith("\xFE\xFF")) {
+        QStringDecoder decoder(QStringDecoder::Utf16);
+        bytes = utf8Mark + QString(decoder.decode(bytes)).toUtf8();
+    }
+    if (isUtf8(bytes))
+        encoding_ = Encoding::Utf8;
+    parse(bytes);
+}
+
+void IniFile::parse(const QByteArray &bytes)
+{
+    qsizetype from = 0;
+    while (from < bytes.size()) {
+        qsizetype to = from;
+        while (to < bytes.size() && bytes[to] != '\r' && bytes[to] != '\n')
+            ++to;
+        if (to < bytes.size())
+            to += bytes[to] == '\r' && to + 1 < bytes.size() && bytes[to + 1] == '\n' ? 2 : 1;
+        addLine(bytes.mid(from, to - from));
+        from = to;
+    }
+}
+
+void IniFile::addLine(const QByteArray &line)
+{
+    QByteArray text = line.trimmed();
+    if (text.startsWith(utf8Mark))
+        text.remove(0, utf8Mark.size());
+    const qsizetype end = text.startsWith('[') ? text.lastIndexOf(']') : -1;
+    if (end > 0)
+        addSection(decode(text.mid(1, end - 1)));
+    sections_.back().push_back(line);
+    if (end > 0)
+        return;
+    const qsizetype equals = text.startsWith(';') ? -1 : text.indexOf('=');
+    if (equals >= 0) {
+        const int section = static_cast<int>(sections_.size()) - 1;
+        const std::pair key{section, foldedName(decode(text.first(equals)))};
+        if (!keyIndex_.contains(key))
+            keyIndex_.insert(key, static_cast<int>(sections_.back().size()) - 1);
+    }
+}
+
+int IniFile::addSection(const QString &name)
+{
+    const int section = static_cast<int>(sections_.size());
+    sections_.emplace_back();
+    const QString folded = foldedName(name);
+    if (!sectionIndex_.contains(folded))
+        sectionIndex_.insert(folded, section);
+    return section;
+}
+
+QString IniFile::read(const QString &section, const QString &key, const QString &fallback, int limit) const
+{
+    const auto place = sectionIndex_.constFind(foldedName(section));
+    if (place == sectionIndex_.cend())
+        return fallback.left(limit);
+    const auto row = keyIndex_.constFind({*place, foldedName(key)});
+    if (row == keyIndex_.cend())
+        return fallback.left(limit);
+    const QByteArray &line = sections_[static_cast<std::size_t>(*place)][static_cast<std::size_t>(*row)];
+    QByteArray value = line.mid(line.indexOf('=') + 1).trimmed();
+    if (value.size() >= 2 && value.startsWith('"') && value.endsWith('"'))
+        value = value.mid(1, value.size() - 2);
+    return decode(value).remove(QChar::Null).left(limit);
+}
+
+void IniFile::write(const QString &section, const QString &key, const QString &value)
+{
+    changed_ = true;
+    const auto found = sectionIndex_.constFind(foldedName(section));
+    int place = 0;
+    if (found != sectionIndex_.cend()) {
+        place = *found;
+    } else {
+        endLastLine(sections_.back());
+        place = addSection(section);
+        sections_.back().push_back(encode(u'[' + oneLine(section) + u']') + "\r\n");
+    }
+    Lines &lines = sections_[static_cast<std::size_t>(place)];
+    const QByteArray tail = encode(u'=' + oneLine(value)) + "\r\n";
+    const std::pair name{place, foldedName(key)};
+    const auto row = keyIndex_.constFind(name);
+    if (row != keyIndex_.cend()) {
+        QByteArray &line = lines[static_cast<std::size_t>(*row)];
+        line = line.first(line.indexOf('=')) + tail;
+        return;
+    }
+    std::size_t at = lines.size();
+    while (at > 1 && isBlank(lines[at - 1]))
+        --at; // blank lines stay between the sections
+    if (at == lines.size())
+        endLastLine(lines);
+    lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(at), encode(oneLine(key)) + tail);
+    keyIndex_.insert(name, static_cast<int>(at));
+}
+
+void IniFile::save()
+{
+    if (!changed_)
+        return;
+    QByteArray bytes;
+    for (const Lines &lines : sections_)
+        for (const QByteArray &line : lines)
+            bytes += line;
+    writeFileAtomically(path_, bytes);
+    changed_ = false;
+}
+
+QString IniFile::decode(const QByteArray &bytes) const
+{
+    if (encoding_ == Encoding::Windows1252)
+        return windows1252::decode(bytes);
+    return QString::fromUtf8(bytes).normalized(QString::NormalizationForm_C);
+}
+
+QByteArray IniFile::encode(const QString &text) const
+{
+    return encoding_ == Encoding::Windows1252 ? windows1252::encodeLossy(text) : text.toUtf8();
+}

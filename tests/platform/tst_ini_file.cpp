@@ -1,0 +1,133 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/ini_file.h"
+#include "support/error_of.h"
+#include "support/registry.h"
+
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+
+class IniFileTest : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryDir folder_;
+    QString path_ = folder_.filePath(u"Probe.ini"_s);
+
+    void put(const QByteArray &bytes) const
+    {
+        QFile file(path_);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+    QByteArray get() const
+    {
+        QFile file(path_);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing");
+    }
+
+private slots:
+    void cleanup() { QFile::remove(path_); }
+
+    void reads_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("value"); // of key Tipp in section A
+        QTest::newRow("plain") << QByteArray("[A]\r\nTipp=x y\r\n") << u"x y"_s;
+        QTest::newRow("other case and blanks") << QByteArray("  [ a ]\n  tiPP =  x  \n") << u"x"_s;
+        QTest::newRow("quotes keep blanks") << QByteArray("[A]\nTipp=\" x \"\n") << u" x "_s;
+        QTest::newRow("half a quote stays") << QByteArray("[A]\nTipp=\"x\n") << u"\"x"_s;
+        QTest::newRow("a lone quote stays") << QByteArray("[A]\nTipp=\"\n") << u"\""_s;
+        QTest::newRow("inner quotes stay") << QByteArray("[A]\nTipp=\"a\"b\"\n") << u"a\"b"_s;
+        QTest::newRow("equals signs in the value") << QByteArray("[A]\nTipp=a=b\n") << u"a=b"_s;
+        QTest::newRow("the first key wins") << QByteArray("[A]\nTipp=1\nTIPP=2\n") << u"1"_s;
+        QTest::newRow("the first section wins") << QByteArray("[A]\nTipp=1\n[a]\nTipp=2\n") << u"1"_s;
+        QTest::newRow("a later section of the name is dead")
+            << QByteArray("[A]\nx=1\n[A]\nTipp=2\n") << u"-"_s;
+        QTest::newRow("comment") << QByteArray("[A]\n;Tipp=1\n") << u"-"_s;
+        QTest::newRow("before any section") << QByteArray("Tipp=1\n[A]\n") << u"-"_s;
+        QTest::newRow("other section") << QByteArray("[B]\nTipp=1\n") << u"-"_s;
+        QTest::newRow("lone CR") << QByteArray("[A]\rTipp=1\r") << u"1"_s;
+        QTest::newRow("Windows-1252") << QByteArray("[A]\nTipp=\x84sch\xF6n\x93") << u"„schön“"_s;
+        QTest::newRow("UTF-8") << QByteArray("[A]\nTipp=sch\xC3\xB6n") << u"schön"_s;
+        QTest::newRow("UTF-8 with mark") << QByteArray("\xEF\xBB\xBF[A]\nTipp=sch\xC3\xB6n") << u"schön"_s;
+        QTest::newRow("UTF-16") << QByteArray("\xFF\xFE[\0A\0]\0\n\0T\0i\0p\0p\0=\0\xF6\0", 22) << u"ö"_s;
+        QTest::newRow("NUL bytes") << QByteArray("[A]\nTipp=a\0b", 12) << u"ab"_s;
+        QTest::newRow("cut at 750") << "[A]\nTipp=" + QByteArray(800, 'x') << QString(750, u'x');
+        QTest::newRow("no text at all") << QByteArray() << u"-"_s;
+        QTest::newRow("brackets and equals signs") << QByteArray("[\n]\n=\n[]\n==\n]A[") << u"-"_s;
+    }
+    void reads()
+    {
+        QFETCH(QByteArray, bytes);
+        put(bytes);
+        QTEST(IniFile(path_).read(u"A"_s, u"Tipp"_s, u"-"_s), "value");
+    }
+
+    void writes_data()
+    {
+        QTest::addColumn<QByteArray>("before");
+        QTest::addColumn<QByteArray>("after"); // key K in section A set to "ö"
+        QTest::newRow("new file") << QByteArray() << QByteArray("[A]\r\nK=\xF6\r\n");
+        QTest::newRow("in place") << QByteArray("; \x84 \n[a]\nk = 1\nx=2\n")
+                                  << QByteArray("; \x84 \n[a]\nk =\xF6\r\nx=2\n");
+        QTest::newRow("into its section")
+            << QByteArray("[A]\nx=1\n\n[B]\nK=2\n") << QByteArray("[A]\nx=1\nK=\xF6\r\n\n[B]\nK=2\n");
+        QTest::newRow("into an empty section") << QByteArray("[A]\n\n") << QByteArray("[A]\nK=\xF6\r\n\n");
+        QTest::newRow("section appended")
+            << QByteArray("[B]\nK=2") << QByteArray("[B]\nK=2\r\n[A]\r\nK=\xF6\r\n");
+        QTest::newRow("no line end at the end")
+            << QByteArray("[A]\nx=1") << QByteArray("[A]\nx=1\r\nK=\xF6\r\n");
+        QTest::newRow("a file in UTF-8 stays one")
+            << QByteArray("[A]\nx=\xC3\xA4\n") << QByteArray("[A]\nx=\xC3\xA4\nK=\xC3\xB6\r\n");
+        QTest::newRow("binary lines stay")
+            << QByteArray("\0\x01[\xFF\n", 5) << QByteArray("\0\x01[\xFF\n[A]\r\nK=\xF6\r\n", 15);
+    }
+    void writes()
+    {
+        QFETCH(QByteArray, before);
+        put(before);
+        IniFile file(path_);
+        file.write(u"A"_s, u"K"_s, u"ö"_s);
+        QCOMPARE(file.read(u"a"_s, u"k"_s), u"ö"_s);
+        file.save();
+        QTEST(get(), "after");
+        QCOMPARE(IniFile(path_).read(u"a"_s, u"k"_s), u"ö"_s);
+    }
+
+    void lineEndsBecomeBlanks()
+    {
+        IniFile file(path_);
+        file.write(u"A\n[B]"_s, u"K\r"_s, u"a\r\n[C]\nK=1"_s);
+        file.save();
+        QCOMPARE(get(), QByteArray("[A [B]]\r\nK =a  [C] K=1\r\n"));
+        QCOMPARE(IniFile(path_).read(u"A [B]"_s, u"K"_s), u"a  [C] K=1"_s);
+    }
+
+    void untouchedFileIsNotWritten()
+    {
+        put("x");
+        QFile::remove(path_);
+        IniFile(path_).save();
+        QVERIFY(!QFileInfo::exists(path_));
+        QCOMPARE(errorOf([&] { IniFile{folder_.path()}; }), 75);
+    }
+
+    void manySectionsCostNoQuadraticTime()
+    {
+        IniFile file(path_);
+        constexpr int count = 100000;
+        for (int i = 0; i < count; ++i) {
+            file.write(u"Morpheme%1"_s.arg(i), u"Caption"_s, u"ver"_s);
+            file.write(u"Morpheme%1"_s.arg(i), u"Left"_s, QString::number(i));
+        }
+        file.save();
+        const IniFile again(path_);
+        for (int i = 0; i < count; i += 7)
+            QCOMPARE(again.read(u"morpheme%1"_s.arg(i), u"left"_s).toInt(), i);
+    }
+};
+
+WORTEL_TEST(IniFileTest)
+#include "tst_ini_file.moc"

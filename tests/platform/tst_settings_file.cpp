@@ -1,0 +1,152 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/settings_file.h"
+#include "support/error_of.h"
+#include "support/file_size_limit.h"
+#include "support/registry.h"
+
+#include <QLockFile>
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+
+class SettingsFileTest : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryDir folder_;
+    QString file_ = folder_.filePath(u"Neu/Wortel-Meister/settings.ini"_s);
+
+    void put(const QByteArray &bytes) const
+    {
+        QDir().mkpath(QFileInfo(file_).path());
+        QFile file(file_);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+    static QByteArray get(const QString &path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing");
+    }
+
+private slots:
+    void cleanup() { QDir(folder_.filePath(u"Neu"_s)).removeRecursively(); }
+
+    void keepsAnyText_data()
+    {
+        QTest::addColumn<QString>("section");
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QString>("value");
+        QTest::newRow("plain") << u"Settings"_s << u"NumWortel"_s << u"20"_s;
+        QTest::newRow("umlauts and blanks") << u"Fächer zwei"_s << u" Größe :"_s << u"  weiß  "_s;
+        QTest::newRow("signs") << u"a]=[b"_s << u"=k=["_s << u"x=[y];#"_s;
+        QTest::newRow("line ends") << u"a\nb"_s << u"k\r\n[x]"_s << u"1\r\n[Settings]\nNumWortel=9\0z"_s;
+        QTest::newRow("percent and path") << u"%41"_s << u"100%"_s << u"C:\\text\\50%20.txt"_s;
+        QTest::newRow("empty value") << u"Settings"_s << u"k"_s << QString();
+        QTest::newRow("emoji") << u"😀"_s << u"😀"_s << u"😀"_s;
+        QTest::newRow("a megabyte") << u"Web"_s << u"k"_s << QString(1 << 20, u'ü');
+    }
+    void keepsAnyText()
+    {
+        QFETCH(QString, section);
+        QFETCH(QString, key);
+        QFETCH(QString, value);
+        SettingsFile store(file_);
+        QCOMPARE(store.GetSetting(section, key, u"default"_s), u"default"_s);
+        store.SaveSetting(section, key, value);
+        store.SaveSetting(u"Other"_s, key, u"other"_s);
+        QCOMPARE(store.GetSetting(section, key, u"default"_s), value);
+        const SettingsFile restarted(file_);
+        QCOMPARE(restarted.GetSetting(section, key, u"default"_s), value);
+        QCOMPARE(restarted.GetSetting(u"Other"_s, key, QString()), u"other"_s);
+        QCOMPARE(restarted.GetSetting(u"Third"_s, key, u"default"_s), u"default"_s);
+    }
+
+    void programsShareTheFile()
+    {
+        SettingsFile one(file_);
+        SettingsFile two(file_);
+        one.SaveSettings(u"Settings"_s, {{u"a"_s, u"1"_s}, {u"b"_s, u"1"_s}});
+        two.SaveSetting(u"Settings"_s, u"b"_s, u"22"_s);
+        one.SaveSetting(u"Path"_s, u"c"_s, u"1"_s);
+        QCOMPARE(one.GetSetting(u"Settings"_s, u"b"_s, QString()), u"22"_s);
+        QCOMPARE(two.GetSetting(u"Path"_s, u"c"_s, QString()), u"1"_s);
+        QCOMPARE(two.GetSetting(u"Settings"_s, u"a"_s, QString()), u"1"_s);
+    }
+
+    void garbageIsKeptBeside_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("numWortel");
+        QTest::newRow("binary") << QByteArray("\x7F"
+                                              "ELF\0\xFF\n\xFE",
+                                              8)
+                                << u"20"_s;
+        QTest::newRow("half good") << QByteArray("[Settings]\nNumWortel=7\n\xFF\xFEschrott\n[Sett") << u"7"_s;
+        QTest::newRow("a letter") << QByteArray("Liebe Oma,\nwie geht es dir?\n") << u"20"_s;
+        QTest::newRow("one endless line") << QByteArray(1 << 20, 'x') << u"20"_s;
+    }
+    void garbageIsKeptBeside()
+    {
+        QFETCH(QByteArray, bytes);
+        put(bytes);
+        SettingsFile store(file_);
+        QTEST(store.GetSetting(u"Settings"_s, u"NumWortel"_s, u"20"_s), "numWortel");
+        QCOMPARE(get(file_), bytes);
+        store.SaveSetting(u"Settings"_s, u"UseUndo"_s, u"0"_s);
+        QCOMPARE(get(file_ + u".bak"_s), bytes);
+        QTEST(SettingsFile(file_).GetSetting(u"Settings"_s, u"NumWortel"_s, u"20"_s), "numWortel");
+        store.SaveSetting(u"Settings"_s, u"UseUndo"_s, u"1"_s);
+        QCOMPARE(get(file_ + u".bak"_s), bytes);
+    }
+
+    void emptyFileIsNoGarbage()
+    {
+        put("");
+        SettingsFile store(file_);
+        store.SaveSetting(u"Settings"_s, u"a"_s, u"1"_s);
+        QVERIFY(!QFileInfo::exists(file_ + u".bak"_s));
+    }
+
+    void aFullDiskLosesNothing()
+    {
+        SettingsFile store(file_);
+        store.SaveSetting(u"Settings"_s, u"a"_s, u"1"_s);
+        const QByteArray before = get(file_);
+        {
+            const FileSizeLimit full(100);
+            QVERIFY(errorOf([&] { store.SaveSetting(u"Settings"_s, u"b"_s, QString(500, u'x')); }) != 0);
+            QCOMPARE(get(file_), before);
+            QCOMPARE(store.GetSetting(u"Settings"_s, u"b"_s, QString()).size(), 500);
+        }
+        store.SaveSetting(u"Settings"_s, u"a"_s, u"1"_s); // unchanged, but there is something to make up for
+        QCOMPARE(SettingsFile(file_).GetSetting(u"Settings"_s, u"b"_s, QString()).size(), 500);
+    }
+
+    void aFolderInPlaceOfTheFile()
+    {
+        QDir().mkpath(file_ + u"/x"_s);
+        SettingsFile store(file_);
+        QCOMPARE(store.GetSetting(u"Settings"_s, u"a"_s, u"1"_s), u"1"_s);
+        store.SaveSetting(u"Settings"_s, u"a"_s, u"2"_s); // the folder makes room and keeps its content
+        QCOMPARE(SettingsFile(file_).GetSetting(u"Settings"_s, u"a"_s, u"1"_s), u"2"_s);
+        QVERIFY(QFileInfo::exists(file_ + u".bak/x"_s));
+    }
+
+    void aHeldLockCostsHalfASecondAtMost()
+    {
+        put("[Settings]\na=1\n");
+        QLockFile lock(file_ + u".lock"_s);
+        QVERIFY(lock.lock());
+        SettingsFile store(file_);
+        QElapsedTimer timer;
+        timer.start();
+        store.SaveSetting(u"Settings"_s, u"a"_s, u"2"_s);
+        QVERIFY(timer.elapsed() < 3000);
+        QCOMPARE(SettingsFile(file_).GetSetting(u"Settings"_s, u"a"_s, QString()), u"2"_s);
+    }
+};
+
+WORTEL_TEST(SettingsFileTest)
+#include "tst_settings_file.moc"
