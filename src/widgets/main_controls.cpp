@@ -7,6 +7,7 @@
 #include "widgets/dropper.h"
 #include "widgets/floating_tile.h"
 #include "widgets/gradient.h"
+#include "widgets/msg_scroller.h"
 #include "widgets/picture_box.h"
 #include "widgets/press_button.h"
 #include "widgets/progress_bar.h"
@@ -32,6 +33,7 @@ constexpr int secondRow = 38;
 constexpr int rowHeight = 32;
 constexpr int statusRow = 73;
 constexpr int statusHeight = 14;
+constexpr int scrollerFontPixels = 18; // read from a whiteboard, across a room
 
 using C = MainControls;
 
@@ -246,6 +248,14 @@ void makeLists(C &c)
     c.Text2 = make<QLineEdit>(c.form, "Text2");
     c.Text2->setAccessibleName(QStringLiteral("Wort im Wörterbuch suchen"));
     c.Text2->hide();
+    c.Scroller = make<MsgScroller>(c.form, "MsgScroller");
+    QFont large = c.form->font();
+    large.setPixelSize(scrollerFontPixels);
+    c.Scroller->setFont(large);
+    c.Scroller->setBackColor(Qt::white);
+    c.Scroller->setForeColor(Qt::black);
+    c.Scroller->resize(c.Scroller->sizeHint());
+    c.Scroller->hide();
     c.txtWelcomeMsg = makeLabel(c.form, "txtWelcomeMsg");
     c.txtWelcomeMsg->hide();
     c.TxtWordHint = makeLabel(c.form, "TxtWordHint");

@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "games/strip_control.h"
+
+#include "games/scroller_place.h"
+#include "platform/ground.h"
+#include "platform/options.h"
+#include "platform/procedure.h"
+#include "platform/text.h"
+#include "widgets/gradient.h"
+#include "widgets/main_controls.h"
+#include "widgets/msg_scroller.h"
+#include "widgets/store_list.h"
+
+#include <QMouseEvent>
+
+namespace {
+
+constexpr int gapBlanks = 36;
+constexpr int tickInterval = 125;
+
+} // namespace
+
+StripControl::StripControl(Ground &ground, MainControls &controls, QObject *parent)
+    : QObject(parent)
+    , ground_(ground)
+    , controls_(controls)
+{
+    const MsgScroller *strip = controls_.Scroller;
+    connect(strip, &MsgScroller::HotSpotClick, this, &StripControl::MsgScroller_HotSpotClick);
+    connect(strip, &MsgScroller::mouseDown, this, &StripControl::MsgScroller_MouseDown);
+    connect(strip, &MsgScroller::mouseMoved, this, &StripControl::MsgScroller_MouseMove);
+    connect(strip, &MsgScroller::mouseUp, this, &StripControl::MsgScroller_MouseUp);
+    connect(&ground_.options, &Options::applied, this, &StripControl::SetUpMsgScroller);
+    SetUpMsgScroller();
+}
+
+void StripControl::SetUpMsgScroller()
+{
+    MsgScroller &strip = *controls_.Scroller;
+    Procedure step(ground_.log, "SetUpMsgScroller", "frmMain", Procedure::Silent);
+    step([&] { strip.setSeperator(QString(gapBlanks, u' ')); });
+    step([&] { strip.setScrollInterval(tickInterval); });
+    step([&] { strip.setScrollSpeed(CInt(ground_.options.number(Setting::ScrollerSpeed))); });
+    const bool movable = ground_.options.isOn(Setting::ScrollerCanPan);
+    step([&] { strip.setAllowPan(movable); });
+    step([&] { strip.setToolTip(movable ? QStringLiteral("Verschieben / Anhalten") : QString()); });
+}
+
+void StripControl::PlaceTheMsgScroller()
+{
+    Procedure step(ground_.log, "PlaceTheMsgScroller", "frmMain");
+    step([&] {
+        const BoardRoom room{controls_.form->size(), controls_.Picture1->y(), controls_.CorrectWordList->x()};
+        controls_.Scroller->move(
+            scrollerPlace(ground_.options, ground_.rnd, room, controls_.Scroller->size()));
+        controls_.Scroller->raise();
+    });
+}
+
+void StripControl::MsgScroller_HotSpotClick(int Index)
+{
+    Procedure step(ground_.log, "MsgScroller_HotSpotClick", "frmMain");
+    step([&] { LastScrollerWord_ = controls_.Scroller->List(Index); });
+}
+
+void StripControl::MsgScroller_MouseDown(QMouseEvent *event)
+{
+    const bool shift = event->modifiers().testFlag(Qt::ShiftModifier);
+    if (event->button() == Qt::LeftButton && shift) {
+        ScrollerMoving_ = true;
+        movedFrom_ = event->pos();
+    } else if (event->button() == Qt::RightButton && !shift &&
+               ground_.options.isOn(Setting::ScrollerCanPan)) {
+        controls_.Scroller->ToggleScroll();
+    }
+}
+
+void StripControl::MsgScroller_MouseMove(QMouseEvent *event)
+{
+    if (ScrollerMoving_ && event->buttons().testFlag(Qt::LeftButton) &&
+        event->modifiers().testFlag(Qt::ShiftModifier))
+        controls_.Scroller->move(controls_.Scroller->pos() + event->pos() - movedFrom_);
+}
+
+void StripControl::MsgScroller_MouseUp() { ScrollerMoving_ = false; }

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QObject>
+#include <QPoint>
+#include <QString>
+
+class QMouseEvent;
+struct Ground;
+struct MainControls;
+
+/// What the main window does with the running strip: its settings, its place on the board, moving it with
+/// Shift and the left button, holding it with the right one, and the word that was clicked last. Connects
+/// itself to the strip.
+class StripControl : public QObject
+{
+    Q_OBJECT
+
+public:
+    StripControl(Ground &ground, MainControls &controls, QObject *parent = nullptr);
+
+    /// The window's own values, with the settings for speed and pan; also after the options were applied.
+    void SetUpMsgScroller();
+    /// Puts the strip where the options want it.
+    void PlaceTheMsgScroller();
+
+    QString LastScrollerWord() const { return LastScrollerWord_; }
+
+    void MsgScroller_HotSpotClick(int Index);
+    void MsgScroller_MouseDown(QMouseEvent *event);
+    void MsgScroller_MouseMove(QMouseEvent *event);
+    void MsgScroller_MouseUp();
+
+private:
+    Ground &ground_;
+    MainControls &controls_;
+    QString LastScrollerWord_;
+    bool ScrollerMoving_ = false;
+    QPoint movedFrom_; ///< the pointer in the strip's pixels
+};

@@ -1,0 +1,357 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "widgets/msg_scroller.h"
+
+#include "platform/text.h"
+
+#include <QEvent>
+#include <QFontMetrics>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr int shortestFrame = 16; ///< milliseconds: no screen shows more
+constexpr QColor frameColour{0x5B, 0x6F, 0x91};
+
+QColor fromBgr(int colour) { return QColor(colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF); }
+
+} // namespace
+
+MsgScroller::MsgScroller(QWidget *parent)
+    : QWidget(parent)
+    , strip_([this](const QString &text) { return fontMetrics().horizontalAdvance(text); })
+    , backColor_(palette().color(QPalette::Button))
+    , foreColor_(palette().color(QPalette::ButtonText))
+{
+    setEnabled(false);
+    setMouseTracking(true);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setAccessibleName(QStringLiteral("Laufschrift"));
+    tmrScroll_.setSingleShot(true);
+    tmrScroll_.setTimerType(Qt::PreciseTimer);
+    connect(&tmrScroll_, &QTimer::timeout, this, &MsgScroller::onFrame);
+    decideScroll();
+}
+
+QSize MsgScroller::sizeHint() const
+{
+    const int border = 2 * borderStyle_;
+    return {-ScrollerStrip::restOffset + border, fontMetrics().height() + 12 + border};
+}
+
+QRect MsgScroller::inside() const
+{
+    return rect().adjusted(borderStyle_, borderStyle_, -borderStyle_, -borderStyle_);
+}
+
+// Properties
+// ------------------------------------------------------------------------------------------------------------
+
+void MsgScroller::setBorderStyle(int style)
+{
+    borderStyle_ = style == 0 ? 0 : 1;
+    update();
+}
+
+void MsgScroller::setBackColor(const QColor &colour)
+{
+    backColor_ = colour;
+    update();
+}
+
+void MsgScroller::setForeColor(const QColor &colour)
+{
+    foreColor_ = colour;
+    update();
+}
+
+void MsgScroller::setScrollInterval(int milliseconds)
+{
+    scrollInterval_ = std::max(0, milliseconds);
+    if (timerOn_)
+        startTimer();
+}
+
+void MsgScroller::setScrollSpeed(int pixels)
+{
+    if (pixels >= 1)
+        scrollSpeed_ = pixels;
+}
+
+void MsgScroller::setSeperator(const QString &text)
+{
+    strip_.setSeperator(text);
+    decideScroll();
+}
+
+void MsgScroller::setAutoScroll(bool on)
+{
+    autoScroll_ = on;
+    decideScroll();
+}
+
+void MsgScroller::setScroll(bool on)
+{
+    forceScroll_ = on;
+    strip_.measureAll();
+    decideScroll();
+}
+
+// Methods
+// ------------------------------------------------------------------------------------------------------------
+
+void MsgScroller::Refresh() { draw(); }
+
+void MsgScroller::ToggleScroll()
+{
+    if (panning_)
+        timerBeforePan_ = !timerBeforePan_;
+    else if (timerOn_)
+        pauseTimer();
+    else if (strip_.Running())
+        startTimer();
+}
+
+void MsgScroller::AddItem(const QString &Text, const QString &Key, int Before)
+{
+    strip_.AddItem(Text, Key, Before);
+    decideScroll();
+}
+
+void MsgScroller::RemoveItem(int Index)
+{
+    strip_.RemoveItem(Index);
+    decideScroll();
+}
+
+void MsgScroller::Clear()
+{
+    strip_.Clear();
+    decideScroll();
+}
+
+void MsgScroller::setItemData(int Index, const cMessageData &item)
+{
+    strip_.setItem(Index, item);
+    decideScroll();
+}
+
+void MsgScroller::setItemColor(int Index, int colour)
+{
+    strip_.setColour(Index, colour);
+    if (panning_)
+        draw();
+}
+
+void MsgScroller::setList(int Index, const QString &text)
+{
+    strip_.setText(Index, text);
+    decideScroll();
+}
+
+// Run
+// ------------------------------------------------------------------------------------------------------------
+
+void MsgScroller::decideScroll()
+{
+    decisionPutOff_ = panning_;
+    if (!panning_) {
+        if (!strip_.decide(forceScroll_, autoScroll_, width()))
+            stopTimer();
+        else if (!timerOn_)
+            startTimer();
+    }
+    draw();
+}
+
+void MsgScroller::draw()
+{
+    strip_.draw(width());
+    update();
+}
+
+void MsgScroller::tick()
+{
+    strip_.setOffset(strip_.Offset() + scrollSpeed_);
+    glide_ = 0;
+    draw();
+}
+
+void MsgScroller::startTimer()
+{
+    timerOn_ = true;
+    scheduleFrame();
+}
+
+void MsgScroller::pauseTimer()
+{
+    timerOn_ = false;
+    tmrScroll_.stop();
+}
+
+void MsgScroller::stopTimer()
+{
+    pauseTimer();
+    frame_ = 0;
+    setGlide(0);
+}
+
+int MsgScroller::framesPerTick() const
+{
+    const int devicePixels = static_cast<int>(scrollSpeed_ * devicePixelRatioF());
+    return isVisible() ? std::max(1, std::min(devicePixels, scrollInterval_ / shortestFrame)) : 1;
+}
+
+void MsgScroller::scheduleFrame()
+{
+    tmrScroll_.stop();
+    if (scrollInterval_ == 0)
+        return;
+    // The frames of a tick share its time without a remainder.
+    const int frames = framesPerTick();
+    tmrScroll_.start(scrollInterval_ * (frame_ + 1) / frames - scrollInterval_ * frame_ / frames);
+}
+
+void MsgScroller::onFrame()
+{
+    const int frames = framesPerTick();
+    if (++frame_ >= frames) {
+        frame_ = 0;
+        tick();
+    } else {
+        setGlide(static_cast<double>(scrollSpeed_) * frame_ / frames);
+    }
+    scheduleFrame();
+}
+
+void MsgScroller::setGlide(double pixels)
+{
+    const double onDevice = std::round(pixels * devicePixelRatioF()) / devicePixelRatioF();
+    if (qFuzzyCompare(1 + onDevice, 1 + glide_))
+        return;
+    glide_ = onDevice;
+    update();
+}
+
+// Pointer
+// ------------------------------------------------------------------------------------------------------------
+
+int MsgScroller::hotSpotUnder(const QPointF &position) const
+{
+    return strip_.hotSpotAt(static_cast<int>(std::lround(position.x() + glide_)));
+}
+
+void MsgScroller::startPan(int x)
+{
+    timerBeforePan_ = timerOn_;
+    strip_.setOffset(strip_.Offset() + static_cast<int>(std::lround(glide_)));
+    stopTimer();
+    panning_ = true;
+    panStartX_ = x;
+    panStartOffset_ = strip_.Offset();
+    setCursor(Qt::ClosedHandCursor);
+}
+
+void MsgScroller::endPan()
+{
+    if (!panning_)
+        return;
+    panning_ = false;
+    unsetCursor();
+    if (timerBeforePan_)
+        startTimer();
+    // A strip that was emptied or stopped under the player's hand must not run on.
+    if (decisionPutOff_)
+        decideScroll();
+}
+
+void MsgScroller::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton && allowPan_ && strip_.Running())
+        startPan(event->pos().x());
+    emit mouseDown(event);
+}
+
+void MsgScroller::mouseMoveEvent(QMouseEvent *event)
+{
+    if (panning_) {
+        strip_.setOffset(panStartOffset_ + panStartX_ - event->pos().x());
+        draw();
+    }
+    currentHotSpot_ = hotSpotUnder(event->position());
+    emit HotSpotMove(currentHotSpot_);
+    emit mouseMoved(event);
+}
+
+void MsgScroller::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton)
+        endPan();
+    emit mouseUp(event);
+    if (event->button() != Qt::LeftButton || !rect().contains(event->pos()))
+        return;
+    emit clicked();
+    currentHotSpot_ = hotSpotUnder(event->position());
+    if (currentHotSpot_ >= 0)
+        emit HotSpotClick(currentHotSpot_);
+}
+
+// Window
+// ------------------------------------------------------------------------------------------------------------
+
+void MsgScroller::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    decideScroll();
+}
+
+void MsgScroller::hideEvent(QHideEvent *event)
+{
+    QWidget::hideEvent(event);
+    endPan();
+}
+
+void MsgScroller::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange) {
+        strip_.measureAll();
+        decideScroll();
+        draw();
+    } else if (event->type() == QEvent::EnabledChange && !isEnabled()) {
+        endPan();
+    }
+}
+
+void MsgScroller::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    const QRect inner = inside();
+    if (borderStyle_ != 0) {
+        painter.fillRect(rect(), frameColour);
+        painter.setClipRect(inner);
+    }
+    painter.fillRect(inner, backColor_);
+    painter.translate(-glide_, 0);
+    paintPieces(painter);
+    const int restLeft = strip_.restLeft();
+    if (restLeft < width())
+        painter.fillRect(QRect(restLeft, 0, width() - restLeft, height()), Qt::white);
+}
+
+void MsgScroller::paintPieces(QPainter &painter) const
+{
+    const QString separator = strip_.SeparatorText();
+    const bool separatorShows = !Trim(separator).isEmpty();
+    const int baseline = (height() + fontMetrics().ascent() - fontMetrics().descent()) / 2;
+    for (const ScrollerStrip::Piece &piece : strip_.pieces()) {
+        painter.setPen(piece.colour == -1 ? foreColor_ : fromBgr(piece.colour));
+        painter.drawText(QPointF(piece.left, baseline), piece.text);
+        if (separatorShows)
+            painter.drawText(QPointF(piece.left + piece.width, baseline), separator);
+    }
+}

@@ -1,0 +1,6 @@
+# SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+# SPDX-License-Identifier: GPL-3.0-or-later
+wortel_test(games
+    SOURCES
+        tst_strip_control.cpp
+)

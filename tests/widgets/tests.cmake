@@ -1,0 +1,7 @@
+# SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+# SPDX-License-Identifier: GPL-3.0-or-later
+wortel_test(widgets
+    SOURCES
+        tst_msg_scroller.cpp
+        tst_scroller_strip.cpp
+)

@@ -1,0 +1,342 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/registry.h"
+#include "widgets/msg_scroller.h"
+
+#include <QSignalSpy>
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Counts what is painted of a widget.
+class PaintCounter : public QObject
+{
+public:
+    explicit PaintCounter(QWidget &widget) { widget.installEventFilter(this); }
+    int paints = 0;
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint)
+            ++paints;
+        return false;
+    }
+};
+
+void fill(MsgScroller &strip, const QStringList &words = {u"Haus"_s, u"Maus"_s})
+{
+    strip.setSeperator(u"    "_s);
+    strip.resize(300, 30);
+    strip.setEnabled(true);
+    for (const QString &word : words)
+        strip.AddItem(word, word);
+}
+
+QPoint middleOf(const ScrollerStrip::HotSpot &spot) { return {(spot.left + spot.right) / 2, 10}; }
+
+/// Moves the pointer without the cursor of the platform, which knows no widgets that overlap.
+void movePointer(MsgScroller &strip, const QPoint &position, Qt::MouseButtons buttons = Qt::NoButton)
+{
+    QMouseEvent event(QEvent::MouseMove, position, strip.mapToGlobal(QPointF(position)), Qt::NoButton,
+                      buttons, Qt::NoModifier);
+    QCoreApplication::sendEvent(&strip, &event);
+}
+
+bool hasInk(const QImage &image, const QRect &area, const QColor &colour)
+{
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        for (int x = area.left(); x <= area.right(); ++x) {
+            if (image.pixelColor(x, y) == colour)
+                return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+class MsgScrollerTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void defaults();
+    void runsWhileItIsAskedTo();
+    void ticks();
+    void glidesBetweenTicks();
+    void pauses();
+    void standsStill_data();
+    void standsStill();
+    void pans();
+    void panNeedsPermission_data();
+    void panNeedsPermission();
+    void panSurvivesTheEndOfTheRun();
+    void hotSpotsAreTold();
+    void colours();
+};
+
+void MsgScrollerTest::defaults()
+{
+    MsgScroller strip;
+    QCOMPARE(strip.BorderStyle(), 1);
+    QCOMPARE(strip.ScrollInterval(), 120);
+    QCOMPARE(strip.ScrollSpeed(), 3);
+    QVERIFY(!strip.isEnabled());
+    QCOMPARE(strip.Seperator(), u"·"_s);
+    QVERIFY(!strip.AutoScroll());
+    QVERIFY(!strip.Scroll());
+    QVERIFY(strip.AllowPan());
+    QCOMPARE(strip.Offset(), -250);
+    strip.setScrollSpeed(0);
+    QCOMPARE(strip.ScrollSpeed(), 3);
+}
+
+void MsgScrollerTest::runsWhileItIsAskedTo()
+{
+    MsgScroller strip;
+    strip.setScroll(true);
+    QVERIFY2(!strip.isTimerOn(), "nothing to show");
+    fill(strip);
+    QVERIFY(strip.Running());
+    QVERIFY(strip.isTimerOn());
+    strip.setScroll(false);
+    QVERIFY(!strip.isTimerOn());
+    QCOMPARE(strip.Offset(), -250);
+
+    strip.setAutoScroll(true);
+    strip.show();
+    QVERIFY(!strip.Running());
+    strip.resize(20, 30);
+    QVERIFY(strip.Running());
+    strip.resize(300, 30);
+    QVERIFY(!strip.Running());
+
+    strip.setScroll(true);
+    strip.tick();
+    strip.Clear();
+    QVERIFY(!strip.isTimerOn());
+    QCOMPARE(strip.Offset(), -250);
+    QCOMPARE(strip.ListCount(), 0);
+}
+
+void MsgScrollerTest::ticks()
+{
+    MsgScroller strip;
+    fill(strip, {u"Haus"_s});
+    strip.setScroll(true);
+    strip.tick();
+    QCOMPARE(strip.Offset(), -247);
+    strip.setScrollSpeed(10);
+    strip.tick();
+    QCOMPARE(strip.Offset(), -237);
+    // A single item follows itself.
+    while (strip.Offset() < 0)
+        strip.tick();
+    QVERIFY(strip.strip().pieces().size() >= 2);
+    QCOMPARE(strip.strip().pieces().at(1).text, u"Haus"_s);
+    const int cycle = strip.strip().cycleLength();
+    for (int tick = 0; tick < 200; ++tick) {
+        strip.tick();
+        QVERIFY(strip.Offset() >= 0 && strip.Offset() <= cycle);
+    }
+}
+
+void MsgScrollerTest::glidesBetweenTicks()
+{
+    MsgScroller strip;
+    fill(strip);
+    strip.setScrollSpeed(4);
+    strip.setScrollInterval(200);
+    strip.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&strip));
+    PaintCounter counter(strip);
+    strip.setScroll(true);
+    QTRY_COMPARE(strip.Offset(), -242);
+    // Two ticks of four pixels, a picture for each pixel.
+    QVERIFY2(counter.paints >= 5, qPrintable(QString::number(counter.paints)));
+    QVERIFY2(counter.paints <= 11, qPrintable(QString::number(counter.paints)));
+}
+
+void MsgScrollerTest::pauses()
+{
+    MsgScroller strip;
+    fill(strip);
+    strip.ToggleScroll();
+    QVERIFY2(!strip.isTimerOn(), "a standing strip has no timer to start");
+    strip.setScroll(true);
+    strip.tick();
+    strip.ToggleScroll();
+    QVERIFY(!strip.isTimerOn());
+    QVERIFY(strip.Running());
+    QCOMPARE(strip.Offset(), -247);
+    strip.ToggleScroll();
+    QVERIFY(strip.isTimerOn());
+}
+
+void MsgScrollerTest::standsStill_data()
+{
+    QTest::addColumn<int>("interval");
+    QTest::addColumn<bool>("scroll");
+    QTest::addColumn<bool>("pause");
+    QTest::newRow("not asked to run") << 20 << false << false;
+    QTest::newRow("paused") << 20 << true << true;
+    QTest::newRow("interval 0") << 0 << true << false;
+    QTest::newRow("negative interval") << -5 << true << false;
+}
+
+void MsgScrollerTest::standsStill()
+{
+    QFETCH(int, interval);
+    QFETCH(bool, scroll);
+    QFETCH(bool, pause);
+    MsgScroller strip;
+    fill(strip);
+    strip.setScrollInterval(interval);
+    strip.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&strip));
+    strip.setScroll(scroll);
+    if (pause)
+        strip.ToggleScroll();
+    QTest::qWait(30);
+    PaintCounter counter(strip);
+    const int offset = strip.Offset();
+    QTest::qWait(80);
+    QCOMPARE(counter.paints, 0);
+    QCOMPARE(strip.Offset(), offset);
+}
+
+void MsgScrollerTest::pans()
+{
+    MsgScroller strip;
+    fill(strip);
+    strip.setScroll(true);
+    strip.show();
+    QTest::mousePress(&strip, Qt::LeftButton, {}, {200, 10});
+    QVERIFY(strip.Panning());
+    QVERIFY(!strip.isTimerOn());
+    QCOMPARE(strip.cursor().shape(), Qt::ClosedHandCursor);
+    movePointer(strip, {150, 10}, Qt::LeftButton);
+    QCOMPARE(strip.Offset(), -200);
+    movePointer(strip, {210, 10}, Qt::LeftButton);
+    QCOMPARE(strip.Offset(), -260);
+
+    // A colour is seen at once now, otherwise at the next tick.
+    movePointer(strip, {0, 10}, Qt::LeftButton);
+    QVERIFY(!strip.strip().pieces().empty());
+    strip.setItemColor(1, 0x0000FF);
+    QCOMPARE(strip.strip().pieces().front().colour, 0x0000FF);
+
+    QTest::mouseRelease(&strip, Qt::LeftButton, {}, {0, 10});
+    QVERIFY(!strip.Panning());
+    QVERIFY(strip.isTimerOn());
+    QCOMPARE(strip.cursor().shape(), Qt::ArrowCursor);
+    strip.setItemColor(1, 0x00FF00);
+    QCOMPARE(strip.strip().pieces().front().colour, 0x0000FF);
+    strip.tick();
+    QCOMPARE(strip.strip().pieces().front().colour, 0x00FF00);
+
+    strip.ToggleScroll();
+    QTest::mousePress(&strip, Qt::LeftButton, {}, {200, 10});
+    QTest::mouseRelease(&strip, Qt::LeftButton, {}, {200, 10});
+    QVERIFY2(!strip.isTimerOn(), "a paused strip stays paused");
+}
+
+void MsgScrollerTest::panNeedsPermission_data()
+{
+    QTest::addColumn<bool>("allowed");
+    QTest::addColumn<bool>("scroll");
+    QTest::addColumn<Qt::MouseButton>("button");
+    QTest::newRow("not allowed") << false << true << Qt::LeftButton;
+    QTest::newRow("standing") << true << false << Qt::LeftButton;
+    QTest::newRow("right button") << true << true << Qt::RightButton;
+}
+
+void MsgScrollerTest::panNeedsPermission()
+{
+    QFETCH(bool, allowed);
+    QFETCH(bool, scroll);
+    QFETCH(Qt::MouseButton, button);
+    MsgScroller strip;
+    fill(strip);
+    strip.setAllowPan(allowed);
+    strip.setScroll(scroll);
+    QTest::mousePress(&strip, button, {}, {200, 10});
+    QVERIFY(!strip.Panning());
+    QCOMPARE(strip.isTimerOn(), scroll);
+}
+
+void MsgScrollerTest::panSurvivesTheEndOfTheRun()
+{
+    MsgScroller strip;
+    fill(strip);
+    strip.setScroll(true);
+    strip.show();
+    QTest::mousePress(&strip, Qt::LeftButton, {}, {200, 10});
+    strip.Clear();
+    strip.setScroll(false);
+    QTest::mouseRelease(&strip, Qt::LeftButton, {}, {200, 10});
+    QVERIFY(!strip.isTimerOn());
+
+    strip.AddItem(u"Haus"_s);
+    strip.setScroll(true);
+    QTest::mousePress(&strip, Qt::LeftButton, {}, {200, 10});
+    strip.setEnabled(false);
+    QVERIFY2(!strip.Panning(), "a disabled strip hears of no release");
+    QVERIFY(strip.isTimerOn());
+}
+
+void MsgScrollerTest::hotSpotsAreTold()
+{
+    MsgScroller strip;
+    fill(strip);
+    strip.setAllowPan(false);
+    strip.setScroll(true);
+    strip.show();
+    while (strip.Offset() < 0)
+        strip.tick();
+    QSignalSpy moved(&strip, &MsgScroller::HotSpotMove);
+    QSignalSpy clicked(&strip, &MsgScroller::HotSpotClick);
+    const ScrollerStrip::HotSpot first = strip.strip().hotSpots().at(0);
+    const ScrollerStrip::HotSpot second = strip.strip().hotSpots().at(1);
+    const QPoint gap{(first.right + second.left) / 2, 10};
+
+    movePointer(strip, middleOf(second));
+    QCOMPARE(strip.CurrentHotSpot(), 2);
+    movePointer(strip, gap);
+    QCOMPARE(strip.CurrentHotSpot(), -1);
+    QCOMPARE(moved.size(), 2);
+    QCOMPARE(moved.at(1).at(0).toInt(), -1);
+
+    QTest::mouseClick(&strip, Qt::LeftButton, {}, gap);
+    QCOMPARE(clicked.size(), 0);
+    QTest::mouseClick(&strip, Qt::LeftButton, {}, middleOf(second));
+    QCOMPARE(clicked.size(), 1);
+    QCOMPARE(clicked.at(0).at(0).toInt(), 2);
+    QCOMPARE(strip.List(2), u"Maus"_s);
+}
+
+void MsgScrollerTest::colours()
+{
+    MsgScroller strip;
+    QFont large = strip.font();
+    large.setPixelSize(24);
+    strip.setFont(large);
+    strip.setBackColor(Qt::yellow);
+    strip.setForeColor(Qt::black);
+    fill(strip, {u"IIII"_s, u"HHHH"_s});
+    strip.setItemColor(2, 0xFF0000);
+    strip.Refresh();
+    const QImage image = strip.grab().toImage();
+    const ScrollerStrip::HotSpot first = strip.strip().hotSpots().at(0);
+    const ScrollerStrip::HotSpot second = strip.strip().hotSpots().at(1);
+    QVERIFY(hasInk(image, {first.left, 2, first.right - first.left, 26}, Qt::black));
+    QVERIFY(hasInk(image, {second.left, 2, second.right - second.left, 26}, Qt::blue));
+    QVERIFY(!hasInk(image, {second.left, 2, second.right - second.left, 26}, Qt::black));
+    QCOMPARE(image.pixelColor(5, 3), QColor(Qt::yellow));
+    QCOMPARE(image.pixelColor(290, 15), QColor(Qt::white));
+}
+
+WORTEL_TEST(MsgScrollerTest)
+#include "tst_msg_scroller.moc"
