@@ -13,12 +13,13 @@ namespace langdata {
 /// Word parts that no word for children may hold. A part counts only where a stem stands, behind
 /// any number of prefixes and before nothing but endings: so "arsch" blocks "Arsch" and
 /// "verarschen" and leaves "Nachbarschaft" alone.
-class Blocklist {
+class Blocklist
+{
 public:
     /// Each line is a part in lower case, or a regular expression for several.
-    Blocklist(const QStringList& lines, const QStringList& prefixes, const QStringList& suffixes);
+    Blocklist(const QStringList &lines, const QStringList &prefixes, const QStringList &suffixes);
 
-    bool blocks(const QString& word) const;
+    bool blocks(const QString &word) const;
 
 private:
     QRegularExpression pattern_;

@@ -14,22 +14,23 @@ constexpr int stemsOnBoard = 20;
 constexpr int wantedWords = 10;
 
 /// The words of one stem: which triples are words, and how many words it forms in all.
-struct StemWords {
+struct StemWords
+{
     std::vector<QString> triples;
     int formed = 0;
 };
 
-StemWords wordsOf(const QStringList& prefixes, const QString& stem, const QStringList& suffixes,
-                  const QSet<QString>& words)
+StemWords wordsOf(const QStringList &prefixes, const QString &stem, const QStringList &suffixes,
+                  const QSet<QString> &words)
 {
     StemWords result;
-    const auto count = [&](const QString& word) { result.formed += words.contains(word) ? 1 : 0; };
+    const auto count = [&](const QString &word) { result.formed += words.contains(word) ? 1 : 0; };
     count(stem);
-    for (const QString& suffix : suffixes)
+    for (const QString &suffix : suffixes)
         count(stem + suffix);
-    for (const QString& prefix : prefixes) {
+    for (const QString &prefix : prefixes) {
         count(prefix + stem);
-        for (const QString& suffix : suffixes) {
+        for (const QString &suffix : suffixes) {
             const QString word = prefix + stem + suffix;
             count(word);
             if (words.contains(word))
@@ -50,12 +51,12 @@ double triesFor(size_t wanted, size_t good, double all)
 
 } // namespace
 
-BoardStats playBoards(const QStringList& prefixes, const QStringList& stems, const QStringList& suffixes,
-                      const QSet<QString>& words)
+BoardStats playBoards(const QStringList &prefixes, const QStringList &stems, const QStringList &suffixes,
+                      const QSet<QString> &words)
 {
     std::vector<StemWords> perStem;
     size_t triples = 0;
-    for (const QString& stem : stems) {
+    for (const QString &stem : stems) {
         perStem.push_back(wordsOf(prefixes, stem, suffixes, words));
         triples += perStem.back().triples.size();
     }
@@ -75,7 +76,7 @@ BoardStats playBoards(const QStringList& prefixes, const QStringList& stems, con
         int all = 0;
         for (size_t i = 0; i < drawn; ++i) {
             std::swap(order[i], order[i + random() % (order.size() - i)]);
-            const StemWords& stem = perStem[order[i]];
+            const StemWords &stem = perStem[order[i]];
             good.unite(QSet<QString>(stem.triples.begin(), stem.triples.end()));
             all += stem.formed;
         }

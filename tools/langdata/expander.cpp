@@ -18,7 +18,7 @@ constexpr QChar needsAffix = u'h';
 constexpr QStringView verbFlags = u"IXYDWOZ";
 constexpr QStringView adjectiveFlags = u"AC";
 
-bool hasAny(const QString& flags, QStringView wanted)
+bool hasAny(const QString &flags, QStringView wanted)
 {
     for (const QChar flag : wanted)
         if (flags.contains(flag))
@@ -26,12 +26,12 @@ bool hasAny(const QString& flags, QStringView wanted)
     return false;
 }
 
-bool endsLikeInfinitive(const QString& word)
+bool endsLikeInfinitive(const QString &word)
 {
     return word.endsWith(u"en") || word.endsWith(u"eln") || word.endsWith(u"ern");
 }
 
-std::vector<QString> conditionOf(const QString& text)
+std::vector<QString> conditionOf(const QString &text)
 {
     std::vector<QString> places;
     if (text == u".")
@@ -48,14 +48,14 @@ std::vector<QString> conditionOf(const QString& text)
     return places;
 }
 
-bool fits(const QString& set, QChar letter)
+bool fits(const QString &set, QChar letter)
 {
     return set.startsWith(u'^') ? !QStringView(set).mid(1).contains(letter) : set.contains(letter);
 }
 
 } // namespace
 
-Expander::Expander(const QByteArray& affixFile, const QByteArray& dictionary)
+Expander::Expander(const QByteArray &affixFile, const QByteArray &dictionary)
 {
     readRules(affixFile);
     readEntries(dictionary);
@@ -63,17 +63,17 @@ Expander::Expander(const QByteArray& affixFile, const QByteArray& dictionary)
         throw InputError(u"the affix file or the dictionary holds nothing to expand"_s);
 }
 
-void Expander::readRules(const QByteArray& affixFile)
+void Expander::readRules(const QByteArray &affixFile)
 {
     if (!affixFile.contains("SET ISO8859-1"))
         throw InputError(u"the affix file is not in ISO 8859-1"_s);
     static const QRegularExpression blanks(u"\\s+"_s);
     const QStringList lines = QString::fromLatin1(affixFile).split(u'\n');
-    for (const QString& line : lines) {
+    for (const QString &line : lines) {
         const QStringList words = line.split(blanks, Qt::SkipEmptyParts);
         if (words.size() < 4 || (words[0] != u"SFX" && words[0] != u"PFX"))
             continue;
-        Flag& flag = flags_[words[1][0]];
+        Flag &flag = flags_[words[1][0]];
         flag.prefix = words[0] == u"PFX";
         if (words.size() == 4) {
             flag.crosses = words[2] == u"Y";
@@ -84,11 +84,11 @@ void Expander::readRules(const QByteArray& affixFile)
     }
 }
 
-void Expander::readEntries(const QByteArray& dictionary)
+void Expander::readEntries(const QByteArray &dictionary)
 {
     const QStringList lines = QString::fromLatin1(dictionary).split(u'\n');
     static const QRegularExpression word(u"^[A-Za-zÄÖÜäöüß]+(/.*)?$"_s);
-    for (const QString& raw : lines) {
+    for (const QString &raw : lines) {
         const QString line = raw.trimmed();
         if (!word.match(line).hasMatch())
             continue;
@@ -100,7 +100,7 @@ void Expander::readEntries(const QByteArray& dictionary)
     }
 }
 
-bool Expander::isInfinitive(const Entry& entry)
+bool Expander::isInfinitive(const Entry &entry)
 {
     if (!entry.word[0].isLower())
         return false;
@@ -111,7 +111,7 @@ bool Expander::isInfinitive(const Entry& entry)
                : entry.word.endsWith(u'n') && hasAny(entry.flags, verbFlags);
 }
 
-unsigned Expander::originOf(const Entry& entry, bool base, QChar suffixFlag) const
+unsigned Expander::originOf(const Entry &entry, bool base, QChar suffixFlag) const
 {
     const bool noun = entry.word[0].isUpper();
     if (noun) {
@@ -127,7 +127,7 @@ unsigned Expander::originOf(const Entry& entry, bool base, QChar suffixFlag) con
     return OriginOther;
 }
 
-bool Expander::applySuffix(const Rule& rule, const QString& word, QString& result)
+bool Expander::applySuffix(const Rule &rule, const QString &word, QString &result)
 {
     const auto places = qsizetype(rule.condition.size());
     if (word.size() < places || word.size() <= rule.strip.size() || !word.endsWith(rule.strip))
@@ -139,17 +139,17 @@ bool Expander::applySuffix(const Rule& rule, const QString& word, QString& resul
     return true;
 }
 
-void Expander::expandEntry(const Entry& entry, const Sink& sink) const
+void Expander::expandEntry(const Entry &entry, const Sink &sink) const
 {
     QStringList leads{QString()};
     for (const QChar letter : entry.flags) {
         const auto found = flags_.find(letter);
         if (found != flags_.end() && found->second.prefix)
-            for (const Rule& rule : found->second.rules)
+            for (const Rule &rule : found->second.rules)
                 leads << rule.add;
     }
-    const auto put = [&](const QString& form, unsigned origin, bool crosses) {
-        for (const QString& lead : std::as_const(leads))
+    const auto put = [&](const QString &form, unsigned origin, bool crosses) {
+        for (const QString &lead : std::as_const(leads))
             if (lead.isEmpty() || crosses)
                 sink(lead + form, origin);
     };
@@ -160,15 +160,15 @@ void Expander::expandEntry(const Entry& entry, const Sink& sink) const
         const auto found = flags_.find(letter);
         if (found == flags_.end() || found->second.prefix)
             continue;
-        for (const Rule& rule : found->second.rules)
+        for (const Rule &rule : found->second.rules)
             if (applySuffix(rule, entry.word, form))
                 put(form, originOf(entry, false, letter), found->second.crosses);
     }
 }
 
-void Expander::expand(const Sink& sink) const
+void Expander::expand(const Sink &sink) const
 {
-    for (const Entry& entry : entries_)
+    for (const Entry &entry : entries_)
         expandEntry(entry, sink);
 }
 

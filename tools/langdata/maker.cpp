@@ -15,7 +15,7 @@ namespace {
 constexpr size_t longestDictionary = 32767;
 
 /// Place of a form among those that differ in case alone; the lowest is the spelling taught.
-int twinRank(const QString& form, unsigned origins)
+int twinRank(const QString &form, unsigned origins)
 {
     if (form[0].isUpper())
         return 1;
@@ -23,14 +23,14 @@ int twinRank(const QString& form, unsigned origins)
 }
 
 /// Whether a capital stands inside, as in "LeserIn": no spelling for a school.
-bool hasInnerCapital(const QString& form)
+bool hasInnerCapital(const QString &form)
 {
     return std::any_of(form.begin() + 1, form.end(), [](QChar letter) { return letter.isUpper(); });
 }
 
-void sortInPlace(QStringList& words)
+void sortInPlace(QStringList &words)
 {
-    std::sort(words.begin(), words.end(), [](const QString& left, const QString& right) {
+    std::sort(words.begin(), words.end(), [](const QString &left, const QString &right) {
         const QString leftKey = collationKey(left);
         const QString rightKey = collationKey(right);
         return leftKey != rightKey ? leftKey < rightKey : left < right;
@@ -39,35 +39,44 @@ void sortInPlace(QStringList& words)
 
 } // namespace
 
-QString collationKey(const QString& word)
+QString collationKey(const QString &word)
 {
     QString key;
     const QString lower = word.toLower();
     for (const QChar letter : lower) {
         switch (letter.unicode()) {
-        case u'ä': key += u'a'; break;
-        case u'ö': key += u'o'; break;
-        case u'ü': key += u'u'; break;
-        case u'ß': key += u"ss"_s; break;
-        default: key += letter;
+        case u'ä':
+            key += u'a';
+            break;
+        case u'ö':
+            key += u'o';
+            break;
+        case u'ü':
+            key += u'u';
+            break;
+        case u'ß':
+            key += u"ss"_s;
+            break;
+        default:
+            key += letter;
         }
     }
     return key + u' ' + lower;
 }
 
-Maker::Maker(const Expander& expander, const Segmenter& segmenter, const Judges& judges)
+Maker::Maker(const Expander &expander, const Segmenter &segmenter, const Judges &judges)
 {
     gather(expander, segmenter);
     judge(segmenter, judges);
     origins_.clear();
-    for (QStringList& reason : dropped_)
+    for (QStringList &reason : dropped_)
         sortInPlace(reason);
 }
 
-void Maker::gather(const Expander& expander, const Segmenter& segmenter)
+void Maker::gather(const Expander &expander, const Segmenter &segmenter)
 {
     QHash<QString, bool> buildable;
-    expander.expand([&](const QString& form, unsigned origin) {
+    expander.expand([&](const QString &form, unsigned origin) {
         if (hasInnerCapital(form))
             return;
         const QString lower = form.toLower();
@@ -79,18 +88,19 @@ void Maker::gather(const Expander& expander, const Segmenter& segmenter)
     });
 }
 
-void Maker::judge(const Segmenter& segmenter, const Judges& judges)
+void Maker::judge(const Segmenter &segmenter, const Judges &judges)
 {
-    for (const QString& form : judges.include)
+    for (const QString &form : judges.include)
         origins_[form] |= 0;
     QStringList unbuildable;
     QStringList candidates = origins_.keys();
     sortInPlace(candidates);
-    for (const QString& form : std::as_const(candidates)) {
+    for (const QString &form : std::as_const(candidates)) {
         const unsigned origins = origins_[form];
         const std::vector<Segmenter::Reading> readings = segmenter.readings(form.toLower());
-        const bool short_ = std::any_of(readings.begin(), readings.end(),
-                                        [](const Segmenter::Reading& reading) { return reading.oneOfEach; });
+        const bool oneOfEach =
+            std::any_of(readings.begin(), readings.end(),
+                        [](const Segmenter::Reading &reading) { return reading.oneOfEach; });
         const auto drop = [&](Drop reason) { dropped_[size_t(reason)] << form; };
         if (judges.include.contains(form)) {
             if (readings.empty())
@@ -104,7 +114,7 @@ void Maker::judge(const Segmenter& segmenter, const Judges& judges)
             drop(Drop::Rejected);
         } else if (origins == OriginNominalInfinitive) {
             drop(Drop::NominalInfinitive);
-        } else if (!short_ && !judges.familiar.contains(form.toLower())) {
+        } else if (!oneOfEach && !judges.familiar.contains(form.toLower())) {
             drop(Drop::Unfamiliar);
         } else {
             keep(form, origins, readings);
@@ -112,23 +122,23 @@ void Maker::judge(const Segmenter& segmenter, const Judges& judges)
     }
     if (!unbuildable.isEmpty())
         throw InputError(u"the include list: no stem and affixes build %1"_s.arg(unbuildable.join(u", ")));
-    for (const QString& form : judges.exclude)
+    for (const QString &form : judges.exclude)
         if (!origins_.contains(form))
             idleExcludes_ << form;
     sortInPlace(idleExcludes_);
 }
 
-void Maker::keep(const QString& form, unsigned origins, const std::vector<Segmenter::Reading>& readings)
+void Maker::keep(const QString &form, unsigned origins, const std::vector<Segmenter::Reading> &readings)
 {
     words_.push_back({form, origins});
-    for (const Segmenter::Reading& reading : readings) {
-        std::vector<size_t>& words = wordsOfStem_[reading.stem];
+    for (const Segmenter::Reading &reading : readings) {
+        std::vector<size_t> &words = wordsOfStem_[reading.stem];
         if (words.empty() || words.back() != words_.size() - 1)
             words.push_back(words_.size() - 1);
     }
 }
 
-bool Maker::before(const Word& left, const Word& right)
+bool Maker::before(const Word &left, const Word &right)
 {
     const QString leftKey = collationKey(left.form);
     const QString rightKey = collationKey(right.form);
@@ -137,11 +147,11 @@ bool Maker::before(const Word& left, const Word& right)
     return twinRank(left.form, left.origins) < twinRank(right.form, right.origins);
 }
 
-QStringList Maker::dictionaryOf(const QString& list, const QStringList& stems) const
+QStringList Maker::dictionaryOf(const QString &list, const QStringList &stems) const
 {
     QSet<size_t> chosen;
     QStringList unknown;
-    for (const QString& stem : stems) {
+    for (const QString &stem : stems) {
         const auto words = wordsOfStem_.constFind(stem);
         if (words == wordsOfStem_.constEnd())
             unknown << stem;
@@ -151,13 +161,14 @@ QStringList Maker::dictionaryOf(const QString& list, const QStringList& stems) c
     if (!unknown.isEmpty())
         throw InputError(u"%1: unknown stems, no word holds them: %2"_s.arg(list, unknown.join(u", ")));
     if (chosen.size() > qsizetype(longestDictionary))
-        throw InputError(u"%1: %2 words, the game takes %3"_s.arg(list).arg(chosen.size()).arg(longestDictionary));
+        throw InputError(
+            u"%1: %2 words, the game takes %3"_s.arg(list).arg(chosen.size()).arg(longestDictionary));
     std::vector<Word> words;
     for (const size_t index : std::as_const(chosen))
         words.push_back(words_[index]);
     std::sort(words.begin(), words.end(), before);
     QStringList forms;
-    for (const Word& word : words)
+    for (const Word &word : words)
         forms << word.form;
     return forms;
 }

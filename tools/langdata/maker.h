@@ -23,42 +23,45 @@ enum class Drop { Blocked, Excluded, NominalInfinitive, Rejected, Unfamiliar };
 constexpr size_t dropCount = 5;
 
 /// What the word rules judge by, next to the expanded dictionary.
-struct Judges {
+struct Judges
+{
     Blocklist blocklist;
     QSet<QString> include;                            ///< written as taught, kept whatever the rules say
     QSet<QString> exclude;                            ///< exact forms that never go in
     QSet<QString> familiar;                           ///< lower case
-    std::function<bool(const QString& form)> accepts; ///< the Hunspell library's word check
+    std::function<bool(const QString &form)> accepts; ///< the Hunspell library's word check
 };
 
 /// Gathers the words that prefixes, stems and endings can build, and sorts them into
 /// dictionaries. A word with at most one tile of each kind goes in when the sources know it; a
 /// longer one must be familiar as well.
-class Maker {
+class Maker
+{
 public:
-    /// `stems` are those of all lists. Throws InputError if an included word cannot be built.
-    Maker(const Expander& expander, const Segmenter& segmenter, const Judges& judges);
+    /// Judges every form at once. Throws InputError if an included word cannot be built.
+    Maker(const Expander &expander, const Segmenter &segmenter, const Judges &judges);
 
     /// Sorted words of a list. Throws InputError for stems that build no word at all and for
     /// dictionaries too long for the game.
-    QStringList dictionaryOf(const QString& list, const QStringList& stems) const;
+    QStringList dictionaryOf(const QString &list, const QStringList &stems) const;
 
     /// Forms left out for one reason, sorted.
-    const QStringList& dropped(Drop reason) const { return dropped_[size_t(reason)]; }
+    const QStringList &dropped(Drop reason) const { return dropped_[size_t(reason)]; }
 
     /// Entries of the exclude list that no source ever offered, sorted.
-    const QStringList& idleExcludes() const { return idleExcludes_; }
+    const QStringList &idleExcludes() const { return idleExcludes_; }
 
 private:
-    struct Word {
+    struct Word
+    {
         QString form;
         unsigned origins = 0;
     };
 
-    void gather(const Expander& expander, const Segmenter& segmenter);
-    void judge(const Segmenter& segmenter, const Judges& judges);
-    void keep(const QString& form, unsigned origins, const std::vector<Segmenter::Reading>& readings);
-    static bool before(const Word& left, const Word& right);
+    void gather(const Expander &expander, const Segmenter &segmenter);
+    void judge(const Segmenter &segmenter, const Judges &judges);
+    void keep(const QString &form, unsigned origins, const std::vector<Segmenter::Reading> &readings);
+    static bool before(const Word &left, const Word &right);
 
     QHash<QString, unsigned> origins_; ///< candidate form -> its origins
     std::vector<Word> words_;
@@ -68,6 +71,6 @@ private:
 };
 
 /// Order of a German dictionary, case-blind: umlauts beside their vowel, ß as ss.
-QString collationKey(const QString& word);
+QString collationKey(const QString &word);
 
 } // namespace langdata

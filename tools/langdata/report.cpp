@@ -13,7 +13,8 @@ namespace {
 
 constexpr qsizetype lineLength = 110;
 
-struct Reason {
+struct Reason
+{
     Drop drop;
     QStringView title;
     bool listed; ///< the long ones are only counted
@@ -27,26 +28,39 @@ constexpr Reason reasons[] = {
     {Drop::Unfamiliar, u"more than one tile of a kind, and not familiar", false},
 };
 
-void writeTable(QTextStream& out, const std::vector<ListResult>& lists)
+void writeTable(QTextStream &out, const std::vector<ListResult> &lists)
 {
     out << "Triples: share of prefix + stem + suffix that are words, on the whole list and on the worst of\n"
            "400 seeded boards of 20 tiles each. Tries: random triples until ten different words are found,\n"
-           "on the mean and on the worst board. Board: words of the tiles of the middle and the poorest board.\n\n";
-    out << u"%1%2%3%4%5%6%7%8%9\n"_s.arg(u"list"_s, -30).arg(u"stems"_s, 6).arg(u"words"_s, 7).arg(u"triples"_s, 9)
-               .arg(u"worst"_s, 8).arg(u"tries"_s, 7).arg(u"worst"_s, 7).arg(u"board"_s, 7).arg(u"poorest"_s, 9);
-    for (const ListResult& list : lists) {
-        const BoardStats& boards = list.boards;
-        out << u"%1%2%3%4 %%5 %%6%7%8%9\n"_s.arg(list.name, -30).arg(list.stems, 6).arg(list.words, 7)
-                   .arg(100 * boards.listShare, 7, 'f', 1).arg(100 * boards.worstShare, 6, 'f', 1)
-                   .arg(boards.meanTries, 7, 'f', 0).arg(boards.worstTries, 7, 'f', 0)
-                   .arg(boards.middleWords, 7).arg(boards.fewestWords, 9);
+           "on the mean and on the worst board. Board: words of the tiles of the middle and the poorest "
+           "board.\n\n";
+    out << u"%1%2%3%4%5%6%7%8%9\n"_s.arg(u"list"_s, -30)
+               .arg(u"stems"_s, 6)
+               .arg(u"words"_s, 7)
+               .arg(u"triples"_s, 9)
+               .arg(u"worst"_s, 8)
+               .arg(u"tries"_s, 7)
+               .arg(u"worst"_s, 7)
+               .arg(u"board"_s, 7)
+               .arg(u"poorest"_s, 9);
+    for (const ListResult &list : lists) {
+        const BoardStats &boards = list.boards;
+        out << u"%1%2%3%4 %%5 %%6%7%8%9\n"_s.arg(list.name, -30)
+                   .arg(list.stems, 6)
+                   .arg(list.words, 7)
+                   .arg(100 * boards.listShare, 7, 'f', 1)
+                   .arg(100 * boards.worstShare, 6, 'f', 1)
+                   .arg(boards.meanTries, 7, 'f', 0)
+                   .arg(boards.worstTries, 7, 'f', 0)
+                   .arg(boards.middleWords, 7)
+                   .arg(boards.fewestWords, 9);
     }
 }
 
-void writeWords(QTextStream& out, const QStringList& words)
+void writeWords(QTextStream &out, const QStringList &words)
 {
     QString line;
-    for (const QString& word : words) {
+    for (const QString &word : words) {
         if (!line.isEmpty() && line.size() + word.size() + 1 > lineLength) {
             out << line << '\n';
             line.clear();
@@ -59,13 +73,13 @@ void writeWords(QTextStream& out, const QStringList& words)
 
 } // namespace
 
-QByteArray reportBytes(const std::vector<ListResult>& lists, const Maker& maker)
+QByteArray reportBytes(const std::vector<ListResult> &lists, const Maker &maker)
 {
     QByteArray bytes;
     QTextStream out(&bytes);
     writeTable(out, lists);
-    for (const Reason& reason : reasons) {
-        const QStringList& words = maker.dropped(reason.drop);
+    for (const Reason &reason : reasons) {
+        const QStringList &words = maker.dropped(reason.drop);
         out << "\nLeft out, " << reason.title << ": " << words.size() << '\n';
         if (reason.listed)
             writeWords(out, words);

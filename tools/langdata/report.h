@@ -14,7 +14,8 @@ namespace langdata {
 class Maker;
 
 /// One line of the report: a list and what its dictionary gives.
-struct ListResult {
+struct ListResult
+{
     QString name;
     qsizetype stems = 0;
     qsizetype words = 0;
@@ -22,6 +23,6 @@ struct ListResult {
 };
 
 /// The report as UTF-8 text: a table of the lists, then the words left out and why.
-QByteArray reportBytes(const std::vector<ListResult>& lists, const Maker& maker);
+QByteArray reportBytes(const std::vector<ListResult> &lists, const Maker &maker);
 
 } // namespace langdata

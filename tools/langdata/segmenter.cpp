@@ -12,23 +12,24 @@ namespace {
 constexpr int mostPrefixes = 3;
 
 constexpr QStringView derivations[] = {
-    u"ig",  u"lich", u"los",    u"sam", u"bar", u"haft", u"ung", u"heit",
+    u"ig",   u"lich",   u"los", u"sam", u"bar", u"haft", u"ung", u"heit",
     u"keit", u"schaft", u"nis", u"tum", u"tüm", u"erei", u"er",  u"end",
 };
 
 constexpr QStringView inflections[] = {
-    u"",    u"e",    u"em",   u"en",   u"er",   u"ere",  u"eren", u"erer", u"eres", u"es",
-    u"est", u"et",   u"ete",  u"eten", u"in",   u"innen", u"n",   u"s",    u"se",   u"sen",
-    u"ses", u"st",   u"ste",  u"sten", u"ster", u"stes", u"t",    u"te",   u"ten",  u"ter",
-    u"tes", u"test", u"tet",
+    u"",    u"e",    u"em",   u"en",   u"er",    u"ere", u"eren", u"erer", u"eres", u"es",   u"est",
+    u"et",  u"ete",  u"eten", u"in",   u"innen", u"n",   u"s",    u"se",   u"sen",  u"ses",  u"st",
+    u"ste", u"sten", u"ster", u"stes", u"t",     u"te",  u"ten",  u"ter",  u"tes",  u"test", u"tet",
 };
 
 } // namespace
 
-Segmenter::Segmenter(const QStringList& prefixes, const QSet<QString>& stems, const QStringList& suffixes)
-    : prefixes_(prefixes), stems_(stems), suffixes_(suffixes.begin(), suffixes.end())
+Segmenter::Segmenter(const QStringList &prefixes, const QSet<QString> &stems, const QStringList &suffixes)
+    : prefixes_(prefixes)
+    , stems_(stems)
+    , suffixes_(suffixes.begin(), suffixes.end())
 {
-    for (const QString& stem : stems_)
+    for (const QString &stem : stems_)
         longestStem_ = std::max(longestStem_, stem.size());
 }
 
@@ -41,7 +42,7 @@ bool Segmenter::isEnding(QStringView text) const
     });
 }
 
-void Segmenter::readAt(const QString& lower, qsizetype at, int prefixes, std::vector<Reading>& found) const
+void Segmenter::readAt(const QString &lower, qsizetype at, int prefixes, std::vector<Reading> &found) const
 {
     const qsizetype longest = std::min(longestStem_, lower.size() - at);
     for (qsizetype length = 2; length <= longest; ++length) {
@@ -55,12 +56,12 @@ void Segmenter::readAt(const QString& lower, qsizetype at, int prefixes, std::ve
     }
     if (prefixes == mostPrefixes)
         return;
-    for (const QString& prefix : prefixes_)
+    for (const QString &prefix : prefixes_)
         if (QStringView(lower).mid(at).startsWith(prefix))
             readAt(lower, at + prefix.size(), prefixes + 1, found);
 }
 
-std::vector<Segmenter::Reading> Segmenter::readings(const QString& lower) const
+std::vector<Segmenter::Reading> Segmenter::readings(const QString &lower) const
 {
     std::vector<Reading> found;
     readAt(lower, 0, 0, found);

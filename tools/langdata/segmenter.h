@@ -12,23 +12,25 @@ namespace langdata {
 
 /// Takes written forms apart into prefixes, a stem and an ending, the way the tiles put them
 /// together: up to three prefixes, one stem, then derivations and an inflection.
-class Segmenter {
+class Segmenter
+{
 public:
-    struct Reading {
+    struct Reading
+    {
         QString stem;
         bool oneOfEach; ///< at most one prefix tile and at most one suffix tile
     };
 
-    Segmenter(const QStringList& prefixes, const QSet<QString>& stems, const QStringList& suffixes);
+    Segmenter(const QStringList &prefixes, const QSet<QString> &stems, const QStringList &suffixes);
 
     /// All readings of a word in lower case; empty if the tiles cannot form it.
-    std::vector<Reading> readings(const QString& lower) const;
+    std::vector<Reading> readings(const QString &lower) const;
 
     /// Whether `text` is a run of derivations and an inflection; the empty text is one.
     bool isEnding(QStringView text) const;
 
 private:
-    void readAt(const QString& lower, qsizetype at, int prefixes, std::vector<Reading>& found) const;
+    void readAt(const QString &lower, qsizetype at, int prefixes, std::vector<Reading> &found) const;
 
     QStringList prefixes_;
     QSet<QString> stems_;

@@ -10,29 +10,27 @@ using namespace Qt::StringLiterals;
 
 namespace langdata {
 
-Sources::Sources(const QString& folder, const QString& sums)
+Sources::Sources(const QString &folder, const QString &sums)
     : folder_(folder)
 {
     const QStringList words = readWords(sums);
     for (qsizetype i = 0; i + 1 < words.size(); i += 2) {
-        const QString& wanted = words[i];
-        const QString& name = words[i + 1];
+        const QString &wanted = words[i];
+        const QString &name = words[i + 1];
         const QByteArray content = readBytes(path(name));
-        const QString found = QString::fromLatin1(
-            QCryptographicHash::hash(content, QCryptographicHash::Sha256).toHex());
+        const QString found =
+            QString::fromLatin1(QCryptographicHash::hash(content, QCryptographicHash::Sha256).toHex());
         if (found != wanted)
-            throw InputError(u"%1 is another version than the data was made from:\n  found  %2\n  wanted %3"_s.arg(
-                path(name), found, wanted));
+            throw InputError(
+                u"%1 is another version than the data was made from:\n  found  %2\n  wanted %3"_s.arg(
+                    path(name), found, wanted));
         contents_.insert(name, content);
     }
 }
 
-QString Sources::path(const QString& name) const
-{
-    return folder_ + u'/' + name;
-}
+QString Sources::path(const QString &name) const { return folder_ + u'/' + name; }
 
-QByteArray Sources::content(const QString& name) const
+QByteArray Sources::content(const QString &name) const
 {
     const auto found = contents_.constFind(name);
     if (found == contents_.constEnd())

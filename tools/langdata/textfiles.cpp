@@ -21,7 +21,7 @@ bool isWordByte(char byte)
 
 } // namespace
 
-QByteArray readBytes(const QString& path)
+QByteArray readBytes(const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
@@ -29,7 +29,7 @@ QByteArray readBytes(const QString& path)
     return file.readAll();
 }
 
-QStringList readGameList(const QString& path)
+QStringList readGameList(const QString &path)
 {
     const QByteArray bytes = readBytes(path);
     if (!bytes.endsWith("\r\n"))
@@ -50,21 +50,21 @@ QStringList readGameList(const QString& path)
     return entries;
 }
 
-QStringList readWords(const QString& path)
+QStringList readWords(const QString &path)
 {
     QStringList lines;
     const QStringList all = QString::fromUtf8(readBytes(path)).split(u'\n');
-    for (const QString& raw : all) {
+    for (const QString &raw : all) {
         const QString line = raw.section(u'#', 0, 0).trimmed();
         lines << line.split(u' ', Qt::SkipEmptyParts);
     }
     return lines;
 }
 
-QByteArray gameListBytes(const QStringList& entries)
+QByteArray gameListBytes(const QStringList &entries)
 {
     QByteArray bytes;
-    for (const QString& entry : entries) {
+    for (const QString &entry : entries) {
         const QByteArray line = entry.toLatin1();
         if (QString::fromLatin1(line) != entry || !std::all_of(line.begin(), line.end(), isWordByte))
             throw InputError(u"\"%1\" cannot be written in Windows-1252"_s.arg(entry));
@@ -73,7 +73,7 @@ QByteArray gameListBytes(const QStringList& entries)
     return bytes;
 }
 
-void writeWhole(const QString& path, const QByteArray& bytes)
+void writeWhole(const QString &path, const QByteArray &bytes)
 {
     QSaveFile file(path);
     file.setDirectWriteFallback(false);
