@@ -5,7 +5,7 @@
 #include "langdata/maker.h"
 #include "langdata/segmenter.h"
 #include "langdata/textfiles.h"
-#include "support/test_main.h"
+#include "support/registry.h"
 
 #include <QDir>
 #include <QHash>

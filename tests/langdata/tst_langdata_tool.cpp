@@ -4,7 +4,7 @@
 #include "langdata/sources.h"
 #include "langdata/textfiles.h"
 #include "langdata/workshop.h"
-#include "support/test_main.h"
+#include "support/registry.h"
 
 #include <QCryptographicHash>
 #include <QDir>
