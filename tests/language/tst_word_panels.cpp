@@ -1,0 +1,295 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "language/word_window.h"
+#include "platform/files.h"
+#include "support/registry.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMenu>
+#include <QSignalSpy>
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+
+/// The dictionary and the word list as they open over the board.
+class WordPanelsTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    static void choose(WordWindow &w, const QString &action)
+    {
+        auto *entry = w.form.findChild<QAction *>(action);
+        QVERIFY2(entry != nullptr, qPrintable(action));
+        entry->trigger();
+    }
+    static QStringList captions(WordWindow &w, const QString &menu)
+    {
+        QStringList result;
+        for (const QAction *action : w.form.findChild<QMenu *>(menu)->actions())
+            result.append(action->isSeparator() ? u"-"_s : action->text());
+        return result;
+    }
+
+private slots:
+    void menusReadAsTold()
+    {
+        WordWindow w;
+        QCOMPARE(
+            captions(w, u"mnuLex"_s),
+            QStringList({u"Tipp zeigen"_s, u"-"_s, u"Ausgewähltes Wort in Wörterliste hinzufügen"_s,
+                         u"Alle Wörter in Wörterliste löschen"_s, u"Abschreiben der Wörterliste starten"_s,
+                         u"-"_s, u"Auswahlfenster"_s, u"-"_s, u"Schließen"_s}));
+        QCOMPARE(captions(w, u"mnuTest"_s),
+                 QStringList({u"Wort bearbeiten"_s, u"-"_s, u"Wort entfernen"_s, u"Alle Wörter entfernen"_s,
+                              u"-"_s, u"Wort darüber markieren"_s, u"Wort darunter markieren"_s, u"-"_s,
+                              u"Wort hinzufügen"_s, u"-"_s, u"Schließen"_s}));
+        QCOMPARE(captions(w, u"mnuTest2"_s), QStringList(u"Wort hinzufügen"_s));
+    }
+
+    void dictionaryTakesTheToolsAndGivesThemBack()
+    {
+        WordWindow w;
+        w.c.Dropper1->setCaption(u"Haus"_s);
+        w.c.CorrectWordList->setVisible(true);
+        w.dictionary.toggle();
+        QVERIFY(w.dictionary.isOpen());
+        QVERIFY(w.c.CorrectWordList->isHidden());
+        QVERIFY(!w.c.Text2->isHidden());
+        QVERIFY(!w.c.Command2->isEnabled() && !w.c.Option1[0]->isEnabled() && w.c.Command4->isEnabled());
+        QCOMPARE(w.entry(), QString());
+        QCOMPARE(w.c.Command3->toolTip(), u"Suchen"_s);
+        choose(w, u"mnuCloseLex"_s);
+        QVERIFY(!w.dictionary.isOpen());
+        QVERIFY(w.c.Text2->isHidden());
+        QVERIFY(w.c.Command2->isEnabled() && w.c.Option1[0]->isEnabled());
+        QCOMPARE(w.c.Command3->toolTip(), u"Wörterbuch"_s);
+    }
+
+    void wordSearch()
+    {
+        WordWindow w;
+        w.c.Dropper1->setCaption(u"Haus"_s);
+        w.modes.GameActive = true;
+        w.check.Command2_MouseDown(Qt::RightButton);
+        QVERIFY(!w.dictionary.isOpen());
+        w.modes.GameActive = false;
+        w.check.Command2_MouseDown(Qt::RightButton);
+        QVERIFY(w.dictionary.isOpen());
+        QVERIFY(!w.c.Command4->isEnabled());
+        QCOMPARE(w.c.Text2->text(), QString()); // the word is dropped, as required
+        QCOMPARE(w.entry(), QString());
+        w.dictionary.toggle();
+        QVERIFY(w.c.Command4->isEnabled());
+    }
+
+    void searchBox_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<int>("row");
+        QTest::newRow("begins behind the first entry") << u"h"_s << 3;
+        QTest::newRow("wraps round") << u"haus"_s << 0;
+        QTest::newRow("case ignored") << u"LÄU"_s << 2;
+        QTest::newRow("nothing begins so") << u"zz"_s << -1;
+    }
+    void searchBox()
+    {
+        QFETCH(QString, typed);
+        WordWindow w;
+        w.lists.LexiconList.add(u"Hof"_s);
+        connect(w.c.Text2, &QLineEdit::textChanged, &w.dictionary, &DictionaryPanel::Text2_Change);
+        w.dictionary.toggle();
+        w.c.Text2->setText(typed);
+        QTEST(w.c.LexiconList->ListIndex(), "row");
+    }
+
+    void loadingClosesTheDictionary()
+    {
+        WordWindow w;
+        w.dictionary.toggle();
+        w.dictionary.storeLoading(&w.lists.WortelList);
+        QVERIFY(w.dictionary.isOpen());
+        w.dictionary.storeLoading(&w.lists.LexiconList);
+        QVERIFY(!w.dictionary.isOpen());
+        QVERIFY(w.c.Command2->isEnabled() && w.c.Text2->isHidden());
+    }
+
+    void dictionaryMenuFeedsTheWordList()
+    {
+        WordWindow w;
+        w.dictionary.toggle();
+        choose(w, u"mnuAddToRetypeList"_s); // nothing is selected
+        QVERIFY(w.lists.CorrectWordList.isEmpty());
+        w.c.LexiconList->setListIndex(1);
+        choose(w, u"mnuAddToRetypeList"_s);
+        QCOMPARE(w.lists.CorrectWordList.rows(), QStringList(u"laufen"_s));
+        choose(w, u"mnuClearRetypeList"_s);
+        QVERIFY(w.lists.CorrectWordList.isEmpty());
+    }
+
+    void showResultClosesTheDictionary()
+    {
+        WordWindow w;
+        w.dictionary.toggle();
+        w.words.Show_Result();
+        QVERIFY(!w.dictionary.isOpen());
+        QVERIFY(!w.c.CorrectWordList->isHidden());
+        choose(w, u"mnuCloseTheList"_s);
+        QVERIFY(w.c.CorrectWordList->isHidden());
+    }
+
+    void listsStayInTheWindowAndOffTheirTools_data()
+    {
+        QTest::addColumn<QSize>("window");
+        QTest::newRow("small") << QSize(632, 480);
+        QTest::newRow("netbook") << QSize(853, 480);
+        QTest::newRow("wide") << QSize(1920, 1080);
+    }
+    void listsStayInTheWindowAndOffTheirTools()
+    {
+        QFETCH(QSize, window);
+        WordWindow w;
+        w.form.resize(window);
+        layOutMainControls(w.c, window.width(), window.height());
+        w.dictionary.toggle();
+        const QRect list = w.c.LexiconList->geometry();
+        const QRect search = w.c.Text2->geometry();
+        QVERIFY(QRect(QPoint(), window).contains(list));
+        QVERIFY(QRect(QPoint(), window).contains(search));
+        QVERIFY(!search.intersects(list));
+        for (const PressButton *tool : {w.c.Command3, w.c.Command4, w.c.Command5})
+            QVERIFY(!list.intersects(QRect(tool->mapTo(&w.form, QPoint()), tool->size())));
+    }
+
+    void wordsAreAddedByTheirDictionarySpelling_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QStringList>("rows");
+        QTest::newRow("in the dictionary") << u"LÄUFER"_s << QStringList({u"Haus"_s, u"Läufer"_s});
+        QTest::newRow("not in it") << u"Maus"_s << QStringList(u"Haus"_s);
+        QTest::newRow("in the list already") << u"haus"_s << QStringList(u"Haus"_s);
+        QTest::newRow("cancelled") << QString() << QStringList(u"Haus"_s);
+    }
+    void wordsAreAddedByTheirDictionarySpelling()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QStringList, rows);
+        WordWindow w;
+        w.lists.CorrectWordList.add(u"Haus"_s);
+        QSignalSpy edited(&w.words, &WordListPanel::wordsEdited);
+        w.t.boxes.willTypeWord(typed);
+        choose(w, u"mnuAddWord"_s);
+        QCOMPARE(w.lists.CorrectWordList.rows(), rows);
+        QCOMPARE(edited.size(), rows.size() - 1);
+        QCOMPARE(w.t.boxes.asked.first().title, u"Wort hinzufügen"_s);
+        QVERIFY(w.t.ok());
+    }
+
+    void anEditedWordStaysAtItsPlace()
+    {
+        WordWindow w;
+        w.lists.CorrectWordList.addAll({u"Haus"_s, u"Läufer"_s});
+        w.c.CorrectWordList->setListIndex(1);
+        w.lists.LexiconList.add(u"Affe"_s);
+        w.t.boxes.willTypeWord(u"affe"_s);
+        choose(w, u"mnuEditWord"_s);
+        QCOMPARE(w.lists.CorrectWordList.rows(), QStringList({u"Haus"_s, u"Affe"_s}));
+        QCOMPARE(w.t.boxes.asked.first().style, u"Läufer"_s);
+
+        w.c.CorrectWordList->setListIndex(-1);
+        w.t.boxes.willTypeWord(u"laufen"_s);
+        choose(w, u"mnuEditWord"_s); // nothing is selected: nothing happens
+        QCOMPARE(w.lists.CorrectWordList.count(), 2);
+        QVERIFY(w.t.ok());
+    }
+
+    void vowelModeAsksNoWord()
+    {
+        WordWindow w;
+        w.modes.KurzVokalMode = true;
+        choose(w, u"mnuAddWord2"_s);
+        QVERIFY(w.t.boxes.asked.isEmpty());
+        QVERIFY(w.lists.CorrectWordList.isEmpty());
+    }
+
+    void deleting()
+    {
+        WordWindow w;
+        w.lists.CorrectWordList.addAll({u"a"_s, u"b"_s, u"c"_s});
+        QSignalSpy edited(&w.words, &WordListPanel::wordsEdited);
+        choose(w, u"mnuDeleteWord"_s); // nothing is selected
+        QCOMPARE(w.lists.CorrectWordList.count(), 3);
+        w.c.CorrectWordList->setListIndex(1);
+        choose(w, u"mnuDeleteWord"_s);
+        QCOMPARE(w.lists.CorrectWordList.rows(), QStringList({u"a"_s, u"c"_s}));
+        QCOMPARE(edited.last(), QVariantList({QStringList({u"a"_s, u"c"_s}), false}));
+
+        w.t.boxes.willPress(1);
+        choose(w, u"mnuDeleteAllWords"_s);
+        QCOMPARE(w.lists.CorrectWordList.count(), 2);
+        w.t.boxes.willPress(0);
+        choose(w, u"mnuDeleteAllWords"_s);
+        QVERIFY(w.lists.CorrectWordList.isEmpty());
+        QCOMPARE(w.t.boxes.asked.last().text, u"Entfernen alle Wörter?"_s);
+
+        w.lists.CorrectWordList.add(u"a"_s);
+        w.t.options.setBox(Setting::ConfirmBeforeErase, 0);
+        choose(w, u"mnuDeleteAllWords"_s);
+        QVERIFY(w.lists.CorrectWordList.isEmpty());
+        QVERIFY(w.t.ok());
+    }
+
+    void theMarkStopsAtTheEnds()
+    {
+        WordWindow w;
+        w.lists.CorrectWordList.addAll({u"a"_s, u"b"_s});
+        w.c.CorrectWordList->setListIndex(0);
+        for (const int expected : {1, 1}) {
+            choose(w, u"mnuMoveDown"_s);
+            QCOMPARE(w.c.CorrectWordList->ListIndex(), expected);
+        }
+        for (const int expected : {0, 0}) {
+            choose(w, u"mnuMoveUp"_s);
+            QCOMPARE(w.c.CorrectWordList->ListIndex(), expected);
+        }
+        QCOMPARE(w.lists.CorrectWordList.rows(), QStringList({u"a"_s, u"b"_s}));
+    }
+
+    void saving()
+    {
+        WordWindow w;
+        w.t.boxes.willBeRead();
+        w.words.Save_Result();
+        QCOMPARE(w.t.boxes.asked.last().text, u"Es gibt noch keine richtigen Wörter zum Speichern !"_s);
+
+        w.lists.CorrectWordList.addAll({u"Läufer"_s, u"Haus"_s});
+        w.t.fileDialogs.willSave(QString());
+        w.words.Save_Result();
+        const QString path = w.t.AppFolder + u"wörter.txt"_s;
+        QSignalSpy saved(&w.words, &WordListPanel::wordListSaved);
+        w.t.fileDialogs.willSave(path);
+        w.words.Save_Result();
+        QCOMPARE(ReadWholeFile(path), QByteArray("Haus\r\nL\xE4ufer\r\n"));
+        QCOMPARE(saved.size(), 1);
+        QCOMPARE(w.t.store.GetSetting(u"Path"_s, u"Export"_s, {}) + u'\\', w.t.AppFolder);
+        QCOMPARE(w.t.fileDialogs.asked.last().title, u"Richtige Wörter Speichern"_s);
+        QVERIFY(w.t.ok());
+    }
+
+    void copying()
+    {
+        WordWindow w;
+        QGuiApplication::clipboard()->setText(u"before"_s);
+        w.t.boxes.willBeRead();
+        w.words.CorrectWordsToClip();
+        QCOMPARE(w.t.boxes.asked.last().text, u"Es gibt noch keine richtigen Wörter zum kopieren !"_s);
+        QCOMPARE(QGuiApplication::clipboard()->text(), u"before"_s);
+        w.lists.CorrectWordList.addAll({u"Läufer"_s, u"Haus"_s});
+        w.words.CorrectWordsToClip();
+        QCOMPARE(QGuiApplication::clipboard()->text(), u"Haus\r\nLäufer\r\n"_s);
+    }
+};
+
+WORTEL_TEST(WordPanelsTest)
+#include "tst_word_panels.moc"

@@ -1,0 +1,129 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "language/word_tests.h"
+#include "platform/word_lists.h"
+#include "support/registry.h"
+#include "support/test_ground.h"
+
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+
+/// The questions asked of the word stores.
+class WordTestsTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    TestGround t;
+    WordLists lists;
+    WordTests tests{lists, t.options};
+
+private slots:
+    void init()
+    {
+        lists.LexiconList.clear();
+        lists.LexiconList.addAll({u"Straße"_s, u"Haus"_s, u"haus"_s, u"ÄPFEL"_s});
+        lists.PseudoWordList.clear();
+        lists.PseudoWordList.addAll({u"verhausung"_s, u"Verhausung"_s});
+    }
+
+    void caseRule_data()
+    {
+        QTest::addColumn<QString>("word");
+        QTest::addColumn<int>("rule");
+        QTest::addColumn<bool>("found");
+        QTest::newRow("exact, as written") << u"Haus"_s << 1 << true;
+        QTest::newRow("exact, the second spelling") << u"haus"_s << 1 << true;
+        QTest::newRow("exact, no such spelling") << u"HAUS"_s << 1 << false;
+        QTest::newRow("blind") << u"HAUS"_s << 0 << true;
+        QTest::newRow("blind, umlaut folds") << u"äpfel"_s << 0 << true;
+        QTest::newRow("blind, sharp s stays itself") << u"STRAßE"_s << 0 << true;
+        QTest::newRow("blind, sharp s is no double s") << u"STRASSE"_s << 0 << false;
+        QTest::newRow("blind, no trimming") << u" Haus"_s << 0 << false;
+        QTest::newRow("third state") << u"Haus"_s << 2 << false;
+        QTest::newRow("empty") << QString() << 0 << false;
+    }
+    void caseRule()
+    {
+        QFETCH(QString, word);
+        QFETCH(int, rule);
+        t.options.setBox(Setting::CaseCheck, rule);
+        QTEST(tests.In_Lexicon(word), "found");
+    }
+
+    void nonsenseHasItsOwnCaseRule()
+    {
+        t.options.setBox(Setting::CaseCheck, 0);
+        t.options.setBox(Setting::UseCaseOnPseudo, 1);
+        QVERIFY(tests.In_PseudoWordsList(u"Verhausung"_s));
+        QVERIFY(tests.In_PseudoWordsList(u"verhausung"_s));
+        QVERIFY(!tests.In_PseudoWordsList(u"VERHAUSUNG"_s));
+        t.options.setBox(Setting::UseCaseOnPseudo, 0);
+        QVERIFY(tests.In_PseudoWordsList(u"VERHAUSUNG"_s));
+    }
+
+    void listsByTheirKind()
+    {
+        WordLists l;
+        WordTests of(l, t.options);
+        l.kurzvokalList.addAll({u"ball"_s, QString()});
+        l.langvokalList.add(u"bahn"_s);
+        l.PrefixReTypeList.add(u"ver"_s);
+        l.WortelReTypeList.add(u"haus"_s);
+        l.SuffixReTypeList.add(u"ung"_s);
+        t.options.setBox(Setting::CaseCheck, 2); // these finds never ask it
+        QVERIFY(of.InKurzLangVokalList(u"BALL"_s, u"KURZ"_s));
+        QVERIFY(!of.InKurzLangVokalList(u"ball"_s, u"LANG"_s));
+        QVERIFY(!of.InKurzLangVokalList(u"ball"_s, u"kurz"_s));
+        QVERIFY(!of.InKurzLangVokalList(QString(), u"KURZ"_s)); // though an empty entry stands there
+        QVERIFY(of.InPseudoMorphemeList(u"VER"_s, u"PREFIX"_s));
+        QVERIFY(of.InPseudoMorphemeList(u"Haus"_s, u"WORTEL"_s));
+        QVERIFY(of.InPseudoMorphemeList(u"ung"_s, u"SUFFIX"_s));
+        QVERIFY(!of.InPseudoMorphemeList(u"ung"_s, u"PREFIX"_s));
+        QVERIFY(!of.InPseudoMorphemeList(u"ung"_s, u"Suffix"_s));
+    }
+
+    void properCaseGivesTheFirstSpelling()
+    {
+        QCOMPARE(tests.ProperCase(u"HAUS"_s), u"Haus"_s);
+        QCOMPARE(tests.ProperCase(u"äpfeL"_s), u"ÄPFEL"_s);
+        QCOMPARE(tests.ProperCase(u"Maus"_s), QString());
+        QCOMPARE(tests.ProperCase2(QString()), QString());
+    }
+
+    void correctWordsAreCountedByKind()
+    {
+        t.options.setBox(Setting::CaseCheck, 1);
+        lists.CorrectWordList.addAll({u"Haus"_s, u"HAUS"_s, u"ball"_s, u"bahn"_s});
+        lists.kurzvokalList.add(u"Ball"_s);
+        lists.langvokalList.add(u"bahn"_s);
+        QCOMPARE(tests.GetCorrectNumWords(u"WORTEL"_s), 1);
+        QCOMPARE(tests.GetCorrectNumWords(u"VOKAL"_s), 2);
+        QCOMPARE(tests.GetCorrectNumWords(u"KURZ"_s), 0);
+    }
+
+    void sortsStable_data()
+    {
+        QTest::addColumn<bool>("ascending");
+        QTest::addColumn<bool>("caseSensitive");
+        QTest::addColumn<QStringList>("sorted");
+        QTest::newRow("collated") << true << false
+                                  << QStringList({u"ab"_s, u"Äpfel"_s, u"b"_s, u"B"_s, u"Zebra"_s});
+        QTest::newRow("collated, down")
+            << false << false << QStringList({u"Zebra"_s, u"b"_s, u"B"_s, u"Äpfel"_s, u"ab"_s});
+        QTest::newRow("binary") << true << true
+                                << QStringList({u"B"_s, u"Zebra"_s, u"ab"_s, u"b"_s, u"Äpfel"_s});
+    }
+    void sortsStable()
+    {
+        QFETCH(bool, ascending);
+        QFETCH(bool, caseSensitive);
+        QStringList items{u"b"_s, u"Zebra"_s, u"B"_s, u"Äpfel"_s, u"ab"_s};
+        InsertSortStrings(items, ascending, caseSensitive);
+        QTEST(items, "sorted");
+    }
+};
+
+WORTEL_TEST(WordTestsTest)
+#include "tst_word_tests.moc"
