@@ -64,7 +64,7 @@ QImage readPicture(const QString &path)
     }
     QImage picture;
     if (!reader.read(&picture))
-        throw pictureError(u"Das Bild ist beschädigt."_s);
+        throw pictureError(u"Das Bild ist beschädigt oder zu groß."_s);
     return picture;
 }
 

@@ -2,5 +2,10 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 wortel_test(board
     SOURCES
+        tst_board_rules.cpp
+        tst_bulk_tiles.cpp
+        tst_canvas.cpp
         tst_menus.cpp
+        tst_placement.cpp
+        tst_tile_store.cpp
 )
