@@ -2,13 +2,16 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 wortel_test(platform
     SOURCES
-        tst_options.cpp
+        tst_desktop.cpp
         tst_files.cpp
         tst_ini_file.cpp
+        tst_instance_link.cpp
+        tst_options.cpp
         tst_procedure.cpp
         tst_runtime_error.cpp
         tst_settings_file.cpp
         tst_system_info.cpp
         tst_text.cpp
+        tst_window_file_dialogs.cpp
         tst_word_store.cpp
 )

@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/sound_player.h"
+
+#include "platform/files.h"
+#include "platform/runtime_error.h"
+
+#include <QAudioDevice>
+#include <QFile>
+#include <QFileInfo>
+#include <QMediaDevices>
+#include <QSoundEffect>
+#include <QUrl>
+#include <QtEndian>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 largestFile = 32 << 20;
+
+} // namespace
+
+SoundPlayer::SoundPlayer() = default;
+
+SoundPlayer::~SoundPlayer() = default;
+
+void SoundPlayer::PlayResourceSound(int id)
+{
+    const QString path = u"/sounds/%1.wav"_s.arg(id);
+    if (QFile::exists(u':' + path))
+        play(resources_[id], QUrl(u"qrc:"_s + path));
+}
+
+bool SoundPlayer::playFile(const QString &path)
+{
+    const QString native = nativePath(path);
+    if (QFileInfo(native).size() > largestFile)
+        return false;
+    try {
+        if (!isWave(ReadWholeFile(path)))
+            return false;
+    } catch (const RuntimeError &) {
+        return false;
+    }
+    play(file_, QUrl::fromLocalFile(QFileInfo(native).absoluteFilePath()));
+    return true;
+}
+
+void SoundPlayer::play(std::unique_ptr<QSoundEffect> &effect, const QUrl &source)
+{
+    if (current_)
+        current_->stop();
+    current_ = nullptr;
+    if (QMediaDevices::defaultAudioOutput().isNull())
+        return;
+    if (!effect)
+        effect = std::make_unique<QSoundEffect>();
+    if (effect->source() != source)
+        effect->setSource(source);
+    effect->play(); // decodes first where it must, beside the interface thread
+    current_ = effect.get();
+}
+
+bool SoundPlayer::isWave(const QByteArray &bytes)
+{
+    if (!bytes.startsWith("RIFF") || bytes.mid(8, 4) != "WAVE")
+        return false;
+    bool format = false;
+    qsizetype at = 12;
+    while (at + 8 <= bytes.size()) {
+        const QByteArray name = bytes.mid(at, 4);
+        const quint32 size = qFromLittleEndian<quint32>(bytes.constData() + at + 4);
+        if (name == "fmt ")
+            format = size >= 16;
+        else if (name == "data")
+            return format && size > 0;
+        at += 8 + static_cast<qsizetype>(size) + static_cast<qsizetype>(size & 1);
+    }
+    return false;
+}

@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/system_clock.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QTimer>
+
+QDateTime SystemClock::now() const { return QDateTime::currentDateTime(); }
+
+void SystemClock::wait(int milliseconds)
+{
+    QEventLoop loop;
+    QTimer::singleShot(qMax(0, milliseconds), Qt::PreciseTimer, &loop, &QEventLoop::quit);
+    // Sockets are left out too: what a second start hands over may open a session.
+    loop.exec(QEventLoop::ExcludeUserInputEvents | QEventLoop::ExcludeSocketNotifiers);
+}
+
+void LoopPump::yield()
+{
+    QCoreApplication::processEvents();
+    sinceYield_.restart();
+}

@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/file_dialogs.h"
+
+/// The real file dialogs: the toolkit's own on every desktop, so that they look and behave alike, with German
+/// captions. Filters are written "Name (*.txt)|*.txt", several joined by "|", several patterns by ";".
+class WindowFileDialogs : public FileDialogs
+{
+public:
+    QStringList openFiles(const QString &title, const QString &folder, const QString &filter,
+                          bool multiple) override;
+    QString saveFile(const QString &title, const QString &folder, const QString &filter,
+                     const QString &suffix, const QString &suggestedName) override;
+
+    /// `filter` in the toolkit's form, one entry for each name.
+    static QStringList nameFilters(const QString &filter);
+};

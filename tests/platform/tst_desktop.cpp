@@ -1,0 +1,131 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/desktop.h"
+#include "platform/files.h"
+#include "platform/sound_player.h"
+#include "platform/system_clock.h"
+#include "support/registry.h"
+
+#include <QtTest>
+#include <QtWidgets>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A small WAV file: `chunks` behind the head.
+QByteArray wave(const QByteArray &chunks) { return "RIFF" + QByteArray(4, '\1') + "WAVE" + chunks; }
+
+const QByteArray format = QByteArray("fmt \x10\0\0\0", 8) + QByteArray(16, '\1');
+const QByteArray sound = QByteArray("data\x02\0\0\0\x01\x01", 10);
+
+} // namespace
+
+class DesktopTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void knowsWaves_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<bool>("isWave");
+        QTest::newRow("whole") << wave(format + sound) << true;
+        QTest::newRow("with another chunk of odd size")
+            << wave(format + QByteArray("LIST\x01\0\0\0x\0", 10) + sound) << true;
+        QTest::newRow("no sound") << wave(format) << false;
+        QTest::newRow("no format") << wave(sound) << false;
+        QTest::newRow("empty sound") << wave(format + QByteArray("data\0\0\0\0", 8)) << false;
+        QTest::newRow("chunk of 4 GB") << wave(QByteArray("LIST\xFF\xFF\xFF\xFF", 8) + sound) << false;
+        QTest::newRow("cut") << wave(format).left(15) << false;
+        QTest::newRow("text") << QByteArray("Liebe Oma") << false;
+        QTest::newRow("nothing") << QByteArray() << false;
+    }
+    void knowsWaves()
+    {
+        QFETCH(QByteArray, bytes);
+        QTEST(SoundPlayer::isWave(bytes), "isWave");
+    }
+
+    void soundsCostNoTimeAndNoCrash()
+    {
+        QTemporaryDir folder;
+        writeFileAtomically(folder.filePath(u"kä.wav"_s), wave(format + sound));
+        writeFileAtomically(folder.filePath(u"text.wav"_s), "Liebe Oma");
+        QElapsedTimer timer;
+        timer.start();
+        SoundPlayer player;
+        for (int id : {101, 116, -1, 124, 101})
+            player.PlayResourceSound(id);
+        QVERIFY(player.playFile(storedPath(folder.filePath(u"KÄ.WAV"_s))));
+        QVERIFY(!player.playFile(folder.filePath(u"text.wav"_s)));
+        QVERIFY(!player.playFile(folder.filePath(u"fehlt.wav"_s)));
+        QVERIFY(!player.playFile(folder.path()));
+        player.PlayResourceSound(102);
+        QVERIFY(timer.elapsed() < 2000);
+    }
+
+    void waitPaintsAndTakesItsTime()
+    {
+        QLabel label(u"x"_s);
+        label.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&label));
+        struct : QObject
+        {
+            int paints = 0;
+            bool eventFilter(QObject *, QEvent *event) override
+            {
+                paints += event->type() == QEvent::Paint ? 1 : 0;
+                return false;
+            }
+        } counter;
+        label.installEventFilter(&counter);
+        label.update();
+        QElapsedTimer timer;
+        timer.start();
+        SystemClock().wait(30);
+        QVERIFY(timer.elapsed() >= 29);
+        QCOMPARE(counter.paints, 1);
+        SystemClock().wait(-1); // returns
+    }
+
+    void pumpServesWhatWaitsWithinASlice()
+    {
+        LoopPump pump;
+        pump.yield();
+        QVERIFY(!pump.inputWaiting());
+        bool served = false;
+        QMetaObject::invokeMethod(
+            this, [&] { served = true; }, Qt::QueuedConnection);
+        QElapsedTimer timer;
+        timer.start();
+        while (!served && timer.elapsed() < 1000)
+            if (pump.inputWaiting())
+                pump.yield();
+        QVERIFY(served);
+        QVERIFY(timer.elapsed() >= LoopPump::sliceMs - 1); // not in every round
+        QVERIFY(!pump.inputWaiting());
+    }
+
+    void windowsAreCentredAndOnTop()
+    {
+        QWidget form;
+        form.resize(301, 200);
+        CenterForm(&form);
+        const QRect screen = form.screen()->geometry();
+        QCOMPARE(form.pos(), QPoint((screen.width() - 301) / 2, (screen.height() - 200) / 2));
+        form.show();
+        MakeTopMost(&form);
+        QVERIFY(form.windowFlags().testFlag(Qt::WindowStaysOnTopHint) && form.isVisible());
+        MakeTopMost(&form, false);
+        QVERIFY(!form.windowFlags().testFlag(Qt::WindowStaysOnTopHint) && form.isVisible());
+        QFrame control;
+        ThinBorder(&control, true);
+        QCOMPARE(control.frameWidth(), 1);
+        ThinBorder(&control, false);
+        QCOMPARE(control.frameWidth(), 0);
+    }
+};
+
+WORTEL_TEST(DesktopTest)
+#include "tst_desktop.moc"

@@ -1,0 +1,141 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/files.h"
+#include "platform/window_file_dialogs.h"
+#include "support/registry.h"
+
+#include <QtTest>
+#include <QtWidgets>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Does `act` with the file dialog as soon as it is open.
+template <typename Act> void whenOpen(Act act)
+{
+    QTimer::singleShot(50, [act] {
+        auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+        if (!dialog)
+            return QTest::qFail("no file dialog is open", __FILE__, __LINE__);
+        act(*dialog);
+        if (dialog->isVisible())
+            dialog->reject(); // a failed comparison must not leave the test waiting
+    });
+}
+
+void enterNames(QFileDialog &dialog, const QString &names)
+{
+    dialog.findChild<QLineEdit *>(u"fileNameEdit"_s)->setText(names);
+    dialog.findChild<QDialogButtonBox *>()->buttons().constFirst()->click();
+}
+
+} // namespace
+
+class WindowFileDialogsTest : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryDir folder_;
+    WindowFileDialogs real_;
+    FileDialogs &dialogs_ = real_;
+    const QString lists_ = u"Text Dateien (*.txt)|*.txt"_s;
+
+private slots:
+    void initTestCase()
+    {
+        for (const QString &name : {u"Übung.TXT"_s, u"Abend.txt"_s, u"Zahl.txt"_s, u"Bild.png"_s})
+            writeFileAtomically(folder_.filePath(name), "x");
+    }
+
+    void turnsFilters_data()
+    {
+        QTest::addColumn<QString>("filter");
+        QTest::addColumn<QStringList>("names");
+        QTest::newRow("one") << lists_ << QStringList{u"Text Dateien (*.txt) (*.txt)"_s};
+        QTest::newRow("patterns") << u"Bild-Dateien (*.jpg, *.gif, *.bmp)|*.jpg;*.jpeg;*.gif;*.bmp;"_s
+                                  << QStringList{
+                                         u"Bild-Dateien (*.jpg, *.gif, *.bmp) (*.jpg *.jpeg *.gif *.bmp)"_s};
+        QTest::newRow("two") << u"A|*.a|B|*.b"_s << QStringList{u"A (*.a)"_s, u"B (*.b)"_s};
+        QTest::newRow("half") << u"A"_s << QStringList();
+    }
+    void turnsFilters()
+    {
+        QFETCH(QString, filter);
+        QTEST(WindowFileDialogs::nameFilters(filter), "names");
+    }
+
+    void opensSeveralInTheDialogsOrder()
+    {
+        whenOpen([&](QFileDialog &dialog) {
+            QCOMPARE(dialog.windowTitle(), u"Wortel laden (Multi)"_s);
+            QCOMPARE(QDir(dialog.directory()).canonicalPath(), QDir(folder_.path()).canonicalPath());
+            enterNames(dialog, u"\"Zahl.txt\" \"Übung.TXT\""_s);
+        });
+        const QString stored = storedPath(folder_.path());
+        QCOMPARE(dialogs_.openFiles(u"Wortel laden (Multi)"_s, stored + u"\\"_s, lists_, true),
+                 QStringList({stored + u"\\Zahl.txt"_s, stored + u"\\Übung.TXT"_s}));
+    }
+
+    void cancelledGivesNothing()
+    {
+        whenOpen([](QFileDialog &dialog) { dialog.reject(); });
+        QCOMPARE(dialogs_.openFiles(u"x"_s, u"C:\\fehlt\\text"_s, lists_, false), QStringList());
+        whenOpen([](QFileDialog &dialog) { dialog.reject(); });
+        QCOMPARE(dialogs_.saveFile(u"x"_s, QString(), lists_, u".txt"_s), QString());
+    }
+
+    void savesWithSuffix_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("added") << u"Größe"_s << u"Größe.txt"_s;
+        QTest::newRow("there") << u"Größe.TXT"_s << u"Größe.TXT"_s;
+        QTest::newRow("other") << u"Größe.lst"_s << u"Größe.lst"_s;
+    }
+    void savesWithSuffix()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QString, name);
+        whenOpen([&](QFileDialog &dialog) {
+            QCOMPARE(dialog.selectedFiles().value(0), folder_.filePath(u"Vorschlag.txt"_s));
+            enterNames(dialog, typed);
+        });
+        const QString stored = storedPath(folder_.path());
+        QCOMPARE(dialogs_.saveFile(u"x"_s, stored, lists_, u".txt"_s, u"Vorschlag"_s), stored + u'\\' + name);
+    }
+
+    void asksBeforeAFileIsReplaced()
+    {
+        QStringList asked;
+        const auto answer = [&](const QString &button) {
+            QTimer::singleShot(200, [&asked, button] {
+                auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+                if (!box)
+                    return QTest::qFail("no question", __FILE__, __LINE__);
+                asked.append(box->text());
+                const QList<QAbstractButton *> buttons = box->buttons();
+                for (QAbstractButton *candidate : buttons)
+                    if (candidate->text().remove(u'&') == button)
+                        candidate->click();
+            });
+        };
+        whenOpen([&](QFileDialog &dialog) {
+            answer(u"Abbrechen"_s);
+            QTimer::singleShot(400, [&] {
+                answer(u"Ersetzen"_s);
+                auto *again = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+                QVERIFY(again);
+                enterNames(*again, u"abend"_s); // another case, the same file
+            });
+            enterNames(dialog, u"Abend"_s);
+        });
+        const QString stored = storedPath(folder_.path());
+        QCOMPARE(dialogs_.saveFile(u"x"_s, stored, lists_, u".txt"_s), stored + u"\\abend.txt"_s);
+        QCOMPARE(asked.size(), 2);
+        QCOMPARE(asked[0], u"Abend.txt gibt es schon.\nSoll die Datei ersetzt werden?"_s);
+    }
+};
+
+WORTEL_TEST(WindowFileDialogsTest)
+#include "tst_window_file_dialogs.moc"
