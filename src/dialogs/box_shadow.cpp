@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "dialogs/box_shadow.h"
+
+#include <QEvent>
+#include <QPainter>
+
+namespace {
+
+constexpr int blur = 16; ///< pixels that the shadow reaches beyond the box
+constexpr int drop = 5;  ///< pixels that it lies lower
+
+} // namespace
+
+frmShadow::frmShadow(QWidget *box, QWidget *ground)
+    : QWidget(ground->window())
+    , box_(box)
+{
+    setObjectName(QStringLiteral("frmShadow"));
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setFocusPolicy(Qt::NoFocus);
+    hide();
+    connect(box, &QObject::destroyed, this, &QObject::deleteLater);
+    box->installEventFilter(this);
+}
+
+bool frmShadow::eventFilter(QObject *watched, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::Show:
+    case QEvent::Move:
+    case QEvent::Resize:
+        follow();
+        break;
+    case QEvent::Hide:
+        hide();
+        break;
+    default:
+        break;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void frmShadow::follow()
+{
+    if (!box_->isVisible())
+        return;
+    const QRect place(parentWidget()->mapFromGlobal(box_->geometry().topLeft()), box_->size());
+    setGeometry(place.adjusted(-blur, -blur, blur, blur).translated(0, drop));
+    show();
+    raise();
+}
+
+void frmShadow::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0, 10, 40, 11));
+    for (int inset = 0; inset < blur; inset += 2)
+        painter.drawRoundedRect(rect().adjusted(inset, inset, -inset, -inset), blur - inset / 2,
+                                blur - inset / 2);
+}

@@ -1,0 +1,158 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "dialogs/real_boxes.h"
+
+#include "dialogs/input_box.h"
+#include "dialogs/message_box.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace {
+
+QString titleOr(const QString &title) { return title.isEmpty() ? QStringLiteral("Wortel-Meister") : title; }
+
+std::optional<QPoint> cornerOf(int left, int top)
+{
+    return left < 0 || top < 0 ? std::nullopt : std::optional(QPoint(left, top));
+}
+
+QMessageBox::Icon plainIcon(Boxes::Icon icon)
+{
+    switch (icon) {
+    case Boxes::Icon::Information:
+        return QMessageBox::Information;
+    case Boxes::Icon::Warning:
+        return QMessageBox::Warning;
+    case Boxes::Icon::Critical:
+        return QMessageBox::Critical;
+    case Boxes::Icon::Question:
+        return QMessageBox::Question;
+    }
+    return QMessageBox::NoIcon;
+}
+
+struct PlainButton
+{
+    Boxes::Answer answer;
+    const char16_t *caption;
+    QMessageBox::ButtonRole role;
+};
+
+constexpr std::array okButtons{PlainButton{Boxes::Answer::Ok, u"OK", QMessageBox::AcceptRole}};
+constexpr std::array yesNoButtons{PlainButton{Boxes::Answer::Yes, u"Ja", QMessageBox::YesRole},
+                                  PlainButton{Boxes::Answer::No, u"Nein", QMessageBox::NoRole}};
+constexpr std::array yesNoCancelButtons{
+    PlainButton{Boxes::Answer::Yes, u"Ja", QMessageBox::YesRole},
+    PlainButton{Boxes::Answer::No, u"Nein", QMessageBox::NoRole},
+    PlainButton{Boxes::Answer::Cancel, u"Abbrechen", QMessageBox::RejectRole}};
+
+/// The buttons in their order; the last one is what Esc means.
+std::pair<const PlainButton *, const PlainButton *> plainButtons(Boxes::Buttons buttons)
+{
+    switch (buttons) {
+    case Boxes::Buttons::Ok:
+        break;
+    case Boxes::Buttons::YesNo:
+        return {yesNoButtons.data(), yesNoButtons.data() + yesNoButtons.size()};
+    case Boxes::Buttons::YesNoCancel:
+        return {yesNoCancelButtons.data(), yesNoCancelButtons.data() + yesNoCancelButtons.size()};
+    }
+    return {okButtons.data(), okButtons.data() + okButtons.size()};
+}
+
+} // namespace
+
+QString textForPlainBox(const QString &text)
+{
+    constexpr int longestWord = 50;
+    constexpr int longestLine = 70; ///< about what the box shows in one line
+    constexpr int mostLines = 12;
+    const QString ellipsis(QChar(0x2026));
+    QString result;
+    int word = 0;
+    int column = 0;
+    int line = 1;
+    for (const QChar character : text) {
+        if (character == u'\n' || column >= longestLine) {
+            column = 0;
+            if (++line > mostLines)
+                return result + ellipsis;
+        }
+        word = character.isSpace() ? 0 : word + 1;
+        if (word > longestWord && !character.isLowSurrogate()) {
+            result += QChar(0x200B); // a place where the line may be broken, invisible
+            word = 1;
+        }
+        result += character;
+        ++column;
+    }
+    return result;
+}
+
+RealBoxes::RealBoxes(QWidget *mainWindow)
+    : mainWindow_(mainWindow)
+{}
+
+RealBoxes::~RealBoxes() = default;
+
+QWidget *RealBoxes::owner() const
+{
+    if (QWidget *modal = QApplication::activeModalWidget())
+        return modal;
+    if (QWidget *active = QApplication::activeWindow(); active != nullptr && active->isVisible())
+        return active;
+    return mainWindow_ != nullptr && mainWindow_->isVisible() ? mainWindow_.data() : nullptr;
+}
+
+Boxes::Answer RealBoxes::plainBox(Icon icon, const QString &title, const QString &text, Buttons buttons)
+{
+    QMessageBox box(owner());
+    box.setTextFormat(Qt::PlainText);
+    box.setIcon(plainIcon(icon));
+    box.setWindowTitle(titleOr(title).simplified().left(200));
+    box.setText(textForPlainBox(text));
+    const auto [first, end] = plainButtons(buttons);
+    QAbstractButton *last = nullptr;
+    for (const PlainButton *row = first; row != end; ++row)
+        last = box.addButton(QString::fromUtf16(row->caption), row->role);
+    box.setEscapeButton(last);
+    box.setDefaultButton(qobject_cast<QPushButton *>(box.buttons().constFirst()));
+    box.exec();
+    const QAbstractButton *pressed = box.clickedButton();
+    for (const PlainButton *row = first; row != end; ++row) {
+        if (pressed != nullptr && pressed->text() == QStringView(row->caption))
+            return row->answer;
+    }
+    return (end - 1)->answer;
+}
+
+int RealBoxes::ShowMBox(const QString &prompt, bool show, int buttons, const QString &title,
+                        const QString &style)
+{
+    if (!show)
+        return 0;
+    return MBox(prompt, buttons, titleOr(title), style, owner()).ask();
+}
+
+int RealBoxes::ShowInfoBox(const QString &prompt, const QString &style, const QString &title)
+{
+    return frmMboxRetype(prompt, style, titleOr(title), owner()).ask();
+}
+
+QString RealBoxes::ShowIBox(const QString &prompt, int kind, const QString &defaultText, const QString &title,
+                            int left, int top)
+{
+    return IBox(prompt, kind, defaultText, titleOr(title), owner()).askText(cornerOf(left, top));
+}
+
+QString RealBoxes::ShowWordBox(const QString &prompt, int, const QString &defaultText, const QString &title,
+                               int left, int top)
+{
+    return frmChgCorrectWords(prompt, defaultText, titleOr(title), owner()).askText(cornerOf(left, top));
+}
