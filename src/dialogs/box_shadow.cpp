@@ -12,11 +12,11 @@ constexpr int drop = 5;  ///< pixels that it lies lower
 
 } // namespace
 
-frmShadow::frmShadow(QWidget *box, QWidget *ground)
+BoxShadow::BoxShadow(QWidget *box, QWidget *ground)
     : QWidget(ground->window())
     , box_(box)
 {
-    setObjectName(QStringLiteral("frmShadow"));
+    setObjectName(QStringLiteral("BoxShadow"));
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setFocusPolicy(Qt::NoFocus);
     hide();
@@ -24,7 +24,7 @@ frmShadow::frmShadow(QWidget *box, QWidget *ground)
     box->installEventFilter(this);
 }
 
-bool frmShadow::eventFilter(QObject *watched, QEvent *event)
+bool BoxShadow::eventFilter(QObject *watched, QEvent *event)
 {
     switch (event->type()) {
     case QEvent::Show:
@@ -41,7 +41,7 @@ bool frmShadow::eventFilter(QObject *watched, QEvent *event)
     return QWidget::eventFilter(watched, event);
 }
 
-void frmShadow::follow()
+void BoxShadow::follow()
 {
     if (!box_->isVisible())
         return;
@@ -51,7 +51,7 @@ void frmShadow::follow()
     raise();
 }
 
-void frmShadow::paintEvent(QPaintEvent *)
+void BoxShadow::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);

@@ -4,16 +4,16 @@
 
 #include <QWidget>
 
-/// `frmShadow`: the soft shadow that a box throws on the window behind it. It is painted by that window, as a
+/// The soft shadow that a box throws on the window behind it. It is painted by that window, as a
 /// child over all others, because a translucent window of its own needs a compositor that not every desktop
 /// has.
-class frmShadow : public QWidget
+class BoxShadow : public QWidget
 {
     Q_OBJECT
 
 public:
     /// Shadows `box` on the window of `ground` for as long as it is shown.
-    frmShadow(QWidget *box, QWidget *ground);
+    BoxShadow(QWidget *box, QWidget *ground);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -79,6 +79,7 @@ BoxWindow::BoxWindow(const boxstyle::Colours &colours, const QString &title, con
     Label2_->setAlignment(Qt::AlignHCenter);
     Pic1_->setObjectName(QStringLiteral("Pic1"));
     Pic1_->setWidget(Label2_);
+    Label2_->setAutoFillBackground(false); // the area has just set it
     Pic1_->setWidgetResizable(true);
     Pic1_->setFrameShape(QFrame::NoFrame);
     Pic1_->setFocusPolicy(Qt::NoFocus);
@@ -92,7 +93,6 @@ BoxWindow::BoxWindow(const boxstyle::Colours &colours, const QString &title, con
     middle_->setSpacing(padding);
     middle_->addWidget(Pic1_, 1);
     column_->addLayout(middle_, 1);
-    buttons_->setContentsMargins(padding, 0, padding, padding);
     buttons_->setSpacing(padding);
     buttons_->setAlignment(Qt::AlignHCenter);
     column_->addLayout(buttons_);
@@ -100,7 +100,7 @@ BoxWindow::BoxWindow(const boxstyle::Colours &colours, const QString &title, con
     new Mover(Label3_);
     new Mover(Label2_);
     if (owner != nullptr)
-        new frmShadow(this, owner);
+        new BoxShadow(this, owner);
 }
 
 BoxWindow::~BoxWindow() = default;
@@ -115,6 +115,7 @@ PressButton *BoxWindow::addButton(const QString &caption, int index)
     button->setFace(colours_.button, colours_.buttonText);
     button->setMinimumSize(buttonWidth, buttonHeight);
     connect(button, &QAbstractButton::clicked, this, [this, index] { done(index); });
+    buttons_->setContentsMargins(padding, 0, padding, padding);
     buttons_->addWidget(button);
     return button;
 }
@@ -145,8 +146,13 @@ void BoxWindow::growWithText(const QRect &screen)
     const int wanted = Label2_->heightForWidth(text);
     Pic1_->setMinimumSize(text, wanted);
     const int rest = column_->totalMinimumSize().height() - wanted;
-    if (wanted > screen.height() - rest)
+    const bool scrolls = wanted > screen.height() - rest;
+    Pic1_->setVerticalScrollBarPolicy(scrolls ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+    if (scrolls) {
         Pic1_->setMinimumSize(text + bar, std::max(messageSize * 2, screen.height() - rest));
+        middle_->invalidate();
+        column_->invalidate();
+    }
     resize(column_->totalMinimumSize());
     const int strip = width() - 2 * frameWidth - 2 * padding;
     Label3_->setText(Label3_->fontMetrics().elidedText(windowTitle(), Qt::ElideRight, strip));
@@ -233,6 +239,7 @@ void BoxWindow::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     paintBackground(painter);
+    painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(colours_.frame, frameWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     const double half = frameWidth / 2.0;
     painter.drawRect(QRectF(rect()).adjusted(half, half, -half, -half));
