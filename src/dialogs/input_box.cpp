@@ -30,6 +30,7 @@ InputBox::InputBox(const boxstyle::Colours &colours, const QString &title, const
     letters.setPixelSize(entrySize);
     Text1_->setFont(letters);
     Text1_->setMinimumSize(entryWidth, entryHeight);
+    Text1_->setTextMargins(4, 0, 4, 0);
     Text1_->setText(defaultText);
     Text1_->selectAll();
     Text1_->setFocus();

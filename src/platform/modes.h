@@ -24,6 +24,7 @@ struct Modes
     bool Closing = false; ///< the window is going: a search that would run on ends
     bool MoveAllowed = true;
     bool WordCheckDrag = false;
+    bool CheckButtonsAct = true; ///< false while a report stands over the board
     bool BackupBusy = false;
     bool CanUndo = false;
     bool CanRedo = false;

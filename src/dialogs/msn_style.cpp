@@ -1,0 +1,76 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "dialogs/msn_style.h"
+
+#include "platform/ground.h"
+#include "platform/modes.h"
+#include "platform/options.h"
+#include "platform/sound.h"
+#include "widgets/gradient.h"
+#include "widgets/main_controls.h"
+#include "widgets/press_button.h"
+
+namespace {
+
+constexpr int left = 31;  ///< pixels: 465 twips
+constexpr int below = 14; ///< pixels under the upper edge of the lower band
+constexpr int firstPixels = ReportWindow::firstHeight / 15;
+
+} // namespace
+
+frmMsnStyle::frmMsnStyle(Ground &ground, MainControls &controls, Modes &modes)
+    : QObject(controls.form)
+    , ground_(ground)
+    , controls_(controls)
+    , modes_(modes)
+{}
+
+ReportWindow *frmMsnStyle::windowOf(int slot)
+{
+    ReportWindow *&window = windows_[static_cast<std::size_t>(slot - 1)];
+    if (window == nullptr) {
+        window = new ReportWindow(controls_.form);
+        window->setObjectName(QStringLiteral("frmMsnStyle(%1)").arg(slot));
+        connect(window, &ReportWindow::sunk, this, [this, slot] { leave(slot); });
+        connect(window, &ReportWindow::closePressed, this, [this, slot] { leave(slot); });
+    }
+    return window;
+}
+
+void frmMsnStyle::Display(const QString &title, const QString &line1, const QString &line2,
+                          const QString &line3, int seconds, int soundId, bool boldLine2, bool showSmiley)
+{
+    if (++slot_ > rows)
+        slot_ = 1;
+    ReportWindow *window = windowOf(slot_);
+    const int bandTop = controls_.Picture1->mapTo(controls_.form, QPoint(0, 0)).y();
+    QPoint foot(left, bandTop + below + firstPixels);
+    const Report report{title, line1, line2, line3, boldLine2, showSmiley};
+    window->setReport(report, foot);
+    foot.ry() -= (slot_ - 1) * window->fullHeight();
+    window->setReport(report, foot);
+    if (ground_.options.isOn(Setting::UseSounds))
+        ground_.sound.PlayResourceSound(soundId);
+    restButtons(true);
+    window->slide(seconds);
+}
+
+void frmMsnStyle::restButtons(bool resting)
+{
+    modes_.CheckButtonsAct = !resting;
+    controls_.Command5->setEnabled(!resting);
+    controls_.Command2->setEnabled(!resting);
+    if (modes_.GameActive)
+        return;
+    controls_.Command4->setEnabled(!resting);
+    controls_.Command3->setEnabled(!resting);
+}
+
+void frmMsnStyle::leave(int slot)
+{
+    windowOf(slot)->drop();
+    if (slot_ == slot)
+        slot_ = 0;
+    restButtons(false);
+    emit closed();
+}

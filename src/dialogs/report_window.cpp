@@ -1,0 +1,177 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "dialogs/report_window.h"
+
+#include "widgets/gradient.h"
+
+#include <QGridLayout>
+#include <QIcon>
+#include <QLabel>
+#include <QTimer>
+#include <QToolButton>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int twipsPerPixel = 15;
+constexpr int growStep = 10; ///< twips a step
+constexpr int sinkStep = 5;
+constexpr int stepsPerFrame = 8; ///< full height in about a third of a second
+constexpr int frameTime = 16;    ///< milliseconds
+constexpr int narrowest = 320;   ///< pixels
+constexpr int widest = 560;
+constexpr int smileySize = 64;
+constexpr int signSize = 20;
+constexpr QColor ink{0x08, 0x1C, 0x5C};
+
+QLabel *makeLine(QWidget *parent, const char *name, int pixels)
+{
+    auto *label = new QLabel(parent);
+    label->setObjectName(QLatin1String(name));
+    label->setTextFormat(Qt::PlainText);
+    QFont font = label->font();
+    font.setPixelSize(pixels);
+    label->setFont(font);
+    QPalette palette = label->palette();
+    palette.setColor(QPalette::WindowText, ink);
+    label->setPalette(palette);
+    return label;
+}
+
+/// One line, without the line end that callers close theirs with.
+QString oneLine(const QString &text) { return text.simplified(); }
+
+void setElided(QLabel *label, const QString &text, int width)
+{
+    label->setText(label->fontMetrics().elidedText(oneLine(text), Qt::ElideRight, width));
+}
+
+} // namespace
+
+ReportWindow::ReportWindow(QWidget *parent)
+    : QWidget(parent)
+    , picBackground_(new GradientPanel(this))
+    , Label1_(makeLine(picBackground_, "Label1", 16))
+    , lblAlert_(makeLine(picBackground_, "lblAlert", 15))
+    , Label2_(makeLine(picBackground_, "Label2", 22))
+    , Label3_(makeLine(picBackground_, "Label3", 15))
+    , ImgSmiley_(new QLabel(picBackground_))
+    , Image1_(new QToolButton(picBackground_))
+    , frame_(new QTimer(this))
+    , AlertTimer_(new QTimer(this))
+{
+    setFocusPolicy(Qt::NoFocus);
+    QFont title = Label1_->font();
+    title.setBold(true);
+    Label1_->setFont(title);
+    picBackground_->setObjectName(QStringLiteral("picBackground"));
+    ImgSmiley_->setObjectName(QStringLiteral("ImgSmiley"));
+    ImgSmiley_->setFixedSize(smileySize, smileySize);
+    ImgSmiley_->setPixmap(QIcon(QStringLiteral(":/icons/smiley.svg"))
+                              .pixmap(QSize(smileySize, smileySize), devicePixelRatioF()));
+    // The sign is shown more plainly while the pointer is on it.
+    Image1_->setObjectName(QStringLiteral("Image1"));
+    Image1_->setAccessibleName(QStringLiteral("Schließen"));
+    Image1_->setFocusPolicy(Qt::NoFocus);
+    Image1_->setAutoRaise(true);
+    Image1_->setCursor(Qt::PointingHandCursor);
+    QIcon close;
+    close.addFile(QStringLiteral(":/icons/close.svg"), {}, QIcon::Normal);
+    close.addFile(QStringLiteral(":/icons/close-hover.svg"), {}, QIcon::Active);
+    Image1_->setIcon(close);
+    Image1_->setIconSize(QSize(signSize, signSize));
+    connect(Image1_, &QAbstractButton::clicked, this, &ReportWindow::closePressed);
+
+    auto *grid = new QGridLayout(picBackground_);
+    grid->setContentsMargins(14, 8, 8, 14);
+    grid->setHorizontalSpacing(14);
+    grid->setVerticalSpacing(5);
+    grid->addWidget(Label1_, 0, 0, 1, 2);
+    grid->addWidget(Image1_, 0, 2, Qt::AlignRight | Qt::AlignTop);
+    grid->addWidget(ImgSmiley_, 1, 0, 3, 1, Qt::AlignVCenter);
+    grid->addWidget(lblAlert_, 1, 1, 1, 2);
+    grid->addWidget(Label2_, 2, 1, 1, 2);
+    grid->addWidget(Label3_, 3, 1, 1, 2);
+    grid->setColumnStretch(1, 1);
+
+    frame_->setInterval(frameTime);
+    AlertTimer_->setSingleShot(true);
+    AlertTimer_->setObjectName(QStringLiteral("AlertTimer"));
+    connect(frame_, &QTimer::timeout, this, [this] { sinking_ ? sink() : grow(); });
+    connect(AlertTimer_, &QTimer::timeout, this, [this] {
+        sinking_ = true;
+        frame_->start();
+    });
+    hide();
+}
+
+void ReportWindow::setReport(const Report &report, const QPoint &foot)
+{
+    foot_ = foot;
+    QFont word = Label2_->font();
+    word.setBold(report.boldLine2);
+    Label2_->setFont(word);
+    ImgSmiley_->setVisible(report.showSmiley);
+    const int beside = 2 * 14 + (report.showSmiley ? smileySize + 14 : 0);
+    const int most = std::min(widest, parentWidget()->width() - foot.x() - 10);
+    const int wanted = Label2_->fontMetrics().horizontalAdvance(oneLine(report.line2).left(200)) + 2;
+    const int width = std::clamp(wanted + beside, std::min(narrowest, most), most);
+    setElided(Label1_, report.title, width - beside - signSize);
+    setElided(lblAlert_, report.line1, width - beside);
+    setElided(Label2_, report.line2, width - beside);
+    setElided(Label3_, report.line3, width - beside);
+    picBackground_->layout()->invalidate();
+    fullHeight_ = picBackground_->layout()->totalMinimumSize().height();
+    picBackground_->resize(width, fullHeight_);
+    setFixedWidth(width);
+    setTwips(firstHeight);
+}
+
+void ReportWindow::slide(int seconds)
+{
+    sinking_ = false;
+    AlertTimer_->stop();
+    AlertTimer_->setInterval(std::clamp(seconds, 0, 24 * 3600) * 1000);
+    show();
+    raise();
+    frame_->start();
+}
+
+void ReportWindow::drop()
+{
+    frame_->stop();
+    AlertTimer_->stop();
+    hide();
+}
+
+void ReportWindow::setTwips(int twips)
+{
+    twips_ = twips;
+    const int height = std::min(twips / twipsPerPixel, fullHeight_);
+    setGeometry(foot_.x(), foot_.y() - height, width(), height);
+}
+
+void ReportWindow::grow()
+{
+    setTwips(std::min(twips_ + growStep * stepsPerFrame, fullHeight_ * twipsPerPixel));
+    if (twips_ >= fullHeight_ * twipsPerPixel) {
+        frame_->stop();
+        AlertTimer_->start();
+    }
+}
+
+void ReportWindow::sink()
+{
+    setTwips(std::max(twips_ - sinkStep * stepsPerFrame, lastHeight));
+    if (twips_ > lastHeight)
+        return;
+    drop();
+    emit sunk();
+}
+
+void ReportWindow::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    picBackground_->move(0, 0);
+}

@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <QWidget>
+
+class QLabel;
+class QTimer;
+class QToolButton;
+
+/// What a report says.
+struct Report
+{
+    QString title;
+    QString line1;
+    QString line2;
+    QString line3;
+    bool boldLine2 = false;
+    bool showSmiley = false;
+};
+
+/// One window of the report popup. It stands on its lower edge, grows upward out of it, waits, and sinks
+/// back. It is a child of the main window and lies over all its other children, so that it never takes the
+/// keyboard from the word field.
+class ReportWindow : public QWidget
+{
+    Q_OBJECT
+
+public:
+    static constexpr int firstHeight = 90; ///< twips, before it has grown
+    static constexpr int lastHeight = 120; ///< twips, to which it sinks
+
+    explicit ReportWindow(QWidget *parent);
+
+    /// Fills the window, with its lower left corner at `foot` (pixels of the parent).
+    void setReport(const Report &report, const QPoint &foot);
+    /// Grows to the full height, waits `seconds` and sinks. Emits `sunk` at the end.
+    void slide(int seconds);
+    /// Goes at once, without `sunk`.
+    void drop();
+    /// Pixels with all of its text shown.
+    int fullHeight() const { return fullHeight_; }
+
+signals:
+    void sunk();
+    void closePressed();
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void grow();
+    void sink();
+    void setTwips(int twips);
+
+    QWidget *picBackground_;
+    QLabel *Label1_;
+    QLabel *lblAlert_;
+    QLabel *Label2_;
+    QLabel *Label3_;
+    QLabel *ImgSmiley_;
+    QToolButton *Image1_;
+    QTimer *frame_;
+    QTimer *AlertTimer_;
+    QPoint foot_;
+    int fullHeight_ = 0;
+    int twips_ = 0;
+    bool sinking_ = false;
+};

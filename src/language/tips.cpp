@@ -1,0 +1,245 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "language/tips.h"
+
+#include "platform/boxes.h"
+#include "platform/files.h"
+#include "platform/ground.h"
+#include "platform/ini_file.h"
+#include "platform/modes.h"
+#include "platform/options.h"
+#include "platform/procedure.h"
+#include "platform/sound.h"
+#include "platform/word_lists.h"
+#include "widgets/alpha_panel.h"
+#include "widgets/click_label.h"
+#include "widgets/main_controls.h"
+#include "widgets/picture_box.h"
+
+#include <QApplication>
+#include <QTimer>
+
+#include <algorithm>
+#include <array>
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int valueLimit = 750; ///< characters of a tip
+constexpr int tipSound = 110;
+constexpr int largestLetters = 26; ///< pixels
+constexpr int smallestLetters = 12;
+constexpr int closeLetters = 16;
+
+const QString section = u"Tipp"_s;
+
+QString lexiconKey(const QString &lexiconPath)
+{
+    QString name = GetOnlyFileName(lexiconPath);
+    if (name.endsWith(u".lex"_s, Qt::CaseInsensitive))
+        name.chop(4);
+    return name;
+}
+
+void startFor(QTimer *timer, double seconds)
+{
+    const double milliseconds = std::min(seconds * 1000, double(std::numeric_limits<int>::max()));
+    if (milliseconds >= 1) // an interval of nothing is a timer that never fires
+        timer->start(static_cast<int>(milliseconds));
+}
+
+} // namespace
+
+Tips::Tips(Ground &ground, MainControls &controls, WordLists &lists, Modes &modes)
+    : QObject(controls.form)
+    , ground_(ground)
+    , controls_(controls)
+    , lists_(lists)
+    , modes_(modes)
+    , TipTimer_(new QTimer(this))
+    , GameTipTimer_(new QTimer(this))
+    , VokalTipTimer_(new QTimer(this))
+{
+    TipTimer_->setObjectName(u"TipTimer"_s);
+    GameTipTimer_->setObjectName(u"GameTipTimer"_s);
+    VokalTipTimer_->setObjectName(u"VokalTipTimer"_s);
+    connect(TipTimer_, &QTimer::timeout, this, &Tips::TipTimer_Tick);
+    connect(GameTipTimer_, &QTimer::timeout, this, &Tips::GameTipTimer_Tick);
+    connect(VokalTipTimer_, &QTimer::timeout, this, &Tips::VokalTipTimer_Tick);
+    connect(controls_.PicAlpha, &AlphaPanel::clicked, this, &Tips::hideTip);
+    connect(controls_.Label5, &ClickLabel::clicked, this, &Tips::hideTip);
+    connect(controls_.Image1, &ClickLabel::clicked, this, &Tips::Image1_Click);
+    controls_.AlphaText->setTextFormat(Qt::PlainText);
+    controls_.AlphaText->setWordWrap(true);
+    controls_.AlphaText->setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+bool Tips::isShown() const { return !controls_.PicAlpha->isHidden(); }
+
+void Tips::hideTip() { controls_.PicAlpha->hide(); }
+
+QString Tips::readTip(const QString &file, const QString &key)
+{
+    Procedure step{ground_.log, "readTip", "frmMain", Procedure::Silent};
+    QString text;
+    step([&] { text = IniFile(file).read(section, key, {}, valueLimit); });
+    return text;
+}
+
+void Tips::complain(const QString &text)
+{
+    ground_.boxes.plainBox(Boxes::Icon::Warning, u"Wortel-Meister"_s, text);
+}
+
+void Tips::ShowLexiconTip2(const QString &lexiconPath, const QString &mode)
+{
+    Procedure step{ground_.log, "ShowLexiconTip2", "frmMain"};
+    const QString file = ground_.AppFolder + u"lextip.ini"_s;
+    if (!IsTextFile(file)) {
+        complain(u"Die Tipp-Datei (Lextip.ini) fehlt"_s);
+        return;
+    }
+    // The tip of the main list stands in every whole file; its absence tells that the file is not whole.
+    QString text = readTip(file, u"hauptbausteine"_s);
+    if (!text.isEmpty())
+        text = readTip(file, lexiconKey(lexiconPath));
+    if (text.isEmpty()) {
+        complain(u"Die Tipp-Datei (Lextip.ini) ist beschädigt oder unvollständig"_s);
+        return;
+    }
+    step([&] { showTip(text, mode); });
+}
+
+void Tips::ShowVokalTip(const QString &kind, const QString &mode)
+{
+    Procedure step{ground_.log, "ShowVokalTip", "frmMain"};
+    const QString file = ground_.AppFolder + u"vokaltip.ini"_s;
+    if (!IsTextFile(file)) {
+        complain(u"Die Tipp-Datei (vokaltip.ini) fehlt"_s);
+        return;
+    }
+    const QString text = readTip(file, kind == u"KURZ"_s ? u"Kurzvokal"_s : u"Langvokal"_s);
+    if (text.isEmpty()) {
+        complain(u"Die Tipp-Datei (vokaltip.ini) ist beschädigt oder unvollständig"_s);
+        return;
+    }
+    step([&] { showTip(text, mode); });
+}
+
+void Tips::showTip(const QString &text, const QString &mode)
+{
+    static const std::array modes{u"WORTEL"_s, u"GAME"_s, u"ONREQUEST"_s};
+    if (std::find(modes.begin(), modes.end(), mode) != modes.end())
+        controls_.AlphaText->setText(QString(text).replace(u"<BR>"_s, u"\n"_s));
+    layOutPanel();
+    controls_.PicAlpha->show();
+    controls_.PicAlpha->raise();
+    if (ground_.options.isOn(Setting::SoundOnActions))
+        ground_.sound.PlayResourceSound(tipSound);
+}
+
+void Tips::recompose()
+{
+    if (isShown())
+        layOutPanel();
+}
+
+void Tips::layOutPanel()
+{
+    AlphaPanel *panel = controls_.PicAlpha;
+    panel->setGeometry(
+        QRect(controls_.picCanvas->mapTo(controls_.form, QPoint(0, 0)), controls_.picCanvas->size()));
+    panel->blend(controls_.picCanvas->image());
+
+    QFont letters = controls_.Label5->font();
+    letters.setPixelSize(closeLetters);
+    letters.setBold(true);
+    letters.setUnderline(true);
+    controls_.Label5->setFont(letters);
+    controls_.Label5->adjustSize();
+    const int margin = std::clamp(panel->width() / 12, 8, 120);
+    const int closeTop = panel->height() - controls_.Label5->height() - 14;
+    controls_.Label5->move(panel->width() - controls_.Label5->width() - margin, closeTop);
+
+    // As large as the board lets it be: a class reads it from the back row.
+    QLabel *words = controls_.AlphaText;
+    words->setGeometry(margin, 10, panel->width() - 2 * margin, std::max(1, closeTop - 20));
+    words->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    QFont font = words->font();
+    for (int size = largestLetters; size >= smallestLetters; --size) {
+        font.setPixelSize(size);
+        const QRect needed = QFontMetrics(font).boundingRect(words->rect(), Qt::TextWordWrap, words->text());
+        if (needed.height() <= words->height())
+            break;
+    }
+    words->setFont(font);
+}
+
+bool Tips::IsSideWindowOpen()
+{
+    static const std::array names{u"frmMemory"_s, u"FrmKernling"_s, u"frmChooseWortel"_s};
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    return std::any_of(windows.begin(), windows.end(), [](const QWidget *window) {
+        return window->isVisible() &&
+               std::find(names.begin(), names.end(), window->objectName()) != names.end();
+    });
+}
+
+void Tips::startTipTimer()
+{
+    if (ground_.options.isOn(Setting::UseLexTip))
+        startFor(TipTimer_, ground_.options.number(Setting::TipTime));
+}
+
+void Tips::startGameTipTimer()
+{
+    if (ground_.options.isOn(Setting::UseGameLexTip))
+        startFor(GameTipTimer_, ground_.options.number(Setting::GameTipTime));
+}
+
+void Tips::startVokalTipTimer()
+{
+    if (ground_.options.isOn(Setting::VokalTipEnabled))
+        startFor(VokalTipTimer_, ground_.options.number(Setting::VokalTipTime));
+}
+
+void Tips::stopGameTimers()
+{
+    GameTipTimer_->stop();
+    VokalTipTimer_->stop();
+}
+
+void Tips::TipTimer_Tick()
+{
+    TipTimer_->stop();
+    if (!IsSideWindowOpen() && !isShown())
+        ShowLexiconTip2(lists_.CurrentLexiconFile, u"WORTEL"_s);
+}
+
+void Tips::GameTipTimer_Tick()
+{
+    GameTipTimer_->stop();
+    if (!IsSideWindowOpen() && !isShown())
+        ShowLexiconTip2(lists_.CurrentLexiconFile, u"GAME"_s);
+}
+
+void Tips::VokalTipTimer_Tick()
+{
+    VokalTipTimer_->stop();
+    if (!IsSideWindowOpen() && !isShown())
+        ShowVokalTip(modes_.KurzVokalMode ? u"KURZ"_s : u"LANG"_s, u"GAME"_s);
+}
+
+void Tips::Image1_Click()
+{
+    if (isShown())
+        return;
+    if (modes_.KurzVokalMode || modes_.LangVokalMode)
+        ShowVokalTip(modes_.KurzVokalMode ? u"KURZ"_s : u"LANG"_s, u"ONREQUEST"_s);
+    else
+        mnuShowTip_Click();
+}
+
+void Tips::mnuShowTip_Click() { ShowLexiconTip2(lists_.CurrentLexiconFile, u"ONREQUEST"_s); }

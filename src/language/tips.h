@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+class QTimer;
+struct Ground;
+struct MainControls;
+struct Modes;
+struct WordLists;
+
+/// The spelling tips: a tip of the dictionary in use, or of short and long vowels, lies as a translucent
+/// panel over the board until it is clicked. It comes a set time after a start, or on request.
+class Tips : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Connects the panel's clicks and the bulb.
+    Tips(Ground &ground, MainControls &controls, WordLists &lists, Modes &modes);
+
+    /// Shows the tip of a dictionary (stored path). `mode` is "WORTEL", "GAME" or "ONREQUEST"; with any other
+    /// word the panel comes with the text it had.
+    void ShowLexiconTip2(const QString &lexiconPath, const QString &mode);
+    /// Shows the tip of the short ("KURZ") or the long vowels ("LANG"), with the same modes.
+    void ShowVokalTip(const QString &kind, const QString &mode);
+    bool isShown() const;
+    void hideTip();
+    /// Lays the panel over the board anew if it is shown: the board has another size.
+    void recompose();
+
+    /// Each starts its timer if its setting is on; the interval is read at that moment.
+    void startTipTimer();
+    void startGameTipTimer();
+    void startVokalTipTimer();
+    void stopGameTimers();
+
+    void TipTimer_Tick();
+    void GameTipTimer_Tick();
+    void VokalTipTimer_Tick();
+    void Image1_Click();
+    void mnuShowTip_Click();
+
+    /// True while the memory game, the stem game or the word chooser is open.
+    static bool IsSideWindowOpen();
+
+private:
+    void showTip(const QString &text, const QString &mode);
+    void layOutPanel();
+    /// The text of a key, or the empty string where there is none or the file cannot be read.
+    QString readTip(const QString &file, const QString &key);
+    void complain(const QString &text);
+
+    Ground &ground_;
+    MainControls &controls_;
+    WordLists &lists_;
+    Modes &modes_;
+    QTimer *TipTimer_;
+    QTimer *GameTipTimer_;
+    QTimer *VokalTipTimer_;
+};
