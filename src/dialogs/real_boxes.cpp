@@ -73,6 +73,7 @@ QString textForPlainBox(const QString &text)
     constexpr int longestWord = 50;
     constexpr int longestLine = 70; ///< about what the box shows in one line
     constexpr int mostLines = 12;
+    constexpr int tabColumns = 16;
     const QString ellipsis(QChar(0x2026));
     QString result;
     int word = 0;
@@ -90,7 +91,7 @@ QString textForPlainBox(const QString &text)
             word = 1;
         }
         result += character;
-        ++column;
+        column += character == u'\t' ? tabColumns : 1;
     }
     return result;
 }
@@ -115,7 +116,7 @@ Boxes::Answer RealBoxes::plainBox(Icon icon, const QString &title, const QString
     QMessageBox box(owner());
     box.setTextFormat(Qt::PlainText);
     box.setIcon(plainIcon(icon));
-    box.setWindowTitle(titleOr(title).simplified().left(200));
+    box.setWindowTitle(titleOr(title).simplified().left(60));
     box.setText(textForPlainBox(text));
     const auto [first, end] = plainButtons(buttons);
     QAbstractButton *last = nullptr;

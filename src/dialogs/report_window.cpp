@@ -7,6 +7,7 @@
 #include <QGridLayout>
 #include <QIcon>
 #include <QLabel>
+#include <QPainter>
 #include <QTimer>
 #include <QToolButton>
 
@@ -23,7 +24,9 @@ constexpr int narrowest = 320;   ///< pixels
 constexpr int widest = 560;
 constexpr int smileySize = 64;
 constexpr int signSize = 20;
+constexpr int frameWidth = 2;
 constexpr QColor ink{0x08, 0x1C, 0x5C};
+constexpr QColor edge{0x1E, 0x5F, 0xD8};
 
 QLabel *makeLine(QWidget *parent, const char *name, int pixels)
 {
@@ -39,8 +42,17 @@ QLabel *makeLine(QWidget *parent, const char *name, int pixels)
     return label;
 }
 
-/// One line, without the line end that callers close theirs with.
-QString oneLine(const QString &text) { return text.simplified(); }
+/// One line, without the line end that callers close theirs with; blanks within a typed word stay.
+QString oneLine(QString text)
+{
+    while (text.endsWith(u'\n') || text.endsWith(u'\r'))
+        text.chop(1);
+    for (QChar &character : text) {
+        if (character < u' ' || character == QChar::LineSeparator || character == QChar::ParagraphSeparator)
+            character = u' ';
+    }
+    return text;
+}
 
 void setElided(QLabel *label, const QString &text, int width)
 {
@@ -114,17 +126,18 @@ void ReportWindow::setReport(const Report &report, const QPoint &foot)
     Label2_->setFont(word);
     ImgSmiley_->setVisible(report.showSmiley);
     const int beside = 2 * 14 + (report.showSmiley ? smileySize + 14 : 0);
-    const int most = std::min(widest, parentWidget()->width() - foot.x() - 10);
+    const int most = std::min(widest, parentWidget()->width() - foot.x() - 10 - 2 * frameWidth);
     const int wanted = Label2_->fontMetrics().horizontalAdvance(oneLine(report.line2).left(200)) + 2;
     const int width = std::clamp(wanted + beside, std::min(narrowest, most), most);
     setElided(Label1_, report.title, width - beside - signSize);
-    setElided(lblAlert_, report.line1, width - beside);
+    setElided(lblAlert_, report.line1.trimmed(), width - beside);
     setElided(Label2_, report.line2, width - beside);
-    setElided(Label3_, report.line3, width - beside);
+    setElided(Label3_, report.line3.trimmed(), width - beside);
     picBackground_->layout()->invalidate();
-    fullHeight_ = picBackground_->layout()->totalMinimumSize().height();
-    picBackground_->resize(width, fullHeight_);
-    setFixedWidth(width);
+    const int inside = picBackground_->layout()->totalMinimumSize().height();
+    picBackground_->setGeometry(frameWidth, frameWidth, width, inside);
+    fullHeight_ = inside + 2 * frameWidth;
+    setFixedWidth(width + 2 * frameWidth);
     setTwips(firstHeight);
 }
 
@@ -170,8 +183,4 @@ void ReportWindow::sink()
     emit sunk();
 }
 
-void ReportWindow::resizeEvent(QResizeEvent *event)
-{
-    QWidget::resizeEvent(event);
-    picBackground_->move(0, 0);
-}
+void ReportWindow::paintEvent(QPaintEvent *) { QPainter(this).fillRect(rect(), edge); }

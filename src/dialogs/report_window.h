@@ -47,7 +47,7 @@ signals:
     void closePressed();
 
 protected:
-    void resizeEvent(QResizeEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
 
 private:
     void grow();

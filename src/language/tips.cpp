@@ -13,6 +13,7 @@
 #include "platform/word_lists.h"
 #include "widgets/alpha_panel.h"
 #include "widgets/click_label.h"
+#include "widgets/gradient.h"
 #include "widgets/main_controls.h"
 #include "widgets/picture_box.h"
 
@@ -149,8 +150,11 @@ void Tips::recompose()
 void Tips::layOutPanel()
 {
     AlphaPanel *panel = controls_.PicAlpha;
-    panel->setGeometry(
-        QRect(controls_.picCanvas->mapTo(controls_.form, QPoint(0, 0)), controls_.picCanvas->size()));
+    // The lower band lies over the board's foot and stays free.
+    const QPoint corner = controls_.picCanvas->mapTo(controls_.form, QPoint(0, 0));
+    const int bandTop = controls_.Picture1->mapTo(controls_.form, QPoint(0, 0)).y();
+    const int height = std::min(controls_.picCanvas->height(), std::max(1, bandTop - corner.y()));
+    panel->setGeometry(QRect(corner, QSize(controls_.picCanvas->width(), height)));
     panel->blend(controls_.picCanvas->image());
 
     QFont letters = controls_.Label5->font();

@@ -1,0 +1,346 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "dialogs/message_box.h"
+#include "dialogs/real_boxes.h"
+#include "support/registry.h"
+#include "widgets/press_button.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTimer>
+#include <QtTest>
+
+#include <functional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto modalWait = 20; ///< milliseconds until the box is up
+
+/// Runs `act` on the modal box that `ask` opens, and closes it by force should it stay.
+template <typename Ask> auto answered(Ask ask, const std::function<void(QWidget *)> &act)
+{
+    bool seen = false;
+    QTimer::singleShot(modalWait, [&] {
+        QWidget *box = QApplication::activeModalWidget();
+        QVERIFY(box != nullptr);
+        seen = true;
+        act(box);
+        if (QApplication::activeModalWidget() == box && box->isVisible()) {
+            box->close();
+            QFAIL("the box stayed open");
+        }
+    });
+    auto answer = ask();
+    if (!seen)
+        QTest::qFail("no box came up", __FILE__, __LINE__);
+    return answer;
+}
+
+void pressKey(QWidget *box, Qt::Key key)
+{
+    QTest::keyClick(box->focusWidget() ? box->focusWidget() : box, key);
+}
+
+PressButton *buttonOf(QWidget *box, const QString &name) { return box->findChild<PressButton *>(name); }
+
+} // namespace
+
+class BoxesTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void questionNotShown()
+    {
+        Boxes &boxes = boxes_;
+        QTimer::singleShot(modalWait, [] { QVERIFY(QApplication::activeModalWidget() == nullptr); });
+        QCOMPARE(boxes.ShowMBox(u"Wirklich?"_s, false, 3, u"Bestätigen"_s, u"CONFIRM"_s), 0);
+        QTest::qWait(2 * modalWait);
+    }
+
+    void questionButtons_data()
+    {
+        QTest::addColumn<int>("code");
+        QTest::addColumn<QStringList>("captions");
+        QTest::newRow("0") << 0 << QStringList{u"OK"_s};
+        QTest::newRow("3") << 3 << QStringList{u"OK"_s, u"Abbrechen"_s};
+        QTest::newRow("4") << 4 << QStringList{u"Yes"_s, u"No"_s};
+        QTest::newRow("6") << 6 << QStringList{u"Exit"_s, u"No way !"_s};
+        QTest::newRow("8") << 8 << QStringList{u"Save"_s, u"Don't Save"_s};
+        QTest::newRow("9") << 9 << QStringList{u"Load"_s, u"Don't Load"_s};
+    }
+    void questionButtons()
+    {
+        QFETCH(int, code);
+        QFETCH(QStringList, captions);
+        for (int index = 0; index < captions.size(); ++index) {
+            const int answer =
+                answered([&] { return boxes_.ShowMBox(u"?"_s, true, code, {}, u"PREFIX"_s); },
+                         [&](QWidget *box) {
+                             QStringList found;
+                             for (const PressButton *button : box->findChildren<PressButton *>())
+                                 found << button->text();
+                             QCOMPARE(found, captions);
+                             QCOMPARE(box->windowTitle(), u"Wortel-Meister"_s);
+                             QTest::mouseClick(buttonOf(box, u"But1(%1)"_s.arg(index)), Qt::LeftButton);
+                         });
+            QCOMPARE(answer, index);
+        }
+    }
+
+    void releaseBesideTheButtonIsNoAnswer()
+    {
+        const int answer = answered([&] { return boxes_.ShowMBox(u"?"_s, true, 3, {}, u"WORTEL"_s); },
+                                    [](QWidget *box) {
+                                        PressButton *button = buttonOf(box, u"But1(0)"_s);
+                                        QTest::mousePress(button, Qt::LeftButton);
+                                        QVERIFY(button->isDown());
+                                        QTest::mouseMove(button, QPoint(-30, -30));
+                                        QTest::mouseRelease(button, Qt::LeftButton, {}, QPoint(-30, -30));
+                                        QVERIFY(!button->isDown());
+                                        QVERIFY(box->isVisible());
+                                        pressKey(box, Qt::Key_Escape);
+                                    });
+        QCOMPARE(answer, 1);
+    }
+
+    void keys_data()
+    {
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<Qt::Key>("key");
+        QTest::addColumn<QString>("answer");
+        QTest::newRow("question, Enter") << u"MBox"_s << Qt::Key_Return << u"0"_s;
+        QTest::newRow("question, keypad Enter") << u"MBox"_s << Qt::Key_Enter << u"0"_s;
+        QTest::newRow("question, Esc") << u"MBox"_s << Qt::Key_Escape << u"1"_s;
+        QTest::newRow("notice, Enter") << u"Info"_s << Qt::Key_Return << u"0"_s;
+        QTest::newRow("notice, Esc") << u"Info"_s << Qt::Key_Escape << u"1"_s;
+        QTest::newRow("input, Enter") << u"IBox"_s << Qt::Key_Return << u"vor"_s;
+        QTest::newRow("input, Esc") << u"IBox"_s << Qt::Key_Escape << QString();
+        QTest::newRow("word, Enter") << u"Word"_s << Qt::Key_Return << u"vor"_s;
+        QTest::newRow("word, Esc") << u"Word"_s << Qt::Key_Escape << QString();
+    }
+    void keys()
+    {
+        QFETCH(QString, kind);
+        QFETCH(Qt::Key, key);
+        QFETCH(QString, answer);
+        Boxes &boxes = boxes_;
+        const auto ask = [&]() -> QString {
+            if (kind == u"MBox"_s)
+                return QString::number(boxes.ShowMBox(u"?"_s, true, 3, {}, u"SUFFIX"_s));
+            if (kind == u"Info"_s)
+                return QString::number(boxes.ShowInfoBox(u"!"_s, u"INFO"_s, {}));
+            return kind == u"IBox"_s ? boxes.ShowIBox(u"Text"_s, 1, u"vor"_s, {})
+                                     : boxes.ShowWordBox(u"Text"_s, 1, u"vor"_s, {});
+        };
+        QCOMPARE(answered(ask, [key](QWidget *box) { pressKey(box, key); }), answer);
+    }
+
+    void heldEnterIsNoAnswer()
+    {
+        const int answer =
+            answered([&] { return boxes_.ShowMBox(u"?"_s, true, 3, {}, u"CONFIRM"_s); },
+                     [](QWidget *box) {
+                         QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, u"\r"_s, true);
+                         QApplication::sendEvent(box, &held);
+                         QVERIFY(box->isVisible());
+                         pressKey(box, Qt::Key_Escape);
+                     });
+        QCOMPARE(answer, 1);
+    }
+
+    void noticeClosesByItsSign_data()
+    {
+        QTest::addColumn<QString>("style");
+        QTest::addColumn<QString>("sign");
+        QTest::newRow("smiley") << u"SMILEY"_s << u"Image1"_s;
+        QTest::newRow("write") << u"WRITE"_s << u"Image2"_s;
+        QTest::newRow("info") << u"INFO"_s << u"Image3"_s;
+    }
+    void noticeClosesByItsSign()
+    {
+        QFETCH(QString, style);
+        QFETCH(QString, sign);
+        const int answer = answered([&] { return boxes_.ShowInfoBox(u"Die Liste ist leer"_s, style, {}); },
+                                    [&](QWidget *box) {
+                                        QCOMPARE(box->findChildren<PressButton *>().size(), 1);
+                                        QVERIFY(buttonOf(box, sign) != nullptr);
+                                        QTest::mouseClick(buttonOf(box, sign), Qt::LeftButton);
+                                    });
+        QCOMPARE(answer, 0);
+    }
+
+    void typedTextComesBack()
+    {
+        Boxes &boxes = boxes_;
+        const auto typeInto = [](const QString &button) {
+            return [button](QWidget *box) {
+                auto *entry = box->findChild<QLineEdit *>(u"Text1"_s);
+                QCOMPARE(entry->selectedText(), u"alt"_s);
+                QTest::keyClicks(entry, u"fahr"_s);
+                QTest::mouseClick(buttonOf(box, button), Qt::LeftButton);
+            };
+        };
+        QCOMPARE(answered([&] { return boxes.ShowIBox({}, 2, u"alt"_s, {}); }, typeInto(u"But1(0)"_s)),
+                 u"fahr"_s);
+        QCOMPARE(answered([&] { return boxes.ShowIBox({}, 2, u"alt"_s, {}); }, typeInto(u"But1(1)"_s)),
+                 QString());
+        QCOMPARE(answered([&] { return boxes.ShowWordBox({}, 2, u"alt"_s, {}); }, typeInto(u"Check1"_s)),
+                 u"fahr"_s);
+    }
+
+    void coloursOfStyles_data()
+    {
+        QTest::addColumn<QString>("style");
+        QTest::addColumn<QColor>("window");
+        QTest::newRow("PREFIX") << u"PREFIX"_s << QColor(255, 255, 0);
+        QTest::newRow("WORTEL") << u"WORTEL"_s << QColor(255, 0, 0);
+        QTest::newRow("SUFFIX") << u"SUFFIX"_s << QColor(0, 0, 255);
+        QTest::newRow("HISCORE") << u"HISCORE"_s << QColor(255, 255, 255);
+        QTest::newRow("unknown") << u"prefix"_s << QColor(0xF0, 0xF0, 0xF0);
+    }
+    void coloursOfStyles()
+    {
+        QFETCH(QString, style);
+        QFETCH(QColor, window);
+        answered([&] { return boxes_.ShowMBox(u"Frage"_s, true, 3, u"Titel"_s, style); },
+                 [&](QWidget *box) {
+                     const QImage picture = box->grab().toImage();
+                     QCOMPARE(picture.pixelColor(8, picture.height() - 8), window); // beside the buttons
+                     QCOMPARE(picture.pixelColor(picture.width() / 2, 6), window);  // the strip
+                     pressKey(box, Qt::Key_Escape);
+                 });
+    }
+
+    void growsWithItsText()
+    {
+        int low = 0;
+        const auto heightOf = [&](const QString &text) {
+            int height = 0;
+            answered([&] { return boxes_.ShowMBox(text, true, 3, {}, u"CONFIRM"_s); },
+                     [&](QWidget *box) {
+                         height = box->height();
+                         QVERIFY(!box->findChild<QScrollArea *>()->verticalScrollBar()->isVisible());
+                         pressKey(box, Qt::Key_Escape);
+                     });
+            return height;
+        };
+        low = heightOf(u"eins"_s);
+        QVERIFY(heightOf(u"eins\nzwei\r\ndrei\rvier"_s) >= low + 3 * 18);
+    }
+
+    void badTextsKeepTheButtonsOnTheScreen_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("one word of 10,000 characters") << QString(10000, u'x');
+        QTest::newRow("10,000 characters in words") << u"Wort "_s.repeated(2000);
+        QTest::newRow("10,000 line ends") << QString(10000, u'\n');
+        QTest::newRow("tabs") << QString(10000, u'\t');
+        QTest::newRow("emoji and marks")
+            << (u"\U0001F600\u202E\u200Fמילה\u2066"_s + QChar(u'\0')).repeated(600);
+        QTest::newRow("half a character") << QString(3000, QChar(0xD83D));
+        QTest::newRow("markup") << u"<img src='file:///etc/passwd'><h1>groß</h1>"_s.repeated(200);
+        QTest::newRow("nothing") << QString();
+    }
+    void badTextsKeepTheButtonsOnTheScreen()
+    {
+        QFETCH(QString, text);
+        Boxes &boxes = boxes_;
+        const auto check = [](QWidget *box) {
+            const QRect screen = box->screen()->availableGeometry();
+            QVERIFY2(screen.contains(box->frameGeometry()), qPrintable(QDebug::toString(box->geometry())));
+            const auto buttons = box->findChildren<QAbstractButton *>();
+            for (const QAbstractButton *button : buttons) {
+                if (button->isVisible() && qobject_cast<const PressButton *>(button))
+                    QVERIFY(box->rect().contains(QRect(button->mapTo(box, QPoint(0, 0)), button->size())));
+            }
+            box->grab();
+            pressKey(box, Qt::Key_Escape);
+        };
+        answered([&] { return boxes.ShowMBox(text, true, 3, text, u"PREFIX"_s); }, check);
+        answered([&] { return boxes.ShowInfoBox(text, u"WRITE"_s, text); }, check);
+        answered([&] { return boxes.ShowIBox(text, 2, text, text); }, check);
+        answered([&] { return boxes.ShowWordBox(text, 0, text, text, 5000, 5000); }, check);
+        answered([&] { return int(boxes.plainBox(Boxes::Icon::Warning, text, text)); }, check);
+    }
+
+    void longTextScrollsByKeys()
+    {
+        answered([&] { return boxes_.ShowMBox(u"Zeile\n"_s.repeated(200), true, 3, {}, u"CONFIRM"_s); },
+                 [](QWidget *box) {
+                     QScrollBar *bar = box->findChild<QScrollArea *>()->verticalScrollBar();
+                     QVERIFY(bar->maximum() > 0);
+                     pressKey(box, Qt::Key_PageDown);
+                     QVERIFY(bar->value() > 0);
+                     pressKey(box, Qt::Key_Escape);
+                 });
+    }
+
+    void movesByItsTitle()
+    {
+        answered([&] { return boxes_.ShowMBox(u"?"_s, true, 3, {}, u"CONFIRM"_s); },
+                 [](QWidget *box) {
+                     auto *strip = box->findChild<QLabel *>(u"Label3"_s);
+                     const QPoint before = box->pos();
+                     const QPoint grip(10, 10);
+                     const QPoint start = strip->mapToGlobal(grip);
+                     QTest::mousePress(strip, Qt::LeftButton, {}, grip);
+                     const auto drag = [&](const QPoint &by) {
+                         QMouseEvent move(QEvent::MouseMove, grip, start + by, Qt::NoButton, Qt::LeftButton,
+                                          {});
+                         QApplication::sendEvent(strip, &move);
+                     };
+                     drag({40, 25});
+                     QCOMPARE(box->pos(), before + QPoint(40, 25));
+                     drag({100000, 100000});
+                     QVERIFY(box->screen()->availableGeometry().contains(box->geometry()));
+                     QTest::mouseRelease(strip, Qt::LeftButton, {}, grip);
+                     pressKey(box, Qt::Key_Escape);
+                 });
+    }
+
+    void plainBoxHasGermanButtons_data()
+    {
+        QTest::addColumn<Boxes::Buttons>("buttons");
+        QTest::addColumn<QString>("press"); ///< empty: Esc
+        QTest::addColumn<Boxes::Answer>("answer");
+        QTest::newRow("OK") << Boxes::Buttons::Ok << u"OK"_s << Boxes::Answer::Ok;
+        QTest::newRow("OK, Esc") << Boxes::Buttons::Ok << QString() << Boxes::Answer::Ok;
+        QTest::newRow("Ja") << Boxes::Buttons::YesNo << u"Ja"_s << Boxes::Answer::Yes;
+        QTest::newRow("Nein") << Boxes::Buttons::YesNo << u"Nein"_s << Boxes::Answer::No;
+        QTest::newRow("Ja oder Nein, Esc") << Boxes::Buttons::YesNo << QString() << Boxes::Answer::No;
+        QTest::newRow("Abbrechen") << Boxes::Buttons::YesNoCancel << u"Abbrechen"_s << Boxes::Answer::Cancel;
+    }
+    void plainBoxHasGermanButtons()
+    {
+        QFETCH(Boxes::Buttons, buttons);
+        QFETCH(QString, press);
+        QFETCH(Boxes::Answer, answer);
+        const auto ask = [&] {
+            return boxes_.plainBox(Boxes::Icon::Question, u"Titel"_s, u"<b>Text</b>"_s, buttons);
+        };
+        const auto given = answered(ask, [&](QWidget *widget) {
+            auto *box = qobject_cast<QMessageBox *>(widget);
+            QCOMPARE(box->textFormat(), Qt::PlainText);
+            if (press.isEmpty())
+                QTest::keyClick(box, Qt::Key_Escape);
+            for (QAbstractButton *button : box->buttons()) {
+                if (!press.isEmpty() && button->text() == press)
+                    button->click();
+            }
+        });
+        QCOMPARE(given, answer);
+    }
+
+private:
+    RealBoxes boxes_;
+};
+
+WORTEL_TEST(BoxesTest)
+#include "tst_boxes.moc"

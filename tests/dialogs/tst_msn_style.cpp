@@ -1,0 +1,154 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "dialogs/msn_style.h"
+#include "platform/modes.h"
+#include "support/registry.h"
+#include "support/test_ground.h"
+#include "widgets/gradient.h"
+#include "widgets/main_controls.h"
+#include "widgets/press_button.h"
+
+#include <QLabel>
+#include <QToolButton>
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Desk
+{
+    Desk()
+    {
+        form.resize(853, 480);
+        controls = makeMainControls(&form);
+        layOutMainControls(controls, form.width(), form.height());
+        popup = new frmMsnStyle(t.ground, controls, modes);
+        form.show();
+    }
+
+    void report(int seconds, const QString &word = u"\"Haus\""_s)
+    {
+        popup->Display(u"Richtig !"_s, u"Das gesuchte Wort \n"_s, word, u"ist richtig."_s, seconds, 101, true,
+                       true);
+    }
+    ReportWindow *row(int slot) const
+    {
+        return form.findChild<ReportWindow *>(u"frmMsnStyle(%1)"_s.arg(slot));
+    }
+    bool isUp(int slot) const
+    {
+        return row(slot)->isVisible() && row(slot)->height() == row(slot)->fullHeight();
+    }
+
+    TestGround t;
+    Modes modes;
+    QWidget form;
+    MainControls controls;
+    frmMsnStyle *popup;
+};
+
+} // namespace
+
+class MsnStyleTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void slidesUpWaitsAndSinks()
+    {
+        Desk desk;
+        QSignalSpy closed(desk.popup, &frmMsnStyle::closed);
+        desk.report(1);
+        ReportWindow *window = desk.row(1);
+        const int foot = window->geometry().bottom();
+        QCOMPARE(window->x(), 31);
+        QCOMPARE(window->y(), desk.controls.Picture1->y() + 14);
+        QCOMPARE(window->height(), 6);
+        QCOMPARE(desk.t.sound.resources, QList<int>{101});
+        QVERIFY(!desk.modes.CheckButtonsAct);
+        QVERIFY(!desk.controls.Command2->isEnabled() && !desk.controls.Command5->isEnabled());
+        QVERIFY(!desk.controls.Command3->isEnabled() && !desk.controls.Command4->isEnabled());
+        QTRY_VERIFY(desk.isUp(1));
+        QCOMPARE(window->geometry().bottom(), foot);
+        QTRY_COMPARE(closed.count(), 1);
+        QVERIFY(!window->isVisible());
+        QCOMPARE(desk.popup->slot(), 0);
+        QVERIFY(desk.modes.CheckButtonsAct);
+        QVERIFY(desk.controls.Command2->isEnabled() && desk.controls.Command4->isEnabled());
+    }
+
+    void aRunningGameKeepsItsButtons()
+    {
+        Desk desk;
+        desk.modes.GameActive = true;
+        desk.controls.Command3->setEnabled(false);
+        desk.controls.Command4->setEnabled(true);
+        desk.report(0);
+        QVERIFY(desk.controls.Command4->isEnabled());
+        QTRY_VERIFY(!desk.row(1)->isVisible());
+        QVERIFY(!desk.controls.Command3->isEnabled());
+        QVERIFY(desk.controls.Command2->isEnabled());
+    }
+
+    void silentWhereSoundsAreOff()
+    {
+        Desk desk;
+        desk.t.options.setBox(Setting::UseSounds, 0);
+        desk.report(0);
+        QVERIFY(desk.t.sound.resources.isEmpty());
+    }
+
+    void fiveInARowReuseTheFirstSlot()
+    {
+        Desk desk;
+        for (int slot : {1, 2, 3, 4, 1}) {
+            desk.report(60);
+            QCOMPARE(desk.popup->slot(), slot);
+        }
+        for (int slot = 2; slot <= 4; ++slot)
+            QVERIFY(desk.row(slot)->geometry().bottom() < desk.row(slot - 1)->geometry().bottom());
+    }
+
+    void theCloseSignEndsItAtOnce()
+    {
+        Desk desk;
+        QSignalSpy closed(desk.popup, &frmMsnStyle::closed);
+        desk.report(60);
+        desk.report(60);
+        const auto press = [&](int slot) {
+            QTest::mouseClick(desk.row(slot)->findChild<QToolButton *>(u"Image1"_s), Qt::LeftButton);
+            QVERIFY(!desk.row(slot)->isVisible());
+        };
+        press(1);
+        QCOMPARE(desk.popup->slot(), 2); // a later report holds the counter
+        press(2);
+        QCOMPARE(desk.popup->slot(), 0);
+        QCOMPARE(closed.count(), 2);
+        QVERIFY(desk.controls.Command2->isEnabled());
+    }
+
+    void textStaysInside_data()
+    {
+        QTest::addColumn<QString>("word");
+        QTest::newRow("10,000 characters") << QString(10000, u'm');
+        QTest::newRow("line ends and tabs") << u"\"a\nb\r\nc\td\"\n"_s;
+        QTest::newRow("marks and emoji") << u"\u202E\U0001F600\u200F"_s.repeated(500);
+        QTest::newRow("markup") << u"<b>Haus</b>"_s;
+    }
+    void textStaysInside()
+    {
+        QFETCH(QString, word);
+        Desk desk;
+        desk.report(60, word);
+        QTRY_VERIFY(desk.isUp(1));
+        QVERIFY(desk.form.rect().contains(desk.row(1)->geometry()));
+        const auto *line = desk.row(1)->findChild<QLabel *>(u"Label2"_s);
+        QCOMPARE(line->textFormat(), Qt::PlainText);
+        QVERIFY(line->sizeHint().width() <= line->width() + 1);
+        QVERIFY(!line->text().contains(u'\n'));
+    }
+};
+
+WORTEL_TEST(MsnStyleTest)
+#include "tst_msn_style.moc"
