@@ -19,6 +19,8 @@
 #include <QLabel>
 #include <QLineEdit>
 
+#include <algorithm>
+
 namespace {
 constexpr int heldBlanks = 11; // what the floating copy is wider than its text by
 constexpr auto form = "frmMain";
@@ -152,12 +154,15 @@ void Canvas::eraseTile(Procedure &step, int index)
     step([&] { optTypes_.select(filter); });
 }
 
-void Canvas::CanvasEraseWortel(int x, int y)
+void Canvas::CanvasEraseWortel(int x, int y, std::optional<Colour> kind)
 {
     Procedure step{ground_.log, "CanvasEraseWortel", form};
-    const int index = store_.indexAt(x, y);
-    if (index >= 0)
-        eraseTile(step, index);
+    const TileList &tiles = store_.tiles();
+    const auto hit = std::find_if(tiles.begin(), tiles.end(), [&](const auto &tile) {
+        return tile->Inside(x, y) && (!kind || tile->BGColor == *kind);
+    });
+    if (hit != tiles.end())
+        eraseTile(step, static_cast<int>(hit - tiles.begin()));
 }
 
 void Canvas::CanvasEraseAllAffix(Colour colour)

@@ -7,6 +7,8 @@
 
 #include <QObject>
 
+#include <optional>
+
 class OptTypes;
 class Procedure;
 struct Ground;
@@ -36,8 +38,9 @@ public:
     void redrawFiltered();
     /// Black on white, for printing.
     void DrawMonoChrome();
-    /// Removes the first tile with `Inside(x, y)`. The kind's own counter stays: the callers lower it.
-    void CanvasEraseWortel(int x, int y);
+    /// Removes the first tile with `Inside(x, y)`, or the first of the kind with that back colour. The kind's
+    /// own counter stays: the callers lower it.
+    void CanvasEraseWortel(int x, int y, std::optional<Colour> kind = {});
     /// Removes all tiles of that back colour; serves all three kinds despite its name.
     void CanvasEraseAllAffix(Colour colour);
     /// Gives the tile of that kind whose place is `pos` ("x,y", as `PosOfSelectedWortel` tells it) a new

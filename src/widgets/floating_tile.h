@@ -13,6 +13,8 @@ public:
     explicit FloatingTile(QWidget *parent = nullptr);
     void setTile(const QString &caption, const QColor &back, const QColor &text);
     QString Caption() const { return caption_; }
+    QColor backColour() const { return back_; }
+    QColor textColour() const { return text_; }
 
 protected:
     void paintEvent(QPaintEvent *event) override;

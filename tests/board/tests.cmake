@@ -5,7 +5,9 @@ wortel_test(board
         tst_board_rules.cpp
         tst_bulk_tiles.cpp
         tst_canvas.cpp
+        tst_commands.cpp
         tst_menus.cpp
         tst_placement.cpp
+        tst_pointer.cpp
         tst_tile_store.cpp
 )
