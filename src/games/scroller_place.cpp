@@ -2,8 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "games/scroller_place.h"
 
+#include "board/placement.h"
 #include "platform/options.h"
 #include "platform/rnd.h"
+#include "widgets/gradient.h"
+#include "widgets/main_controls.h"
+#include "widgets/store_list.h"
 
 namespace {
 
@@ -19,22 +23,16 @@ QPoint anywhere(Rnd &rnd, QSize window, QSize size)
     return {x, y};
 }
 
-QPoint middleOfFreeSpace(const BoardRoom &room, QSize size)
-{
-    const int bandHeight = room.window.height() - room.bandTop;
-    return {room.window.width() / 2 - size.width() / 2,
-            room.window.height() / 2 - size.height() / 2 - bandHeight};
-}
-
 } // namespace
 
-QPoint scrollerPlace(const Options &options, Rnd &rnd, const BoardRoom &room, QSize size)
+void placeOverBoard(const MainControls &controls, const Options &options, Rnd &rnd, QWidget &child)
 {
     if (options.isOn(Setting::ScrollerRndPos))
-        return anywhere(rnd, room.window, size);
-    if (options.isOn(Setting::ScrollerLeftDownPos))
-        return {room.listLeft, room.bandTop - size.height()};
-    if (options.isOn(Setting::ScrollerMiddlePos))
-        return middleOfFreeSpace(room, size);
-    return {0, 0};
+        child.move(anywhere(rnd, controls.form->size(), child.size()));
+    else if (options.isOn(Setting::ScrollerLeftDownPos))
+        child.move(controls.CorrectWordList->x(), controls.Picture1->y() - child.height());
+    else if (options.isOn(Setting::ScrollerMiddlePos))
+        Placement::CenterOnFreeSpace(controls, child);
+    else
+        child.move(0, 0);
 }

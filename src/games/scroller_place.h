@@ -2,21 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QPoint>
-#include <QSize>
-
 class Options;
+class QWidget;
 class Rnd;
+struct MainControls;
 
-/// What of the main window counts when something is put over the board, in its pixels.
-struct BoardRoom
-{
-    QSize window;
-    int bandTop = 0;  ///< `Picture1`
-    int listLeft = 0; ///< `CorrectWordList`
-};
-
-/// Where the options want the running strip (and the word hint of the game, which goes to the same place) of
-/// that size. A place by chance may be negative near the window's edges on a small window; it is deliberately
-/// not corrected.
-QPoint scrollerPlace(const Options &options, Rnd &rnd, const BoardRoom &room, QSize size);
+/// Moves a child of the main window to where the options want the running strip; the word hint of the game
+/// goes to the same place. A place by chance may be negative on a window smaller than the child; it is
+/// deliberately not corrected.
+void placeOverBoard(const MainControls &controls, const Options &options, Rnd &rnd, QWidget &child);

@@ -7,10 +7,8 @@
 #include "platform/options.h"
 #include "platform/procedure.h"
 #include "platform/text.h"
-#include "widgets/gradient.h"
 #include "widgets/main_controls.h"
 #include "widgets/msg_scroller.h"
-#include "widgets/store_list.h"
 
 #include <QMouseEvent>
 
@@ -21,7 +19,7 @@ constexpr int tickInterval = 125;
 
 } // namespace
 
-StripControl::StripControl(Ground &ground, MainControls &controls, QObject *parent)
+StripControl::StripControl(Ground &ground, const MainControls &controls, QObject *parent)
     : QObject(parent)
     , ground_(ground)
     , controls_(controls)
@@ -50,12 +48,18 @@ void StripControl::SetUpMsgScroller()
 void StripControl::PlaceTheMsgScroller()
 {
     Procedure step(ground_.log, "PlaceTheMsgScroller", "frmMain");
-    step([&] {
-        const BoardRoom room{controls_.form->size(), controls_.Picture1->y(), controls_.CorrectWordList->x()};
-        controls_.Scroller->move(
-            scrollerPlace(ground_.options, ground_.rnd, room, controls_.Scroller->size()));
-        controls_.Scroller->raise();
-    });
+    step([&] { placeOverBoard(controls_, ground_.options, ground_.rnd, *controls_.Scroller); });
+    controls_.Scroller->raise();
+}
+
+void StripControl::takeWords(const QStringList &words, bool fillEmptyStrip)
+{
+    Procedure step(ground_.log, "takeWords", "frmMain", Procedure::Silent);
+    if (!fillEmptyStrip && controls_.Scroller->ListCount() == 0)
+        return;
+    step([&] { controls_.Scroller->Clear(); });
+    for (const QString &word : words)
+        step([&] { controls_.Scroller->AddItem(word); });
 }
 
 void StripControl::MsgScroller_HotSpotClick(int Index)

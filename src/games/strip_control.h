@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QPoint>
 #include <QString>
+#include <QStringList>
 
 class QMouseEvent;
 struct Ground;
@@ -18,12 +19,15 @@ class StripControl : public QObject
     Q_OBJECT
 
 public:
-    StripControl(Ground &ground, MainControls &controls, QObject *parent = nullptr);
+    StripControl(Ground &ground, const MainControls &controls, QObject *parent = nullptr);
 
     /// The window's own values, with the settings for speed and pan; also after the options were applied.
     void SetUpMsgScroller();
     /// Puts the strip where the options want it.
     void PlaceTheMsgScroller();
+    /// The word list was edited by hand: the strip shows `words` instead of its own; an empty strip takes
+    /// them only if `fillEmptyStrip`.
+    void takeWords(const QStringList &words, bool fillEmptyStrip);
 
     QString LastScrollerWord() const { return LastScrollerWord_; }
 
@@ -34,7 +38,7 @@ public:
 
 private:
     Ground &ground_;
-    MainControls &controls_;
+    const MainControls &controls_;
     QString LastScrollerWord_;
     bool ScrollerMoving_ = false;
     QPoint movedFrom_; ///< the pointer in the strip's pixels

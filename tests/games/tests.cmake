@@ -2,5 +2,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 wortel_test(games
     SOURCES
+        tst_retype_mode.cpp
         tst_strip_control.cpp
 )

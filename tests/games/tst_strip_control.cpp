@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "games/scroller_place.h"
 #include "games/strip_control.h"
 #include "support/registry.h"
 #include "support/test_ground.h"
 #include "widgets/main_controls.h"
 #include "widgets/msg_scroller.h"
+#include "widgets/store_list.h"
 
 #include <QtTest>
 
@@ -22,10 +22,10 @@ struct Desk
     StripControl control{test.ground, controls};
     MsgScroller &strip = *controls.Scroller;
 
-    Desk()
+    explicit Desk(int width = 853, int height = 480)
     {
-        form.resize(853, 480);
-        layOutMainControls(controls, 853, 480);
+        form.resize(width, height);
+        layOutMainControls(controls, width, height);
     }
 
     void run()
@@ -59,12 +59,14 @@ private slots:
     void rightButtonPauses_data();
     void rightButtonPauses();
     void keepsTheClickedWord();
+    void takesEditedWords();
 };
 
 void StripControlTest::places_data()
 {
     QTest::addColumn<int>("option");
     QTest::addColumn<QPoint>("place");
+    // The list stands 35 pixels from the left, the band is 88 high, the strip 250 by 30.
     QTest::newRow("lower left") << static_cast<int>(Setting::ScrollerLeftDownPos) << QPoint(35, 582);
     QTest::newRow("middle") << static_cast<int>(Setting::ScrollerMiddlePos) << QPoint(375, 247);
     QTest::newRow("upper left") << static_cast<int>(Setting::ScrollerLeftUpPos) << QPoint(0, 0);
@@ -73,21 +75,24 @@ void StripControlTest::places_data()
 void StripControlTest::places()
 {
     QFETCH(int, option);
-    TestGround test;
-    test.options.setOption(static_cast<Setting>(option));
-    QTEST(scrollerPlace(test.options, test.rnd, {{1000, 700}, 612, 35}, {250, 30}), "place");
+    Desk desk(1000, 700);
+    desk.test.options.setOption(static_cast<Setting>(option));
+    desk.strip.resize(250, 30);
+    desk.controls.CorrectWordList->move(35, 200);
+    desk.control.PlaceTheMsgScroller();
+    QTEST(desk.strip.pos(), "place");
 }
 
 void StripControlTest::placesByChance()
 {
-    TestGround test;
-    test.options.setOption(Setting::ScrollerRndPos);
+    Desk desk(1000, 700);
+    desk.test.options.setOption(Setting::ScrollerRndPos);
+    desk.strip.resize(250, 30);
     QSet<int> seen;
     for (int round = 0; round < 1000; ++round) {
-        const QPoint place = scrollerPlace(test.options, test.rnd, {{1000, 700}, 612, 35}, {250, 30});
-        QVERIFY2(place.x() >= 0 && place.x() + 250 <= 1000, qPrintable(QString::number(place.x())));
-        QVERIFY2(place.y() >= 80 && place.y() + 30 <= 700, qPrintable(QString::number(place.y())));
-        seen.insert(place.x());
+        desk.control.PlaceTheMsgScroller();
+        QVERIFY(QRect(0, 80, 1000, 620).contains(desk.strip.geometry()));
+        seen.insert(desk.strip.x());
     }
     QVERIFY(seen.size() > 200);
 }
@@ -165,6 +170,18 @@ void StripControlTest::keepsTheClickedWord()
     desk.control.MsgScroller_HotSpotClick(9);
     QCOMPARE(desk.control.LastScrollerWord(), u"Maus"_s);
     QVERIFY(desk.test.ok());
+}
+
+void StripControlTest::takesEditedWords()
+{
+    Desk desk;
+    desk.control.takeWords({u"eins"_s}, false);
+    QCOMPARE(desk.strip.ListCount(), 0);
+    desk.control.takeWords({u"eins"_s, u"zwei"_s}, true);
+    QCOMPARE(desk.strip.ListCount(), 2);
+    desk.control.takeWords({u"drei"_s}, false);
+    QCOMPARE(desk.strip.ListCount(), 1);
+    QCOMPARE(desk.strip.List(1), u"drei"_s);
 }
 
 WORTEL_TEST(StripControlTest)
