@@ -1,0 +1,160 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "persistence/sessions.h"
+
+#include "board/bulk_tiles.h"
+#include "board/canvas.h"
+#include "language/list_loader.h"
+#include "persistence/file_type.h"
+#include "persistence/session_dialog.h"
+#include "persistence/session_file.h"
+#include "persistence/undo_ring.h"
+#include "platform/boxes.h"
+#include "platform/clock.h"
+#include "platform/files.h"
+#include "platform/ground.h"
+#include "platform/ini_file.h"
+#include "platform/options.h"
+#include "platform/procedure.h"
+#include "platform/system_info.h"
+#include "platform/word_lists.h"
+#include "widgets/guards.h"
+#include "widgets/main_controls.h"
+
+#include <QLabel>
+
+#include <source_location>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto form = "frmMain";
+const QString faultTitle = u"Wortel-Meister - Fehler"_s;
+const QString filter = u"Wortel-Sitzungen(*.wlx)|*.wlx"_s;
+
+QString lineHere(std::source_location where = std::source_location::current())
+{
+    return QString::number(where.line());
+}
+
+} // namespace
+
+Sessions::Sessions(Ground &ground, const MainControls &controls, WordLists &lists, const Rooms &rooms,
+                   QObject *parent)
+    : QObject(parent)
+    , ground_(ground)
+    , controls_(controls)
+    , lists_(lists)
+    , rooms_(rooms)
+{}
+
+void Sessions::makeCurrent(const QString &path)
+{
+    CurrentSessionFile_ = path;
+    WebExportName_ = session_file::webExportName(path);
+}
+
+// Saving
+// ------------------------------------------------------------------------------------------------------
+
+void Sessions::SaveObjects(const QString &path)
+{
+    Procedure step{ground_.log, "SaveObjects", form};
+    QString target = path;
+    if (target.isEmpty()) {
+        const SessionDialog ask{u"Wortel - Sitzung speichern"_s, filter, u"SaveWLX"_s};
+        step([&] { target = chooseToSave(ground_, ask); });
+        if (target.isEmpty())
+            return;
+        step([&] { rememberFolder(ground_, ask, target); });
+    }
+    const Hourglass hourglass;
+    step([&] { writeSession(target); });
+    step([&] { ground_.pump.yield(); });
+}
+
+void Sessions::writeSession(const QString &path)
+{
+    try {
+        IniFile file(path);
+        session_file::write(file, rooms_.canvas.store().tiles(), listBaseName(lists_.CurrentWortelFile));
+        file.save();
+    } catch (const RuntimeError &error) {
+        ground_.boxes.plainBox(
+            Boxes::Icon::Critical, faultTitle,
+            u".WLX-Datei könnte nicht gespeichert werden.\n\n FrmTransform::SaveObjects (Line: "_s +
+                lineHere() + u") \n"_s + error.description());
+        throw;
+    }
+    makeCurrent(path);
+}
+
+// Opening
+// ------------------------------------------------------------------------------------------------------
+
+void Sessions::RestoreObjects(const QString &path)
+{
+    Procedure step{ground_.log, "RestoreObjects", form};
+    QString source = path;
+    const SessionDialog ask{u"Wortel - Sitzung laden"_s, filter, u"RestoreWXL"_s};
+    if (source.isEmpty())
+        step([&] { source = chooseToOpen(ground_, ask); });
+    if (source.isEmpty())
+        return;
+    step([&] { rooms_.bulk.RefillWithSpecNum(0); });
+    // A path from the command line leaves the undo ring as it is.
+    if (path.isEmpty()) {
+        step([&] { rememberFolder(ground_, ask, source); });
+        step([&] { rooms_.undo.ClearCollBuffer(); });
+    }
+    const Hourglass hourglass;
+    const bool whole = step([&] { readSession(source); });
+    if (!whole)
+        ground_.boxes.plainBox(
+            Boxes::Icon::Critical, faultTitle,
+            u"Die WXL-Sitzung konnte nicht eingelesen werden: "_s + source +
+                u"\n\nDie Datei enthält ungültige Daten.\n\nDas Laden wird abgebrochen..."_s);
+    step([&] { rooms_.canvas.store().counters().updateTotal(); });
+    step([&] { rooms_.canvas.RecallFilter(TileFilter::all); });
+    if (!whole)
+        return;
+    step([&] { AddToRecentDocs(source, file_type::mimeType); });
+    step([&] { makeCurrent(source); });
+}
+
+void Sessions::readSession(const QString &path)
+{
+    const IniFile file(path);
+    TileStore &store = rooms_.canvas.store();
+    for (const TileKind &kind : tileKinds)
+        store.counters().set(kind.filterIndex, 0);
+    {
+        const CanvasSurface::Batch batch(rooms_.canvas.surface());
+        session_file::readTiles(file, [&](const session_file::Tile &tile) {
+            store.CanvasDrawWortel(tile.left, tile.top, tile.caption, tile.back, tile.text);
+            if (const TileKind *kind = kindOfColour(tile.back))
+                store.counters().add(kind->filterIndex, 1);
+        });
+    }
+    ground_.pump.yield();
+    if (ground_.options.isOn(Setting::OpenWLXWithStoredLex))
+        loadLists(session_file::lexiconInUse(file));
+}
+
+void Sessions::loadLists(const QString &name)
+{
+    if (name.isEmpty())
+        return;
+    QString path = ground_.AppFolder + u"text\\"_s + name + u".txt"_s;
+    if (!IsTextFile(path)) {
+        ground_.boxes.plainBox(Boxes::Icon::Warning, u"Cannot open lexicon for this session"_s,
+                               u"Datei "_s + path + u" fehlt\n\nSub: RestoreObjects. Line: "_s + lineHere());
+        return;
+    }
+    lists_.LexiconList.clear();
+    lists_.WortelList.clear();
+    rooms_.loader.FillWortelList(path);
+    controls_.Label3->setToolTip(name);
+    ground_.pump.yield();
+}

@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+class BulkTiles;
+class Canvas;
+class ListLoader;
+class UndoRing;
+struct Ground;
+struct MainControls;
+struct WordLists;
+
+/// Saves the board as a session and opens one, with the stem list that goes with it.
+class Sessions : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// What a session is made of and put into.
+    struct Rooms
+    {
+        Canvas &canvas;
+        BulkTiles &bulk;
+        ListLoader &loader;
+        UndoRing &undo;
+    };
+
+    Sessions(Ground &ground, const MainControls &controls, WordLists &lists, const Rooms &rooms,
+             QObject *parent = nullptr);
+
+    /// Both ask for a path where none (stored form) is given.
+    void SaveObjects(const QString &path = {});
+    void RestoreObjects(const QString &path = {});
+
+    /// The session last opened or saved.
+    QString CurrentSessionFile() const { return CurrentSessionFile_; }
+    /// The name that its web page gets by default.
+    QString WebExportName() const { return WebExportName_; }
+
+private:
+    void writeSession(const QString &path);
+    void readSession(const QString &path);
+    void loadLists(const QString &name);
+    void makeCurrent(const QString &path);
+
+    Ground &ground_;
+    const MainControls &controls_;
+    WordLists &lists_;
+    Rooms rooms_;
+    QString CurrentSessionFile_;
+    QString WebExportName_;
+};
