@@ -2,5 +2,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 wortel_test(persistence
     SOURCES
+        tst_backup.cpp
         tst_frm_options.cpp
+        tst_sessions.cpp
+        tst_undo_ring.cpp
 )

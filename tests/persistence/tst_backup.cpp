@@ -1,0 +1,199 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "persistence/backup.h"
+#include "persistence/backup_file.h"
+#include "platform/files.h"
+#include "support/file_size_limit.h"
+#include "support/registry.h"
+#include "support/test_board.h"
+
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+
+class BackupTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    struct Rig : TestBoard
+    {
+        Backup backup{t.ground, modes, *canvas, *bulk};
+        QString path = Backup::file(t.ground);
+        QByteArray bytes() const { return ReadWholeFile(path); }
+        void put(const QByteArray &content) const { writeFileAtomically(path, content); }
+    };
+    static const QByteArray &emptyRecord()
+    {
+        static const QByteArray sixteenZeros(16, '\0');
+        return sixteenZeros;
+    }
+    /// "M1" 'M' 258 -2 "für" index 1
+    static QByteArray oneTile()
+    {
+        return QByteArray("\x02\0M1\x01\0M\x02\x01\0\0\xFE\xFF\xFF\xFF\x03\0f\xFCr\x01\0", 22);
+    }
+    static QByteArray record(char type, qint32 left, qint32 top)
+    {
+        MyObj array;
+        array.AddElementToMyObj(u"M1"_s, type, left, top, u"x"_s);
+        return backup_file::encode(array).mid(16);
+    }
+
+private slots:
+    void formatByteForByte()
+    {
+        Rig rig;
+        rig.backup.SaveMyObjects(rig.path);
+        QCOMPARE(rig.bytes(), emptyRecord());
+        rig.lay(wortel, 258, -2, u"für"_s);
+        rig.backup.SaveMyObjects(rig.path);
+        QCOMPARE(rig.bytes(), emptyRecord() + oneTile());
+        QVERIFY(!rig.modes.BackupBusy);
+    }
+
+    void savesAndRestores()
+    {
+        Rig rig;
+        rig.lay(prefix, 1, 2, u"ver"_s);
+        rig.lay(wortel, 30, 40, QString(70000, u'a'));
+        rig.lay(suffix, -5, 32767, u"ung\t\"x\""_s);
+        rig.lay({0x123456, 0, u"", u"", 'X', 0, 0}, 3, 3, u"fremd"_s); // of a colour that no kind has
+        const QStringList before = rig.described();
+        rig.backup.SaveMyObjects(rig.path);
+        rig.backup.RestoreMyObjects(rig.path);
+        QStringList after = rig.described();
+        QCOMPARE(after.size(), 3);
+        QCOMPARE(after.at(0), before.at(0));
+        QCOMPARE(after.at(1).size(), 65535 + 6); // a length has two bytes
+        QCOMPARE(after.at(2), before.at(2));
+        QCOMPARE(rig.counters(), QStringList({u"1"_s, u"1"_s, u"1"_s, u"3"_s}));
+        QVERIFY(rig.t.ok());
+    }
+
+    void everyCutGivesWholeRecordsOnly()
+    {
+        MyObj array;
+        array.AddElementToMyObj(u"M1"_s, 'P', 1, 2, u"ver"_s);
+        array.AddElementToMyObj(u"M2"_s, 'S', -3, 4, u"ung"_s);
+        const QByteArray whole = backup_file::encode(array);
+        for (qsizetype length = 0; length <= whole.size(); ++length) {
+            const auto records = backup_file::decode(whole.first(length));
+            const std::size_t expected = length == whole.size() ? 3 : length >= 38 ? 2 : length >= 16 ? 1 : 0;
+            QCOMPARE(records.size(), expected);
+            if (expected > 1) {
+                QCOMPARE(records[1].caption, u"ver"_s);
+                QCOMPARE(records[1].left, 1);
+            }
+        }
+    }
+
+    void badFiles_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QStringList>("tiles");
+        QTest::addColumn<bool>("told");
+        const QByteArray good = record('P', 7, 8);
+        QTest::newRow("nothing") << QByteArray() << QStringList() << false;
+        QTest::newRow("no empty record in front") << good << QStringList{u"7,8 x"_s} << false;
+        QTest::newRow("lengths too large")
+            << good + QByteArray(40, '\xFF') << QStringList{u"7,8 x"_s} << false;
+        QTest::newRow("other type") << record('Q', 1, 1) + good << QStringList{u"7,8 x"_s} << false;
+        QTest::newRow("left out of 16 bits")
+            << good + record('S', 40000, 1) + good << QStringList{u"7,8 x"_s} << true;
+        QTest::newRow("top at the end of 32 bits")
+            << good + record('M', 0, std::numeric_limits<qint32>::min()) << QStringList{u"7,8 x"_s} << true;
+        QTest::newRow("text") << QByteArray("[Morpheme1]\r\nType=Prefix\r\n") << QStringList() << false;
+        QTest::newRow("doubled keys") << good + good << QStringList{u"7,8 x"_s, u"7,8 x"_s} << false;
+    }
+    void badFiles()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(bool, told);
+        Rig rig;
+        rig.lay(wortel, 50, 50, u"weg"_s);
+        rig.put(bytes);
+        if (told)
+            rig.t.boxes.willAnswer(Boxes::Answer::Ok);
+        rig.backup.RestoreMyObjects(rig.path);
+        QTEST(rig.described(), "tiles");
+        QCOMPARE(rig.counters().last(), QString::number(rig.store->count()));
+        if (told)
+            QCOMPARE(rig.t.boxes.asked.last().text,
+                     u"Die BAK-Session konnte nicht eingelesen werden: "_s + rig.path +
+                         u"\n\nDie Datei enthält ungültige Daten.\n\nDas Laden wird abgebrochen..."_s);
+        QVERIFY(rig.t.ok());
+    }
+
+    void moreThan2000TilesLoseTheRest()
+    {
+        Rig rig;
+        MyObj array;
+        for (int i = 1; i <= 2100; ++i)
+            array.AddElementToMyObj(u"M"_s + QString::number(i), 'M', i, 0, u"x"_s);
+        rig.put(backup_file::encode(array));
+        rig.backup.RestoreMyObjects(rig.path);
+        QCOMPARE(rig.store->count(), 2000);
+        QCOMPARE(rig.store->tiles().back()->xLeft(), 2000);
+    }
+
+    void writtenOnlyIfWantedAndBeforeOtherEvents()
+    {
+        Rig rig;
+        rig.lay(wortel, 1, 1, u"a"_s);
+        rig.backup.saveIfWanted();
+        QVERIFY(!IsTextFile(rig.path));
+        rig.t.store.SaveSetting(u"Settings"_s, u"UseBackup"_s, u"2"_s);
+        rig.t.pump.onYield = [&] { QVERIFY(IsTextFile(rig.path)); };
+        rig.backup.saveIfWanted();
+        QVERIFY(rig.t.pump.yields > 0);
+    }
+
+    void faultsLeaveTheOldFile()
+    {
+        Rig rig;
+        rig.put("alt");
+        for (int i = 0; i < 200; ++i)
+            rig.lay(wortel, i, 1, QString(500, u'x'));
+        rig.t.boxes.willAnswer(Boxes::Answer::Ok);
+        {
+            const FileSizeLimit full(4096);
+            rig.backup.SaveMyObjects(rig.path);
+        }
+        QCOMPARE(rig.t.boxes.asked.last().text, u".BAK-Datei könnte nicht gespeichert werden"_s);
+        QCOMPARE(rig.bytes(), QByteArray("alt"));
+        QCOMPARE(rig.store->count(), 200);
+        QVERIFY(!rig.modes.BackupBusy);
+        // A folder in place of the file, for writing and for reading.
+        rig.t.boxes.willAnswer(Boxes::Answer::Ok);
+        rig.backup.SaveMyObjects(rig.t.AppFolder.chopped(1));
+        rig.t.boxes.willAnswer(Boxes::Answer::Ok);
+        rig.backup.RestoreMyObjects(rig.t.AppFolder.chopped(1));
+        QVERIFY(rig.store->isEmpty());
+        QVERIFY(rig.t.ok());
+    }
+
+    void asksForAPath()
+    {
+        Rig rig;
+        rig.lay(wortel, 1, 1, u"a"_s);
+        rig.t.fileDialogs.willSave({});
+        rig.backup.SaveMyObjects();
+        const QString path = rig.t.AppFolder + u"bak.wlx"_s;
+        rig.t.fileDialogs.willSave(path);
+        rig.backup.SaveMyObjects();
+        QVERIFY(IsTextFile(path));
+        QCOMPARE(rig.t.store.GetSetting(u"Path"_s, u"SaveWLX"_s, {}), rig.t.AppFolder.chopped(1));
+        rig.t.fileDialogs.willOpen({});
+        rig.backup.RestoreMyObjects();
+        QCOMPARE(rig.store->count(), 1);
+        rig.t.fileDialogs.willOpen({path});
+        rig.backup.RestoreMyObjects();
+        QCOMPARE(rig.described(), QStringList{u"1,1 a"_s});
+        QCOMPARE(rig.t.store.GetSetting(u"Path"_s, u"RestoreWXL"_s, {}), rig.t.AppFolder.chopped(1));
+        QVERIFY(rig.t.ok());
+    }
+};
+
+WORTEL_TEST(BackupTest)
+#include "tst_backup.moc"

@@ -1,0 +1,340 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "board/menu_model.h"
+#include "language/list_loader.h"
+#include "persistence/session_file.h"
+#include "persistence/sessions.h"
+#include "persistence/undo_ring.h"
+#include "platform/files.h"
+#include "support/file_size_limit.h"
+#include "support/registry.h"
+#include "support/test_board.h"
+
+#include <QFile>
+#include <QLabel>
+#include <QtTest>
+
+#include <ctime>
+
+using namespace Qt::StringLiterals;
+
+class SessionsTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    struct Rig : TestBoard
+    {
+        MenuModel menus{[this] { return MenuFacts{modes, true, {}}; }};
+        UndoRing undo{t.ground, modes, menus, *canvas};
+        ListLoader loader{t.ground, lists};
+        Sessions sessions{t.ground, controls, lists, {*canvas, *bulk, loader, undo}};
+        QString path = t.AppFolder + u"a.wlx"_s;
+
+        void write(const QByteArray &bytes) const { writeFileAtomically(path, bytes); }
+        QByteArray bytes() const { return ReadWholeFile(path); }
+        QString lastBox() const { return t.boxes.asked.isEmpty() ? QString() : t.boxes.asked.last().text; }
+        QString invalid() const
+        {
+            return u"Die WXL-Sitzung konnte nicht eingelesen werden: "_s + path +
+                   u"\n\nDie Datei enthält ungültige Daten.\n\nDas Laden wird abgebrochen..."_s;
+        }
+    };
+    static QByteArray tile(int number, const char *type, const char *left, const char *top,
+                           const char *caption)
+    {
+        return QByteArray("[Morpheme") + QByteArray::number(number) + "]\r\nType=" + type +
+               "\r\nLeft=" + left + "\r\nTop=" + top + "\r\nCaption=" + caption + "\r\n";
+    }
+    static QByteArray count(const char *number)
+    {
+        return QByteArray("[NumObjects]\r\nObjCounter=") + number + "\r\n";
+    }
+
+private slots:
+    void initTestCase()
+    {
+        QVERIFY(home_.isValid());
+        qputenv("XDG_DATA_HOME", home_.path().toLocal8Bit());
+    }
+
+    void formatByteForByte()
+    {
+        Rig rig;
+        rig.lists.CurrentWortelFile = rig.t.AppFolder + u"text\\Hauptbausteine.Txt"_s;
+        rig.lay(prefix, 1200, 340, u"ver"_s);
+        rig.sessions.SaveObjects(rig.path);
+        QCOMPARE(rig.bytes(), tile(1, "Prefix", "1200", "340", "\"ver\"") + count("1") +
+                                  QByteArray("[Name]\r\nLexiconInUse=Hauptbausteine\r\n"));
+        QCOMPARE(rig.sessions.CurrentSessionFile(), rig.path);
+        QCOMPARE(rig.sessions.WebExportName(), u"A.html"_s);
+    }
+
+    void savesAndOpens()
+    {
+        Rig rig;
+        rig.lay(prefix, 1, 2, u"ver"_s);
+        rig.lay(wortel, -30, 40, u"  groß \"x\"=[;] "_s);
+        rig.lay(suffix, 0, 0, u"schaft"_s);
+        const QStringList tiles = rig.described();
+        rig.sessions.SaveObjects(rig.path);
+        rig.lay(wortel, 9, 9, u"neu"_s);
+        rig.sessions.RestoreObjects(rig.path);
+        QCOMPARE(rig.described(), tiles);
+        QCOMPARE(rig.counters(), QStringList({u"1"_s, u"1"_s, u"1"_s, u"3"_s}));
+        QCOMPARE(rig.optTypes->selected(), TileFilter::all);
+        QVERIFY(rig.t.ok());
+    }
+
+    void savingOverALargerSessionLeavesDeadSections()
+    {
+        Rig rig;
+        for (int i = 0; i < 5; ++i)
+            rig.lay(wortel, i, i, u"alt"_s);
+        rig.sessions.SaveObjects(rig.path);
+        rig.bulk->RefillWithSpecNum(0);
+        for (int i = 0; i < 3; ++i)
+            rig.lay(prefix, i, i, u"neu"_s);
+        rig.sessions.SaveObjects(rig.path);
+        QVERIFY(rig.bytes().contains("[Morpheme5]\r\nType=Wortel"));
+        rig.sessions.RestoreObjects(rig.path);
+        QCOMPARE(rig.texts(), QStringList(3, u"neu"_s));
+    }
+
+    void odd_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QStringList>("tiles");
+        QTest::addColumn<bool>("told");
+        const QByteArray good = tile(2, "sUFfix", "5", "6", "\"ung\"");
+        const QStringList goodTile{u"5,6 ung"_s};
+        const QStringList none;
+        QTest::newRow("empty file") << QByteArray() << none << false;
+        QTest::newRow("no count") << good << none << false;
+        QTest::newRow("count 0") << good + count("0") << none << false;
+        QTest::newRow("count negative") << good + count("-3") << none << false;
+        QTest::newRow("count beyond 16 bits") << good + count("32768") << none << true;
+        QTest::newRow("count beyond 64 bits") << good + count("99999999999999999999") << none << true;
+        QTest::newRow("count a word") << good + count("zwei") << none << true;
+        QTest::newRow("count larger than the file") << good + count("32767") << goodTile << false;
+        QTest::newRow("section missing") << good + count("2") << goodTile << false;
+        QTest::newRow("empty caption")
+            << tile(1, "Prefix", "1", "1", "\"\"") + good + count("2") << goodTile << false;
+        QTest::newRow("blank key") << tile(1, "Prefix", "", "1", "\"a\"") + good + count("2") << goodTile
+                                   << false;
+        QTest::newRow("no type") << tile(1, "", "1", "1", "\"a\"") + good + count("2") << goodTile << false;
+        QTest::newRow("other type keeps the colours") << good + tile(3, "Stamm", "1", "1", "b") + count("3")
+                                                      << QStringList{u"5,6 ung"_s, u"1,1 b"_s} << false;
+        QTest::newRow("left beyond 16 bits")
+            << good + tile(3, "Wortel", "32768", "1", "b") + good + count("3") << goodTile << true;
+        QTest::newRow("top beyond 32 bits")
+            << good + tile(3, "Wortel", "1", "-2147483649", "b") + count("3") << goodTile << true;
+        QTest::newRow("left a word") << good + tile(3, "Wortel", "links", "1", "b") + count("3") << goodTile
+                                     << true;
+        QTest::newRow("doubled keys: the first")
+            << good + count("2") + count("9") + "[Morpheme2]\r\nLeft=9\r\n"
+            << goodTile << false;
+        QTest::newRow("line ends of other systems")
+            << QByteArray(good + count("2")).replace("\r\n", "\n") << goodTile << false;
+        QTest::newRow("in capitals") << QByteArray(good + count("2")).toUpper() << QStringList{u"5,6 UNG"_s} << false;
+        QTest::newRow("quotes inside") << tile(1, "Prefix", "1", "1", "\"a\"b\"\"") + count("1")
+                                       << QStringList{u"1,1 a\"b\""_s} << false;
+        QTest::newRow("garbage") << QByteArray("\x00\xFF[[=]]\r[\n]=\x01\xFE", 15) << none << false;
+        QTest::newRow("UTF-8 with its mark")
+            << QByteArray("\xEF\xBB\xBF") + tile(1, "Prefix", "1", "1", "\"f\xC3\xBCr\"") + count("1")
+            << QStringList{u"1,1 für"_s} << false;
+    }
+    void odd()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(bool, told);
+        Rig rig;
+        rig.lay(wortel, 50, 50, u"weg"_s);
+        rig.write(bytes);
+        if (told)
+            rig.t.boxes.willAnswer(Boxes::Answer::Ok);
+        rig.sessions.RestoreObjects(rig.path);
+        QTEST(rig.described(), "tiles");
+        QCOMPARE(rig.counters().last(), QString::number(rig.store->count()));
+        QCOMPARE(rig.lastBox(), told ? rig.invalid() : QString());
+        QCOMPARE(rig.sessions.CurrentSessionFile(), told ? QString() : rig.path);
+        QCOMPARE(rig.bytes(), bytes);
+        QVERIFY(rig.t.ok());
+    }
+
+    void cutAtEveryByte()
+    {
+        const QByteArray whole =
+            count("2") + tile(1, "Prefix", "100", "20", "\"ver\"") + tile(2, "Suffix", "-7", "8", "\"ung\"");
+        Rig rig;
+        for (qsizetype length = 0; length <= whole.size(); ++length) {
+            const QByteArray cut = whole.first(length);
+            rig.write(cut);
+            if (cut.endsWith("ObjCounter=")) // a count, but no number
+                rig.t.boxes.willAnswer(Boxes::Answer::Ok);
+            rig.sessions.RestoreObjects(rig.path);
+            QCOMPARE(rig.counters().last(), QString::number(rig.store->count()));
+            QVERIFY(rig.store->count() <= 2);
+        }
+        QCOMPARE(rig.store->count(), 2);
+        QVERIFY(rig.t.ok());
+    }
+
+    void aHundredThousandSections()
+    {
+        QByteArray bytes;
+        for (int i = 1; i <= 100000; ++i)
+            bytes += tile(i, "Wortel", "3", "4", "\"a\"");
+        Rig rig;
+        rig.write(bytes + count("1000"));
+        const std::clock_t start = std::clock(); // processor time: other programs do not count
+        rig.sessions.RestoreObjects(rig.path);
+        QCOMPARE(rig.store->count(), 1000);
+        rig.sessions.SaveObjects(rig.path);
+        QVERIFY2(std::clock() - start < 20 * CLOCKS_PER_SEC, "quadratic");
+        QVERIFY(rig.bytes().contains("[Morpheme100000]"));
+    }
+
+    void stemListComesAlong_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        QTest::addColumn<bool>("on");
+        QTest::addColumn<bool>("loaded");
+        QTest::addColumn<bool>("told");
+        QTest::newRow("on") << QByteArray("[Name]\r\nLexiconInUse=Bäume\r\n") << true << true << false;
+        QTest::newRow("off") << QByteArray("[Name]\r\nLexiconInUse=Bäume\r\n") << false << false << false;
+        QTest::newRow("missing list")
+            << QByteArray("[Name]\r\nLexiconInUse=fort\r\n") << true << false << true;
+        QTest::newRow("no name") << QByteArray("[Name]\r\nLexiconInUse=\r\n") << true << false << false;
+    }
+    void stemListComesAlong()
+    {
+        QFETCH(QByteArray, name);
+        QFETCH(bool, on);
+        QFETCH(bool, loaded);
+        QFETCH(bool, told);
+        Rig rig;
+        rig.t.writeFile(u"text\\Bäume.txt"_s, u"tann\r\nbirk\r\n"_s);
+        rig.t.writeFile(u"facit\\Bäume.lex"_s, u"Birke\r\n"_s);
+        rig.t.options.setBox(Setting::OpenWLXWithStoredLex, on ? 1 : 0);
+        if (told)
+            rig.t.boxes.willAnswer(Boxes::Answer::Ok);
+        rig.write(tile(1, "Wortel", "1", "1", "\"a\"") + count("1") + QByteArray(name).replace("ä", "\xE4"));
+        rig.sessions.RestoreObjects(rig.path);
+        QCOMPARE(rig.lists.WortelList.rows() == QStringList({u"tann"_s, u"birk"_s}), loaded);
+        QCOMPARE(rig.lists.LexiconList.rows() == QStringList({u"Birke"_s}), loaded);
+        QCOMPARE(rig.controls.Label3->toolTip() == u"Bäume"_s, loaded);
+        QCOMPARE(rig.store->count(), 1);
+        if (told) {
+            QCOMPARE(rig.t.boxes.asked.last().title, u"Cannot open lexicon for this session"_s);
+            QVERIFY(rig.lastBox().startsWith(u"Datei "_s + rig.t.AppFolder +
+                                             u"text\\fort.txt fehlt\n\nSub: RestoreObjects. Line: "_s));
+        }
+        QVERIFY(rig.t.ok());
+    }
+
+    void undoStartsAnewOnlyWithTheDialog_data()
+    {
+        QTest::addColumn<bool>("dialog");
+        QTest::newRow("dialog") << true;
+        QTest::newRow("given path") << false;
+    }
+    void undoStartsAnewOnlyWithTheDialog()
+    {
+        QFETCH(bool, dialog);
+        Rig rig;
+        rig.sessions.SaveObjects(rig.path);
+        rig.undo.ClearCollBuffer();
+        rig.lay(wortel, 1, 1, u"a"_s);
+        rig.undo.SetCollBuffer();
+        if (dialog)
+            rig.t.fileDialogs.willOpen({rig.path});
+        rig.sessions.RestoreObjects(dialog ? QString() : rig.path);
+        QCOMPARE(rig.modes.CanUndo, !dialog);
+        QCOMPARE(rig.t.store.GetSetting(u"Path"_s, u"RestoreWXL"_s, u"-"_s),
+                 dialog ? rig.t.AppFolder.chopped(1) : u"-"_s);
+        QVERIFY(rig.t.ok());
+    }
+
+    void dialogs()
+    {
+        Rig rig;
+        rig.lay(wortel, 1, 1, u"a"_s);
+        rig.t.fileDialogs.willOpen({});
+        rig.sessions.RestoreObjects();
+        QCOMPARE(rig.store->count(), 1);
+        QCOMPARE(rig.t.fileDialogs.asked.last().title, u"Wortel - Sitzung laden"_s);
+        QCOMPARE(rig.t.fileDialogs.asked.last().style, rig.t.AppFolder);
+        rig.t.fileDialogs.willSave({});
+        rig.sessions.SaveObjects();
+        QVERIFY(rig.sessions.CurrentSessionFile().isEmpty());
+        rig.t.fileDialogs.willSave(rig.path);
+        rig.sessions.SaveObjects();
+        QCOMPARE(rig.t.fileDialogs.asked.last().title, u"Wortel - Sitzung speichern"_s);
+        QCOMPARE(rig.t.store.GetSetting(u"Path"_s, u"SaveWLX"_s, {}), rig.t.AppFolder.chopped(1));
+        QVERIFY(IsTextFile(rig.path));
+        QVERIFY(rig.t.ok());
+    }
+
+    void filesThatCannotBeRead_data()
+    {
+        QTest::addColumn<bool>("folder");
+        QTest::addColumn<bool>("told");
+        QTest::newRow("a folder in its place") << true << true;
+        QTest::newRow("missing") << false << false;
+    }
+    void filesThatCannotBeRead()
+    {
+        QFETCH(bool, folder);
+        QFETCH(bool, told);
+        Rig rig;
+        if (folder)
+            QVERIFY(QDir().mkpath(nativePath(rig.path)));
+        rig.lay(wortel, 1, 1, u"a"_s);
+        if (told)
+            rig.t.boxes.willAnswer(Boxes::Answer::Ok);
+        rig.sessions.RestoreObjects(rig.path);
+        QVERIFY(rig.store->isEmpty());
+        QCOMPARE(rig.lastBox(), told ? rig.invalid() : QString());
+        QVERIFY(rig.t.ok());
+    }
+
+    void aFullDiskLeavesTheOldSession()
+    {
+        Rig rig;
+        rig.write("[Name]\r\nLexiconInUse=alt\r\n");
+        for (int i = 0; i < 200; ++i)
+            rig.lay(wortel, i, 1, u"voll"_s);
+        rig.t.boxes.willAnswer(Boxes::Answer::Ok);
+        {
+            const FileSizeLimit full(4096);
+            rig.sessions.SaveObjects(rig.path);
+        }
+        QVERIFY2(rig.lastBox().startsWith(
+                     u".WLX-Datei könnte nicht gespeichert werden.\n\n FrmTransform::SaveObjects (Line: "_s),
+                 qPrintable(rig.lastBox()));
+        QCOMPARE(rig.bytes(), QByteArray("[Name]\r\nLexiconInUse=alt\r\n"));
+        QVERIFY(rig.sessions.CurrentSessionFile().isEmpty());
+        QVERIFY(rig.t.ok());
+    }
+
+    void webNames_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("plain") << u"C:\\x\\Bäume.wlx"_s << u"BÄUME.html"_s;
+        QTest::newRow("other ending") << u"C:\\x\\a.txt"_s << u"A.TXT.html"_s;
+        QTest::newRow("ending inside") << u"C:\\x\\a.wlx.wlx"_s << u"A.html"_s;
+    }
+    void webNames()
+    {
+        QFETCH(QString, path);
+        QTEST(session_file::webExportName(path), "name");
+    }
+
+private:
+    QTemporaryDir home_; ///< keeps the user's own recent documents out of it
+};
+
+WORTEL_TEST(SessionsTest)
+#include "tst_sessions.moc"
