@@ -136,7 +136,8 @@ private slots:
             << goodTile << false;
         QTest::newRow("line ends of other systems")
             << QByteArray(good + count("2")).replace("\r\n", "\n") << goodTile << false;
-        QTest::newRow("in capitals") << QByteArray(good + count("2")).toUpper() << QStringList{u"5,6 UNG"_s} << false;
+        QTest::newRow("in capitals") << QByteArray(good + count("2")).toUpper() << QStringList{u"5,6 UNG"_s}
+                                     << false;
         QTest::newRow("quotes inside") << tile(1, "Prefix", "1", "1", "\"a\"b\"\"") + count("1")
                                        << QStringList{u"1,1 a\"b\""_s} << false;
         QTest::newRow("garbage") << QByteArray("\x00\xFF[[=]]\r[\n]=\x01\xFE", 15) << none << false;
