@@ -7,6 +7,6 @@
 /// What the system needs to know of session files, so that a double click opens one.
 namespace file_type {
 
-inline const QString mimeType = QStringLiteral("application/x-wortel-sitzung");
+inline const QString mimeType = QStringLiteral("application/x-wortel-session");
 
 } // namespace file_type
