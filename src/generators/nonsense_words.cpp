@@ -74,10 +74,11 @@ std::optional<QString> acceptedForm(const QString &word)
 {
     const QString capitals = UCase(word);
     if (StartsWithExact(word, u"GE"_s)) {
-        if (capitals.endsWith(u'T') || capitals.endsWith("EN"_L1))
-            return word;
+        // The noun endings end in t themselves, so they are asked for first: such a word is a noun.
         if (endsInOneOf(capitals, geNounEndings))
             return InitCapWord(word);
+        if (capitals.endsWith(u'T') || capitals.endsWith("EN"_L1))
+            return word;
         return std::nullopt;
     }
     if (StartsWithExact(word, u"Ge"_s))

@@ -1,0 +1,226 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "generators/nonsense_tables.h"
+#include "generators/nonsense_words.h"
+#include "language/word_tests.h"
+#include "platform/text.h"
+#include "platform/word_lists.h"
+#include "support/plain_board.h"
+#include "support/registry.h"
+#include "support/test_ground.h"
+
+#include <QSet>
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+
+/// The spelling rules of the nonsense words, one by one and in their order.
+class NonsenseRulesTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void acceptedForm_data()
+    {
+        QTest::addColumn<QString>("word");
+        QTest::addColumn<QString>("form"); // "-": adds nothing
+        QTest::newRow("GE with t") << u"GEhaust"_s << u"GEhaust"_s;
+        QTest::newRow("GE with en") << u"GElaufEN"_s << u"GElaufEN"_s;
+        QTest::newRow("GE with barkeit") << u"GElaufbarkeit"_s << u"Gelaufbarkeit"_s;
+        QTest::newRow("GE with lichkeit") << u"GElauflichKEIT"_s << u"Gelauflichkeit"_s;
+        QTest::newRow("GE with enheit") << u"GElaufenheit"_s << u"Gelaufenheit"_s;
+        QTest::newRow("GE with another noun ending") << u"GElaufung"_s << u"-"_s;
+        QTest::newRow("GE with tt is asked for t first") << u"GElautt"_s << u"GElautt"_s;
+        QTest::newRow("Ge with e") << u"Gelaufe"_s << u"Gelaufe"_s;
+        QTest::newRow("Ge without e") << u"Gelaufung"_s << u"-"_s;
+        QTest::newRow("ge is no case of its own") << u"gelaufer"_s << u"gelaufer"_s;
+        QTest::newRow("haftig in small letters") << u"VERhausHAFTIG"_s << u"verhaushaftig"_s;
+        QTest::newRow("noun ending") << u"verhausigung"_s << u"Verhausigung"_s;
+        QTest::newRow("losigkeit by its igkeit") << u"hauslosigkeit"_s << u"Hauslosigkeit"_s;
+        QTest::newRow("erei") << u"HAUSerei"_s << u"Hauserei"_s;
+        QTest::newRow("tst gets its e, everywhere") << u"startst"_s << u"estartest"_s;
+        QTest::newRow("tst in capitals stays") << u"starTST"_s << u"estarTST"_s;
+        QTest::newRow("dst") << u"findst"_s << u"findest"_s;
+        QTest::newRow("tt") << u"laett"_s << u"-"_s;
+        QTest::newRow("anything else") << u"Verhauser"_s << u"Verhauser"_s;
+        QTest::newRow("empty") << QString() << QString();
+    }
+    void acceptedForm()
+    {
+        QFETCH(QString, word);
+        QTEST(nonsense::acceptedForm(word).value_or(u"-"_s), "form");
+    }
+
+    void clusters_data()
+    {
+        QTest::addColumn<QString>("stem");
+        QTest::addColumn<QString>("suffix");
+        QTest::addColumn<bool>("bad");
+        QTest::addColumn<bool>("badForSweep");
+        QTest::newRow("harmless") << u"haus"_s << u"er"_s << false << false;
+        QTest::newRow("ratt") << u"rat"_s << u"t"_s << true << true;
+        QTest::newRow("sst is for the sweep only") << u"fass"_s << u"t"_s << false << true;
+        QTest::newRow("three s") << u"fass"_s << u"st"_s << true << true;
+        QTest::newRow("sharp s with s, in any case") << u"fuß"_s << u"S"_s << true << true;
+        QTest::newRow("sharp s is no double s") << u"fuß"_s << u"chaft"_s << false << false;
+        QTest::newRow("umlaut folds") << u"brüt"_s << u"t"_s << true << true;
+        QTest::newRow("across the seam") << u"nebel"_s << u"los"_s << true << true;
+        QTest::newRow("tst gets its e first") << u"haft"_s << u"st"_s << false << false;
+    }
+    void clusters()
+    {
+        QFETCH(QString, stem);
+        QFETCH(QString, suffix);
+        const QString stretch = nonsense::stretchOf(stem, suffix);
+        QTEST(nonsense::holdsBadCluster(stretch), "bad");
+        QTEST(nonsense::holdsBadClusterForSweep(stretch), "badForSweep");
+    }
+
+    void clusterTablesKeepTheirRows()
+    {
+        QCOMPARE(nonsense::badClusterCount, std::size_t(29));
+        const auto &table = nonsense::BadClusterSweepList;
+        QCOMPARE(std::count(table.begin(), table.end(), QStringView(u"RATT")), 2);
+        QCOMPARE(table.back(), QStringView(u"SST"));
+        for (const QStringView entry : table) // the search takes each entry in capitals
+            QCOMPARE(UCase(entry.toString()), entry.toString());
+    }
+
+    void suffixes_data()
+    {
+        QTest::addColumn<QString>("suffix");
+        QTest::addColumn<QStringList>("drawn");
+        QTest::newRow("keit") << u"keit"_s << QStringList({u"barkeit"_s, u"lichkeit"_s});
+        QTest::newRow("KEIT keeps its case")
+            << u"KEIT"_s << QStringList({u"barKEIT"_s, u"barkeit"_s, u"lichKEIT"_s, u"lichkeit"_s});
+        QTest::newRow("heit") << u"heit"_s << QStringList(u"enheit"_s);
+        QTest::newRow("ung") << u"Ung"_s << QStringList(u"igUng"_s);
+        QTest::newRow("igkeit") << u"igkeit"_s << QStringList({u"barkeit"_s, u"lichkeit"_s});
+        QTest::newRow("lichung stays") << u"lichung"_s << QStringList(u"lichung"_s);
+        QTest::newRow("none") << QString() << QStringList(QString());
+    }
+    void suffixes()
+    {
+        QFETCH(QString, suffix);
+        Rnd rnd(5);
+        QSet<QString> seen;
+        for (int i = 0; i < 300; ++i)
+            seen.insert(nonsense::expandSuffix(suffix, rnd));
+        QStringList drawn = seen.values();
+        drawn.sort();
+        QTEST(drawn, "drawn");
+    }
+
+    void joining()
+    {
+        const Morphemes noun{u"ver"_s, u"HAUS"_s, u"ung"_s};
+        const Morphemes longer{u"ver"_s, u"HAUS"_s, u"igung"_s};
+        QCOMPARE(nonsense::join(noun, 1), u"Verhausung"_s);
+        QCOMPARE(nonsense::join(longer, 1), u"verHAUSigung"_s); // only bare suffixes are in the table
+        QCOMPARE(nonsense::join(noun, 0), u"verHAUSung"_s);
+        QCOMPARE(nonsense::join(noun, 2), QString());
+    }
+
+    void collecting_data()
+    {
+        QTest::addColumn<QString>("stemList");
+        QTest::addColumn<QStringList>("prefixes");
+        QTest::addColumn<QStringList>("suffixes");
+        QTest::newRow("usual list") << u"AU ODER EI"_s << QStringList({u"ver"_s, u"S"_s})
+                                    << QStringList({u"ung"_s, u"lich"_s, u"losigkeit"_s});
+        QTest::newRow("noun list") << u"Ung Heit Keit schaft NIS TUM"_s << QStringList()
+                                   << QStringList({u"ung"_s, u"losigkeit"_s});
+    }
+    void collecting()
+    {
+        QFETCH(QString, stemList);
+        QFETCH(QStringList, prefixes);
+        QFETCH(QStringList, suffixes);
+        TestGround t;
+        PlainBoard board(t.ground);
+        WordLists lists;
+        lists.WortelReTypeList.add(u"old"_s);
+        board.lay(u"haus"_s, colours::wortelBack);
+        board.lay(u"HAUS"_s, colours::wortelBack);
+        board.lay(u"er"_s, colours::wortelBack);
+        board.lay(u"ver"_s, colours::prefixBack);
+        board.lay(u"S"_s, colours::prefixBack);
+        for (const QString &suffix : {u"s"_s, u"ung"_s, u"ER"_s, u"lich"_s, u"losigkeit"_s, u"UNG"_s})
+            board.lay(suffix, colours::suffixBack);
+        board.lay(u"grey"_s, 0x808080);
+        board.filter = 1; // the filter does not matter
+        collectNonsenseMorphemes(board.tiles.tiles(), stemList, lists);
+        QCOMPARE(lists.WortelReTypeList.rows(), QStringList({u"haus"_s, u"er"_s}));
+        QCOMPARE(lists.PrefixReTypeList.rows(), prefixes);
+        QCOMPARE(lists.SuffixReTypeList.rows(), suffixes);
+        collectMorphemes(board.tiles.tiles(), lists);
+        QCOMPARE(lists.PrefixReTypeList.count(), 2);
+        QCOMPARE(lists.SuffixReTypeList.count(), 5);
+    }
+
+    /// The word is tested before its form changes: the real word "Hausigung" keeps the candidate "hausigung"
+    /// out, but nothing keeps the same "haftst" from coming twice as "haftest".
+    void testsAreMadeOnTheCandidate()
+    {
+        TestGround t;
+        WordLists lists;
+        const WordTests tests(lists, t.options);
+        lists.WortelReTypeList.add(u"haus"_s);
+        lists.SuffixReTypeList.add(u"ung"_s);
+        lists.LexiconList.add(u"HAUSIGUNG"_s);
+        nonsense::Generator real(lists, tests, t.rnd, 0);
+        QVERIFY(!real.tryWord());
+        lists.LexiconList.clear();
+        QVERIFY(real.tryWord());
+        QVERIFY(!real.tryWord());
+        QCOMPARE(lists.PseudoWordList.rows(), QStringList(u"Hausigung"_s));
+
+        lists.WortelReTypeList.replace(0, u"haft"_s);
+        lists.SuffixReTypeList.replace(0, u"st"_s);
+        lists.PseudoWordList.clear();
+        nonsense::Generator linked(lists, tests, t.rnd, 0);
+        QVERIFY(linked.tryWord());
+        QVERIFY(linked.tryWord());
+        QCOMPARE(lists.PseudoWordList.rows(), QStringList({u"haftest"_s, u"haftest"_s}));
+
+        lists.WortelReTypeList.clear();
+        lists.SuffixReTypeList.clear();
+        QVERIFY(!linked.tryWord()); // nothing is no word
+    }
+
+    /// Against the sweep as it is told: each index up to the count of the start, the row that moves up passed
+    /// over.
+    void sweepPassesOverTheRowThatMovesUp()
+    {
+        Rnd rnd(11);
+        const QStringList pool{u"Mast"_s,  u"fasst"_s, u"Haus"_s, u"lasst"_s,
+                               u"Ratte"_s, u"zart"_s,  u"esst"_s};
+        int passedOver = 0;
+        for (int run = 0; run < 200; ++run) {
+            WordStore swept(WordStore::KeptSorted);
+            QStringList told;
+            nonsense::Sweep sweep;
+            for (int round = 0; round < 4; ++round) {
+                for (int i = rnd.absInt(8); i > 0; --i) {
+                    const QString word = pool.at(rnd.absInt(static_cast<double>(pool.size())));
+                    sweep.added(swept.add(word), word);
+                }
+                told = swept.rows();
+                int removed = 0;
+                for (qsizetype index = 0, count = told.size(); index < count; ++index)
+                    if (nonsense::holdsBadClusterForSweep(UCase(told.value(index)))) {
+                        told.removeAt(index);
+                        ++removed;
+                    }
+                QCOMPARE(sweep.run(swept), removed);
+                QCOMPARE(swept.rows(), told);
+                for (const QString &word : told)
+                    passedOver += nonsense::holdsBadClusterForSweep(UCase(word)) ? 1 : 0;
+            }
+        }
+        QVERIFY(passedOver > 100); // the odd case did come up
+    }
+};
+
+WORTEL_TEST(NonsenseRulesTest)
+#include "tst_nonsense_rules.moc"

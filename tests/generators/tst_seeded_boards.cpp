@@ -1,0 +1,142 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "generators/nonsense_words.h"
+#include "generators/real_words.h"
+#include "language/list_loader.h"
+#include "language/word_tests.h"
+#include "platform/files.h"
+#include "platform/text.h"
+#include "platform/word_lists.h"
+#include "support/plain_board.h"
+#include "support/registry.h"
+#include "support/test_ground.h"
+
+#include <QDir>
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+
+/// What must hold of every generated word, over boards dealt from the shipped lists with fixed seeds.
+class SeededBoardsTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    static QString dataFolder() { return storedPath(QStringLiteral(WORTEL_SOURCE_DIR "/data/")); }
+
+    struct Board
+    {
+        explicit Board(const QString &name, quint64 seed)
+            : t(seed)
+        {
+            QString path = dataFolder() + u"text\\"_s + name;
+            lists.PrefixList.addAll(readListFile(dataFolder() + u"affix\\prefix.afx"_s));
+            lists.SuffixList.addAll(readListFile(dataFolder() + u"affix\\suffix.afx"_s));
+            loader.FillWortelList(path);
+            for (int i = 0; i < 20; ++i) {
+                tiles.lay(drawRow(lists.WortelList, t.rnd), colours::wortelBack);
+                tiles.lay(lists.PrefixList.at(i), colours::prefixBack);
+                tiles.lay(lists.SuffixList.at(i), colours::suffixBack);
+            }
+        }
+
+        TestGround t;
+        WordLists lists;
+        ListLoader loader{t.ground, lists};
+        WordTests tests{lists, t.options};
+        PlainBoard tiles{t.ground};
+    };
+
+    /// True if `word` is a prefix or none, a stem or none, a suffix or none of the retype lists, in this
+    /// order.
+    static bool isMadeOfOneOfEach(const QString &word, const WordLists &lists)
+    {
+        for (const QString &prefix : lists.PrefixReTypeList.rows())
+            for (const QString &suffix : lists.SuffixReTypeList.rows()) {
+                const qsizetype stem = word.size() - prefix.size() - suffix.size();
+                if (stem >= 0 && word.startsWith(prefix, Qt::CaseInsensitive) &&
+                    word.endsWith(suffix, Qt::CaseInsensitive) &&
+                    lists.WortelReTypeList.contains(word.mid(prefix.size(), stem)))
+                    return true;
+            }
+        return false;
+    }
+
+private slots:
+    void boards_data()
+    {
+        QTest::addColumn<QString>("stemList");
+        QTest::addColumn<int>("seed");
+        const QStringList names =
+            QDir(nativePath(dataFolder() + u"text"_s)).entryList({u"*.txt"_s}, QDir::Files);
+        QVERIFY(names.size() >= 3);
+        for (const QString &name : names)
+            for (int seed = 1; seed <= 2; ++seed)
+                QTest::newRow(qPrintable(name + u' ' + QString::number(seed))) << name << seed;
+    }
+
+    void realWords_data() { boards_data(); }
+    void realWords()
+    {
+        QFETCH(QString, stemList);
+        QFETCH(int, seed);
+        Board board(stemList, static_cast<quint64>(seed));
+        collectMorphemes(board.tiles.tiles.tiles(), board.lists);
+        for (int rounds = 0; rounds < 200000 && board.lists.CorrectWordList.count() < 10; ++rounds)
+            tryRealWord(board.lists, board.tests, board.t.rnd);
+        const QStringList built = board.lists.CorrectWordList.rows();
+        QVERIFY2(built.size() >= 3, qPrintable(stemList));
+        QSet<QString> distinct;
+        for (const QString &word : built) {
+            QVERIFY2(board.tests.ChkForDuplicates2(word), qPrintable(word));
+            QVERIFY2(isMadeOfOneOfEach(word, board.lists), qPrintable(word));
+            distinct.insert(UCase(word));
+        }
+        QCOMPARE(distinct.size(), built.size());
+        properCaseAll(board.lists, board.tests);
+        for (const QString &word : board.lists.CorrectWordList.rows())
+            QVERIFY2(board.lists.LexiconList.rows().contains(word), qPrintable(word));
+    }
+
+    void nonsenseWords_data() { boards_data(); }
+    void nonsenseWords()
+    {
+        QFETCH(QString, stemList);
+        QFETCH(int, seed);
+        Board board(stemList, static_cast<quint64>(seed));
+        collectNonsenseMorphemes(board.tiles.tiles.tiles(), listBaseName(stemList), board.lists);
+        nonsense::Generator generator(board.lists, board.tests, board.t.rnd, 1);
+        int found = 0;
+        for (int rounds = 0; rounds < 20000 && found < 200; ++rounds) {
+            found += generator.tryWord() ? 1 : 0;
+            found -= generator.sweep();
+            QCOMPARE(board.lists.PseudoWordList.count(), found);
+        }
+        QVERIFY2(found >= 20, qPrintable(stemList + u": "_s + QString::number(found)));
+        int letThrough = 0;
+        for (const QString &word : board.lists.PseudoWordList.rows()) {
+            letThrough += nonsense::holdsBadClusterForSweep(UCase(word)) ? 1 : 0;
+            // A linked-in e is the one change of letters behind the test against the dictionary.
+            if (!word.endsWith(u"test"_s) && !word.endsWith(u"dest"_s))
+                QVERIFY2(!board.tests.ChkForDuplicates2(word), qPrintable(word));
+        }
+        QCOMPARE(letThrough, 0); // one word a round: the sweep of the same round sees it
+    }
+
+    void twoRunsGiveDifferentLists()
+    {
+        QStringList runs;
+        for (const quint64 seed : {1, 2}) {
+            Board board(u"Hauptbausteine.Txt"_s, 3);
+            collectMorphemes(board.tiles.tiles.tiles(), board.lists);
+            Rnd rnd(seed);
+            while (board.lists.CorrectWordList.count() < 8)
+                tryRealWord(board.lists, board.tests, rnd);
+            runs.append(board.lists.CorrectWordList.rows().join(u' '));
+        }
+        QVERIFY(runs.at(0) != runs.at(1));
+    }
+};
+
+WORTEL_TEST(SeededBoardsTest)
+#include "tst_seeded_boards.moc"
