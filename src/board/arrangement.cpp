@@ -69,8 +69,7 @@ Arrangement::Arrangement(Ground &ground, const MainControls &controls, Modes &mo
     , store_(canvas.store())
 {}
 
-// Sorting
-// -----------------------------------------------------------------------------------------------------------------
+// Sorting ------------------------------------------------------------------------------------------
 
 void Arrangement::sortTiles(const char *procedure, What what, bool removeDuplicates)
 {
@@ -94,8 +93,7 @@ void Arrangement::SortMorphemeAscending(bool removeDuplicates)
     sortTiles("SortMorphemeAscending", What::Everything, removeDuplicates);
 }
 
-// Spreading
-// ---------------------------------------------------------------------------------------------------------------
+// Spreading ----------------------------------------------------------------------------------------
 
 void Arrangement::SpreadAllMorpheme(bool sorted)
 {
@@ -158,8 +156,7 @@ void Arrangement::SpreadMorpheme(Colour colour)
     });
 }
 
-// Lining up
-// ---------------------------------------------------------------------------------------------------------------
+// Lining up ----------------------------------------------------------------------------------------
 
 void Arrangement::LineUpWorteles(bool sort, bool removeDuplicates)
 {

@@ -113,8 +113,7 @@ void BulkTiles::drawWortel(const QString &text, int x, int y)
     store_.CanvasDrawWortel(x, y, text, wortelKind.back, wortelKind.text);
 }
 
-// Filling
-// -----------------------------------------------------------------------------------------------------------------
+// Filling ------------------------------------------------------------------------------------------
 
 void BulkTiles::AddRandomWortel(int count)
 {
@@ -260,8 +259,7 @@ void BulkTiles::Check2_LeftPress()
     step([&] { ground_.pump.yield(); });
 }
 
-// Changing texts
-// ----------------------------------------------------------------------------------------------------------
+// Changing texts -----------------------------------------------------------------------------------
 
 void BulkTiles::ReplaceAllWortel()
 {

@@ -64,8 +64,7 @@ Canvas::Canvas(Ground &ground, const MainControls &controls, Modes &modes, TileS
     }
 }
 
-// Drawing
-// ------------------------------------------------------------------------------------------------------------------
+// Drawing ------------------------------------------------------------------------------------------
 
 void Canvas::draw(bool everyKind)
 {
@@ -141,8 +140,7 @@ void Canvas::OptType_Click(int index)
     });
 }
 
-// Removing and changing
-// ---------------------------------------------------------------------------------------------------
+// Removing and changing ----------------------------------------------------------------------------
 
 void Canvas::eraseTile(Procedure &step, int index)
 {
@@ -211,8 +209,7 @@ void Canvas::EditObject(const QString &pos, const QString &text, Colour kind)
     });
 }
 
-// Holding
-// ------------------------------------------------------------------------------------------------------------------
+// Holding ------------------------------------------------------------------------------------------
 
 bool Canvas::CanvasSelectWortel(int x, int y)
 {
@@ -267,8 +264,7 @@ void Canvas::blendTipPanel()
         controls_.PicAlpha->blend(controls_.picCanvas->image());
 }
 
-// Buttons
-// ------------------------------------------------------------------------------------------------------------------
+// Buttons ------------------------------------------------------------------------------------------
 
 void Canvas::Option1_Click(int index)
 {

@@ -8,11 +8,6 @@
 
 #include <utility>
 
-namespace {
-constexpr int mostTextsKept = 4096;
-constexpr int longestTextKept = 64;
-} // namespace
-
 CanvasSurface::CanvasSurface(PictureBox &box)
     : box_(box)
     , font_(box.font())
@@ -96,17 +91,12 @@ void CanvasSurface::paint(const Step &step)
 
 const QStaticText &CanvasSurface::laidOut(const QString &text)
 {
-    const auto known = texts_.constFind(text);
-    if (known != texts_.cend())
-        return *known;
-    QStaticText laid(tileText(text));
-    laid.setTextFormat(Qt::PlainText);
-    laid.prepare(painter_->transform(), font_);
-    if (text.size() > longestTextKept)
-        return longText_ = laid;
-    if (texts_.size() >= mostTextsKept)
-        texts_.clear();
-    return *texts_.insert(text, laid);
+    return texts_.get(text, [this](const QString &unknown) {
+        QStaticText laid(tileText(unknown));
+        laid.setTextFormat(Qt::PlainText);
+        laid.prepare(painter_->transform(), font_);
+        return laid;
+    });
 }
 
 void CanvasSurface::open()

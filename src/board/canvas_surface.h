@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "board/text_cache.h"
 #include "board/tile.h"
 
 #include <QFont>
-#include <QHash>
 #include <QPainter>
 #include <QStaticText>
 
@@ -66,8 +66,7 @@ private:
     std::optional<QPainter> painter_;
     int batches_ = 0;
     std::vector<Step> noted_;
-    QHash<QString, QStaticText> texts_; ///< laid out once: shaping costs more than painting
-    QStaticText longText_;
+    TextCache<QStaticText> texts_; ///< laid out once: shaping costs more than painting
 };
 
 /// Freezes the board for a bulk command and unfreezes it in any case.

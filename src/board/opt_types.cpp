@@ -7,11 +7,6 @@
 
 #include <QButtonGroup>
 
-namespace {
-constexpr int mostWidthsKept = 4096;
-constexpr int longestTextKept = 64;
-} // namespace
-
 OptTypes::OptTypes(const MainControls &controls, QObject *parent)
     : QObject(parent)
     , controls_(controls)
@@ -60,15 +55,7 @@ FormMeasures::FormMeasures(const MainControls &controls)
 
 int FormMeasures::textWidth(const QString &text) const
 {
-    const auto known = widths_.constFind(text);
-    if (known != widths_.cend())
-        return *known;
-    const int width = metrics_.horizontalAdvance(text);
-    if (widths_.size() >= mostWidthsKept)
-        widths_.clear();
-    if (text.size() <= longestTextKept)
-        widths_.insert(text, width);
-    return width;
+    return widths_.get(text, [this](const QString &unknown) { return metrics_.horizontalAdvance(unknown); });
 }
 
 int FormMeasures::ScaleWidth() const { return controls_.form->width(); }

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "board/text_cache.h"
 #include "board/tile_store.h"
 
 #include <QFontMetrics>
-#include <QHash>
 #include <QObject>
 
 struct MainControls;
@@ -45,5 +45,5 @@ public:
 private:
     const MainControls &controls_;
     QFontMetrics metrics_;
-    mutable QHash<QString, int> widths_;
+    mutable TextCache<int> widths_;
 };

@@ -18,6 +18,7 @@
 #include "widgets/press_button.h"
 
 #include <memory>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using places::Place;
@@ -46,6 +47,27 @@ private:
 
 } // namespace
 
+/// Counts laid Wortel tiles and writes the counter when somebody may look: a caption costs more than a
+/// search.
+class Placement::Tally
+{
+public:
+    explicit Tally(TileCounters &counters)
+        : counters_(counters)
+    {}
+
+    void add() { ++laid_; }
+    void write()
+    {
+        if (laid_ > 0)
+            counters_.add(0, std::exchange(laid_, 0));
+    }
+
+private:
+    TileCounters &counters_;
+    int laid_ = 0;
+};
+
 Placement::Placement(Ground &ground, const MainControls &controls, Modes &modes, const WordLists &lists,
                      Canvas &canvas)
     : ground_(ground)
@@ -68,10 +90,9 @@ void Placement::takeTryLimit()
 
 void Placement::stop() { modes_.StopPlacing = true; }
 
-// At the start and for one more tile
-// --------------------------------------------------------------------------------------
+// At the start and for one more tile ---------------------------------------------------------------
 
-Placement::Found Placement::searchWortel(Place &place, long long &tries)
+Placement::Found Placement::searchWortel(Place &place, long long &tries, Tally &tally)
 {
     const BoardMeasures &measures = store_.measures();
     for (;;) {
@@ -83,8 +104,10 @@ Placement::Found Placement::searchWortel(Place &place, long long &tries)
             return Found::Limit;
         if (tries == triesBeforeCancelIsOffered)
             controls_.Label4->show();
-        if (ground_.pump.inputWaiting())
+        if (ground_.pump.inputWaiting()) {
+            tally.write();
             ground_.pump.yield();
+        }
         if (modes_.StopPlacing || modes_.Closing)
             return Found::Stopped;
     }
@@ -98,12 +121,13 @@ void Placement::PlaceWortelFree(int count)
     const Busy busy(modes_);
     const bool cancelWasShown = !controls_.Label4->isHidden();
     modes_.StopPlacing = false;
+    Tally tally(store_.counters());
     step([&] {
         long long tries = 0;
         int listIndex = 0;
         for (int n = 1; n <= count; ++n) {
             Place place;
-            if (searchWortel(place, tries) != Found::Place)
+            if (searchWortel(place, tries, tally) != Found::Place)
                 break;
             int index = 0;
             if (controls_.Check1->isChecked()) {
@@ -112,17 +136,17 @@ void Placement::PlaceWortelFree(int count)
                 ground_.rnd.Randomize();
                 index = ground_.rnd.absInt(lists_.WortelList.count());
             }
-            store_.counters().add(0, 1);
+            tally.add();
             store_.CanvasDrawWortel(place.x, place.y, lists_.WortelList.at(index), colours::wortelBack,
                                     colours::wortelText);
         }
     });
+    step([&] { tally.write(); });
     modes_.StopPlacing = false;
     controls_.Label4->setVisible(cancelWasShown);
 }
 
-// One kind anew
-// -----------------------------------------------------------------------------------------------------------
+// One kind anew ------------------------------------------------------------------------------------
 
 void Placement::NoWortelCollision2(int count, const QString &text)
 {
@@ -146,8 +170,7 @@ void Placement::NoWortelCollision2(int count, const QString &text)
     });
 }
 
-// All kinds anew
-// ----------------------------------------------------------------------------------------------------------
+// All kinds anew -----------------------------------------------------------------------------------
 
 bool Placement::MorphemeCollision(int count, const QString &text, Colour back, Colour textColour)
 {

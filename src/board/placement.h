@@ -50,7 +50,8 @@ public:
 
 private:
     enum class Found { Place, Limit, Stopped };
-    Found searchWortel(places::Place &place, long long &tries);
+    class Tally;
+    Found searchWortel(places::Place &place, long long &tries, Tally &tally);
     bool askToGoOn(long long limit);
     void giveUp();
 

@@ -19,8 +19,7 @@ constexpr int copyStep = 42;    // several copies, left edge to left edge
 constexpr int rightMargin = 30; // copies stop that far from the window's edge
 } // namespace
 
-// TileCounters
-// -----------------------------------------------------------------------------------------------------------
+// TileCounters -------------------------------------------------------------------------------------
 
 int TileCounters::value(int index) const { return CLng(Val(caption(index))); }
 
@@ -42,8 +41,7 @@ Int16 TileCounters::sum() const
 
 void TileCounters::updateTotal() { set(TileFilter::all, sum()); }
 
-// TileFilter
-// --------------------------------------------------------------------------------------------------------------
+// TileFilter ---------------------------------------------------------------------------------------
 
 bool TileFilter::shows(Colour back) const
 {
@@ -54,8 +52,7 @@ bool TileFilter::shows(Colour back) const
     return kind && kind->filterIndex == index;
 }
 
-// TileStore
-// ----------------------------------------------------------------------------------------------------------------
+// TileStore ----------------------------------------------------------------------------------------
 
 QString tileText(const QString &text)
 {

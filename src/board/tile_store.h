@@ -77,8 +77,7 @@ public:
     TileStore(Ground &ground, TileCounters &counters, TileFilter &filter, TileSurface &surface,
               BoardMeasures &measures);
 
-    // The collection
-    // ---------------------------------------------------------------------------------------------------
+    // The collection -------------------------------------------------------------------------------
     const TileList &tiles() const { return tiles_; }
     int count() const { return static_cast<int>(tiles_.size()); }
     bool isEmpty() const { return tiles_.empty(); }
@@ -97,8 +96,7 @@ public:
     /// `tile` is one of the store's, or nullptr.
     void setCurrent(cWortel *tile) { current_ = tile; }
 
-    // The operations of the board
-    // -------------------------------------------------------------------------------------
+    // The operations of the board ------------------------------------------------------------------
     /// Appends a new tile and draws it.
     void CanvasDrawWortel(Int16 x, Int16 y, const QString &text, Colour back, Colour textColour);
     /// The same with a trace line: the public entry for other windows.
