@@ -8,6 +8,7 @@
 #include "platform/sound.h"
 #include "widgets/gradient.h"
 #include "widgets/main_controls.h"
+#include "widgets/msg_scroller.h"
 #include "widgets/press_button.h"
 
 namespace {
@@ -72,5 +73,7 @@ void frmMsnStyle::leave(int slot)
     if (slot_ == slot)
         slot_ = 0;
     restButtons(false);
+    if (controls_.Scroller != nullptr)
+        controls_.Scroller->setEnabled(true);
     emit closed();
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "dialogs/report_window.h"
+#include "platform/report_popup.h"
 
 #include <QObject>
 
@@ -15,7 +16,7 @@ struct Modes;
 /// The small popup that slides up at the lower left corner of the board to report a check. Reports that come
 /// before an earlier one has gone stack in up to four rows. While one stands, the buttons of the word check
 /// rest.
-class frmMsnStyle : public QObject
+class frmMsnStyle : public QObject, public ReportPopup
 {
     Q_OBJECT
 
@@ -27,12 +28,12 @@ public:
     /// Shows a report for `seconds` after it has slid up, with the sound `soundId` if sounds are on. Returns
     /// while it slides.
     void Display(const QString &title, const QString &line1, const QString &line2, const QString &line3,
-                 int seconds, int soundId, bool boldLine2, bool showSmiley);
+                 int seconds, int soundId, bool boldLine2, bool showSmiley) override;
     /// The slot of the last report, 1 to 4, or 0.
     int slot() const { return slot_; }
 
 signals:
-    /// A report has gone and the buttons are back: the strip may be enabled again.
+    /// A report has gone; buttons and strip are back.
     void closed();
 
 private:

@@ -4,6 +4,7 @@ wortel_test(language
     SOURCES
         tst_list_chooser.cpp
         tst_list_loader.cpp
+        tst_tips.cpp
         tst_word_check.cpp
         tst_word_panels.cpp
         tst_word_tests.cpp

@@ -3,5 +3,8 @@
 wortel_test(widgets
     SOURCES
         tst_msg_scroller.cpp
+        tst_press_button.cpp
         tst_scroller_strip.cpp
+        tst_small_widgets.cpp
+        tst_store_list.cpp
 )

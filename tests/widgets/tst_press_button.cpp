@@ -1,0 +1,153 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/registry.h"
+#include "widgets/press_button.h"
+
+#include <QPointingDevice>
+#include <QSignalSpy>
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A button in its window, and what it has told: "left", "right", with "+shift" where Shift was held.
+struct Bench
+{
+    explicit Bench(bool checkable = false)
+    {
+        button.setParent(&window);
+        button.setCheckable(checkable);
+        button.resize(60, 40);
+        window.show();
+        QObject::connect(&button, &PressButton::mouseDown, &button,
+                         [this](Qt::MouseButton which, Qt::KeyboardModifiers keys) {
+                             told << (which == Qt::LeftButton ? u"left"_s : u"right"_s) +
+                                         (keys & Qt::ShiftModifier ? u"+shift"_s : QString());
+                         });
+    }
+
+    void touch(QEvent::Type type)
+    {
+        const bool down = type == QEvent::MouseButtonPress;
+        QMouseEvent event(type, QPointF(20, 20), QPointF(20, 20), QPointF(20, 20), Qt::LeftButton,
+                          down ? Qt::LeftButton : Qt::NoButton, {}, Qt::MouseEventSynthesizedByQt);
+        QApplication::sendEvent(&button, &event);
+    }
+
+    QWidget window;
+    PressButton button;
+    QStringList told;
+};
+
+} // namespace
+
+class PressButtonTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void leftComesOnReleaseInside()
+    {
+        Bench bench(true);
+        QTest::mousePress(&bench.button, Qt::LeftButton);
+        QVERIFY(bench.told.isEmpty());
+        QTest::mouseRelease(&bench.button, Qt::LeftButton, Qt::ShiftModifier);
+        QCOMPARE(bench.told, QStringList{u"left+shift"_s});
+        QVERIFY(bench.button.isChecked());
+        QCOMPARE(bench.button.focusPolicy(), Qt::NoFocus);
+    }
+
+    void releaseOutsideIsNothing()
+    {
+        Bench bench(true);
+        QTest::mousePress(&bench.button, Qt::LeftButton);
+        QTest::mouseMove(&bench.button, QPoint(200, 200));
+        QTest::mouseRelease(&bench.button, Qt::LeftButton, {}, QPoint(200, 200));
+        QVERIFY(bench.told.isEmpty());
+        QVERIFY(!bench.button.isChecked());
+    }
+
+    void rightComesAtOnceAndChecksNothing()
+    {
+        Bench bench(true);
+        QTest::mousePress(&bench.button, Qt::RightButton, Qt::ShiftModifier);
+        QCOMPARE(bench.told, QStringList{u"right+shift"_s});
+        QTest::mouseRelease(&bench.button, Qt::RightButton);
+        QCOMPARE(bench.told.size(), 1);
+        QVERIFY(!bench.button.isChecked());
+    }
+
+    void disabledTellsNothing()
+    {
+        Bench bench;
+        bench.button.setEnabled(false);
+        QTest::mouseClick(&bench.button, Qt::LeftButton);
+        QTest::mouseClick(&bench.button, Qt::RightButton);
+        QVERIFY(bench.told.isEmpty());
+    }
+
+    void aRestingFingerIsTheRightButton()
+    {
+        Bench bench(true);
+        bench.touch(QEvent::MouseButtonPress);
+        QTest::qWait(PressButton::longPressTime + 150);
+        QCOMPARE(bench.told, QStringList{u"right"_s});
+        bench.touch(QEvent::MouseButtonRelease);
+        QCOMPARE(bench.told.size(), 1);
+        QVERIFY(!bench.button.isChecked());
+        bench.touch(QEvent::MouseButtonPress); // the next tap is a plain one
+        bench.touch(QEvent::MouseButtonRelease);
+        QCOMPARE(bench.told.last(), u"left"_s);
+        QVERIFY(bench.button.isChecked());
+    }
+
+    void aSlowMouseClickStaysLeft()
+    {
+        Bench bench;
+        QTest::mousePress(&bench.button, Qt::LeftButton);
+        QTest::qWait(PressButton::longPressTime + 150);
+        QVERIFY(bench.told.isEmpty());
+        QTest::mouseRelease(&bench.button, Qt::LeftButton);
+        QCOMPARE(bench.told, QStringList{u"left"_s});
+    }
+
+    void mayBeDeletedByItsOwnClick()
+    {
+        auto *button = new PressButton;
+        button->resize(40, 40);
+        connect(button, &QAbstractButton::clicked, button, [button] { delete button; });
+        QPointer<PressButton> watched(button);
+        QTest::mouseClick(button, Qt::LeftButton);
+        QVERIFY(watched.isNull());
+    }
+
+    void statesLookDifferent()
+    {
+        Bench bench(true);
+        bench.button.setText(u"20"_s);
+        QList<QImage> looks;
+        const auto take = [&] {
+            const QImage look = bench.button.grab().toImage();
+            QVERIFY(!looks.contains(look));
+            looks << look;
+        };
+        take();
+        bench.button.setDown(true);
+        take();
+        bench.button.setDown(false);
+        bench.button.setChecked(true);
+        take();
+        bench.button.setEnabled(false);
+        take();
+        bench.button.setChecked(false);
+        take();
+        bench.button.setFace(Qt::red, Qt::white);
+        take();
+        bench.button.setEnabled(true);
+        take();
+    }
+};
+
+WORTEL_TEST(PressButtonTest)
+#include "tst_press_button.moc"

@@ -1,0 +1,168 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/word_store.h"
+#include "support/registry.h"
+#include "widgets/store_list.h"
+
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QtTest>
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QStringList words(int count)
+{
+    QStringList result;
+    result.reserve(count);
+    for (int i = 0; i < count; ++i)
+        result << u"Wort %1"_s.arg(i);
+    return result;
+}
+
+QString shown(const StoreList &list, int row) { return list.model()->index(row, 0).data().toString(); }
+
+QPoint middleOf(const StoreList &list, int row)
+{
+    return list.visualRect(list.model()->index(row, 0)).center();
+}
+
+} // namespace
+
+class StoreListTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void fullStoreOpensAtOnce()
+    {
+        WordStore store;
+        store.addAll(words(32000));
+        StoreList list;
+        list.resize(150, 300);
+        QElapsedTimer timer;
+        timer.start();
+        list.show(&store);
+        list.show();
+        list.grab();
+        // A view that measures every row takes seconds for this, even on a fast machine.
+        QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+        QCOMPARE(list.model()->rowCount(), 32000);
+        list.setListIndex(31999);
+        QCOMPARE(list.ListIndex(), 31999);
+        QVERIFY(list.viewport()->rect().contains(middleOf(list, 31999)));
+    }
+
+    void followsItsStore()
+    {
+        WordStore store;
+        store.addAll(words(100));
+        StoreList list;
+        list.show(&store);
+        list.show();
+        list.setListIndex(50);
+        store.replace(50, u"neu"_s);
+        QCOMPARE(list.ListIndex(), 50);
+        QCOMPARE(shown(list, 50), u"neu"_s);
+        store.add(u"letztes"_s);
+        QTRY_COMPARE(list.model()->rowCount(), 101);
+        QCOMPARE(list.ListIndex(), 50);
+        store.clear();
+        QCOMPARE(list.ListIndex(), -1);
+        QCOMPARE(list.model()->rowCount(), 0);
+        list.grab();
+    }
+
+    void manyChangesAreOnePicture()
+    {
+        WordStore store;
+        StoreList list;
+        list.show(&store);
+        list.show();
+        QSignalSpy resets(list.model(), &QAbstractItemModel::modelReset);
+        for (const QString &word : words(1000))
+            store.add(word);
+        QTRY_COMPARE(list.model()->rowCount(), 1000);
+        QCOMPARE(resets.count(), 1);
+    }
+
+    void staysScrolledWhereItWas()
+    {
+        WordStore store;
+        store.addAll(words(500));
+        StoreList list;
+        list.resize(100, 200);
+        list.show(&store);
+        list.show();
+        list.grab();
+        list.verticalScrollBar()->setValue(300);
+        store.removeAt(499);
+        QTRY_COMPARE(list.model()->rowCount(), 499);
+        list.grab();
+        QCOMPARE(list.verticalScrollBar()->value(), 300);
+    }
+
+    void index_data()
+    {
+        QTest::addColumn<int>("set");
+        QTest::addColumn<int>("index");
+        QTest::newRow("first") << 0 << 0;
+        QTest::newRow("last") << 9 << 9;
+        QTest::newRow("none") << -1 << -1;
+        QTest::newRow("behind the end") << 10 << -1;
+        QTest::newRow("negative") << -32768 << -1;
+    }
+    void index()
+    {
+        QFETCH(int, set);
+        QFETCH(int, index);
+        WordStore store;
+        store.addAll(words(10));
+        StoreList list;
+        list.show(&store);
+        list.setListIndex(4);
+        list.setListIndex(set);
+        QCOMPARE(list.ListIndex(), index);
+    }
+
+    void clicks()
+    {
+        WordStore store;
+        store.addAll(words(3));
+        StoreList list;
+        list.resize(120, 200);
+        list.show(&store);
+        list.show();
+        QSignalSpy left(&list, &StoreList::rowClicked);
+        QSignalSpy right(&list, &StoreList::rightPressed);
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, middleOf(list, 1));
+        QCOMPARE(left.count(), 1);
+        QCOMPARE(left.first().first().toInt(), 1);
+        QCOMPARE(list.ListIndex(), 1);
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, QPoint(60, 180));
+        QCOMPARE(left.count(), 1);
+        QTest::mouseClick(list.viewport(), Qt::RightButton, {}, middleOf(list, 2));
+        QCOMPARE(right.count(), 1);
+        QCOMPARE(left.count(), 1);
+        QCOMPARE(list.ListIndex(), 1);
+    }
+
+    void outlivesItsStore()
+    {
+        StoreList list;
+        auto store = std::make_unique<WordStore>();
+        store->addAll(words(5));
+        list.show(store.get());
+        list.show();
+        store.reset();
+        QCOMPARE(list.store(), nullptr);
+        QCOMPARE(list.model()->rowCount(), 0);
+        list.grab();
+    }
+};
+
+WORTEL_TEST(StoreListTest)
+#include "tst_store_list.moc"
