@@ -13,6 +13,7 @@
 #include <QStringDecoder>
 
 #include <algorithm>
+#include <type_traits>
 
 using namespace Qt::StringLiterals;
 
@@ -33,16 +34,39 @@ QString entryOf(const QString &folder, const QString &name)
     return {};
 }
 
-QString decodeList(const QByteArray &bytes)
+/// The trimmed lines between `from` and `end` as texts. `Unit` is a byte or a character; `decode` makes a
+/// text of some.
+template <typename Unit, typename Decode>
+QStringList entriesOf(const Unit *from, const Unit *end, bool keepBlank, Decode decode)
 {
-    QStringDecoder decoder;
-    if (isUtf8(bytes))
-        decoder = QStringDecoder(QStringDecoder::Utf8);
-    else if (bytes.startsWith("\xFF\xFE") || bytes.startsWith("\xFE\xFF"))
-        decoder = QStringDecoder(QStringDecoder::Utf16);
-    else
-        return windows1252::decode(bytes);
-    return QString(decoder.decode(bytes)).normalized(QString::NormalizationForm_C);
+    QStringList entries;
+    entries.reserve((end - from) / 10);
+    while (from < end) {
+        const Unit *stop = from;
+        bool hasNul = false;
+        for (; stop < end; ++stop) {
+            const auto unit = static_cast<std::make_unsigned_t<Unit>>(*stop);
+            if (unit > '\r') // one comparison for nearly all
+                continue;
+            if (unit == '\n' || unit == '\r')
+                break;
+            hasNul = hasNul || unit == 0;
+        }
+        const Unit *next = stop;
+        if (next < end)
+            next += *next == '\r' && next + 1 < end && next[1] == '\n' ? 2 : 1;
+        while (from < stop && *from == ' ')
+            ++from;
+        while (stop > from && stop[-1] == ' ')
+            --stop;
+        QString entry = decode(from, stop - from);
+        if (hasNul)
+            entry = Trim(entry.remove(QChar::Null));
+        if (keepBlank || !entry.isEmpty())
+            entries.append(std::move(entry));
+        from = next;
+    }
+    return entries;
 }
 
 [[noreturn]] void raise(int number) { throw RuntimeError::of(number); }
@@ -168,33 +192,26 @@ bool isUtf8(const QByteArray &bytes)
     if (bytes.startsWith("\xEF\xBB\xBF"))
         return true;
     const auto isAscii = [](char byte) { return static_cast<signed char>(byte) >= 0; };
-    return !std::all_of(bytes.begin(), bytes.end(), isAscii) && bytes.isValidUtf8();
+    return bytes.isValidUtf8() && !std::all_of(bytes.begin(), bytes.end(), isAscii);
 }
 
 QStringList readListFile(const QString &path, bool keepBlank)
 {
-    QString text = decodeList(ReadWholeFile(path));
-    if (text.contains(QChar::Null))
-        text.remove(QChar::Null);
-    QStringList entries;
-    entries.reserve(text.size() / 10);
-    const QChar *const end = text.constData() + text.size();
-    for (const QChar *from = text.constData(); from < end;) {
-        const QChar *stop = from;
-        while (stop < end && *stop != u'\n' && *stop != u'\r')
-            ++stop;
-        const QChar *next = stop;
-        if (next < end)
-            next += *next == u'\r' && next + 1 < end && next[1] == u'\n' ? 2 : 1;
-        while (from < stop && *from == u' ')
-            ++from;
-        while (stop > from && stop[-1] == u' ')
-            --stop;
-        if (stop > from || keepBlank)
-            entries.append(QString(from, stop - from));
-        from = next;
-    }
-    return entries;
+    const QByteArray bytes = ReadWholeFile(path);
+    QStringDecoder decoder;
+    if (isUtf8(bytes))
+        decoder = QStringDecoder(QStringDecoder::Utf8);
+    else if (bytes.startsWith("\xFF\xFE") || bytes.startsWith("\xFE\xFF"))
+        decoder = QStringDecoder(QStringDecoder::Utf16);
+    if (!decoder.isValid())
+        return entriesOf(bytes.begin(), bytes.end(), keepBlank, [](const char *from, qsizetype count) {
+            return windows1252::decode(QByteArrayView(from, count));
+        });
+    const QString text = QString(decoder.decode(bytes)).normalized(QString::NormalizationForm_C);
+    const auto *const units = reinterpret_cast<const char16_t *>(text.utf16());
+    return entriesOf(units, units + text.size(), keepBlank, [](const char16_t *from, qsizetype count) {
+        return QString(reinterpret_cast<const QChar *>(from), count);
+    });
 }
 
 void writeFileAtomically(const QString &path, const QByteArray &bytes)

@@ -40,7 +40,7 @@ int byteOf(char16_t character)
 
 namespace windows1252 {
 
-QString decode(const QByteArray &bytes)
+QString decode(QByteArrayView bytes)
 {
     QString text(bytes.size(), Qt::Uninitialized);
     QChar *out = text.data();

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QString>
 
 #include <optional>
@@ -12,7 +13,7 @@
 namespace windows1252 {
 
 /// Every byte has a character, so decoding cannot fail. The result is in normal form C.
-QString decode(const QByteArray &bytes);
+QString decode(QByteArrayView bytes);
 /// The bytes of `text`, or nothing if a character has none.
 std::optional<QByteArray> encode(const QString &text);
 /// The bytes of `text` with "?" for a character that has none.

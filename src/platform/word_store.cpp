@@ -60,7 +60,10 @@ void WordStore::addAll(const QStringList &items)
     const qsizetype room = largestCount - count();
     const QStringList fitting = items.size() > room ? items.first(room) : items;
     if (order_ == Appending) {
-        rows_.append(fitting);
+        if (rows_.isEmpty())
+            rows_ = fitting; // shared, not copied
+        else
+            rows_.append(fitting);
     } else if (std::is_sorted(rows_.cbegin(), rows_.cend(), comesBefore)) {
         index_.clear();
         mergeSorted(rows_, fitting);
