@@ -5,6 +5,8 @@
 #include "dialogs/report_window.h"
 #include "platform/report_popup.h"
 
+#include "platform/report_popup.h"
+
 #include <QObject>
 
 #include <array>
