@@ -755,6 +755,7 @@ bewerbt
 Bewerbung
 Bewerbungen
 bleib
+Bleibe
 bleibe
 bleiben
 bleibend
@@ -1038,6 +1039,7 @@ Erbes
 erbeten
 Erbin
 erblich
+Erbschaft
 Erbsen
 erbst
 erbt
@@ -1270,7 +1272,9 @@ glaubend
 glaubhaft
 gläubig
 gläubige
+Gläubige
 gläubigen
+Gläubigen
 gläubiger
 Gläubiger
 glaublich
@@ -1314,6 +1318,7 @@ Habschaft
 habt
 halb
 halbe
+Halbe
 halben
 halber
 halbes
@@ -1748,6 +1753,8 @@ Trupps
 überbleibt
 überein
 übergab
+Übergabe
+Übergaben
 übergaben
 übergabst
 übergabt
@@ -1783,7 +1790,9 @@ Trupps
 überleben
 Überleben
 überlebend
+Überlebende
 überlebende
+Überlebenden
 überlebenden
 überlebst
 überlebt
@@ -1818,6 +1827,7 @@ Trupps
 übertreibend
 übertreibst
 übertreibt
+Übertreibung
 übertrieb
 übertrieben
 übertriebst
@@ -1997,6 +2007,7 @@ untertrieben
 untertriebst
 untertriebt
 unüblich
+Verbleib
 verbleib
 verbleibe
 verbleiben
@@ -2232,6 +2243,8 @@ vorangetrieben
 vorantreiben
 voranzutreiben
 vorgab
+Vorgabe
+Vorgaben
 vorgaben
 vorgabst
 vorgabt
@@ -2255,6 +2268,8 @@ vorlebend
 vorlebst
 vorlebt
 vorlieb
+Vorliebe
+Vorlieben
 vorschiebe
 vorschieben
 vorschiebend
@@ -2274,6 +2289,8 @@ vorschriebe
 vorschrieben
 vorschriebst
 vorschriebt
+Vorschub
+Vorschubs
 vorschwebe
 vorschweben
 vorschwebend
@@ -2319,6 +2336,7 @@ werblich
 werbt
 Werbung
 wipp
+Wippe
 wippe
 wippen
 wippend

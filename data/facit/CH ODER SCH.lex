@@ -165,11 +165,7 @@ abspreche
 absprechen
 absprechend
 absprecht
-absteche
-abstechen
-abstechend
 Abstecher
-abstecht
 Abstich
 Abstiche
 Abstichen
@@ -236,6 +232,7 @@ abzeichnend
 Abzeichnung
 abzusichern
 acht
+Acht
 achtbar
 achte
 achten
@@ -1259,6 +1256,7 @@ einreichen
 einreichend
 einreichst
 einreicht
+Einreichung
 einrichte
 einrichten
 einrichtend
@@ -1356,10 +1354,6 @@ entfacht
 Entfachung
 entmachte
 entmachten
-entmensche
-entmenschen
-entmenschst
-entmenscht
 entmische
 entmischen
 entmischend
@@ -1516,13 +1510,6 @@ erschreckend
 erschreckst
 erschreckt
 ersichtlich
-ersteche
-erstechen
-erstechend
-erstecht
-erstich
-erstichst
-ersticht
 ersuche
 ersuchen
 ersuchend
@@ -1568,6 +1555,8 @@ fachliche
 fachlichen
 fachlicher
 Fachs
+Fachschaft
+Fachschaften
 fachst
 facht
 falsch
@@ -2352,6 +2341,8 @@ tischt
 überschrieben
 überschriebst
 überschriebt
+Übersicht
+Übersichten
 übersichtlich
 übersichtliche
 übersichtlichen
@@ -2496,6 +2487,8 @@ unterbreche
 unterbrechen
 unterbrechend
 unterbrecht
+Unterbrechung
+Unterbrechungen
 untergebracht
 untermische
 untermischen
@@ -2547,12 +2540,16 @@ untertauchen
 untertauchend
 untertauchst
 untertaucht
+Unterwäsche
+Unterwäschen
 unterzeichne
 unterzeichnen
 unterzeichnend
+Unterzeichner
 unterzeichnet
 unterzeichnete
 unterzeichneten
+Unterzeichnung
 unübersichtlich
 unversichert
 unversicherte
@@ -2807,8 +2804,10 @@ verzeichnet
 verzeichnete
 verzeichneten
 Verzeichnung
+Voransicht
 voraussichtlich
 voraussichtliche
+Vorbericht
 vorgeschrieben
 vorherrsche
 vorherrschen
@@ -2836,6 +2835,8 @@ vorrechtlich
 vorrichte
 vorrichten
 vorrichtend
+Vorrichtung
+Vorrichtungen
 vorschreibe
 vorschreiben
 vorschreibend
@@ -2846,6 +2847,7 @@ vorschriebe
 vorschrieben
 vorschriebst
 vorschriebt
+Vorsicht
 vorsichtig
 vorsichtiger
 vorsprach
@@ -2862,6 +2864,7 @@ vortäuschen
 vortäuschend
 vortäuschst
 vortäuscht
+Voruntersuchung
 vorzeichne
 vorzeichnen
 vorzeichnend
@@ -2897,6 +2900,7 @@ wäscht
 Waschung
 weich
 weiche
+Weiche
 weichem
 weichen
 Weichen
@@ -3020,6 +3024,8 @@ zusammenbreche
 zusammenbrechen
 zusammenbrechend
 zusammenbrecht
+Zusammenbruch
+Zusammenbruchs
 zusammenkrache
 zusammenkrachen
 zusammenkrachend

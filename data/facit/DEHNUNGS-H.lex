@@ -575,7 +575,6 @@ bewohne
 bewohnen
 bewohnend
 Bewohner
-Bewohnerinnen
 Bewohnern
 bewohnst
 bewohnt
@@ -1189,6 +1188,7 @@ Kehrung
 kühl
 kühlbar
 kühle
+Kühle
 kühlen
 kühlend
 kühler
@@ -1232,6 +1232,7 @@ lehre
 lehren
 Lehren
 lehrend
+Lehrende
 lehrende
 lehrenden
 Lehrer
@@ -1429,6 +1430,7 @@ Strahlung
 überfahren
 überfahrend
 überfährst
+Überfahrt
 überfahrt
 überfährt
 überfuhr
@@ -1441,7 +1443,9 @@ Strahlung
 überführst
 überfuhrt
 überführt
+Überführung
 übernahm
+Übernahme
 übernahmen
 übernahmst
 übernahmt
@@ -1454,6 +1458,7 @@ Strahlung
 überstrahlend
 überstrahlst
 überstrahlt
+Überzahl
 überzähle
 überzahlen
 überzählen
@@ -1537,6 +1542,7 @@ unterfuhren
 unterführen
 unterfuhrst
 unterfuhrt
+Unterführung
 unterhöhle
 unterhöhlen
 unterhöhlend
@@ -1557,6 +1563,10 @@ unternehme
 unternehmen
 Unternehmen
 unternehmend
+Unternehmer
+Unternehmerin
+Unternehmern
+Unternehmers
 Unternehmertum
 unternehmt
 Unternehmung
@@ -1573,6 +1583,7 @@ unterstrahlst
 unterstrahlt
 Unterwühlen
 Unterwühlung
+Unterzahl
 unwählbar
 unwahr
 unwahre
@@ -1777,6 +1788,7 @@ vorfahren
 Vorfahren
 vorfahrend
 vorfährst
+Vorfahrt
 vorfahrt
 vorfährt
 vorfühle
@@ -1792,14 +1804,18 @@ vorfuhrst
 vorführst
 vorfuhrt
 vorführt
+Vorführung
+Vorführungen
 vorgeführt
 vorjährig
+Vorkehrungen
 vorkühle
 vorkühlen
 vorkühlend
 vorkühlst
 vorkühlt
 vornahm
+Vornahme
 vornahmen
 vornahmst
 vornahmt
@@ -1810,7 +1826,9 @@ vornehmer
 Vornehmheit
 vornehmlich
 vornehmst
+Vorwahl
 vorwähle
+Vorwahlen
 vorwählen
 vorwählend
 vorwählst
@@ -2027,6 +2045,7 @@ zusammenfuhrst
 zusammenführst
 zusammenfuhrt
 zusammenführt
+Zusammenführung
 zusammengeführt
 zusammenkehre
 zusammenkehren

@@ -176,6 +176,7 @@ abprüfst
 abprüft
 Abruf
 abrufbar
+Abrufe
 abrufe
 abrufen
 abrufend
@@ -1159,6 +1160,7 @@ Bravheit
 bravst
 Dampf
 dampfe
+Dämpfe
 dämpfe
 dampfen
 dämpfen
@@ -1792,6 +1794,8 @@ fachliche
 fachlichen
 fachlicher
 Fachs
+Fachschaft
+Fachschaften
 fachst
 facht
 fahr
@@ -2395,8 +2399,10 @@ nachflog
 nachflogen
 nachflogst
 nachflogt
+Nachfolge
 nachfolge
 nachfolgen
+Nachfolgen
 nachfolgend
 nachfolgende
 nachfolgenden
@@ -2627,6 +2633,7 @@ schlafe
 schlafen
 schlafend
 schlaflos
+Schlaflosigkeit
 Schlafs
 schlaft
 schlief
@@ -2708,12 +2715,16 @@ trefft
 überfahren
 überfahrend
 überfährst
+Überfahrt
 überfahrt
 überfährt
+Überfall
 überfalle
+Überfälle
 überfallen
 überfallend
 überfällig
+Überfalls
 überfällst
 überfallt
 überfällt
@@ -2725,6 +2736,7 @@ trefft
 überfliege
 überfliegen
 überfliegend
+Überflieger
 überfliegst
 überfliegt
 überfließe
@@ -2739,6 +2751,7 @@ trefft
 überfordere
 überforderst
 überfordert
+Überforderung
 überforme
 überformen
 überformst
@@ -2758,6 +2771,7 @@ trefft
 überführst
 überfuhrt
 überführt
+Überführung
 überfülle
 überfüllen
 überfüllend
@@ -2771,6 +2785,7 @@ trefft
 übergreifst
 übergreift
 übergriff
+Übergriffe
 übergriffen
 übergriffst
 übergrifft
@@ -2789,6 +2804,8 @@ trefft
 überliefert
 überlieferte
 überlieferten
+Überlieferung
+Überlieferungen
 überliefst
 überlieft
 überpflanze
@@ -2801,6 +2818,8 @@ trefft
 überprüfend
 überprüfst
 überprüft
+Überprüfung
+Überprüfungen
 überreif
 überreife
 überreifen
@@ -3017,6 +3036,7 @@ unreifer
 unreifst
 Unschärfe
 unschärfer
+Unterbegriffe
 unterfahre
 unterfahren
 unterfährst
@@ -3062,6 +3082,7 @@ unterfuhren
 unterführen
 unterfuhrst
 unterfuhrt
+Unterführung
 unterlaufe
 unterlaufen
 unterlaufend
@@ -3408,6 +3429,7 @@ vollendet
 vollendete
 vollendeten
 vollends
+Vollendung
 voller
 volles
 vollst
@@ -3417,10 +3439,14 @@ vorfahren
 Vorfahren
 vorfahrend
 vorfährst
+Vorfahrt
 vorfahrt
 vorfährt
+Vorfall
+Vorfälle
 vorfallen
 vorfallend
+Vorfalls
 vorfällt
 vorfertige
 vorfertigen
@@ -3454,6 +3480,8 @@ vorfuhrst
 vorführst
 vorfuhrt
 vorführt
+Vorführung
+Vorführungen
 vorgefertigte
 vorgefertigten
 vorgeführt
@@ -3470,13 +3498,17 @@ vorkämpfe
 vorkämpfen
 vorkämpfst
 vorkämpft
+Vorlauf
 vorlaufe
+Vorläufe
 vorlaufen
 vorlaufend
+Vorläufer
 vorläufig
 vorläufige
 vorläufigen
 vorläufiger
+Vorlaufs
 vorläufst
 vorlauft
 vorläuft
@@ -3485,7 +3517,10 @@ vorliefe
 vorliefen
 vorliefst
 vorlieft
+Vorstufe
+Vorstufen
 vortrefflich
+Vorverkauf
 vorwarf
 vorwarfen
 vorwarfst
@@ -3700,6 +3735,7 @@ zusammenfasse
 zusammenfassen
 zusammenfassend
 zusammenfasst
+Zusammenfassung
 zusammenfiel
 zusammenfiele
 zusammenfielen
@@ -3726,6 +3762,7 @@ zusammenfuhrst
 zusammenführst
 zusammenfuhrt
 zusammenführt
+Zusammenführung
 zusammengefasst
 zusammengefügt
 zusammengeführt

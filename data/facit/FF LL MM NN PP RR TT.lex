@@ -70,11 +70,6 @@ abklemmen
 abklemmend
 abklemmst
 abklemmt
-abknalle
-abknallen
-abknallend
-abknallst
-abknallt
 abkomme
 abkommen
 Abkommen
@@ -638,8 +633,11 @@ beirrst
 beirrt
 bekannt
 bekannte
+Bekannte
 bekannten
+Bekannten
 bekannter
+Bekannter
 bekanntes
 Bekanntheit
 bekanntlich
@@ -1006,6 +1004,7 @@ Einschnitte
 einschnitte
 Einschnitten
 einschnitten
+Einschnitts
 einschnittst
 Einschütten
 einspannbar
@@ -1042,6 +1041,7 @@ einstimmend
 einstimmig
 einstimmst
 einstimmt
+Einstimmung
 eintippe
 eintippen
 eintippend
@@ -1438,6 +1438,7 @@ hallst
 hallt
 hell
 helle
+Helle
 hellem
 hellen
 hellend
@@ -1545,7 +1546,6 @@ kommender
 kommst
 kommt
 Mann
-mannbar
 Mannen
 Mannes
 mannhaft
@@ -1732,6 +1732,7 @@ Schnitter
 schnittig
 Schnitts
 schnittst
+Schütte
 schütte
 schütten
 schüttend
@@ -1905,10 +1906,14 @@ Trennungen
 übereinstimmen
 übereinstimmend
 übereinstimmt
+Übereinstimmung
+Überfall
 überfalle
+Überfälle
 überfallen
 überfallend
 überfällig
+Überfalls
 überfällst
 überfallt
 überfällt
@@ -1918,6 +1923,7 @@ Trennungen
 überfüllst
 überfüllt
 übergriff
+Übergriffe
 übergriffen
 übergriffst
 übergrifft
@@ -2067,8 +2073,11 @@ umzustellen
 unauffällig
 unbekannt
 unbekannte
+Unbekannte
 unbekannten
+Unbekannten
 unbekannter
+Unbekannter
 unbekanntes
 Unbekanntheit
 unbestimmt
@@ -2100,6 +2109,8 @@ unstarrst
 unstillbar
 unstimmig
 Unstimmigkeiten
+Unterabschnitt
+Unterbegriffe
 unterfallen
 unterkomme
 unterkommen
@@ -2136,6 +2147,7 @@ verbrennbar
 verbrenne
 verbrennen
 verbrennend
+Verbrenner
 verbrennst
 verbrennt
 Verbrennung
@@ -2343,10 +2355,17 @@ verwirrst
 verwirrt
 Verwirrung
 vorbestellen
+Vorbestellung
+Vorbestellungen
 vorbestimmten
 voreingestellt
+Voreinstellung
+Voreinstellungen
+Vorfall
+Vorfälle
 vorfallen
 vorfallend
+Vorfalls
 vorfällt
 vorgekommen
 vorgestellt
@@ -2363,6 +2382,8 @@ vorherrschende
 vorherrschenden
 vorherrschst
 vorherrscht
+Vorkenntnisse
+Vorkenntnissen
 vorkomme
 vorkommen
 Vorkommen
@@ -2390,6 +2411,7 @@ vorspannend
 Vorspanns
 vorspannst
 vorspannt
+Vorspannung
 vorstellbar
 vorstelle
 vorstellen
@@ -2398,6 +2420,8 @@ vorstellig
 vorstellst
 vorstellt
 vorstellte
+Vorstellung
+Vorstellungen
 vortippe
 vortippen
 vortippend
@@ -2583,6 +2607,7 @@ zusammenstellen
 zusammenstellend
 zusammenstellst
 zusammenstellt
+Zusammenstellung
 zusammenstimme
 zusammenstimmen
 zusammenstimmend

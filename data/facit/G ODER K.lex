@@ -242,6 +242,7 @@ angezeigte
 angezeigten
 angezeigter
 angezogen
+Anklage
 anklage
 anklagen
 Anklagen
@@ -1153,6 +1154,7 @@ Durchzüge
 Durchzügen
 Durchzugs
 einbezogen
+Einbezug
 einbiege
 einbiegen
 einbiegend
@@ -1754,6 +1756,7 @@ legt
 legte
 legten
 Legung
+Liege
 liege
 liegen
 Liegen
@@ -1812,8 +1815,10 @@ nachflog
 nachflogen
 nachflogst
 nachflogt
+Nachfolge
 nachfolge
 nachfolgen
+Nachfolgen
 nachfolgend
 nachfolgende
 nachfolgenden
@@ -1875,8 +1880,10 @@ nachschlug
 nachschlugen
 nachschlugst
 nachschlugt
+Nachsorge
 nachsorge
 nachsorgen
+Nachsorgen
 nachsorgend
 nachsorgst
 nachsorgt
@@ -2165,6 +2172,7 @@ tragbar
 tragbare
 tragbaren
 tragbarer
+Trage
 trage
 träge
 tragen
@@ -2194,6 +2202,7 @@ trügt
 überfliege
 überfliegen
 überfliegend
+Überflieger
 überfliegst
 überfliegt
 überflog
@@ -2209,6 +2218,7 @@ trügt
 überlagere
 überlagerst
 überlagert
+Überlagerung
 überlege
 überlegen
 überlegend
@@ -2246,6 +2256,7 @@ trügt
 übertage
 Übertrag
 übertragbar
+Übertragbarkeit
 übertrage
 Überträge
 übertragen
@@ -2284,12 +2295,17 @@ trügt
 überzeugt
 überzeugte
 überzeugten
+Überzeugung
+Überzeugungen
 überzog
 überzöge
 überzogen
 überzögen
 überzogst
 überzogt
+Überzug
+Überzüge
+Überzugs
 umbiege
 umbiegen
 umbiegend
@@ -2422,6 +2438,8 @@ unterkriegend
 unterkriegst
 unterkriegt
 unterlag
+Unterlage
+Unterlagen
 unterlagen
 unterlagere
 unterlagerst
@@ -2745,6 +2763,9 @@ verzweigend
 verzweigst
 verzweigt
 Verzweigung
+Voranschlags
+Vorbemerkung
+Vorbemerkungen
 vorbeuge
 vorbeugen
 vorbeugend
@@ -2752,6 +2773,7 @@ vorbeugende
 vorbeugenden
 vorbeugst
 vorbeugt
+Vorbeugung
 vorgebeugt
 vorgelagerten
 vorgelegen
@@ -2763,6 +2785,8 @@ vorgeschlagen
 vorgetragen
 vorgezogen
 vorlag
+Vorlage
+Vorlagen
 vorlagen
 vorlagere
 vorlagerst
@@ -2808,9 +2832,13 @@ vorsagend
 Vorsager
 vorsagst
 vorsagt
+Vorschlag
 vorschlage
+Vorschläge
 vorschlagen
+Vorschlägen
 vorschlagend
+Vorschlags
 vorschlägst
 vorschlagt
 vorschlägt
@@ -2818,12 +2846,17 @@ vorschlug
 vorschlugen
 vorschlugst
 vorschlugt
+Vorsorge
 vorsorge
 vorsorgen
+Vorsorgen
 vorsorgend
 vorsorglich
 vorsorgst
 vorsorgt
+Vortag
+Vortage
+Vortags
 Vortrag
 vortrage
 Vorträge
@@ -2840,7 +2873,10 @@ vortrugen
 vortrügen
 vortrugst
 vortrugt
+Vorverstärker
 vorweg
+Vorwerk
+Vorwerks
 vorwiegend
 vorzeigbar
 vorzeige
@@ -2855,7 +2891,10 @@ vorzögen
 vorzogst
 vorzogt
 vorzubeugen
+Vorzug
+Vorzüge
 vorzüglich
+Vorzugs
 vorzulegen
 vorzuschlagen
 wägbar
@@ -2891,6 +2930,7 @@ Werks
 werkst
 werkt
 wieg
+Wiege
 wiege
 wiegen
 Wiegen
@@ -3077,6 +3117,7 @@ zusammenlegen
 zusammenlegend
 zusammenlegst
 zusammenlegt
+Zusammenlegung
 zusammenliegen
 zusammenlügen
 zusammenschlage
@@ -3131,6 +3172,7 @@ zusteigen
 zusteigend
 zusteigst
 zusteigt
+Zustieg
 zustieg
 zustiege
 zustiegen

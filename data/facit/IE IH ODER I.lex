@@ -302,6 +302,7 @@ anbinden
 anbindend
 Anbindung
 Anblick
+Anblicke
 anblicke
 anblicken
 anblickend
@@ -839,6 +840,7 @@ ausklingend
 ausklingst
 ausklingt
 ausleihbar
+Ausleihe
 ausleihe
 ausleihen
 ausleihend
@@ -974,7 +976,9 @@ ausziehen
 ausziehst
 auszieht
 auszubilden
+Auszubildende
 auszubildende
+Auszubildenden
 auszubildenden
 auszubildender
 auszurichten
@@ -1360,6 +1364,7 @@ durchbiegst
 durchbiegt
 Durchbindung
 Durchblick
+Durchblicke
 durchblicke
 durchblicken
 durchblickend
@@ -1526,6 +1531,7 @@ einbringen
 einbringend
 einbringst
 einbringt
+Einbringung
 eindringe
 eindringen
 eindringend
@@ -1649,6 +1655,7 @@ Einschnitte
 einschnitte
 Einschnitten
 einschnitten
+Einschnitts
 einschnittst
 einschrieb
 einschriebe
@@ -1696,6 +1703,7 @@ einstimmend
 einstimmig
 einstimmst
 einstimmt
+Einstimmung
 einstrich
 einstriche
 einstrichen
@@ -1727,6 +1735,7 @@ einziehen
 einziehend
 einziehst
 einzieht
+Einziehung
 einzubeziehen
 einzubinden
 einzubringen
@@ -1916,12 +1925,6 @@ erschiene
 erschienen
 erschienst
 erschient
-erschieß
-erschieße
-erschießen
-erschießend
-erschießt
-Erschießung
 erschließbar
 erschließe
 erschließen
@@ -2222,6 +2225,7 @@ Kriegs
 kriegst
 kriegt
 leih
+Leihe
 leihe
 leihen
 leihend
@@ -2265,6 +2269,7 @@ Lieferung
 Lieferungen
 liefst
 lieft
+Liege
 liege
 liegen
 Liegen
@@ -2686,10 +2691,12 @@ triebt
 Überbietung
 überbinde
 überbinden
+Überblick
 überblickbar
 überblicke
 überblicken
 überblickend
+Überblicks
 überblickst
 überblickt
 überbringe
@@ -2700,6 +2707,7 @@ triebt
 übereinstimmen
 übereinstimmend
 übereinstimmt
+Übereinstimmung
 überfiel
 überfiele
 überfielen
@@ -2708,6 +2716,7 @@ triebt
 überfliege
 überfliegen
 überfliegend
+Überflieger
 überfliegst
 überfliegt
 überfließe
@@ -2723,6 +2732,7 @@ triebt
 übergingst
 übergingt
 übergriff
+Übergriffe
 übergriffen
 übergriffst
 übergrifft
@@ -2739,6 +2749,8 @@ triebt
 überliefert
 überlieferte
 überlieferten
+Überlieferung
+Überlieferungen
 überliefst
 überlieft
 überliegend
@@ -2763,6 +2775,8 @@ triebt
 überschrieben
 überschriebst
 überschriebt
+Übersicht
+Übersichten
 übersichtlich
 übersichtliche
 übersichtlichen
@@ -2984,6 +2998,8 @@ unsichtbaren
 unspielbar
 unstimmig
 Unstimmigkeiten
+Unterabschnitt
+Unterbegriffe
 unterbiete
 unterbieten
 unterbietend
@@ -3001,6 +3017,7 @@ unterbringen
 unterbringend
 unterbringst
 unterbringt
+Unterbringung
 unterfiel
 unterfiele
 unterfielen
@@ -3042,6 +3059,7 @@ unterließ
 unterließe
 unterließen
 unterließt
+Untermiete
 untermische
 untermischen
 untermischend
@@ -3442,12 +3460,19 @@ vierter
 viertes
 Vierung
 vorangetrieben
+Voransicht
 voraussichtlich
 voraussichtliche
+Vorbericht
+Vorbesitzer
 vorbestimmten
+Vorbild
+Vorbilder
+Vorbildern
 vorbildhaft
 vorbildlich
 vorbildliche
+Vorbilds
 vorbringe
 vorbringen
 vorbringend
@@ -3481,6 +3506,8 @@ vorgriffen
 vorgriffst
 vorgrifft
 vorlieb
+Vorliebe
+Vorlieben
 vorlief
 vorliefe
 vorliefen
@@ -3503,6 +3530,8 @@ vornimmt
 vorrichte
 vorrichten
 vorrichtend
+Vorrichtung
+Vorrichtungen
 vorschicke
 vorschicken
 vorschickend
@@ -3522,10 +3551,12 @@ vorschriebe
 vorschrieben
 vorschriebst
 vorschriebt
+Vorsicht
 vorsichtig
 vorsichtiger
 vorsiehst
 vorsieht
+Vorsitz
 vorsitze
 vorsitzen
 vorsitzend
@@ -3537,9 +3568,12 @@ Vorsitzender
 vorsitzender
 Vorsitzer
 vorsitzt
+Vorspiel
+Vorspiele
 vorspiele
 vorspielen
 vorspielend
+Vorspiels
 vorspielst
 vorspielt
 vorspringe
@@ -3876,6 +3910,7 @@ Zusammenspiel
 zusammenspiele
 zusammenspielen
 zusammenspielend
+Zusammenspiels
 zusammenspielst
 zusammenspielt
 zusammenstieß
@@ -3959,6 +3994,7 @@ zuspringen
 zuspringend
 zuspringst
 zuspringt
+Zustieg
 zustieg
 zustiege
 zustiegen

@@ -265,12 +265,15 @@ abregen
 abregend
 abregst
 abregt
+Abreise
 abreise
 abreisen
+Abreisen
 abreisend
 abreist
 Abruf
 abrufbar
+Abrufe
 abrufe
 abrufen
 abrufend
@@ -737,8 +740,10 @@ anreichend
 Anreicherung
 anreichst
 anreicht
+Anreise
 anreise
 anreisen
+Anreisen
 anreisend
 anreist
 anrief
@@ -1656,6 +1661,7 @@ ausreichender
 ausreichst
 ausreicht
 Ausreichung
+Ausreise
 ausreise
 ausreisen
 Ausreisen
@@ -2491,6 +2497,7 @@ durchreiche
 durchreichen
 durchreichst
 durchreicht
+Durchreise
 durchreise
 durchreisen
 Durchreisen
@@ -2607,6 +2614,7 @@ einbauend
 Einbaus
 einbaust
 einbaut
+Einbauten
 einbauten
 einberufen
 Einberufung
@@ -2834,8 +2842,11 @@ einreichen
 einreichend
 einreichst
 einreicht
+Einreichung
+Einreise
 einreise
 einreisen
+Einreisen
 einreisend
 einreist
 einrühre
@@ -3009,6 +3020,7 @@ einziehen
 einziehend
 einziehst
 einzieht
+Einziehung
 einzog
 einzogen
 einzogst
@@ -3356,12 +3368,6 @@ erscheinst
 erscheint
 Erscheinung
 Erscheinungen
-erschieß
-erschieße
-erschießen
-erschießend
-erschießt
-Erschießung
 erschlage
 erschlagen
 erschlagend
@@ -3849,6 +3855,7 @@ klärst
 klärt
 Klärung
 ladbar
+Lade
 lade
 laden
 Laden
@@ -3983,6 +3990,7 @@ Lieferung
 Lieferungen
 liefst
 lieft
+Liege
 liege
 liegen
 Liegen
@@ -4127,6 +4135,7 @@ nachlegend
 nachlegst
 nachlegt
 nachlesbar
+Nachlese
 nachlese
 nachlesen
 nachlesend
@@ -4646,6 +4655,7 @@ tragbar
 tragbare
 tragbaren
 tragbarer
+Trage
 trage
 träge
 tragen
@@ -4708,6 +4718,7 @@ trugt
 überfahren
 überfahrend
 überfährst
+Überfahrt
 überfahrt
 überfährt
 überfiel
@@ -4718,6 +4729,7 @@ trugt
 überfliege
 überfliegen
 überfliegend
+Überflieger
 überfliegst
 überfliegt
 überfrage
@@ -4735,7 +4747,10 @@ trugt
 überführst
 überfuhrt
 überführt
+Überführung
 übergab
+Übergabe
+Übergaben
 übergaben
 übergabst
 übergabt
@@ -4787,6 +4802,7 @@ trugt
 überlagere
 überlagerst
 überlagert
+Überlagerung
 überlas
 überlasen
 überlass
@@ -4805,7 +4821,9 @@ trugt
 überleben
 Überleben
 überlebend
+Überlebende
 überlebende
+Überlebenden
 überlebenden
 überlebst
 überlebt
@@ -4822,6 +4840,7 @@ trugt
 überleite
 überleiten
 überleitend
+Überleitung
 überlese
 überlesen
 überlesend
@@ -4834,6 +4853,8 @@ trugt
 überliefert
 überlieferte
 überlieferten
+Überlieferung
+Überlieferungen
 überliefst
 überlieft
 überliegend
@@ -4848,6 +4869,7 @@ trugt
 übermalt
 Übermalung
 übernahm
+Übernahme
 übernahmen
 übernahmst
 übernahmt
@@ -4883,6 +4905,7 @@ trugt
 überschneide
 überschneiden
 überschneidend
+Überschneidungen
 überschreibe
 überschreiben
 überschreibend
@@ -4937,6 +4960,7 @@ trugt
 übertraft
 Übertrag
 übertragbar
+Übertragbarkeit
 übertrage
 Überträge
 übertragen
@@ -4954,6 +4978,7 @@ trugt
 übertreibend
 übertreibst
 übertreibt
+Übertreibung
 übertrete
 übertreten
 übertretend
@@ -4969,9 +4994,12 @@ trugt
 überweisen
 überweisend
 überweist
+Überweisung
+Überweisungen
 überwies
 überwiesen
 überwiest
+Überzahl
 überzähle
 überzahlen
 überzählen
@@ -4989,6 +5017,8 @@ trugt
 überzeugt
 überzeugte
 überzeugten
+Überzeugung
+Überzeugungen
 überzieh
 überziehe
 überziehen
@@ -5006,6 +5036,7 @@ umbauend
 Umbaus
 umbaust
 umbaut
+Umbauten
 umbauten
 Umbauung
 umdrehe
@@ -5260,6 +5291,8 @@ unschlagbar
 unschlagbaren
 unspielbar
 unteilbar
+Unterbau
+Unterbaus
 unterbaut
 unterfahre
 unterfahren
@@ -5281,6 +5314,7 @@ unterfuhren
 unterführen
 unterfuhrst
 unterfuhrt
+Unterführung
 untergeben
 untergehe
 untergehen
@@ -5300,6 +5334,8 @@ unterkamen
 unterkamst
 unterkamt
 unterlag
+Unterlage
+Unterlagen
 unterlagen
 unterlagere
 unterlagerst
@@ -5348,6 +5384,10 @@ unternehme
 unternehmen
 Unternehmen
 unternehmend
+Unternehmer
+Unternehmerin
+Unternehmern
+Unternehmers
 Unternehmertum
 unternehmt
 Unternehmung
@@ -5368,6 +5408,7 @@ unterscheide
 unterscheiden
 unterscheidend
 unterscheidet
+Unterscheidung
 unterschiebbar
 unterschiebe
 unterschieben
@@ -5412,12 +5453,15 @@ untersuchte
 untersuchten
 Untersuchung
 Untersuchungen
+Unterteil
 unterteilbar
 unterteile
 unterteilen
 unterteilend
+Unterteils
 unterteilst
 unterteilt
+Unterteilung
 untertreib
 untertreibe
 untertreiben
@@ -5433,9 +5477,11 @@ unterweise
 unterweisen
 unterweisend
 unterweist
+Unterweisung
 unterwies
 unterwiesen
 unterwiest
+Unterzahl
 unterziehe
 unterziehen
 unterziehend
@@ -5943,17 +5989,21 @@ verzogst
 verzogt
 vorangehenden
 vorangetrieben
+Voranschlags
 voranstehenden
 vorantreiben
 voranzutreiben
 Vorauszahlung
 Vorauszahlungen
+Vorbau
+Vorbaus
 Vorfahr
 vorfahre
 vorfahren
 Vorfahren
 vorfahrend
 vorfährst
+Vorfahrt
 vorfahrt
 vorfährt
 vorfiel
@@ -5970,7 +6020,11 @@ vorfuhrst
 vorführst
 vorfuhrt
 vorführt
+Vorführung
+Vorführungen
 vorgab
+Vorgabe
+Vorgaben
 vorgaben
 vorgabst
 vorgabt
@@ -6013,10 +6067,13 @@ vorkam
 vorkamen
 vorkamst
 vorkamt
+Vorkehrungen
 vorlade
 vorladen
 vorladend
 vorlag
+Vorlage
+Vorlagen
 vorlagen
 vorlagere
 vorlagerst
@@ -6029,9 +6086,11 @@ vorlasse
 vorlassen
 vorlasst
 vorlast
+Vorlauf
 vorlaufe
 vorlaufen
 vorlaufend
+Vorlaufs
 vorlauft
 vorlebe
 vorleben
@@ -6047,6 +6106,8 @@ vorlese
 vorlesen
 vorlesend
 vorlest
+Vorlesung
+Vorlesungen
 vorlief
 vorliefe
 vorliefen
@@ -6069,6 +6130,7 @@ vorlösen
 vormalig
 vormals
 vornahm
+Vornahme
 vornahmen
 vornahmst
 vornahmt
@@ -6079,6 +6141,8 @@ vornehmer
 Vornehmheit
 vornehmlich
 vornehmst
+Vorrat
+Vorrats
 vorsage
 vorsagen
 vorsagend
@@ -6090,6 +6154,8 @@ vorsahen
 vorsahst
 vorsaht
 Vorscheids
+Vorschein
+Vorscheins
 vorschiebe
 vorschieben
 vorschiebend
@@ -6099,9 +6165,11 @@ vorschieße
 vorschießen
 vorschießend
 vorschießt
+Vorschlag
 vorschlage
 vorschlagen
 vorschlagend
+Vorschlags
 vorschlagt
 vorschreibe
 vorschreiben
@@ -6120,9 +6188,12 @@ vorseht
 Vorsehung
 vorsiehst
 vorsieht
+Vorspiel
+Vorspiele
 vorspiele
 vorspielen
 vorspielend
+Vorspiels
 vorspielst
 vorspielt
 vorstehe
@@ -6130,16 +6201,22 @@ vorstehen
 vorstehend
 vorstehende
 vorstehenden
+Vorsteher
 vorstehst
 vorsteht
+Vorstoß
 vorstoße
 vorstoßen
 vorstoßend
 vorstoßt
+Vorteil
+Vorteile
+Vorteilen
 vorteilhaft
 vorteilhafte
 vorteilhaften
 vorteilhafter
+Vorteils
 Vortrag
 vortrage
 Vorträge
@@ -6169,6 +6246,8 @@ vortrugt
 vorübergehend
 vorübergehende
 vorübergehenden
+Voruntersuchung
+Vorverkauf
 vorweisbar
 vorweise
 vorweisen
@@ -6528,9 +6607,11 @@ zusah
 zusahen
 zusahst
 zusaht
+Zusammenbau
 zusammenbaue
 zusammenbauen
 zusammenbauend
+Zusammenbaus
 zusammenbaust
 zusammenbaut
 zusammenfahre
@@ -6553,6 +6634,7 @@ zusammenfuhrst
 zusammenführst
 zusammenfuhrt
 zusammenführt
+Zusammenführung
 zusammengebaut
 zusammengeführt
 zusammengehe
@@ -6603,6 +6685,7 @@ zusammenlegen
 zusammenlegend
 zusammenlegst
 zusammenlegt
+Zusammenlegung
 zusammenlese
 zusammenlesen
 zusammenlesend
@@ -6669,6 +6752,7 @@ Zusammenspiel
 zusammenspiele
 zusammenspielen
 zusammenspielend
+Zusammenspiels
 zusammenspielst
 zusammenspielt
 zusammenstehe
@@ -6676,6 +6760,7 @@ zusammenstehen
 zusammenstehend
 zusammenstehst
 zusammensteht
+Zusammenstoß
 zusammenstoße
 zusammenstoßen
 zusammenstoßend
@@ -6787,6 +6872,7 @@ zusteigen
 zusteigend
 zusteigst
 zusteigt
+Zustieg
 zustieg
 zustiege
 zustiegen

@@ -213,8 +213,10 @@ angingt
 Ängsten
 ängstlich
 Anhang
+Anhänge
 anhänge
 anhängen
+Anhängen
 anhängend
 Anhänger
 Anhängern
@@ -403,6 +405,7 @@ aushungere
 aushungerst
 aushungert
 Aushungerung
+Ausklang
 ausklang
 ausklangen
 ausklangst
@@ -743,6 +746,7 @@ einbringen
 einbringend
 einbringst
 einbringt
+Einbringung
 eindenke
 eindenken
 eindenkst
@@ -1201,9 +1205,11 @@ klingst
 klingt
 krank
 kranke
+Kranke
 kranken
 krankend
 kranker
+Kranker
 krankhaft
 Krankheit
 Krankheiten
@@ -1348,6 +1354,7 @@ schenkt
 schenkte
 Schenkung
 Schenkungen
+Schlinge
 schlinge
 schlingen
 Schlingen
@@ -1510,7 +1517,9 @@ Trunks
 überdenkend
 überdenkst
 überdenkt
+Übergang
 übergangen
+Übergangs
 übergegangen
 überging
 überginge
@@ -1662,6 +1671,7 @@ unterbringen
 unterbringend
 unterbringst
 unterbringt
+Unterbringung
 unterfange
 unterfangen
 unterfangend
@@ -1672,6 +1682,8 @@ unterfing
 unterfingen
 unterfingst
 unterfingt
+Untergang
+Untergangs
 unterging
 unterginge
 untergingen
@@ -1681,6 +1693,8 @@ untermenge
 untermengen
 untermengst
 untermengt
+Unterschrank
+Unterschranks
 unterzubringen
 untrinkbar
 unverlangten
@@ -1853,6 +1867,7 @@ vorbringen
 vorbringend
 vorbringst
 vorbringt
+Vordenker
 vordrang
 vordränge
 vordrangen
@@ -1868,12 +1883,18 @@ vordringend
 vordringlich
 vordringst
 vordringt
+Vorgang
+Vorgangs
 vorgegangen
 vorging
 vorginge
 vorgingen
 vorgingst
 vorgingt
+Vorhang
+Vorhänge
+Vorhängen
+Vorhangs
 vorsang
 vorsangen
 vorsangst
@@ -1892,6 +1913,8 @@ vorspringen
 vorspringend
 vorspringst
 vorspringt
+Vorsprung
+Vorsprungs
 wank
 wanke
 wanken
@@ -1984,11 +2007,15 @@ zusammenginge
 zusammengingen
 zusammengingst
 zusammengingt
+Zusammenhang
+Zusammenhänge
 zusammenhänge
 zusammenhängen
+Zusammenhängen
 zusammenhängend
 zusammenhängende
 zusammenhanglos
+Zusammenhangs
 zusammenhängst
 zusammenhängt
 zusammenklang

@@ -95,11 +95,7 @@ abstarb
 abstarben
 abstarbst
 abstarbt
-absteche
-abstechen
-abstechend
 Abstecher
-abstecht
 abstecke
 abstecken
 absteckend
@@ -1154,11 +1150,13 @@ einspritzt
 Einspritzung
 Einspruch
 Einspruchs
+Einstand
 einstand
 einstände
 einstanden
 einständen
 einständig
+Einstands
 einstandst
 einstaue
 einstauen
@@ -1217,6 +1215,7 @@ einstimmend
 einstimmig
 einstimmst
 einstimmt
+Einstimmung
 einstoße
 einstoßen
 einstoßend
@@ -1394,10 +1393,6 @@ erstaunlich
 erstaunliche
 erstaunst
 erstaunt
-ersteche
-erstechen
-erstechend
-erstecht
 erstehe
 erstehen
 erstehend
@@ -1429,9 +1424,6 @@ ersterbe
 ersterben
 ersterbend
 ersterbt
-erstich
-erstichst
-ersticht
 erstieg
 erstiegen
 erstiegst
@@ -1689,6 +1681,7 @@ Speichers
 speicherst
 speichert
 Speicherung
+Speise
 speise
 speisen
 Speisen
@@ -1790,6 +1783,7 @@ spritzt
 Spruch
 Spruchs
 spül
+Spüle
 spüle
 spülen
 spülend
@@ -2211,6 +2205,7 @@ Stützung
 übereinstimmen
 übereinstimmend
 übereinstimmt
+Übereinstimmung
 überspanne
 überspannen
 überspannend
@@ -2486,6 +2481,8 @@ unterstützte
 unterstützten
 unterstützter
 unterstütztes
+Unterstützung
+Unterstützungen
 unverständig
 unverständlich
 Unverständnis
@@ -2716,8 +2713,12 @@ Verstürze
 Verstürzen
 voranstehenden
 vorbestellen
+Vorbestellung
+Vorbestellungen
 vorbestimmten
 voreingestellt
+Voreinstellung
+Voreinstellungen
 vorgestellt
 vorgestellte
 vorgestellten
@@ -2731,11 +2732,15 @@ vorspannend
 Vorspanns
 vorspannst
 vorspannt
+Vorspannung
 Vorspeise
 Vorspeisen
+Vorspiel
+Vorspiele
 vorspiele
 vorspielen
 vorspielend
+Vorspiels
 vorspielst
 vorspielt
 vorsprach
@@ -2756,10 +2761,16 @@ vorspringen
 vorspringend
 vorspringst
 vorspringt
+Vorstand
 vorstand
+Vorstände
 vorstände
 vorstanden
+Vorständen
 vorständen
+Vorstandes
+Vorstands
+Vorstandschaft
 vorstandst
 vorstecke
 vorstecken
@@ -2770,6 +2781,7 @@ vorstehen
 vorstehend
 vorstehende
 vorstehenden
+Vorsteher
 vorstehst
 vorsteht
 vorstellbar
@@ -2780,9 +2792,12 @@ vorstellig
 vorstellst
 vorstellt
 vorstellte
+Vorstellung
+Vorstellungen
 vorstieß
 vorstießen
 vorstießt
+Vorstoß
 vorstoße
 vorstoßen
 vorstoßend
@@ -2793,6 +2808,9 @@ vorstrecken
 vorstreckend
 vorstreckst
 vorstreckt
+Vorstufe
+Vorstufen
+Vorverstärker
 vorzustellen
 zerspalt
 zerspalte
@@ -2865,6 +2883,7 @@ Zusammenspiel
 zusammenspiele
 zusammenspielen
 zusammenspielend
+Zusammenspiels
 zusammenspielst
 zusammenspielt
 zusammenstand
@@ -2891,6 +2910,7 @@ zusammenstellen
 zusammenstellend
 zusammenstellst
 zusammenstellt
+Zusammenstellung
 zusammenstieß
 zusammenstieße
 zusammenstießen
@@ -2900,6 +2920,7 @@ zusammenstimmen
 zusammenstimmend
 zusammenstimmst
 zusammenstimmt
+Zusammenstoß
 zusammenstoße
 zusammenstoßen
 zusammenstoßend
@@ -3014,6 +3035,7 @@ zusteuerst
 zusteuert
 zustichst
 zusticht
+Zustieg
 zustieg
 zustiege
 zustiegen

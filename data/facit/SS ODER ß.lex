@@ -912,12 +912,6 @@ erpressend
 Erpresser
 erpresst
 Erpressung
-erschieß
-erschieße
-erschießen
-erschießend
-erschießt
-Erschießung
 erschließbar
 erschließe
 erschließen
@@ -927,9 +921,6 @@ Erschließung
 erschloss
 erschlossen
 erschlosst
-erschoss
-erschossen
-erschosst
 essbar
 esse
 essen
@@ -1310,6 +1301,7 @@ stoßend
 stoßt
 süß
 süße
+Süße
 süßen
 süßend
 süßer
@@ -1332,6 +1324,7 @@ Süßung
 überfloss
 überflossen
 überflosst
+Überfluss
 überflüssig
 überflüssige
 überflüssigen
@@ -1348,7 +1341,9 @@ Süßung
 übergosst
 übergroß
 übergroße
+Übergröße
 übergroßen
+Übergrößen
 übergroßer
 überlass
 überlasse
@@ -1356,6 +1351,7 @@ Süßung
 überlassend
 überlasst
 überlässt
+Überlassung
 überließ
 überließe
 überließen
@@ -1370,6 +1366,7 @@ Süßung
 überschießen
 überschießend
 überschießt
+Überschuss
 umfasse
 umfassen
 umfassend
@@ -1437,12 +1434,14 @@ unmessbar
 unpassend
 unschlüssig
 unterfassen
+Untergeschoss
 Unterlass
 unterlasse
 unterlassen
 unterlassend
 unterlasst
 unterlässt
+Unterlassung
 unterließ
 unterließe
 unterließen
@@ -1665,6 +1664,7 @@ vorschosst
 vorstieß
 vorstießen
 vorstießt
+Vorstoß
 vorstoße
 vorstoßen
 vorstoßend
@@ -1829,6 +1829,7 @@ zusammenfasse
 zusammenfassen
 zusammenfassend
 zusammenfasst
+Zusammenfassung
 zusammenfließe
 zusammenfließen
 zusammenfließend
@@ -1836,6 +1837,7 @@ zusammenfließt
 zusammenfloss
 zusammenflossen
 zusammenflosst
+Zusammenfluss
 zusammengefasst
 zusammengieße
 zusammengießen
@@ -1873,6 +1875,8 @@ zusammenschließt
 zusammenschloss
 zusammenschlossen
 zusammenschlosst
+Zusammenschluss
+Zusammenschlüsse
 zusammenschmeiße
 zusammenschmeißen
 zusammenschmeißt
@@ -1887,6 +1891,7 @@ zusammenstieß
 zusammenstieße
 zusammenstießen
 zusammenstießt
+Zusammenstoß
 zusammenstoße
 zusammenstoßen
 zusammenstoßend

@@ -743,6 +743,7 @@ herzliches
 herzlichst
 herzlos
 herzt
+Hetze
 hetze
 hetzen
 hetzend
@@ -782,6 +783,7 @@ Kreuzung
 Kreuzungen
 kurz
 kurze
+Kürze
 kürze
 kurzem
 kurzen
@@ -1126,10 +1128,14 @@ trotzt
 übersetze
 übersetzen
 übersetzend
+Übersetzer
+Übersetzerin
 übersetzt
 übersetzte
 übersetzten
 übersetzter
+Übersetzung
+Übersetzungen
 überspitz
 überspitze
 überspitzen
@@ -1209,6 +1215,7 @@ unterschätzt
 untersetze
 untersetzen
 untersetzend
+Untersetzer
 untersetzt
 unterstütze
 unterstützen
@@ -1220,6 +1227,8 @@ unterstützte
 unterstützten
 unterstützter
 unterstütztes
+Unterstützung
+Unterstützungen
 verfilze
 verfilzen
 verfilzend
@@ -1323,13 +1332,18 @@ voraussetzen
 voraussetzt
 Voraussetzung
 Voraussetzungen
+Vorbesitzer
 vorgeheizten
 vorgesetzte
+Vorgesetzte
 vorgesetzten
+Vorgesetzten
 vorheize
 vorheizen
 vorheizend
 vorheizt
+Vorplatz
+Vorsatz
 vorsätzlich
 vorsätzliche
 vorsätzlichen
@@ -1345,6 +1359,7 @@ vorsetzt
 vorseufze
 vorseufzen
 vorseufzt
+Vorsitz
 vorsitze
 vorsitzen
 vorsitzend
@@ -1385,6 +1400,7 @@ witzigen
 witziges
 witzlos
 würz
+Würze
 würze
 würzen
 Würzen
@@ -1435,6 +1451,7 @@ zusammensetze
 zusammensetzen
 zusammensetzend
 zusammensetzt
+Zusammensetzung
 zusammensitze
 zusammensitzen
 zusammensitzend

@@ -284,8 +284,10 @@ angewöhnt
 Angewöhnung
 angräbst
 angräbt
+Anhänge
 anhänge
 anhängen
+Anhängen
 anhängend
 Anhänger
 Anhängern
@@ -981,8 +983,10 @@ Durchzüge
 Durchzügen
 eindränge
 eindrängen
+Eindrücke
 eindrücke
 eindrücken
+Eindrücken
 eindrückend
 eindrücklich
 eindrückst
@@ -1708,6 +1712,7 @@ Knüpfung
 kühl
 kühlbar
 kühle
+Kühle
 kühlen
 kühlend
 kühler
@@ -1715,6 +1720,7 @@ Kühler
 kühlst
 kühlt
 Kühlung
+Kürze
 kürze
 kürzen
 kürzend
@@ -2013,6 +2019,7 @@ Schränken
 schränkend
 schränkst
 schränkt
+Schütte
 schütte
 schütten
 schüttend
@@ -2135,6 +2142,7 @@ trügt
 überein
 überfährst
 überfährt
+Überfälle
 überfällig
 überfällst
 überfällt
@@ -2144,6 +2152,7 @@ trügt
 überführend
 überführst
 überführt
+Überführung
 überfülle
 überfüllen
 überfüllend
@@ -2174,6 +2183,8 @@ trügt
 überprüfend
 überprüfst
 überprüft
+Überprüfung
+Überprüfungen
 überräumlich
 übers
 überschätze
@@ -2207,6 +2218,7 @@ trügt
 überzählt
 überzöge
 überzögen
+Überzüge
 üblich
 übliche
 üblichen
@@ -2381,12 +2393,14 @@ unterdrücken
 unterdrückend
 unterdrückst
 unterdrückt
+Unterdrückung
 unterfährst
 unterfährt
 unterfängst
 unterfängt
 unterführe
 unterführen
+Unterführung
 untergräbst
 untergräbt
 untergründig
@@ -2423,6 +2437,8 @@ unterstützte
 unterstützten
 unterstützter
 unterstütztes
+Unterstützung
+Unterstützungen
 unterzöge
 unterzögen
 untrüglich
@@ -2709,6 +2725,7 @@ vordrückst
 vordrückt
 vorfährst
 vorfährt
+Vorfälle
 vorfällt
 vorfühle
 vorfühlen
@@ -2719,7 +2736,11 @@ vorführen
 vorführend
 vorführst
 vorführt
+Vorführung
+Vorführungen
 vorgeführt
+Vorhänge
+Vorhängen
 vorkämpfe
 vorkämpfen
 vorkämpfst
@@ -2730,6 +2751,8 @@ vorkühlend
 vorkühlst
 vorkühlt
 vorlässt
+Vorläufe
+Vorläufer
 vorläufig
 vorläufige
 vorläufigen
@@ -2743,6 +2766,7 @@ vorlügen
 vorlügend
 vorlügst
 vorlügt
+Vorräume
 vorrücke
 vorrücken
 vorrückend
@@ -2752,9 +2776,13 @@ vorsätzlich
 vorsätzliche
 vorsätzlichen
 vorsätzliches
+Vorschläge
+Vorschlägen
 vorschlägst
 vorschlägt
+Vorstände
 vorstände
+Vorständen
 vorständen
 vortäusche
 vortäuschen
@@ -2768,6 +2796,7 @@ vorträgt
 vortrüge
 vortrügen
 vorüber
+Vorverstärker
 vorwähle
 vorwählen
 vorwählend
@@ -2781,6 +2810,7 @@ vorwärmst
 vorwärmt
 vorzöge
 vorzögen
+Vorzüge
 vorzüglich
 wähl
 wählbar
@@ -2950,10 +2980,13 @@ zusammenführen
 zusammenführend
 zusammenführst
 zusammenführt
+Zusammenführung
 zusammengefügt
 zusammengeführt
+Zusammenhänge
 zusammenhänge
 zusammenhängen
+Zusammenhängen
 zusammenhängend
 zusammenhängende
 zusammenhängst
@@ -2984,6 +3017,7 @@ zusammenrührst
 zusammenrührt
 zusammenschlägst
 zusammenschlägt
+Zusammenschlüsse
 zusammenschütte
 zusammenschütten
 zusammenstände

@@ -133,8 +133,10 @@ ausbeulen
 ausbeulst
 ausbeult
 Ausbeulung
+Ausbeute
 ausbeute
 ausbeuten
+Ausbeuten
 ausbeutend
 Ausbeuter
 Ausbeutung
@@ -488,6 +490,7 @@ erzeugten
 Erzeugung
 feucht
 feuchte
+Feuchte
 feuchten
 feuchter
 Feuchtigkeit
@@ -584,7 +587,9 @@ getreulich
 gezeugt
 gläubig
 gläubige
+Gläubige
 gläubigen
+Gläubigen
 gläubiger
 Gläubiger
 häufe
@@ -872,6 +877,8 @@ treust
 überzeugt
 überzeugte
 überzeugten
+Überzeugung
+Überzeugungen
 umdeute
 umdeuten
 umdeutend
@@ -916,6 +923,7 @@ untersteuerst
 untersteuert
 untreu
 untreue
+Untreue
 untreuen
 untreuer
 untreust
@@ -1006,13 +1014,18 @@ vorbeugende
 vorbeugenden
 vorbeugst
 vorbeugt
+Vorbeugung
+Vorfreude
 vorgebeugt
+Vorläufe
+Vorläufer
 vorläufig
 vorläufige
 vorläufigen
 vorläufiger
 vorläufst
 vorläuft
+Vorräume
 vorseufze
 vorseufzen
 vorseufzt

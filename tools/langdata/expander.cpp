@@ -151,7 +151,7 @@ void Expander::expandEntry(const Entry &entry, const Sink &sink) const
     const auto put = [&](const QString &form, unsigned origin, bool crosses) {
         for (const QString &lead : std::as_const(leads))
             if (lead.isEmpty() || crosses)
-                sink(lead + form, origin);
+                sink(entry.word, lead + form, origin);
     };
     if (!entry.flags.contains(needsAffix))
         put(entry.word, originOf(entry, true, QChar()), true);

@@ -26,12 +26,13 @@ enum Origin : unsigned {
 class Expander
 {
 public:
-    using Sink = std::function<void(const QString &form, unsigned origin)>;
+    using Sink = std::function<void(const QString &base, const QString &form, unsigned origin)>;
 
     /// Both files in Latin-1. Throws InputError if they are no affix file and dictionary.
     Expander(const QByteArray &affixFile, const QByteArray &dictionary);
 
-    /// Calls `sink` for each form of each entry, in the order of the dictionary; forms repeat.
+    /// Calls `sink` for each form of each entry, in the order of the dictionary; forms repeat. `base` is
+    /// the entry's own word.
     void expand(const Sink &sink) const;
 
 private:

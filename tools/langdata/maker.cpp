@@ -28,6 +28,23 @@ bool hasInnerCapital(const QString &form)
     return std::any_of(form.begin() + 1, form.end(), [](QChar letter) { return letter.isUpper(); });
 }
 
+QString capitalised(const QString &lower) { return lower[0].toUpper() + lower.mid(1); }
+
+/// "vor" and "Schlag" make "Vorschlag".
+QString compound(const QString &prefix, const QString &noun) { return capitalised(prefix) + noun.toLower(); }
+
+/// Whether `form` is the noun `base` in another case or number; only the plain endings, since old and
+/// chance forms ("Vorraten") would come in by the others.
+bool inflects(const QString &base, const QString &form)
+{
+    if (!form.startsWith(base))
+        return false;
+    const QStringView ending = QStringView(form).mid(base.size());
+    if (ending == u"en")
+        return base.endsWith(u"ung") || base.endsWith(u"schaft");
+    return ending == u"s" || ending == u"es" || (ending == u"n" && base.endsWith(u'e'));
+}
+
 void sortInPlace(QStringList &words)
 {
     std::sort(words.begin(), words.end(), [](const QString &left, const QString &right) {
@@ -65,56 +82,94 @@ QString collationKey(const QString &word)
 }
 
 Maker::Maker(const Expander &expander, const Segmenter &segmenter, const Judges &judges)
+    : segmenter_(segmenter)
+    , judges_(judges)
 {
-    gather(expander, segmenter);
-    judge(segmenter, judges);
+    gather(expander);
+    judge();
     origins_.clear();
+    buildable_.clear();
     for (QStringList &reason : dropped_)
         sortInPlace(reason);
 }
 
-void Maker::gather(const Expander &expander, const Segmenter &segmenter)
+void Maker::offer(const QString &form, unsigned origin)
 {
-    QHash<QString, bool> buildable;
-    expander.expand([&](const QString &form, unsigned origin) {
-        if (hasInnerCapital(form))
-            return;
-        const QString lower = form.toLower();
-        auto known = buildable.constFind(lower);
-        if (known == buildable.constEnd())
-            known = buildable.insert(lower, !segmenter.readings(lower).empty());
-        if (*known)
-            origins_[form] |= origin;
+    if (form.isEmpty() || hasInnerCapital(form))
+        return;
+    const QString lower = form.toLower();
+    auto known = buildable_.constFind(lower);
+    if (known == buildable_.constEnd())
+        known = buildable_.insert(lower, !segmenter_.readings(lower).empty());
+    if (*known)
+        origins_[form] |= origin;
+}
+
+void Maker::gather(const Expander &expander)
+{
+    expander.expand([&](const QString &, const QString &form, unsigned origin) { offer(form, origin); });
+
+    // familiar words that the dictionary only knows as compounds; a capital that a sentence's beginning gave
+    // does not make a noun
+    for (const QString &form : judges_.familiar)
+        if (!form.isEmpty() && !origins_.contains(form) &&
+            (form[0].isLower() || !judges_.accepts(form.toLower())))
+            offer(form, OriginOther);
+    QString noun;
+    QStringList prefixes;
+    expander.expand([&](const QString &base, const QString &form, unsigned origin) {
+        if (base != noun) {
+            noun = base;
+            prefixes = base[0].isUpper() ? familiarPrefixes(base) : QStringList();
+        }
+        if (inflects(base, form))
+            for (const QString &prefix : std::as_const(prefixes))
+                offer(compound(prefix, form), origin);
     });
 }
 
-void Maker::judge(const Segmenter &segmenter, const Judges &judges)
+QStringList Maker::familiarPrefixes(const QString &noun) const
 {
-    for (const QString &form : judges.include)
+    QStringList prefixes;
+    for (const QString &prefix : segmenter_.prefixes())
+        if (judges_.familiar.contains(compound(prefix, noun)))
+            prefixes << prefix;
+    return prefixes;
+}
+
+bool Maker::isFamiliar(const QString &form) const
+{
+    const QString lower = form.toLower();
+    return judges_.familiar.contains(lower) || judges_.familiar.contains(capitalised(lower));
+}
+
+void Maker::judge()
+{
+    for (const QString &form : judges_.include)
         origins_[form] |= 0;
     QStringList unbuildable;
     QStringList candidates = origins_.keys();
     sortInPlace(candidates);
     for (const QString &form : std::as_const(candidates)) {
         const unsigned origins = origins_[form];
-        const std::vector<Segmenter::Reading> readings = segmenter.readings(form.toLower());
+        const std::vector<Segmenter::Reading> readings = segmenter_.readings(form.toLower());
         const bool oneOfEach =
             std::any_of(readings.begin(), readings.end(),
                         [](const Segmenter::Reading &reading) { return reading.oneOfEach; });
         const auto drop = [&](Drop reason) { dropped_[size_t(reason)] << form; };
-        if (judges.include.contains(form)) {
+        if (judges_.include.contains(form)) {
             if (readings.empty())
                 unbuildable << form;
             keep(form, origins, readings);
-        } else if (judges.exclude.contains(form)) {
+        } else if (judges_.exclude.contains(form)) {
             drop(Drop::Excluded);
-        } else if (judges.blocklist.blocks(form)) {
+        } else if (judges_.blocklist.blocks(form)) {
             drop(Drop::Blocked);
-        } else if (!judges.accepts(form)) {
+        } else if (!judges_.accepts(form)) {
             drop(Drop::Rejected);
         } else if (origins == OriginNominalInfinitive) {
             drop(Drop::NominalInfinitive);
-        } else if (!oneOfEach && !judges.familiar.contains(form.toLower())) {
+        } else if (!oneOfEach && !isFamiliar(form)) {
             drop(Drop::Unfamiliar);
         } else {
             keep(form, origins, readings);
@@ -122,7 +177,7 @@ void Maker::judge(const Segmenter &segmenter, const Judges &judges)
     }
     if (!unbuildable.isEmpty())
         throw InputError(u"the include list: no stem and affixes build %1"_s.arg(unbuildable.join(u", ")));
-    for (const QString &form : judges.exclude)
+    for (const QString &form : judges_.exclude)
         if (!origins_.contains(form))
             idleExcludes_ << form;
     sortInPlace(idleExcludes_);

@@ -28,13 +28,14 @@ struct Judges
     Blocklist blocklist;
     QSet<QString> include;                            ///< written as taught, kept whatever the rules say
     QSet<QString> exclude;                            ///< exact forms that never go in
-    QSet<QString> familiar;                           ///< lower case
+    QSet<QString> familiar;                           ///< words as readers meet them, nouns in capitals
     std::function<bool(const QString &form)> accepts; ///< the Hunspell library's word check
 };
 
 /// Gathers the words that prefixes, stems and endings can build, and sorts them into
-/// dictionaries. A word with at most one tile of each kind goes in when the sources know it; a
-/// longer one must be familiar as well.
+/// dictionaries. A word with at most one tile of each kind goes in when the dictionary lists it; a
+/// longer one must be familiar as well. Nouns that the dictionary only knows as compounds
+/// ("Vorschlag", "Landschaft") go in when they are familiar.
 class Maker
 {
 public:
@@ -58,12 +59,18 @@ private:
         unsigned origins = 0;
     };
 
-    void gather(const Expander &expander, const Segmenter &segmenter);
-    void judge(const Segmenter &segmenter, const Judges &judges);
+    void gather(const Expander &expander);
+    void offer(const QString &form, unsigned origin);
+    QStringList familiarPrefixes(const QString &noun) const;
+    bool isFamiliar(const QString &form) const;
+    void judge();
     void keep(const QString &form, unsigned origins, const std::vector<Segmenter::Reading> &readings);
     static bool before(const Word &left, const Word &right);
 
+    Segmenter segmenter_;
+    Judges judges_;
     QHash<QString, unsigned> origins_; ///< candidate form -> its origins
+    QHash<QString, bool> buildable_;   ///< lower case
     std::vector<Word> words_;
     QHash<QString, std::vector<size_t>> wordsOfStem_;
     std::array<QStringList, dropCount> dropped_;

@@ -23,6 +23,8 @@ public:
 
     Segmenter(const QStringList &prefixes, const QSet<QString> &stems, const QStringList &suffixes);
 
+    const QStringList &prefixes() const { return prefixes_; }
+
     /// All readings of a word in lower case; empty if the tiles cannot form it.
     std::vector<Reading> readings(const QString &lower) const;
 

@@ -57,7 +57,7 @@ QSet<QString> readFamiliar(const QByteArray &words)
     QSet<QString> familiar;
     const QStringList lines = QString::fromUtf8(words).split(u'\n', Qt::SkipEmptyParts);
     for (const QString &line : lines)
-        familiar.insert(line.trimmed().toLower());
+        familiar.insert(line.trimmed());
     return familiar;
 }
 
