@@ -1335,7 +1335,6 @@ hoben
 hobst
 hobt
 Hub
-Hubert
 Hubs
 Hupe
 hupe
@@ -1429,7 +1428,6 @@ liebenden
 lieber
 liebes
 Liebig
-Liebigs
 lieblich
 lieblos
 Liebschaft
@@ -1610,7 +1608,6 @@ schriebst
 schriebt
 Schub
 Schuber
-Schubert
 Schubs
 schubs
 schubst

@@ -601,10 +601,6 @@ befüllend
 befüllst
 befüllt
 Befüllung
-begeselle
-begesellen
-begesellst
-begesellt
 Begriff
 begriff
 Begriffe
@@ -1645,7 +1641,6 @@ rennen
 Rennen
 rennend
 Renner
-Rennes
 rennst
 rennt
 Rinne

@@ -1770,7 +1770,6 @@ log
 Loge
 Logen
 logen
-Login
 logst
 logt
 Lüge

@@ -1499,7 +1499,6 @@ angelegt
 angelegte
 angelegten
 angelehnt
-Angeles
 angeliefert
 angemeldet
 angemeldete
@@ -9333,7 +9332,6 @@ gangbar
 Gange
 Ganges
 Gangs
-Gangster
 geachtet
 geahnt
 geantwortet
@@ -10580,7 +10578,6 @@ liebenden
 lieber
 liebes
 Liebig
-Liebigs
 lieblich
 lieblos
 Liebschaft

@@ -2241,7 +2241,6 @@ liebenden
 lieber
 liebes
 Liebig
-Liebigs
 lieblich
 lieblos
 Liebschaft
@@ -3452,7 +3451,6 @@ Verzierungen
 vier
 Vieren
 vierer
-Viersen
 viert
 vierte
 vierten

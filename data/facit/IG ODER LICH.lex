@@ -1472,10 +1472,6 @@ begeben
 begebend
 begebt
 Begebung
-begeselle
-begesellen
-begesellst
-begesellt
 beglücke
 beglücken
 beglückend
@@ -3595,7 +3591,6 @@ liebenden
 lieber
 liebes
 Liebig
-Liebigs
 lieblich
 lieblos
 Liebschaft

@@ -2852,7 +2852,6 @@ gangbar
 Gange
 Ganges
 Gangs
-Gangster
 geachtet
 Gebilde
 Gebilden

@@ -581,7 +581,6 @@ angelegen
 angelegt
 angelegte
 angelegten
-Angeles
 angeliefert
 angenehm
 angenehme

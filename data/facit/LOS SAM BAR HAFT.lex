@@ -339,7 +339,6 @@ angelegen
 angelegt
 angelegte
 angelegten
-Angeles
 angemerkt
 angenehm
 angenehme

@@ -1052,7 +1052,6 @@ gangbar
 Gange
 Ganges
 Gangs
-Gangster
 geblinkt
 Gedanke
 Gedanken

@@ -397,7 +397,6 @@ angelegt
 angelegte
 angelegten
 angelehnt
-Angeles
 angeliefert
 angemerkt
 angemessen

@@ -2,8 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "boards.h"
 
+#include <QHash>
+
 #include <algorithm>
 #include <random>
+#include <utility>
 #include <vector>
 
 namespace langdata {
@@ -16,12 +19,13 @@ constexpr int wantedWords = 10;
 /// The words of one stem: which triples are words, and how many words it forms in all.
 struct StemWords
 {
-    std::vector<QString> triples;
+    std::vector<qsizetype> triples; ///< numbers of the words
     int formed = 0;
 };
 
+/// `numbers` grows by the words found; two stems may build the same one.
 StemWords wordsOf(const QStringList &prefixes, const QString &stem, const QStringList &suffixes,
-                  const QSet<QString> &words)
+                  const QSet<QString> &words, QHash<QString, qsizetype> &numbers)
 {
     StemWords result;
     const auto count = [&](const QString &word) { result.formed += words.contains(word) ? 1 : 0; };
@@ -33,8 +37,11 @@ StemWords wordsOf(const QStringList &prefixes, const QString &stem, const QStrin
         for (const QString &suffix : suffixes) {
             const QString word = prefix + stem + suffix;
             count(word);
-            if (words.contains(word))
-                result.triples.push_back(word);
+            if (!words.contains(word))
+                continue;
+            if (!numbers.contains(word))
+                numbers.insert(word, numbers.size());
+            result.triples.push_back(numbers.value(word));
         }
     }
     return result;
@@ -55,9 +62,10 @@ BoardStats playBoards(const QStringList &prefixes, const QStringList &stems, con
                       const QSet<QString> &words)
 {
     std::vector<StemWords> perStem;
+    QHash<QString, qsizetype> numbers;
     size_t triples = 0;
     for (const QString &stem : stems) {
-        perStem.push_back(wordsOf(prefixes, stem, suffixes, words));
+        perStem.push_back(wordsOf(prefixes, stem, suffixes, words, numbers));
         triples += perStem.back().triples.size();
     }
     const double perTile = double(prefixes.size()) * double(suffixes.size());
@@ -67,22 +75,24 @@ BoardStats playBoards(const QStringList &prefixes, const QStringList &stems, con
 
     std::mt19937 random(20260101); // the engine's sequence is fixed by the language standard
     std::vector<int> formed;
+    std::vector<int> lastBoard(size_t(numbers.size()), -1); // of each word
     std::vector<size_t> order(perStem.size());
     for (int board = 0; board < boards; ++board) {
         for (size_t i = 0; i < order.size(); ++i)
             order[i] = i;
         const size_t drawn = std::min<size_t>(stemsOnBoard, order.size());
-        QSet<QString> good;
+        size_t good = 0;
         int all = 0;
         for (size_t i = 0; i < drawn; ++i) {
             std::swap(order[i], order[i + random() % (order.size() - i)]);
             const StemWords &stem = perStem[order[i]];
-            good.unite(QSet<QString>(stem.triples.begin(), stem.triples.end()));
+            for (const qsizetype word : stem.triples)
+                good += std::exchange(lastBoard[size_t(word)], board) != board ? 1 : 0;
             all += stem.formed;
         }
         const double places = perTile * double(drawn);
-        stats.worstShare = std::min(stats.worstShare, double(good.size()) / places);
-        const double tries = triesFor(wantedWords, size_t(good.size()), places);
+        stats.worstShare = std::min(stats.worstShare, double(good) / places);
+        const double tries = triesFor(wantedWords, good, places);
         stats.meanTries += tries / boards;
         stats.worstTries = std::max(stats.worstTries, tries);
         formed.push_back(all);
