@@ -179,7 +179,11 @@ int BoxWindow::ask(std::optional<QPoint> corner)
     place.moveLeft(std::max(place.left(), screen.left()));
     place.moveTop(std::max(place.top(), screen.top()));
     setGeometry(place);
-    return exec();
+    const int answer = exec();
+    // Without a window manager nobody else gives the keyboard back either.
+    if (owner_ != nullptr)
+        owner_->window()->activateWindow();
+    return answer;
 }
 
 void BoxWindow::showEvent(QShowEvent *event)

@@ -113,7 +113,8 @@ QWidget *RealBoxes::owner() const
 
 Boxes::Answer RealBoxes::plainBox(Icon icon, const QString &title, const QString &text, Buttons buttons)
 {
-    QMessageBox box(owner());
+    QWidget *const parent = owner();
+    QMessageBox box(parent);
     box.setTextFormat(Qt::PlainText);
     box.setIcon(plainIcon(icon));
     box.setWindowTitle(titleOr(title).simplified().left(60));
@@ -125,6 +126,8 @@ Boxes::Answer RealBoxes::plainBox(Icon icon, const QString &title, const QString
     box.setEscapeButton(last);
     box.setDefaultButton(qobject_cast<QPushButton *>(box.buttons().constFirst()));
     box.exec();
+    if (parent != nullptr)
+        parent->window()->activateWindow(); // nobody else does it where there is no window manager
     const QAbstractButton *pressed = box.clickedButton();
     for (const PlainButton *row = first; row != end; ++row) {
         if (pressed != nullptr && pressed->text() == QStringView(row->caption))

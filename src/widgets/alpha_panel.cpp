@@ -53,11 +53,12 @@ void AlphaPanel::blend(const QImage &board)
 void AlphaPanel::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), Qt::white);
+    painter.fillRect(rect(), border);
+    const QRect inside = rect().adjusted(1, 1, -1, -1);
+    painter.fillRect(inside, Qt::white);
+    painter.setClipRect(inside);
     if (!face_.isNull())
         painter.drawImage(QPoint(0, 0), face_);
-    painter.setPen(border);
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 void AlphaPanel::mousePressEvent(QMouseEvent *event)

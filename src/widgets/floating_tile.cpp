@@ -25,9 +25,8 @@ void FloatingTile::setTile(const QString &caption, const QColor &back, const QCo
 void FloatingTile::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), back_);
-    painter.setPen(Qt::white);
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    painter.fillRect(rect(), Qt::white);
+    painter.fillRect(rect().adjusted(1, 1, -1, -1), back_);
     painter.setPen(text_);
     painter.drawText(rect().adjusted(2, 0, -1, 0), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
                      caption_);

@@ -18,7 +18,7 @@ constexpr QColor normalFace{0xF4, 0xF7, 0xFC};
 constexpr QColor checkedFace{0xFF, 0xDC, 0x73};
 constexpr QColor disabledFace{0xE2, 0xE7, 0xEF};
 constexpr QColor normalText{0x14, 0x23, 0x3E};
-constexpr QColor disabledText{0x8E, 0x99, 0xAB};
+constexpr QColor disabledText{0x74, 0x7F, 0x93};
 constexpr double cornerRadius = 6;
 constexpr int margin = 3; ///< pixels round the face, for shadow and checked frame
 constexpr int gap = 4;    ///< pixels between icon and text
