@@ -72,6 +72,7 @@ BoardPointer::BoardPointer(Ground &ground, const MainControls &controls, Modes &
     , commands_(commands)
     , popup_(popup)
     , drag_(controls)
+    , longPress_(this)
 {
     longPress_.setSingleShot(true);
     longPress_.setInterval(longPressTime);

@@ -6,12 +6,17 @@
 #include "widgets/floating_tile.h"
 #include "widgets/main_controls.h"
 
+TileDrag::TileDrag(const MainControls &controls)
+    : controls_(controls)
+    , copy_(new FloatingTile(controls.form))
+{
+    copy_->hide();
+}
+
 void TileDrag::begin(const QPoint &pointer)
 {
     cancel();
     const FloatingTile &held = *controls_.BtnMove1;
-    if (copy_ == nullptr)
-        copy_ = new FloatingTile(controls_.form);
     copy_->setTile(held.Caption(), held.backColour(), held.textColour());
     copy_->resize(held.size());
     grip_ = held.mapFromGlobal(pointer);
@@ -40,8 +45,7 @@ void TileDrag::cancel()
 {
     highlight(false);
     active_ = false;
-    if (copy_ != nullptr)
-        copy_->hide();
+    copy_->hide();
 }
 
 bool TileDrag::isOverField(const QPoint &pointer) const

@@ -13,9 +13,7 @@ struct MainControls;
 class TileDrag
 {
 public:
-    explicit TileDrag(const MainControls &controls)
-        : controls_(controls)
-    {}
+    explicit TileDrag(const MainControls &controls);
 
     bool isActive() const { return active_; }
     /// Begins at a point of the screen, with what `BtnMove1` shows.
@@ -30,8 +28,8 @@ private:
     void highlight(bool on);
 
     const MainControls &controls_;
-    FloatingTile *copy_ = nullptr; ///< owned by the window
-    QPoint grip_;                  ///< from the tile's corner to the pointer
+    FloatingTile *copy_; ///< owned by the window
+    QPoint grip_;        ///< from the tile's corner to the pointer
     bool active_ = false;
     bool over_ = false;
 };

@@ -9,5 +9,6 @@ wortel_test(board
         tst_menus.cpp
         tst_placement.cpp
         tst_pointer.cpp
+        tst_random_player.cpp
         tst_tile_store.cpp
 )
