@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QApplication>
+#include "shell/start.h"
 
 int main(int argc, char *argv[])
 {
-    QApplication application(argc, argv);
-    return 0;
+    return startWortel(argc, argv);
 }

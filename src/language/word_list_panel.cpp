@@ -15,6 +15,7 @@
 #include "platform/settings_store.h"
 #include "platform/windows1252.h"
 #include "platform/word_lists.h"
+#include "widgets/gradient.h"
 #include "widgets/main_controls.h"
 #include "widgets/store_list.h"
 
@@ -100,6 +101,16 @@ void WordListPanel::Show_Result()
     list->setVisible(list->isHidden());
     if (dictionary_.isOpen())
         step([&] { dictionary_.toggle(); });
+}
+
+void WordListPanel::editByMenu()
+{
+    Procedure step{ground_.log, "mnuEditWordList", "frmMain", Procedure::Silent};
+    StoreList *list = controls_.CorrectWordList;
+    step([&] { standOnBand(controls_, list); });
+    step([&] { list->move(list->x(), std::max(0, controls_.Picture1->y() - list->height())); });
+    list->setVisible(list->isHidden());
+    step([&] { CorrectWordList_MouseDown(list->rect().center()); });
 }
 
 void WordListPanel::Save_Result()

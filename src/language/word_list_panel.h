@@ -25,6 +25,8 @@ public:
 
     /// Shows or hides the list (the left press on `Command4`); an open dictionary closes.
     void Show_Result();
+    /// The menu command "Bearbeiten": flips the list, above the band, and opens its menu.
+    void editByMenu();
     /// Saves the list as a text file, one word a line (the right press on `Command4`).
     void Save_Result();
     /// The words, each with a line end, go to the clipboard; an empty list leaves that as it is.

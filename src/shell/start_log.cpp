@@ -21,7 +21,7 @@ void startLog(Ground &ground, bool useBackup)
     const int answer =
         ground.boxes.ShowMBox(question, true, 4, u"Wortel-Meister - Bestätigen"_s, u"CONFIRM"_s);
     if (answer == 0)
-        KillFile(file);
+        KillFile(file); // errors are of no interest here
 
     const QString rule(64, u'-');
     ground.log.WriteLog(rule);

@@ -238,6 +238,8 @@ void makeStatusLine(C &c)
 
 void makeLists(C &c)
 {
+    const QString noteStyle = QStringLiteral("background: #ffffe8; color: #1b2a4a; border: 2px solid #1b2a4a; border-radius: 6px; "
+                                             "padding: 10px; font-size: 14px");
     c.WortelList = makeList(c.form, "WortelList", 84, 240);
     c.PrefixList = makeList(c.form, "PrefixList", 64, 240);
     c.SuffixList = makeList(c.form, "SuffixList", 64, 240);
@@ -257,9 +259,11 @@ void makeLists(C &c)
     c.Scroller->resize(c.Scroller->sizeHint());
     c.Scroller->hide();
     c.txtWelcomeMsg = makeLabel(c.form, "txtWelcomeMsg");
+    c.txtWelcomeMsg->setStyleSheet(noteStyle);
     c.txtWelcomeMsg->hide();
     c.TxtWordHint = makeLabel(c.form, "TxtWordHint");
     c.TxtWordHint->setAlignment(Qt::AlignCenter);
+    c.TxtWordHint->setStyleSheet(noteStyle);
     c.TxtWordHint->hide();
 }
 

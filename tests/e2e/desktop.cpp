@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "e2e/desktop.h"
 
+#include "widgets/main_controls.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QDirIterator>
@@ -9,6 +11,7 @@
 #include <QFile>
 #include <QThread>
 #include <QVector>
+#include <QWidget>
 
 #include <unistd.h>
 
@@ -87,7 +90,7 @@ bool Desktop::waitForEnd(int milliseconds)
 {
     if (isRunning() && !game_.waitForFinished(milliseconds))
         return false;
-    return game_.exitStatus() == QProcess::NormalExit && game_.exitCode() == 0;
+    return game_.exitStatus() == QProcess::NormalExit;
 }
 
 bool Desktop::close()
@@ -127,6 +130,33 @@ bool Desktop::waitForNoWindow(const QString &titlePattern, int milliseconds)
         pause(50);
     }
     return false;
+}
+
+QRect Desktop::geometry(const QString &window)
+{
+    const QString text = QString::fromLatin1(run(u"xdotool"_s, {u"getwindowgeometry"_s, u"--shell"_s, window}));
+    const auto number = [&text](const QString &key) {
+        return text.section(key + u'=', 1, 1).section(u'\n', 0, 0).toInt();
+    };
+    return {number(u"\nX"_s), number(u"\nY"_s), number(u"\nWIDTH"_s), number(u"\nHEIGHT"_s)};
+}
+
+QPoint Desktop::tool(const QString &name)
+{
+    const QRect window = geometry(waitForWindow(u"^Wortel-Meister [0-9]"_s));
+    QWidget form;
+    form.resize(window.size());
+    const MainControls controls = makeMainControls(&form);
+    layOutMainControls(controls, form.width(), form.height());
+    const auto *child = form.findChild<QWidget *>(name);
+    return child == nullptr ? QPoint() : window.topLeft() + child->mapTo(&form, child->rect().center());
+}
+
+QPoint Desktop::childOf(const QString &titlePattern, const QWidget &same, const QString &name)
+{
+    const QRect window = geometry(waitForWindow(titlePattern));
+    const auto *child = same.findChild<QWidget *>(name);
+    return child == nullptr ? QPoint() : window.topLeft() + child->mapTo(&same, child->rect().center());
 }
 
 QImage Desktop::screenshot()

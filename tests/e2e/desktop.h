@@ -6,7 +6,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-#include <memory>
+class QWidget;
 
 /// A virtual display with a window manager, and the real program on it, played with real pointer and keys (xdotool). The program is a portable copy with a
 /// home of its own, so that nothing of the user is touched. Every wait has an end.
@@ -25,8 +25,9 @@ public:
     /// Starts the program with settings of `settings` lines ("Key=Value") written before the first start.
     void start(const QStringList &arguments = {});
     bool isRunning() const;
-    /// Waits for the end, true if the program ended by itself with exit code 0.
+    /// Waits for the end, true if the program ended by itself, not by a crash.
     bool waitForEnd(int milliseconds = 10000);
+    int exitCode() const { return game_.exitCode(); }
     /// Asks the window to close and waits for the end.
     bool close();
     /// Kills with SIGKILL.
@@ -35,6 +36,13 @@ public:
     /// The id of a visible window whose title matches the regular expression, waited for; empty if none came.
     QString waitForWindow(const QString &titlePattern, int milliseconds = 15000);
     bool waitForNoWindow(const QString &titlePattern, int milliseconds = 5000);
+
+    /// Place and size of a window's inside on the screen.
+    QRect geometry(const QString &window);
+    /// The middle of a tool of the main window, on the screen.
+    QPoint tool(const QString &name);
+    /// The middle of a child of a window that is open under that title; `same` is a window of the same kind and size in the test's own process.
+    QPoint childOf(const QString &titlePattern, const QWidget &same, const QString &name);
 
     QImage screenshot();
     /// Stores the picture below the build folder, for looking at.

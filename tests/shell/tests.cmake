@@ -3,4 +3,5 @@
 wortel_test(shell
     SOURCES
         tst_start_rules.cpp
+        tst_start_steps.cpp
 )

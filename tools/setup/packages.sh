@@ -3,7 +3,7 @@
 # Sourced by run.sh, test.sh and bench.sh: installs the Debian packages that are missing, and builds a preset.
 
 build_packages=(g++ cmake ninja-build qt6-base-dev qt6-base-dev-tools libqt6svg6-dev qt6-multimedia-dev libgl1-mesa-dev
-                fonts-liberation)
+                fonts-liberation qt6-translations-l10n)
 display_packages=(xvfb xauth imagemagick xdotool openbox)
 
 # install_missing <package>...: asks dpkg once; calls apt only if something is missing.

@@ -1,0 +1,30 @@
+# SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+# SPDX-License-Identifier: GPL-3.0-or-later
+# What is installed where, and the Debian package: cmake --build --preset release --target package
+include(GNUInstallDirs)
+set(share ${CMAKE_INSTALL_DATADIR})
+
+install(TARGETS wortel RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/data/ DESTINATION ${share}/wortel-meister/data)
+install(FILES packaging/wortel-meister.desktop DESTINATION ${share}/applications)
+install(FILES packaging/wortel-meister.metainfo.xml DESTINATION ${share}/metainfo)
+install(FILES packaging/wortel-meister-mime.xml DESTINATION ${share}/mime/packages RENAME wortel-meister.xml)
+install(FILES resources/icons/wortel-meister.svg DESTINATION ${share}/icons/hicolor/scalable/apps)
+install(FILES resources/icons/application-x-wortel-session.svg DESTINATION ${share}/icons/hicolor/scalable/mimetypes)
+install(FILES packaging/wortel.6 DESTINATION ${CMAKE_INSTALL_MANDIR}/man6)
+install(FILES NOTICE DESTINATION ${share}/doc/wortel-meister RENAME copyright)
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME wortel-meister)
+set(CPACK_PACKAGE_VENDOR "Wortel-Meister contributors")
+set(CPACK_PACKAGE_CONTACT "Wortel-Meister contributors <wortel-meister@localhost>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Game with German word parts")
+set(CPACK_PACKAGE_DESCRIPTION "Yellow prefixes, red stems and blue suffixes lie on a board. Children drag them together, join them into words and have the words checked against a dictionary.")
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SECTION education)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-liberation, qt6-qpa-plugins, libqt6svg6")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-translations-l10n")
+include(CPack)

@@ -1,0 +1,265 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/frm_main.h"
+
+#include "platform/boxes.h"
+#include "platform/clock.h"
+#include "platform/ground.h"
+#include "platform/files.h"
+#include "platform/log.h"
+#include "platform/options.h"
+#include "platform/procedure.h"
+#include "platform/sound.h"
+#include "platform/system_info.h"
+#include "platform/text.h"
+#include "shell/crash_filter.h"
+#include "shell/rooms.h"
+#include "widgets/click_label.h"
+#include "widgets/gradient.h"
+#include "widgets/main_controls.h"
+#include "widgets/picture_box.h"
+#include "widgets/press_button.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QGuiApplication>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QLabel>
+#include <QScreen>
+
+#include <array>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int titleBarHeight = 30; ///< pixels, about what window managers take
+
+constexpr char16_t welcomeText[] = u"Hallo !\n\n"
+                                   u"Mit einem Rechtsklick auf die\n"
+                                   u"Wortel-Taste kannst du eine\n"
+                                   u"Wortel-Liste mit einem anderen\n"
+                                   u"Rechtschreibmuster auswählen.\n\n"
+                                   u"Viel Spaß !";
+
+QString backupFile(const Ground &ground)
+{
+    return Backup::file(ground);
+}
+
+} // namespace
+
+frmMain::frmMain(Ground &ground, const StartFacts &facts)
+    : ground_(ground), facts_(facts), controls_(makeMainControls(this))
+{
+    setObjectName(u"frmMain"_s);
+    setWindowTitle(u"Wortel-Meister"_s);
+    setFocusPolicy(Qt::StrongFocus);
+    setAcceptDrops(true);
+    QSize size = designSize;
+    // On a screen that is too small the suffix row would lie under the band, so the title bar is left out as well.
+    if (const QScreen *screen = QGuiApplication::primaryScreen())
+        size = size.boundedTo(screen->availableSize() - QSize(0, titleBarHeight));
+    resize(size);
+    layOutMainControls(controls_, width(), height());
+    rooms_ = std::make_unique<Rooms>(ground_, controls_, lists_, modes_);
+}
+
+frmMain::~frmMain() = default;
+
+bool frmMain::Form_Load()
+{
+    Procedure step{ground_.log, "Form_Load", "frmMain"};
+    cmdLineReady_ = false;
+    hiddenText_ = Trim(facts_.CommandLine).isEmpty() ? QString() : facts_.CommandLine;
+    cmdLineReady_ = true;
+
+    step([&] { crash_filter::install(ground_.log.enabled() ? nativePath(ground_.log.file()) : QString()); });
+    step([&] { makeReady(); });
+    step([&] { wire(); });
+    step([&] { ground_.options.GetSettings(); });
+    step([&] { rooms_->placement.takeTryLimit(); });
+    step([&] { controls_.Text1->setText(ground_.options.text(Setting::NumWortel)); });
+    step([&] { takeDifficulty(); });
+    step([&] { rooms_->optTypes.select(TileFilter::all); });
+    step([&] { rooms_->background.loadFromSetting(); });
+
+    step([&] { rooms_->strip.SetUpMsgScroller(); });
+
+    bool filled = true;
+    step([&] { filled = rooms_->progInit.run(Int16(CLng(std::abs(Val(controls_.Text1->text())))), facts_.ScreenResolutionCode); });
+    if (!filled)
+        return false;
+    step([&] { loadKept(); });
+    return true;
+}
+
+/// Colours, focus and accessible names that hold for the whole run.
+void frmMain::makeReady()
+{
+    const QColor board(0, 128, 192);
+    QPalette palette = this->palette();
+    palette.setColor(QPalette::Window, board);
+    setPalette(palette);
+    controls_.picCanvas->setBackColour(board);
+    controls_.picCanvas->cls();
+    qApp->installEventFilter(this);
+    controls_.picCanvas->setFocusPolicy(Qt::StrongFocus);
+    controls_.picCanvas->setFocus();
+}
+
+void frmMain::takeDifficulty()
+{
+    constexpr Setting levels[] = {Setting::GameDifficult1, Setting::GameDifficult2, Setting::GameDifficult3};
+    for (int level = 0; level < 3; ++level) {
+        if (!ground_.options.isOn(levels[level]))
+            continue;
+        controls_.Option2[static_cast<std::size_t>(level)]->setChecked(true);
+        modes_.GameLevel = level + 1;
+    }
+}
+
+void frmMain::resizeEvent(QResizeEvent *)
+{
+    layOutMainControls(controls_, width(), height());
+    rooms_->tips.recompose();
+    controls_.picCanvas->update();
+}
+
+void frmMain::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && !ended_)
+        Form_Activate();
+}
+
+void frmMain::Form_Activate()
+{
+    Procedure step{ground_.log, "Form_Activate", "frmMain"};
+    step([&] { rooms_->canvas.CanvasRedrawAll(); });
+    step([&] { ground_.pump.yield(); });
+    if (activated_)
+        return;
+    activated_ = true;
+    if (ground_.options.isOn(Setting::ShowWelcomeMsg))
+        step([&] { showWelcome(); });
+    step([&] { startTips(); });
+}
+
+void frmMain::showWelcome()
+{
+    QLabel *label = controls_.txtWelcomeMsg;
+    label->setText(QString::fromUtf16(welcomeText));
+    label->adjustSize();
+    label->move((width() - label->width()) / 2, controls_.Picture1->y() - label->height());
+    label->show();
+    label->raise();
+    ground_.clock.wait(500);
+    if (ground_.options.isOn(Setting::SoundOnActions)) {
+        ground_.sound.PlayResourceSound(117);
+        ground_.pump.yield();
+    }
+}
+
+void frmMain::HiddenText_Change(const QString &text)
+{
+    hiddenText_ = text;
+    if (cmdLineReady_)
+        UpdateCaption();
+}
+
+void frmMain::UpdateCaption()
+{
+    Procedure step{ground_.log, "UpdateCaption", "frmMain"};
+    const QStringList pieces = Trim(hiddenText_).split(u' ', Qt::SkipEmptyParts);
+    for (const QString &piece : pieces)
+        step([&] { rooms_->sessions.RestoreObjects(piece); });
+    cmdLineReady_ = false;
+    hiddenText_.clear();
+    cmdLineReady_ = true;
+}
+
+void frmMain::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (event->mimeData()->hasUrls())
+        event->acceptProposedAction();
+}
+
+void frmMain::dropEvent(QDropEvent *event)
+{
+    const QList<QUrl> urls = event->mimeData()->urls();
+    if (!urls.isEmpty() && urls.first().isLocalFile())
+        rooms_->background.drop(urls.first().toLocalFile());
+}
+
+void frmMain::closeEvent(QCloseEvent *event)
+{
+    if (!ended_) {
+        ended_ = true;
+        Form_QueryUnload();
+        Form_Unload();
+        emit unloaded();
+    }
+    event->accept();
+}
+
+void frmMain::Form_QueryUnload()
+{
+    Procedure step{ground_.log, "Form_QueryUnload", "frmMain"};
+    if (ground_.options.isOn(Setting::SoundOnActions)) {
+        step([&] { ground_.sound.PlayResourceSound(118); });
+        step([&] { ground_.clock.wait(1000); });
+    }
+    step([&] { stopTimers(); });
+    step([&] { crash_filter::remove(); });
+    step([&] {
+        for (QWidget *window : QApplication::topLevelWidgets())
+            if (window != this && window->isVisible())
+                window->close();
+    });
+}
+
+void frmMain::Form_Unload()
+{
+    Procedure step{ground_.log, "Form_Unload", "frmMain"};
+    step([&] { qApp->removeEventFilter(this); });
+    step([&] { rooms_->store.takeAll(); });
+    step([&] { rooms_->homes = {}; });
+    step([&] { rooms_->background.remove(); });
+    step([&] {
+        if (!ground_.options.storedIsOn(Setting::UseBackup))
+            return;
+        const QString path = backupFile(ground_);
+        KillFile(path, &ground_.log);
+        ground_.log.WriteLog(u"Event: Backup-file "_s + path + u" closed"_s);
+        ground_.log.WriteLog(u"Event: Backup-file "_s + path + u" deleted"_s);
+    });
+    step([&] { ground_.log.WriteLog(u"Event: Application ended successfully"_s); });
+    step([&] { ground_.log.WriteLog(u"*** Error-logging ended ***"_s); });
+}
+
+void frmMain::loadKept()
+{
+    Rooms &r = *rooms_;
+    r.menus.CreateMenus();
+    r.undo.ClearCollBuffer();
+    if (std::exchange(facts_.RecoverOnStart, false))
+        r.backup.RestoreMyObjects(backupFile(ground_));
+    constexpr std::array<QStringView, 5> noSessions{u"", u" ", u"/L", u"/I", u"/?"};
+    if (std::find(noSessions.begin(), noSessions.end(), facts_.CommandLine) == noSessions.end() && !hiddenText_.isEmpty())
+        UpdateCaption();
+}
+
+void frmMain::startTips()
+{
+    if (!modes_.RetypeActive && !modes_.GameActive)
+        rooms_->tips.startTipTimer();
+}
+
+void frmMain::stopTimers()
+{
+    rooms_->tips.stopGameTimers();
+}

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "dialogs/real_boxes.h"
+#include "platform/ground.h"
+#include "platform/log.h"
+#include "platform/options.h"
+#include "platform/rnd.h"
+#include "platform/settings_file.h"
+#include "platform/sound_player.h"
+#include "platform/system_clock.h"
+#include "platform/window_file_dialogs.h"
+
+/// The ground of the real program: every seam with what it stands for.
+class RealGround
+{
+public:
+    /// `appFolder` in the stored form, with its trailing backslash.
+    explicit RealGround(const QString &appFolder);
+
+    Ground &ground() { return ground_; }
+    RealBoxes &boxes() { return boxes_; }
+
+private:
+    Log log_;
+    RealBoxes boxes_;
+    WindowFileDialogs fileDialogs_;
+    Rnd rnd_;
+    SoundPlayer sound_;
+    SystemClock clock_;
+    LoopPump pump_;
+    SettingsFile store_;
+    Options options_;
+    Ground ground_;
+};

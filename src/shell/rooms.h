@@ -1,0 +1,91 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "board/affix_homes.h"
+#include "board/arrangement.h"
+#include "board/background_picture.h"
+#include "board/board_commands.h"
+#include "board/board_keys.h"
+#include "board/board_pointer.h"
+#include "board/bulk_tiles.h"
+#include "board/canvas.h"
+#include "board/menu_model.h"
+#include "board/morpheme_lists.h"
+#include "board/opt_types.h"
+#include "board/placement.h"
+#include "board/popup_menu.h"
+#include "dialogs/msn_style.h"
+#include "games/retype_mode.h"
+#include "games/strip_control.h"
+#include "generators/word_maker.h"
+#include "language/dictionary_panel.h"
+#include "language/list_chooser.h"
+#include "language/list_loader.h"
+#include "language/tips.h"
+#include "language/word_check.h"
+#include "language/word_list_panel.h"
+#include "language/word_tests.h"
+#include "persistence/backup.h"
+#include "persistence/frm_options.h"
+#include "persistence/sessions.h"
+#include "persistence/undo_ring.h"
+#include "shell/prog_init.h"
+
+struct Ground;
+struct MainControls;
+struct Modes;
+struct WordLists;
+
+/// All rooms of the house, made in the order in which they stand on each other.
+struct Rooms
+{
+    Rooms(Ground &ground, MainControls &controls, WordLists &lists, Modes &modes);
+    ~Rooms();
+
+    // dialogs
+    frmMsnStyle popup;
+
+    // board
+    OptTypes optTypes;
+    FormMeasures measures;
+    CanvasSurface surface;
+    TileStore store;
+    Canvas canvas;
+    MorphemeLists morphemeLists;
+    BackgroundPicture background;
+    Placement placement;
+    AffixHomes homes;
+    BulkTiles bulk;
+    Arrangement arrangement;
+    MenuModel menus;
+    PopupMenu cp;
+    BoardCommands commands;
+    BoardPointer pointer;
+    BoardKeys keys;
+
+    // language
+    ListLoader loader;
+    WordTests tests;
+    DictionaryPanel dictionary;
+    WordListPanel wordList;
+    WordCheck check;
+    ListChooser chooser;
+    Tips tips;
+
+    // generators
+    WordMaker maker;
+
+    // games
+    StripControl strip;
+    RetypeMode retype;
+
+    // persistence
+    frmOptions options;
+    UndoRing undo;
+    Backup backup;
+    Sessions sessions;
+
+    // shell
+    ProgInit progInit;
+};

@@ -1,0 +1,153 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/files.h"
+#include "platform/runtime_error.h"
+#include "shell/argument_handler.h"
+#include "shell/start_steps.h"
+#include "support/registry.h"
+#include "support/test_ground.h"
+
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+using start_steps::Next;
+
+/// What the start asks and tells before any window exists.
+class StartStepsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void actsOnArguments_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<bool>("goesOn");
+        QTest::addColumn<QString>("boxTitle"); // of the plain box, if any
+        QTest::addColumn<QString>("boxText");
+        QTest::addColumn<bool>("about");
+        const QString none;
+        QTest::newRow("nothing") << none << true << none << none << false;
+        QTest::newRow("about ends the walk") << u"/I /?"_s << false << none << none << true;
+        QTest::newRow("parameters") << u"/?"_s << false << u"Wortel-Meister - Commandline Parameters"_s
+                                    << u"Valid parameters are\n\n/L\tEnable errors and events-logging\n\n/I\tShow info about... Wortel\n\n"
+                                       "/?\tShow valid parameters\n\nExample:\n\nwortel /L"_s
+                                    << false;
+        QTest::newRow("wrong") << u"/xyz"_s << false << u"Wortel-Meister - Fehler"_s
+                               << u"Invalid Parameter: xyz\n\nFor valid parameters, type: Wortel /?"_s << false;
+        QTest::newRow("small letter is wrong") << u"/i"_s << false << u"Wortel-Meister - Fehler"_s
+                                               << u"Invalid Parameter: i\n\nFor valid parameters, type: Wortel /?"_s << false;
+    }
+    void actsOnArguments()
+    {
+        QFETCH(QString, line);
+        QFETCH(bool, goesOn);
+        QFETCH(QString, boxTitle);
+        QFETCH(QString, boxText);
+        QFETCH(bool, about);
+        TestGround t;
+        if (!boxTitle.isEmpty())
+            t.boxes.willAnswer(Boxes::Answer::Ok);
+        ArgumentHandler handler;
+        handler.ParseCommandLine(line);
+        bool shown = false;
+        QCOMPARE(start_steps::ApplyArguments(t.ground, handler, true, [&] { shown = true; }) == Next::GoOn, goesOn);
+        QCOMPARE(shown, about);
+        QVERIFY(t.ok());
+        QCOMPARE(t.boxes.asked.isEmpty() ? QString() : t.boxes.asked.first().title, boxTitle);
+        QCOMPARE(t.boxes.asked.isEmpty() ? QString() : t.boxes.asked.first().text, boxText);
+        QVERIFY(!t.log.enabled());
+    }
+
+    void anErrorOnTheWayIsTold()
+    {
+        TestGround t;
+        t.boxes.willAnswer(Boxes::Answer::Ok);
+        ArgumentHandler handler;
+        handler.ParseCommandLine(u"/I"_s);
+        const Next next = start_steps::ApplyArguments(t.ground, handler, true, [] { throw RuntimeError::of(7); });
+        QVERIFY(next == Next::GoOn);
+        QCOMPARE(t.boxes.asked.first().text, u"Commandline Parameter Error"_s);
+    }
+
+    void opensTheLog_data()
+    {
+        QTest::addColumn<bool>("first");
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<bool>("oldLogStays");
+        QTest::addColumn<bool>("backup");
+        QTest::newRow("emptied") << true << 0 << false << false;
+        QTest::newRow("kept") << true << 1 << true << true;
+        QTest::newRow("second instance") << false << -1 << true << false;
+    }
+    void opensTheLog()
+    {
+        QFETCH(bool, first);
+        QFETCH(int, answer);
+        QFETCH(bool, oldLogStays);
+        QFETCH(bool, backup);
+        TestGround t;
+        const QString file = t.writeFile(u"errors.log"_s, u"alt\r\n"_s);
+        t.store.SaveSetting(u"Settings"_s, u"UseBackup"_s, backup ? u"1"_s : u"0"_s);
+        if (answer >= 0)
+            t.boxes.willPress(answer);
+        ArgumentHandler handler;
+        handler.ParseCommandLine(u"/L"_s);
+        QVERIFY(start_steps::ApplyArguments(t.ground, handler, first, [] {}) == Next::GoOn);
+        QCOMPARE(t.log.enabled(), first);
+        QVERIFY(t.ok());
+        QStringList lines = QString::fromLatin1(ReadWholeFile(file)).split(u"\r\n"_s, Qt::SkipEmptyParts);
+        for (QString &line : lines)
+            line = line.section(u" - "_s, 0, 0); // without the time of writing
+        QCOMPARE(lines.contains(u"alt"_s), oldLogStays);
+        if (!first)
+            return;
+        QCOMPARE(t.boxes.asked.first().text,
+                 u"Möchten Sie erst die Fehleraufzeichnungsdatei\n\n"_s + file + u" (error.log) zurücksetzen?  "_s);
+        QCOMPARE(t.boxes.asked.first().style, u"CONFIRM"_s);
+        QVERIFY(lines.contains(u"Date/Time: 03/14/2026  09:26 AM"_s));
+        const QString last = backup ? u"Event: Backup-file (WLXAutoSave.bak), opened in the default folder"_s
+                                    : QString(64, u'-');
+        QCOMPARE(lines.last(), last);
+    }
+
+    void offersRecovery_data()
+    {
+        QTest::addColumn<QString>("useBackup");
+        QTest::addColumn<bool>("fileExists");
+        QTest::addColumn<int>("answer"); // -1: not asked
+        QTest::addColumn<bool>("goesOn");
+        QTest::addColumn<bool>("recovers");
+        const int yes = static_cast<int>(Boxes::Answer::Yes);
+        const int no = static_cast<int>(Boxes::Answer::No);
+        const int cancel = static_cast<int>(Boxes::Answer::Cancel);
+        QTest::newRow("off") << u"0"_s << true << -1 << true << false;
+        QTest::newRow("third state is not on") << u"2"_s << true << -1 << true << false;
+        QTest::newRow("clean end") << u"1"_s << false << -1 << true << false;
+        QTest::newRow("yes") << u"1"_s << true << yes << true << true;
+        QTest::newRow("no") << u"1"_s << true << no << true << false;
+        QTest::newRow("cancel") << u"1"_s << true << cancel << false << false;
+    }
+    void offersRecovery()
+    {
+        QFETCH(QString, useBackup);
+        QFETCH(bool, fileExists);
+        QFETCH(int, answer);
+        QFETCH(bool, goesOn);
+        QFETCH(bool, recovers);
+        TestGround t;
+        t.store.SaveSetting(u"Settings"_s, u"UseBackup"_s, useBackup);
+        const QString file = t.AppFolder + u"WLXAutoSave.bak"_s;
+        if (fileExists)
+            t.writeFile(u"WLXAutoSave.bak"_s, u"x"_s);
+        if (answer >= 0)
+            t.boxes.willAnswer(static_cast<Boxes::Answer>(answer));
+        bool RecoverOnStart = !recovers;
+        QCOMPARE(start_steps::askForRecovery(t.ground, RecoverOnStart) == Next::GoOn, goesOn);
+        QCOMPARE(RecoverOnStart, recovers);
+        QCOMPARE(IsTextFile(file), fileExists);
+        QVERIFY(t.ok());
+    }
+};
+
+WORTEL_TEST(StartStepsTest)
+#include "tst_start_steps.moc"
