@@ -119,7 +119,7 @@ void Sessions::RestoreObjects(const QString &path)
     step([&] { rooms_.canvas.RecallFilter(TileFilter::all); });
     if (!whole)
         return;
-    step([&] { AddToRecentDocs(source, file_type::mimeType); });
+    step([&] { AddToRecentDocs(source, FileType::mimeType); });
     step([&] { makeCurrent(source); });
 }
 

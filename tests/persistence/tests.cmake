@@ -3,6 +3,7 @@
 wortel_test(persistence
     SOURCES
         tst_backup.cpp
+        tst_file_type.cpp
         tst_frm_options.cpp
         tst_sessions.cpp
         tst_undo_ring.cpp
