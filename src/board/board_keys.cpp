@@ -8,6 +8,7 @@
 #include "platform/boxes.h"
 #include "platform/ground.h"
 #include "platform/modes.h"
+#include "platform/options.h"
 #include "platform/procedure.h"
 #include "widgets/dropper.h"
 #include "widgets/main_controls.h"
@@ -99,7 +100,8 @@ bool BoardKeys::Form_KeyDown(int key)
     step([&] {
         const int answer = ground_.boxes.ShowMBox(u"Es werden gerade noch einige Wörter vorbereitet...\n\n"
                                                   "Willst du wirklich aufhören?"_s,
-                                                  true, okAndCancel, u"Bestätigen"_s, u"CONFIRM"_s);
+                                                  ground_.options.isOn(Setting::ConfirmBeforeErase),
+                                                  okAndCancel, u"Bestätigen"_s, u"CONFIRM"_s);
         if (answer != refused)
             modes_.StopPlacing = modes_.CancelPreparing = true;
     });

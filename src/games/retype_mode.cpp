@@ -217,20 +217,6 @@ void RetypeMode::mnuStartRetypeFromList()
     RetypeWithChoosenWortel();
 }
 
-bool RetypeMode::askToCancel()
-{
-    if (state_ != State::Preparing || controls_.Dropper1->isActiveControl())
-        return false;
-    const int answer = ground_.boxes.ShowMBox(
-        u"Es werden gerade noch einige Wörter vorbereitet...\n\nWillst du wirklich aufhören?"_s,
-        ground_.options.isOn(Setting::ConfirmBeforeErase), 3, u"Bestätigen"_s, u"CONFIRM"_s);
-    if (answer != 1) {
-        modes_.CancelPreparing = true;
-        modes_.StopPlacing = true;
-    }
-    return true;
-}
-
 // Start and stop
 // ------------------------------------------------------------------------------------------------------------
 

@@ -64,9 +64,6 @@ public:
     void RetypeWithChoosenWortel();
     /// The same from the dictionary's menu, which closes the dictionary first.
     void mnuStartRetypeFromList();
-    /// Esc: while words are prepared and the word field is not active, asks whether to stop. False if it was
-    /// not asked.
-    bool askToCancel();
 
     bool isPreparing() const { return state_ == State::Preparing; }
     const QStringList &KeptWords() const { return KeptWords_; }

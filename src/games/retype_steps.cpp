@@ -109,7 +109,7 @@ QString RetypeMode::inStrip(const QString &word, const RetypeSource &source) con
     return source.properCase ? rooms_.tests.ProperCase2(word) : word;
 }
 
-bool RetypeMode::isCancelled() const { return modes_.CancelPreparing || stopWanted_; }
+bool RetypeMode::isCancelled() const { return modes_.CancelPreparing || stopWanted_ || modes_.Closing; }
 
 // Preparing
 // ------------------------------------------------------------------------------------------------------------

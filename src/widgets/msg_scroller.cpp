@@ -6,6 +6,7 @@
 
 #include <QEvent>
 #include <QFontMetrics>
+#include <QLinearGradient>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -15,6 +16,7 @@
 namespace {
 
 constexpr int shortestFrame = 16; ///< milliseconds: no screen shows more
+constexpr int fadeWidth = 18;     ///< pixels in which words come up and fade at the edges of a running strip
 constexpr QColor frameColour{0x5B, 0x6F, 0x91};
 
 QColor fromBgr(int colour) { return QColor(colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF); }
@@ -341,6 +343,26 @@ void MsgScroller::paintEvent(QPaintEvent *)
     const int restLeft = strip_.restLeft();
     if (restLeft < width())
         painter.fillRect(QRect(restLeft, 0, width() - restLeft, height()), Qt::white);
+    painter.resetTransform();
+    if (strip_.Running())
+        paintFade(painter, inner);
+}
+
+void MsgScroller::paintFade(QPainter &painter, const QRect &inner) const
+{
+    QColor clear = backColor_;
+    clear.setAlpha(0);
+    QLinearGradient fade(0, 0, fadeWidth, 0);
+    fade.setColorAt(0, backColor_);
+    fade.setColorAt(1, clear);
+    const QRectF left(inner.left(), inner.top(), fadeWidth, inner.height());
+    painter.save();
+    painter.translate(left.topLeft());
+    painter.fillRect(QRectF(QPointF(), left.size()), fade);
+    painter.restore();
+    painter.translate(inner.left() + inner.width(), inner.top());
+    painter.scale(-1, 1);
+    painter.fillRect(QRectF(QPointF(), left.size()), fade);
 }
 
 void MsgScroller::paintPieces(QPainter &painter) const

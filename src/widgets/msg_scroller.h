@@ -114,6 +114,7 @@ private:
     void endPan();
     int hotSpotUnder(const QPointF &position) const;
     void paintPieces(QPainter &painter) const;
+    void paintFade(QPainter &painter, const QRect &inner) const;
 
     ScrollerStrip strip_;
     QTimer tmrScroll_;

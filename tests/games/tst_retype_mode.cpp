@@ -214,13 +214,11 @@ const Way ways[] = {
          d.left();
          QVERIFY(d.lists.CorrectWordList.isEmpty());
      }},
-    {"word list, Esc",
+    {"word list, window closed while preparing",
      [](Desk &d) {
          d.fillList();
-         d.test.boxes.willPress(0);
-         d.atYield(2, [&d] { QVERIFY(d.retype.askToCancel()); });
+         d.atYield(2, [&d] { d.modes.Closing = true; });
          d.left();
-         QVERIFY(d.lists.CorrectWordList.isEmpty());
      }},
     {"word list, button while preparing",
      [](Desk &d) {
@@ -407,8 +405,6 @@ private slots:
     void notInAGame();
     void limits_data();
     void limits();
-    void asksBeforeItStopsPreparing_data();
-    void asksBeforeItStopsPreparing();
     void oddStripsAreCopied_data();
     void oddStripsAreCopied();
 };
@@ -739,40 +735,6 @@ void RetypeModeTest::limits()
     QCOMPARE(desk.controls.Scroller->ListCount(), notice.isEmpty() ? count : 0);
     if (!notice.isEmpty())
         QCOMPARE(desk.test.boxes.asked.first().text, notice);
-    QVERIFY(desk.test.ok());
-}
-
-void RetypeModeTest::asksBeforeItStopsPreparing_data()
-{
-    QTest::addColumn<int>("confirm");
-    QTest::addColumn<int>("button");
-    QTest::addColumn<bool>("stops");
-    QTest::newRow("OK") << 1 << 0 << true;
-    QTest::newRow("Abbrechen") << 1 << 1 << false;
-    QTest::newRow("without a question") << 0 << 0 << true;
-}
-
-void RetypeModeTest::asksBeforeItStopsPreparing()
-{
-    QFETCH(int, confirm);
-    QFETCH(int, button);
-    Desk desk;
-    desk.fillList();
-    desk.test.options.setBox(Setting::ConfirmBeforeErase, confirm);
-    QVERIFY2(!desk.retype.askToCancel(), "nothing is prepared");
-    if (confirm == 1)
-        desk.test.boxes.willPress(button);
-    desk.atYield(1, [&] { QVERIFY(desk.retype.askToCancel()); });
-    desk.left();
-    QFETCH(bool, stops);
-    QCOMPARE(desk.modes.RetypeActive, !stops);
-    if (confirm == 1) {
-        const Question &question = desk.test.boxes.asked.first();
-        QCOMPARE(question.title, u"Bestätigen"_s);
-        QCOMPARE(question.style, u"CONFIRM"_s);
-        QCOMPARE(question.text,
-                 u"Es werden gerade noch einige Wörter vorbereitet...\n\nWillst du wirklich aufhören?"_s);
-    }
     QVERIFY(desk.test.ok());
 }
 
