@@ -42,7 +42,8 @@ double commitWithBackup()
             board.undo.SetCollBuffer();
             board.backup.saveIfWanted();
         },
-        [&] { writeFileAtomically(beside, bytes); }, 40);
+        [&] { writeFileAtomically(beside, bytes); },
+        200); // many rounds: the disk is the noisiest thing of all
 }
 
 double undo()

@@ -105,7 +105,7 @@ QByteArray backup_file::encode(const MyObj &array)
 {
     QByteArray bytes;
     for (const BackupRecord &record : array.elements()) {
-        putText(bytes, windows1252::encodeLossy(record.key));
+        putText(bytes, record.key.toLatin1()); // a letter and digits
         putText(bytes, record.type ? QByteArray(1, record.type) : QByteArray());
         put(bytes, record.left);
         put(bytes, record.top);

@@ -119,6 +119,8 @@ void frmMain::wireKeeping()
         r.background.loadFromSetting();
         r.strip.SetUpMsgScroller();
     });
+    connect(&r.options, &frmOptions::registerFileType, this, [&r] { r.fileType.registerSessions(); });
+    connect(&r.options, &frmOptions::removeFileType, this, [&r] { r.fileType.removeSessions(); });
     connect(&r.options, &frmOptions::recallFilter, this, [&r] { r.canvas.RecallFilter(r.optTypes.selected()); });
 }
 

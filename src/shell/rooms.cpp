@@ -8,6 +8,8 @@
 #include "platform/word_lists.h"
 #include "widgets/main_controls.h"
 
+#include <QCoreApplication>
+
 Rooms::Rooms(Ground &ground, MainControls &controls, WordLists &lists, Modes &modes)
     : popup(ground, controls, modes)
     , optTypes(controls)
@@ -41,6 +43,7 @@ Rooms::Rooms(Ground &ground, MainControls &controls, WordLists &lists, Modes &mo
     , undo(ground, modes, menus, canvas)
     , backup(ground, modes, canvas, bulk)
     , sessions(ground, controls, lists, {canvas, bulk, loader, undo})
+    , fileType(ground.log, QCoreApplication::applicationFilePath())
     , progInit(ground, controls, lists, loader, canvas, placement, homes)
 {}
 

@@ -27,6 +27,7 @@
 #include "language/word_list_panel.h"
 #include "language/word_tests.h"
 #include "persistence/backup.h"
+#include "persistence/file_type.h"
 #include "persistence/frm_options.h"
 #include "persistence/sessions.h"
 #include "persistence/undo_ring.h"
@@ -85,6 +86,7 @@ struct Rooms
     UndoRing undo;
     Backup backup;
     Sessions sessions;
+    FileType fileType;
 
     // shell
     ProgInit progInit;
