@@ -391,6 +391,7 @@ private slots:
     void everyWayGivesTheToolsBack_data();
     void everyWayGivesTheToolsBack();
     void runsFromTheWordList();
+    void aChildCopiesAllWords();
     void preparesWithTheToolsAtRest();
     void copiesWithoutRegardToCase();
     void equalNeighbours();
@@ -483,6 +484,30 @@ void RetypeModeTest::runsFromTheWordList()
     QCOMPARE(desk.caption(), u"2 Wörter übrig zum Abschreiben"_s);
     QVERIFY2(c.Scroller->isTimerOn() && c.Scroller->isEnabled(), "the words that are left run on");
     QCOMPARE(c.Dropper1->Caption(), QString());
+    QVERIFY(desk.test.ok());
+}
+
+void RetypeModeTest::aChildCopiesAllWords()
+{
+    Desk desk;
+    desk.form.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&desk.form));
+    connect(desk.controls.Dropper1, &Dropper::EnterPress, &desk.check, &WordCheck::Dropper1_EnterPress);
+    desk.fillList();
+    desk.test.boxes.willBeRead();
+    QTest::mouseClick(desk.controls.Check4, Qt::LeftButton);
+    QVERIFY(desk.modes.RetypeActive);
+    QTest::keyClicks(QApplication::focusWidget(), u"Hause"_s);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    // The wrong word is selected whole, so that the next key replaces it.
+    for (const QString &word : {u"Haus"_s, u"Maus"_s, u"laufen"_s}) {
+        QVERIFY(desk.modes.RetypeActive);
+        QTest::keyClicks(QApplication::focusWidget(), word);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    }
+    QCOMPARE(desk.reports.titles,
+             (QStringList{u"Wort nicht gefunden"_s, u"Richtig !"_s, u"Richtig !"_s, u"Richtig !"_s}));
+    QVERIFY(!desk.modes.RetypeActive);
     QVERIFY(desk.test.ok());
 }
 
