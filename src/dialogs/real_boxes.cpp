@@ -120,11 +120,16 @@ Boxes::Answer RealBoxes::plainBox(Icon icon, const QString &title, const QString
     box.setWindowTitle(titleOr(title).simplified().left(60));
     box.setText(textForPlainBox(text));
     const auto [first, end] = plainButtons(buttons);
-    QAbstractButton *last = nullptr;
-    for (const PlainButton *row = first; row != end; ++row)
+    // `buttons()` is sorted by role, so the first and the last are kept while they are made.
+    QPushButton *standard = nullptr;
+    QPushButton *last = nullptr;
+    for (const PlainButton *row = first; row != end; ++row) {
         last = box.addButton(QString::fromUtf16(row->caption), row->role);
+        if (standard == nullptr)
+            standard = last;
+    }
     box.setEscapeButton(last);
-    box.setDefaultButton(qobject_cast<QPushButton *>(box.buttons().constFirst()));
+    box.setDefaultButton(standard);
     box.exec();
     if (parent != nullptr)
         parent->window()->activateWindow(); // nobody else does it where there is no window manager

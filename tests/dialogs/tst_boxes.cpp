@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -328,6 +329,7 @@ private slots:
         const auto given = answered(ask, [&](QWidget *widget) {
             auto *box = qobject_cast<QMessageBox *>(widget);
             QCOMPARE(box->textFormat(), Qt::PlainText);
+            QCOMPARE(box->defaultButton()->text(), buttons == Boxes::Buttons::Ok ? u"OK"_s : u"Ja"_s);
             if (press.isEmpty())
                 QTest::keyClick(box, Qt::Key_Escape);
             for (QAbstractButton *button : box->buttons()) {
