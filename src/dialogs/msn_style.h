@@ -5,8 +5,6 @@
 #include "dialogs/report_window.h"
 #include "platform/report_popup.h"
 
-#include "platform/report_popup.h"
-
 #include <QObject>
 
 #include <array>

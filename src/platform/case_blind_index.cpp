@@ -51,10 +51,24 @@ void CaseBlindIndex::extend(const QStringList &rows)
         put(rows, size_);
 }
 
+void CaseBlindIndex::insert(const QStringList &rows, int row)
+{
+    if (size_ + 1 != rows.size()) {
+        clear();
+        return;
+    }
+    for (Slot &slot : slots_)
+        slot.row += slot.row >= row ? 1 : 0;
+    if (static_cast<std::size_t>(rows.size()) * 2 > slots_.size())
+        reserve(rows);
+    put(rows, row);
+    ++size_;
+}
+
 void CaseBlindIndex::reserve(const QStringList &rows)
 {
     const std::size_t wanted =
-        std::bit_ceil(std::max<std::size_t>(64, static_cast<std::size_t>(rows.size()) * 4));
+        std::bit_ceil(std::max<std::size_t>(64, static_cast<std::size_t>(rows.size()) * 2));
     std::vector<Slot> old(wanted, Slot{0, -1});
     old.swap(slots_);
     const std::size_t mask = slots_.size() - 1;
@@ -75,8 +89,10 @@ void CaseBlindIndex::put(const QStringList &rows, std::int32_t row)
     const std::size_t mask = slots_.size() - 1;
     std::size_t at = hash & mask;
     for (; slots_[at].row >= 0; at = (at + 1) & mask)
-        if (slots_[at].hash == hash && equalsIgnoreCase(rows.at(slots_[at].row), word))
-            return; // the first row stays the one that is found
+        if (slots_[at].hash == hash && equalsIgnoreCase(rows.at(slots_[at].row), word)) {
+            slots_[at].row = std::min(slots_[at].row, row); // the first row is the one that is found
+            return;
+        }
     slots_[at] = {hash, row};
 }
 

@@ -17,6 +17,9 @@ public:
     void clear();
     /// Takes in the rows from `size()` on. Rows that were taken in before must not have changed.
     void extend(const QStringList &rows);
+    /// A row was put into `rows` at `row`. If all the others were taken in, it is too, and those behind it move
+    /// up by one.
+    void insert(const QStringList &rows, int row);
     /// The count of rows taken in.
     int size() const { return size_; }
     /// The first row that equals `word`, or -1.

@@ -44,8 +44,8 @@ int WordStore::insert(const QString &item)
         const auto at = std::upper_bound(rows_.cbegin(), rows_.cend(), item, comesBefore);
         const int row = static_cast<int>(at - rows_.cbegin());
         if (row < count()) {
-            index_.clear();
             rows_.insert(row, item);
+            index_.insert(rows_, row);
             return row;
         }
     }
