@@ -65,6 +65,43 @@ void CaseBlindIndex::insert(const QStringList &rows, int row)
     ++size_;
 }
 
+void CaseBlindIndex::remove(const QStringList &rows, int row)
+{
+    if (size_ != rows.size()) {
+        clear();
+        return;
+    }
+    const std::size_t at = slotOf(rows, rows.at(row), foldedHash(rows.at(row)));
+    if (slots_[at].row == row) {
+        const auto next = std::find_if(rows.cbegin() + row + 1, rows.cend(), [&](const QString &other) {
+            return equalsIgnoreCase(other, rows.at(row));
+        });
+        if (next == rows.cend())
+            freeSlot(at);
+        else
+            slots_[at].row = static_cast<std::int32_t>(next - rows.cbegin());
+    }
+    for (Slot &slot : slots_)
+        slot.row -= slot.row > row ? 1 : 0;
+    --size_;
+}
+
+/// Slots behind the freed one that stand off their own place move up, so that every search still ends at a
+/// free slot.
+void CaseBlindIndex::freeSlot(std::size_t at)
+{
+    const std::size_t mask = slots_.size() - 1;
+    std::size_t gap = at;
+    for (std::size_t next = (gap + 1) & mask; slots_[next].row >= 0; next = (next + 1) & mask) {
+        const std::size_t home = slots_[next].hash & mask;
+        if (((next - home) & mask) < ((next - gap) & mask))
+            continue;
+        slots_[gap] = slots_[next];
+        gap = next;
+    }
+    slots_[gap].row = -1;
+}
+
 void CaseBlindIndex::reserve(const QStringList &rows)
 {
     const std::size_t wanted =
@@ -84,26 +121,26 @@ void CaseBlindIndex::reserve(const QStringList &rows)
 
 void CaseBlindIndex::put(const QStringList &rows, std::int32_t row)
 {
-    const QString &word = rows.at(row);
-    const std::uint32_t hash = foldedHash(word);
+    const std::uint32_t hash = foldedHash(rows.at(row));
+    Slot &slot = slots_[slotOf(rows, rows.at(row), hash)];
+    if (slot.row < 0)
+        slot = {hash, row};
+    else
+        slot.row = std::min(slot.row, row); // the first row is the one that is found
+}
+
+/// The slot that holds `word`, or the free one where it belongs.
+std::size_t CaseBlindIndex::slotOf(const QStringList &rows, QStringView word, std::uint32_t hash) const
+{
     const std::size_t mask = slots_.size() - 1;
     std::size_t at = hash & mask;
-    for (; slots_[at].row >= 0; at = (at + 1) & mask)
-        if (slots_[at].hash == hash && equalsIgnoreCase(rows.at(slots_[at].row), word)) {
-            slots_[at].row = std::min(slots_[at].row, row); // the first row is the one that is found
-            return;
-        }
-    slots_[at] = {hash, row};
+    while (slots_[at].row >= 0 &&
+           !(slots_[at].hash == hash && equalsIgnoreCase(rows.at(slots_[at].row), word)))
+        at = (at + 1) & mask;
+    return at;
 }
 
 int CaseBlindIndex::find(const QStringList &rows, QStringView word) const
 {
-    if (slots_.empty())
-        return -1;
-    const std::uint32_t hash = foldedHash(word);
-    const std::size_t mask = slots_.size() - 1;
-    for (std::size_t at = hash & mask; slots_[at].row >= 0; at = (at + 1) & mask)
-        if (slots_[at].hash == hash && equalsIgnoreCase(rows.at(slots_[at].row), word))
-            return slots_[at].row;
-    return -1;
+    return slots_.empty() ? -1 : slots_[slotOf(rows, word, foldedHash(word))].row;
 }

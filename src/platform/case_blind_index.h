@@ -17,9 +17,11 @@ public:
     void clear();
     /// Takes in the rows from `size()` on. Rows that were taken in before must not have changed.
     void extend(const QStringList &rows);
-    /// A row was put into `rows` at `row`. If all the others were taken in, it is too, and those behind it move
-    /// up by one.
+    /// A row was put into `rows` at `row`. If all the others were taken in, it is too, and those behind it
+    /// move up by one.
     void insert(const QStringList &rows, int row);
+    /// The row `row` is about to leave `rows`. The same, with those behind it moving down.
+    void remove(const QStringList &rows, int row);
     /// The count of rows taken in.
     int size() const { return size_; }
     /// The first row that equals `word`, or -1.
@@ -34,6 +36,8 @@ private:
 
     void reserve(const QStringList &rows);
     void put(const QStringList &rows, std::int32_t row);
+    std::size_t slotOf(const QStringList &rows, QStringView word, std::uint32_t hash) const;
+    void freeSlot(std::size_t at);
 
     std::vector<Slot> slots_; ///< a power of two of them, at most half in use
     int size_ = 0;

@@ -87,8 +87,8 @@ void WordStore::replace(int row, const QString &item)
 void WordStore::removeAt(int row)
 {
     checkRow(row);
+    index_.remove(rows_, row);
     rows_.removeAt(row);
-    index_.clear();
     emit changed();
 }
 
