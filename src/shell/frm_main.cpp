@@ -4,8 +4,8 @@
 
 #include "platform/boxes.h"
 #include "platform/clock.h"
-#include "platform/ground.h"
 #include "platform/files.h"
+#include "platform/ground.h"
 #include "platform/log.h"
 #include "platform/options.h"
 #include "platform/procedure.h"
@@ -24,9 +24,9 @@
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QGuiApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
-#include <QLabel>
 #include <QScreen>
 
 #include <array>
@@ -36,6 +36,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int usualCount = 20;
 constexpr int titleBarHeight = 30; ///< pixels, about what window managers take
 
 constexpr char16_t welcomeText[] = u"Hallo !\n\n"
@@ -45,22 +46,22 @@ constexpr char16_t welcomeText[] = u"Hallo !\n\n"
                                    u"Rechtschreibmuster auswählen.\n\n"
                                    u"Viel Spaß !";
 
-QString backupFile(const Ground &ground)
-{
-    return Backup::file(ground);
-}
+QString backupFile(const Ground &ground) { return Backup::file(ground); }
 
 } // namespace
 
 frmMain::frmMain(Ground &ground, const StartFacts &facts)
-    : ground_(ground), facts_(facts), controls_(makeMainControls(this))
+    : ground_(ground)
+    , facts_(facts)
+    , controls_(makeMainControls(this))
 {
     setObjectName(u"frmMain"_s);
     setWindowTitle(u"Wortel-Meister"_s);
     setFocusPolicy(Qt::StrongFocus);
     setAcceptDrops(true);
     QSize size = designSize;
-    // On a screen that is too small the suffix row would lie under the band, so the title bar is left out as well.
+    // On a screen that is too small the suffix row would lie under the band, so the title bar is left out as
+    // well.
     if (const QScreen *screen = QGuiApplication::primaryScreen())
         size = size.boundedTo(screen->availableSize() - QSize(0, titleBarHeight));
     resize(size);
@@ -89,8 +90,11 @@ bool frmMain::Form_Load()
 
     step([&] { rooms_->strip.SetUpMsgScroller(); });
 
+    // A number past 16 bits leaves the usual count, so that there is a board in any case.
+    Int16 count = usualCount;
+    step([&] { count = CLng(std::abs(Val(controls_.Text1->text()))); });
     bool filled = true;
-    step([&] { filled = rooms_->progInit.run(Int16(CLng(std::abs(Val(controls_.Text1->text())))), facts_.ScreenResolutionCode); });
+    step([&] { filled = rooms_->progInit.run(count, facts_.ScreenResolutionCode); });
     if (!filled)
         return false;
     step([&] { loadKept(); });
@@ -199,6 +203,8 @@ void frmMain::closeEvent(QCloseEvent *event)
 {
     if (!ended_) {
         ended_ = true;
+        // Long work that let this event in ends at its next look.
+        modes_.Closing = modes_.StopPlacing = modes_.CancelPreparing = true;
         Form_QueryUnload();
         Form_Unload();
         emit unloaded();
@@ -249,7 +255,8 @@ void frmMain::loadKept()
     if (std::exchange(facts_.RecoverOnStart, false))
         r.backup.RestoreMyObjects(backupFile(ground_));
     constexpr std::array<QStringView, 5> noSessions{u"", u" ", u"/L", u"/I", u"/?"};
-    if (std::find(noSessions.begin(), noSessions.end(), facts_.CommandLine) == noSessions.end() && !hiddenText_.isEmpty())
+    if (std::find(noSessions.begin(), noSessions.end(), facts_.CommandLine) == noSessions.end() &&
+        !hiddenText_.isEmpty())
         UpdateCaption();
 }
 
@@ -259,7 +266,4 @@ void frmMain::startTips()
         rooms_->tips.startTipTimer();
 }
 
-void frmMain::stopTimers()
-{
-    rooms_->tips.stopGameTimers();
-}
+void frmMain::stopTimers() { rooms_->tips.stopGameTimers(); }

@@ -21,21 +21,25 @@ struct StartFacts
     bool RecoverOnStart = false;
 };
 
-/// The main window and hub: it makes the controls, makes the rooms, wires them, and forwards events. What a procedure does stands in the room that owns it.
+/// The main window and hub: it makes the controls, makes the rooms, wires them, and forwards events. What a
+/// procedure does stands in the room that owns it.
 class frmMain : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// The size of the window until it is shown: the first board is laid out for it. Smaller on a smaller screen.
+    /// The size of the window until it is shown: the first board is laid out for it. Smaller on a smaller
+    /// screen.
     static constexpr QSize designSize{632, 573};
 
     frmMain(Ground &ground, const StartFacts &facts);
     ~frmMain() override;
 
-    /// Reads the settings and fills the first board. False if the program has to end: a word file is missing, and the user has been told.
+    /// Reads the settings and fills the first board. False if the program has to end: a word file is missing,
+    /// and the user has been told.
     bool Form_Load();
-    /// Text that a second start has handed over, the window's `HiddenText`: each piece between blanks is opened as a session.
+    /// Text that a second start has handed over, the window's `HiddenText`: each piece between blanks is
+    /// opened as a session.
     void HiddenText_Change(const QString &text);
 
     const MainControls &controls() const { return controls_; }

@@ -36,7 +36,11 @@ constexpr CommandRow commands[] = {
     {1601, [](frmMain &, Rooms &r) { r.retype.command(1601); }},
     {1607, [](frmMain &, Rooms &r) { r.retype.command(1607); }},
     {1608, [](frmMain &, Rooms &r) { r.retype.command(1608); }},
-    {1901, [](frmMain &, Rooms &r) { r.sessions.RestoreObjects(); r.undo.SetCollBuffer(); }},
+    {1901,
+     [](frmMain &, Rooms &r) {
+         r.sessions.RestoreObjects();
+         r.undo.SetCollBuffer();
+     }},
     {1903, [](frmMain &, Rooms &r) { r.sessions.SaveObjects(); }},
     {1906, [](frmMain &form, Rooms &) { form.close(); }},
     {2801, [](frmMain &, Rooms &r) { r.undo.UndoAction(); }},
@@ -58,5 +62,6 @@ void frmMain::carryOut(int id)
 
 void frmMain::comesLater()
 {
-    ground_.boxes.ShowInfoBox(u"Das gibt es in dieser Version noch nicht. Es kommt später dazu."_s, u"INFO"_s, u"Wortel-Meister"_s);
+    ground_.boxes.ShowInfoBox(u"Das gibt es in dieser Version noch nicht. Es kommt später dazu."_s, u"INFO"_s,
+                              u"Wortel-Meister"_s);
 }

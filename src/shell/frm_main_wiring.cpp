@@ -45,8 +45,15 @@ void frmMain::wire()
 void frmMain::wireBoard()
 {
     Rooms &r = *rooms_;
-    onPress(
-        controls_.Check2, this, [&r] { r.bulk.Check2_LeftPress(); }, [&r] { r.chooser.chooseStemLists(); });
+    // The check buttons rest while a report stands over the board.
+    const auto whileTheyAct = [this](auto action) {
+        return [this, action] {
+            if (modes_.CheckButtonsAct)
+                action();
+        };
+    };
+    onPress(controls_.Check2, this, whileTheyAct([&r] { r.bulk.Check2_LeftPress(); }),
+            whileTheyAct([&r] { r.chooser.chooseStemLists(); }));
     connect(&r.bulk, &BulkTiles::commitWanted, &r.commands, &BoardCommands::Commit);
     connect(&r.commands, &BoardCommands::commandChosen, this, &frmMain::carryOut);
     connect(&r.morphemeLists, &MorphemeLists::menuRestoreWanted, this, [this, &r] {
@@ -77,8 +84,10 @@ void frmMain::wireLanguage()
     connect(controls_.WortelList, &StoreList::rowClicked, &r.chooser, &ListChooser::WortelList_Click);
     connect(controls_.PrefixList, &StoreList::rowClicked, &r.chooser, &ListChooser::PrefixList_Click);
     connect(controls_.SuffixList, &StoreList::rowClicked, &r.chooser, &ListChooser::SuffixList_Click);
-    connect(controls_.LexiconList, &StoreList::rightPressed, &r.dictionary, &DictionaryPanel::LexiconList_MouseDown);
-    connect(controls_.CorrectWordList, &StoreList::rightPressed, &r.wordList, &WordListPanel::CorrectWordList_MouseDown);
+    connect(controls_.LexiconList, &StoreList::rightPressed, &r.dictionary,
+            &DictionaryPanel::LexiconList_MouseDown);
+    connect(controls_.CorrectWordList, &StoreList::rightPressed, &r.wordList,
+            &WordListPanel::CorrectWordList_MouseDown);
     connect(controls_.Text2, &QLineEdit::textChanged, &r.dictionary, &DictionaryPanel::Text2_Change);
 
     connect(&r.dictionary, &DictionaryPanel::tipRequested, &r.tips, &Tips::mnuShowTip_Click);
@@ -97,10 +106,16 @@ void frmMain::wireLanguage()
 void frmMain::wireModes()
 {
     Rooms &r = *rooms_;
-    connect(controls_.Check4, &PressButton::mouseDown, &r.retype, &RetypeMode::Check4_MouseDown);
+    connect(controls_.Check4, &PressButton::mouseDown, this,
+            [this, &r](Qt::MouseButton button, Qt::KeyboardModifiers keys) {
+                if (modes_.CheckButtonsAct)
+                    r.retype.Check4_MouseDown(button, keys);
+            });
     connect(&r.check, &WordCheck::retypeWordFound, &r.retype, &RetypeMode::wordCopied);
+    connect(&r.wordList, &WordListPanel::wordsEdited, &r.strip, &StripControl::takeWords);
     connect(&r.retype, &RetypeMode::menusChanged, this, [&r] { r.menus.CreateMenus(); });
-    connect(&r.dictionary, &DictionaryPanel::startRetypeFromList, &r.retype, &RetypeMode::mnuStartRetypeFromList);
+    connect(&r.dictionary, &DictionaryPanel::startRetypeFromList, &r.retype,
+            &RetypeMode::mnuStartRetypeFromList);
     connect(&r.retype, &RetypeMode::chooserWanted, this, &frmMain::comesLater);
     connect(&r.dictionary, &DictionaryPanel::chooserRequested, this, &frmMain::comesLater);
     connect(controls_.Check3, &PressButton::mouseDown, this, &frmMain::comesLater);
@@ -121,7 +136,8 @@ void frmMain::wireKeeping()
     });
     connect(&r.options, &frmOptions::registerFileType, this, [&r] { r.fileType.registerSessions(); });
     connect(&r.options, &frmOptions::removeFileType, this, [&r] { r.fileType.removeSessions(); });
-    connect(&r.options, &frmOptions::recallFilter, this, [&r] { r.canvas.RecallFilter(r.optTypes.selected()); });
+    connect(&r.options, &frmOptions::recallFilter, this,
+            [&r] { r.canvas.RecallFilter(r.optTypes.selected()); });
 }
 
 void frmMain::showOptions()

@@ -24,12 +24,16 @@
 
 using namespace Qt::StringLiterals;
 
-ProgInit::ProgInit(Ground &ground, const MainControls &controls, WordLists &lists, ListLoader &loader, Canvas &canvas,
-                   Placement &placement, AffixHomes &homes)
-    : ground_(ground), controls_(controls), lists_(lists), loader_(loader), canvas_(canvas), placement_(placement),
-      homes_(homes)
-{
-}
+ProgInit::ProgInit(Ground &ground, const MainControls &controls, WordLists &lists, ListLoader &loader,
+                   Canvas &canvas, Placement &placement, AffixHomes &homes)
+    : ground_(ground)
+    , controls_(controls)
+    , lists_(lists)
+    , loader_(loader)
+    , canvas_(canvas)
+    , placement_(placement)
+    , homes_(homes)
+{}
 
 bool ProgInit::run(Int16 count, int screenCode)
 {
@@ -82,7 +86,8 @@ void ProgInit::layWortelTiles(int count)
 void ProgInit::layAffixRows(int screenCode)
 {
     const int addToPosition = CInt(Val(ground_.options.stored(Setting::AddToSuffixPosition)));
-    const int suffixTop = affix_rows::suffixTop(canvas_.store().measures().ScaleHeight(), screenCode, addToPosition);
+    const int suffixTop =
+        affix_rows::suffixTop(canvas_.store().measures().ScaleHeight(), screenCode, addToPosition);
     layAffixRow(*kindOfColour(colours::prefixBack), affix_rows::prefixTop, affix_rows::prefixStep);
     layAffixRow(*kindOfColour(colours::suffixBack), suffixTop, affix_rows::suffixStep);
 }
@@ -92,7 +97,8 @@ void ProgInit::layAffixRow(const TileKind &kind, int top, int (*stepAfter)(int))
     const bool isPrefix = kind.back == colours::prefixBack;
     const WordStore &affixes = isPrefix ? lists_.PrefixList : lists_.SuffixList;
     std::vector<AffixHome> &homes = isPrefix ? homes_.prefixes : homes_.suffixes;
-    const bool fills = ground_.options.isOn(Setting::FillAffix) && !ground_.options.text(Setting::NumAffixToFill).isEmpty();
+    const bool fills =
+        ground_.options.isOn(Setting::FillAffix) && !ground_.options.text(Setting::NumAffixToFill).isEmpty();
     const int copies = fills ? CInt(Val(ground_.options.text(Setting::NumAffixToFill))) : 0;
 
     CanvasSurface::Batch batch(canvas_.surface());

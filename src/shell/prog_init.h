@@ -13,14 +13,16 @@ struct MainControls;
 struct TileKind;
 struct WordLists;
 
-/// Fills the first board: the word lists, the Wortel tiles, the two affix rows. A second run reloads nothing and adds no affix rows.
+/// Fills the first board: the word lists, the Wortel tiles, the two affix rows. A second run reloads nothing
+/// and adds no affix rows.
 class ProgInit
 {
 public:
-    ProgInit(Ground &ground, const MainControls &controls, WordLists &lists, ListLoader &loader, Canvas &canvas,
-             Placement &placement, AffixHomes &homes);
+    ProgInit(Ground &ground, const MainControls &controls, WordLists &lists, ListLoader &loader,
+             Canvas &canvas, Placement &placement, AffixHomes &homes);
 
-    /// `count` Wortel tiles on a screen of that resolution code. False if a word file is missing: the user has been told, and the program has to end.
+    /// `count` Wortel tiles on a screen of that resolution code. False if a word file is missing: the user
+    /// has been told, and the program has to end.
     bool run(Int16 count, int screenCode);
 
 private:

@@ -34,7 +34,8 @@ Rooms::Rooms(Ground &ground, MainControls &controls, WordLists &lists, Modes &mo
     , dictionary(ground, controls, lists)
     , wordList(ground, controls, lists, modes, tests, dictionary)
     , check(ground, controls, lists, modes, tests, dictionary, popup)
-    , chooser(ground, controls, lists, loader, store, {[this] { bulk.Refill(); }, [this] { pointer.DoOnDrop(); }})
+    , chooser(ground, controls, lists, loader, store,
+              {[this] { bulk.Refill(); }, [this] { pointer.DoOnDrop(); }})
     , tips(ground, controls, lists, modes)
     , maker(ground, controls, lists, modes, tests, store)
     , strip(ground, controls)

@@ -35,7 +35,8 @@ namespace {
 void dressApplication(QApplication &application)
 {
     QCoreApplication::setApplicationName(u"Wortel-Meister"_s);
-    QCoreApplication::setApplicationVersion(u"%1.%2.%3"_s.arg(version::major).arg(version::minor).arg(version::revision));
+    QCoreApplication::setApplicationVersion(
+        u"%1.%2.%3"_s.arg(version::major).arg(version::minor).arg(version::revision));
     QGuiApplication::setDesktopFileName(u"wortel-meister"_s);
     QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
     QFont font(u"Liberation Sans"_s);
@@ -52,7 +53,8 @@ QString findAppFolder()
 {
     const QString program = QCoreApplication::applicationDirPath();
     const QString installed = QFileInfo(program + u"/../share/wortel-meister/data"_s).absoluteFilePath();
-    const QString user = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/Wortel-Meister"_s;
+    const QString user =
+        QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/Wortel-Meister"_s;
     return application_folder::find(program, installed, user);
 }
 
@@ -119,7 +121,8 @@ int startWortel(int argc, char *argv[])
         return 0;
 
     if (!link.isFirst()) {
-        // A second start with nothing to hand over ends in silence and does not bring the first window forward.
+        // A second start with nothing to hand over ends in silence and does not bring the first window
+        // forward.
         if (!facts.CommandLine.trimmed().isEmpty())
             link.send(facts.CommandLine);
         return 0;
@@ -129,6 +132,7 @@ int startWortel(int argc, char *argv[])
     if (ground.options.stored(Setting::HideTaskbar) == u"1")
         ShowTaskBar(false);
     if (const QScreen *screen = QGuiApplication::primaryScreen())
-        facts.ScreenResolutionCode = affix_rows::GetScreenResolution(screen->size().width(), screen->size().height());
+        facts.ScreenResolutionCode =
+            affix_rows::GetScreenResolution(screen->size().width(), screen->size().height());
     return StartApplication(application, real, link, facts);
 }

@@ -9,6 +9,7 @@ class QApplication;
 /// The entry procedure: from the first instruction to the last. Returns the process's exit code.
 int startWortel(int argc, char *argv[]);
 
-/// The command line as one text, the way the program reads it: the arguments joined by blanks. An argument that names an existing file becomes a full stored
-/// path (with backslashes, so that it is not taken for a switch).
+/// The command line as one text, the way the program reads it: the arguments joined by blanks. An argument
+/// that names an existing file becomes a full stored path (with backslashes, so that it is not taken for a
+/// switch).
 QString commandLineText(const QStringList &arguments);

@@ -39,7 +39,8 @@ start_steps::Next apply(Ground &ground, const Argument &argument, bool isFirstIn
                               QString::fromUtf16(parameterText));
     else
         ground.boxes.plainBox(Boxes::Icon::Critical, QString::fromUtf16(errorTitle),
-                              u"Invalid Parameter: "_s + name + u"\n\nFor valid parameters, type: Wortel /?"_s);
+                              u"Invalid Parameter: "_s + name +
+                                  u"\n\nFor valid parameters, type: Wortel /?"_s);
     return End;
 }
 
@@ -53,7 +54,8 @@ start_steps::Next start_steps::ApplyArguments(Ground &ground, const ArgumentHand
             if (apply(ground, arguments.GetArgumentIndex(i), isFirstInstance, showAbout) == Next::End)
                 return Next::End;
     } catch (const std::exception &) {
-        ground.boxes.plainBox(Boxes::Icon::Warning, QString::fromUtf16(errorTitle), u"Commandline Parameter Error"_s);
+        ground.boxes.plainBox(Boxes::Icon::Warning, QString::fromUtf16(errorTitle),
+                              u"Commandline Parameter Error"_s);
     }
     return Next::GoOn;
 }
@@ -61,7 +63,8 @@ start_steps::Next start_steps::ApplyArguments(Ground &ground, const ArgumentHand
 start_steps::Next start_steps::askForRecovery(Ground &ground, bool &RecoverOnStart)
 {
     RecoverOnStart = false;
-    if (ground.options.stored(Setting::UseBackup) != u"1" || !IsTextFile(ground.AppFolder + u"WLXAutoSave.bak"_s))
+    if (ground.options.stored(Setting::UseBackup) != u"1" ||
+        !IsTextFile(ground.AppFolder + u"WLXAutoSave.bak"_s))
         return Next::GoOn;
     const Boxes::Answer answer = ground.boxes.plainBox(
         Boxes::Icon::Information, u"Wortel-Meister - Error Recovery"_s,

@@ -12,12 +12,14 @@ namespace start_steps {
 
 enum class Next { GoOn, End };
 
-/// Walks the parsed arguments in order: "L" opens the log (in the first instance only: a second one just passes its text along), "I" shows
-/// the about window, "?" the parameters; any other name is told as an error.
+/// Walks the parsed arguments in order: "L" opens the log (in the first instance only: a second one just
+/// passes its text along), "I" shows the about window, "?" the parameters; any other name is told as an
+/// error.
 Next ApplyArguments(Ground &ground, const ArgumentHandler &arguments, bool isFirstInstance,
                     const std::function<void()> &showAbout);
 
-/// If the previous run left its backup file and `UseBackup` is on: asks if it is to be opened. Yes sets `RecoverOnStart`; Cancel ends the program.
+/// If the previous run left its backup file and `UseBackup` is on: asks if it is to be opened. Yes sets
+/// `RecoverOnStart`; Cancel ends the program.
 Next askForRecovery(Ground &ground, bool &RecoverOnStart);
 
 } // namespace start_steps

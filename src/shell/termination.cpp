@@ -24,7 +24,8 @@ void handle(int)
 
 } // namespace
 
-Termination::Termination(QObject *parent) : QObject(parent)
+Termination::Termination(QObject *parent)
+    : QObject(parent)
 {
     if (socketpair(AF_UNIX, SOCK_STREAM, 0, ends.data()) != 0)
         return;

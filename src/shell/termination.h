@@ -6,8 +6,8 @@
 
 class QSocketNotifier;
 
-/// Turns the system's polite requests to end (SIGTERM, SIGINT, SIGHUP: logging out, shutting down) into a signal on the interface thread, so that the program
-/// ends in its usual order.
+/// Turns the system's polite requests to end (SIGTERM, SIGINT, SIGHUP: logging out, shutting down) into a
+/// signal on the interface thread, so that the program ends in its usual order.
 class Termination : public QObject
 {
     Q_OBJECT

@@ -112,7 +112,8 @@ QString Desktop::waitForWindow(const QString &titlePattern, int milliseconds)
     QElapsedTimer timer;
     timer.start();
     while (timer.elapsed() < milliseconds) {
-        const QByteArray found = run(u"xdotool"_s, {u"search"_s, u"--onlyvisible"_s, u"--name"_s, titlePattern});
+        const QByteArray found =
+            run(u"xdotool"_s, {u"search"_s, u"--onlyvisible"_s, u"--name"_s, titlePattern});
         if (!found.trimmed().isEmpty())
             return QString::fromLatin1(found.trimmed().split('\n').first());
         pause(50);
@@ -125,7 +126,9 @@ bool Desktop::waitForNoWindow(const QString &titlePattern, int milliseconds)
     QElapsedTimer timer;
     timer.start();
     while (timer.elapsed() < milliseconds) {
-        if (run(u"xdotool"_s, {u"search"_s, u"--onlyvisible"_s, u"--name"_s, titlePattern}).trimmed().isEmpty())
+        if (run(u"xdotool"_s, {u"search"_s, u"--onlyvisible"_s, u"--name"_s, titlePattern})
+                .trimmed()
+                .isEmpty())
             return true;
         pause(50);
     }
@@ -134,7 +137,8 @@ bool Desktop::waitForNoWindow(const QString &titlePattern, int milliseconds)
 
 QRect Desktop::geometry(const QString &window)
 {
-    const QString text = QString::fromLatin1(run(u"xdotool"_s, {u"getwindowgeometry"_s, u"--shell"_s, window}));
+    const QString text =
+        QString::fromLatin1(run(u"xdotool"_s, {u"getwindowgeometry"_s, u"--shell"_s, window}));
     const auto number = [&text](const QString &key) {
         return text.section(key + u'=', 1, 1).section(u'\n', 0, 0).toInt();
     };
@@ -161,7 +165,8 @@ QPoint Desktop::childOf(const QString &titlePattern, const QWidget &same, const 
 
 QImage Desktop::screenshot()
 {
-    return QImage::fromData(run(u"import"_s, {u"-window"_s, u"root"_s, u"png:-"_s}), "PNG").convertToFormat(QImage::Format_RGB32);
+    return QImage::fromData(run(u"import"_s, {u"-window"_s, u"root"_s, u"png:-"_s}), "PNG")
+        .convertToFormat(QImage::Format_RGB32);
 }
 
 void Desktop::keepPicture(const QString &name)
@@ -173,7 +178,8 @@ void Desktop::keepPicture(const QString &name)
 
 void Desktop::move(QPoint position)
 {
-    run(u"xdotool"_s, {u"mousemove"_s, u"--sync"_s, QString::number(position.x()), QString::number(position.y())});
+    run(u"xdotool"_s,
+        {u"mousemove"_s, u"--sync"_s, QString::number(position.x()), QString::number(position.y())});
 }
 
 void Desktop::click(QPoint position, int button)
@@ -236,8 +242,8 @@ QVector<QRect> areasOfColour(const QImage &picture, QRgb colour, QSize least)
                 area = area.united(QRect(at, QSize(1, 1)));
                 for (const QPoint &step : {QPoint(1, 0), QPoint(-1, 0), QPoint(0, 1), QPoint(0, -1)}) {
                     const QPoint next = at + step;
-                    if (!picture.rect().contains(next) || seen[next.y() * picture.width() + next.x()]
-                        || picture.pixel(next) != colour)
+                    if (!picture.rect().contains(next) || seen[next.y() * picture.width() + next.x()] ||
+                        picture.pixel(next) != colour)
                         continue;
                     seen[next.y() * picture.width() + next.x()] = true;
                     open << next;

@@ -8,8 +8,9 @@
 
 class QWidget;
 
-/// A virtual display with a window manager, and the real program on it, played with real pointer and keys (xdotool). The program is a portable copy with a
-/// home of its own, so that nothing of the user is touched. Every wait has an end.
+/// A virtual display with a window manager, and the real program on it, played with real pointer and keys
+/// (xdotool). The program is a portable copy with a home of its own, so that nothing of the user is touched.
+/// Every wait has an end.
 class Desktop
 {
 public:
@@ -41,7 +42,8 @@ public:
     QRect geometry(const QString &window);
     /// The middle of a tool of the main window, on the screen.
     QPoint tool(const QString &name);
-    /// The middle of a child of a window that is open under that title; `same` is a window of the same kind and size in the test's own process.
+    /// The middle of a child of a window that is open under that title; `same` is a window of the same kind
+    /// and size in the test's own process.
     QPoint childOf(const QString &titlePattern, const QWidget &same, const QString &name);
 
     QImage screenshot();
@@ -70,5 +72,6 @@ private:
     bool ready_ = false;
 };
 
-/// Connected areas of a colour (exact) that are at least `least` pixels wide and high: the tiles of a kind, since each has a white outline.
+/// Connected areas of a colour (exact) that are at least `least` pixels wide and high: the tiles of a kind,
+/// since each has a white outline.
 QVector<QRect> areasOfColour(const QImage &picture, QRgb colour, QSize least);

@@ -111,7 +111,8 @@ private slots:
         Desktop::pause(1200);
         desktop.keepPicture(u"seven-stems"_s);
         const QImage picture = desktop.screenshot();
-        const qsizetype stems = areasOfColour(picture.copy(0, 0, picture.width(), picture.height() - 110), red, leastTile).size();
+        const qsizetype stems =
+            areasOfColour(picture.copy(0, 0, picture.width(), picture.height() - 110), red, leastTile).size();
         QVERIFY2(stems >= 6 && stems <= 7, qPrintable(QString::number(stems)));
         QVERIFY(desktop.close());
     }
