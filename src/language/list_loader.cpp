@@ -44,6 +44,19 @@ QString missingIn(const QString &path, const char *procedure, int line)
 
 } // namespace
 
+/// Tells that the loader is at work while one of these lives.
+class ListLoader::Busy
+{
+public:
+    explicit Busy(ListLoader &loader) : loader_(loader) { emit loader_.busy(true); }
+    ~Busy() { emit loader_.busy(false); }
+    Busy(const Busy &) = delete;
+    Busy &operator=(const Busy &) = delete;
+
+private:
+    ListLoader &loader_;
+};
+
 ListLoader::ListLoader(Ground &ground, WordLists &lists, QObject *parent)
     : QObject(parent)
     , ground_(ground)
@@ -72,7 +85,7 @@ std::optional<QString> ListLoader::loadAtStart()
     loadedAtStart_ = true;
 
     Procedure step{ground_.log, "ProgInit", "frmMain", Procedure::Silent};
-    emit busy(true);
+    const Busy busyNow(*this);
     std::optional<QString> fatal;
     for (const StartList &row : startLists) {
         const QString &path = lists_.*row.path;
@@ -88,7 +101,6 @@ std::optional<QString> ListLoader::loadAtStart()
         if (row.removesDuplicates)
             step([&] { store.removeNeighbouringDuplicates(); });
     }
-    emit busy(false);
     return fatal;
 }
 
@@ -96,17 +108,14 @@ void ListLoader::FillWortelList(QString &path)
 {
     Procedure step{ground_.log, "FillWortelList", "frmMain"};
     lists_.CurrentWortelFile = path;
-    if (!IsTextFile(path)) {
-        emit busy(false);
+    if (!IsTextFile(path))
         return;
-    }
-    emit busy(true);
+    const Busy busyNow(*this);
     step([&] { append(lists_.WortelList, path); });
     step([&] { lists_.WortelList.removeNeighbouringDuplicates(); });
     lists_.CurrentLexiconFile = dictionaryOf(path);
     path = facitPath(path);
     step([&] { Fill_Lexicon(lists_.CurrentLexiconFile); });
-    emit busy(false);
 }
 
 void ListLoader::Fill_Lexicon(const QString &path)
@@ -117,13 +126,12 @@ void ListLoader::Fill_Lexicon(const QString &path)
         step([&] {
             ground_.boxes.plainBox(Boxes::Icon::Warning, u"Wortel-Meister - Fehler"_s, missing(path));
         });
-        emit busy(false);
         return;
     }
+    const Busy busyNow(*this);
     emit loading(&lists_.LexiconList);
     step([&] { append(lists_.LexiconList, path); });
     step([&] { lists_.LexiconList.removeNeighbouringDuplicates(); });
-    emit busy(false);
 }
 
 void ListLoader::FillKurzLanglist()

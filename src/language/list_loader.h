@@ -48,12 +48,14 @@ public:
     static QString dictionaryOf(const QString &path);
 
 signals:
-    /// The pointer is to be the hourglass, or normal again.
+    /// The pointer is to be the hourglass (True), or what it was before. Always in pairs, which may be nested.
     void busy(bool on);
     /// The list control that shows `store`, if there is one, is to be hidden. It stays hidden.
     void loading(WordStore *store);
 
 private:
+    class Busy;
+
     void append(WordStore &store, const QString &path);
     void fillVowelList(WordStore &store, const QString &path, bool keepBlank, int line);
 

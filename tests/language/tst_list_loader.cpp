@@ -121,6 +121,11 @@ private slots:
     void missingFilesLaterDoNotStop()
     {
         Fixture f;
+        int hourglasses = 0;
+        connect(&f.loader, &ListLoader::busy, this, [&](bool on) {
+            hourglasses += on ? 1 : -1;
+            QVERIFY(hourglasses >= 0);
+        });
         f.lists.LexiconList.add(u"Haus"_s);
         f.lists.CurrentLexiconFile = u"old"_s;
         QString gone = f.t.AppFolder + u"text\\weg.txt"_s;
@@ -138,6 +143,7 @@ private slots:
         QCOMPARE(f.lists.LexiconList.count(), 1);
         QCOMPARE(f.t.boxes.asked.last().title, u"Wortel-Meister - Fehler"_s);
         QCOMPARE(f.t.boxes.asked.last().text, u"Datei "_s + f.t.AppFolder + u"facit\\allein.lex fehlt"_s);
+        QCOMPARE(hourglasses, 0);
         QVERIFY(f.t.ok());
     }
 
