@@ -48,7 +48,11 @@ QString missingIn(const QString &path, const char *procedure, int line)
 class ListLoader::Busy
 {
 public:
-    explicit Busy(ListLoader &loader) : loader_(loader) { emit loader_.busy(true); }
+    explicit Busy(ListLoader &loader)
+        : loader_(loader)
+    {
+        emit loader_.busy(true);
+    }
     ~Busy() { emit loader_.busy(false); }
     Busy(const Busy &) = delete;
     Busy &operator=(const Busy &) = delete;

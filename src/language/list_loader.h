@@ -48,7 +48,8 @@ public:
     static QString dictionaryOf(const QString &path);
 
 signals:
-    /// The pointer is to be the hourglass (True), or what it was before. Always in pairs, which may be nested.
+    /// The pointer is to be the hourglass (True), or what it was before. Always in pairs, which may be
+    /// nested.
     void busy(bool on);
     /// The list control that shows `store`, if there is one, is to be hidden. It stays hidden.
     void loading(WordStore *store);
