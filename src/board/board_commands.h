@@ -91,6 +91,9 @@ private:
     bool isAllowed(const command::Command &command);
     bool isAgreed(const command::Command &command);
     bool hasWhatItNeeds(const command::Command &command);
+    /// A question with OK and Abbrechen, which counts as agreed without being shown if `show` is false.
+    bool ask(const char16_t *question, bool show, const QString &title, const QString &style);
+    void tell(const QString &notice);
     void log(const command::Command &command, const char *procedure);
     void play(int sound);
     /// The number of tiles it is about, or nothing if the user has to mend the box first.

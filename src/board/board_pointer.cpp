@@ -35,7 +35,6 @@ constexpr int trembling = 12; ///< pixels a resting finger may wander
 constexpr int wortel = 0;
 constexpr int prefix = 1;
 constexpr int suffix = 2;
-constexpr int removeCommand = 105;
 
 constexpr auto shiftKeys = Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier;
 
@@ -179,8 +178,7 @@ void BoardPointer::rightPress(Qt::KeyboardModifiers shift, const QPoint &point)
         commands_.duplicateAt(press);
     } else if (shift == Qt::ControlModifier) {
         ground_.log.WriteLog(QStringLiteral("Rightclick + ctrl: Remove object"));
-        if (press.kind != nullptr)
-            commands_.run(From::TileMenu, removeCommand, press);
+        commands_.removeAt(press);
     }
 }
 
