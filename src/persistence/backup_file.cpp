@@ -48,7 +48,7 @@ public:
         const qsizetype length = number<quint16>();
         if (!has(static_cast<std::size_t>(length)))
             return {};
-        const QByteArray value = bytes_.mid(at_, length);
+        QByteArray value = bytes_.mid(at_, length);
         at_ += length;
         return value;
     }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QCursor>
 #include <QGuiApplication>
 
 /// The pointer is the hourglass while one of these lives; they may be nested.
