@@ -14,3 +14,8 @@ if(WORTEL_SANITIZE)
                                                   -fno-omit-frame-pointer)
     target_link_options(wortel_flags INTERFACE -fsanitize=address,undefined)
 endif()
+if(WORTEL_FUZZ)
+    target_compile_options(wortel_flags INTERFACE -fsanitize=fuzzer-no-link,address,undefined
+                                                  -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    target_link_options(wortel_flags INTERFACE -fsanitize=address,undefined)
+endif()

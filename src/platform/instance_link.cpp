@@ -10,13 +10,11 @@
 #include <QStandardPaths>
 #include <QThread>
 #include <QTimer>
-#include <QtEndian>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype headerSize = 4;
 constexpr int mostPeers = 16;
 constexpr int patienceMs = 5000; ///< for a peer that does not finish its message
 constexpr int retryMs = 50;
@@ -66,12 +64,9 @@ bool InstanceLink::listen()
 
 bool InstanceLink::send(const QString &text, int timeoutMs) const
 {
-    const QByteArray bytes = text.toUtf8();
-    if (bytes.size() > static_cast<qsizetype>(largestMessage))
+    const std::optional<QByteArray> message = LinkMessage::encode(text);
+    if (!message)
         return false;
-    QByteArray message(headerSize, Qt::Uninitialized);
-    qToBigEndian(static_cast<quint32>(bytes.size()), message.data());
-    message += bytes;
 
     const QDeadlineTimer deadline(timeoutMs);
     const auto left = [&] { return static_cast<int>(qMax<qint64>(1, deadline.remainingTime())); };
@@ -84,7 +79,7 @@ bool InstanceLink::send(const QString &text, int timeoutMs) const
             return false;
         QThread::msleep(retryMs); // the first instance holds the lock and does not listen yet
     }
-    socket.write(message);
+    socket.write(*message);
     while (socket.bytesToWrite() > 0)
         if (!socket.waitForBytesWritten(left()) || deadline.hasExpired())
             return false;
@@ -101,7 +96,7 @@ void InstanceLink::accept()
             continue;
         }
         received_.insert(peer, {});
-        peer->setReadBufferSize(static_cast<qint64>(largestMessage) + headerSize + 1);
+        peer->setReadBufferSize(LinkMessage::headerSize + qint64(LinkMessage::largestText) + 1);
         connect(peer, &QLocalSocket::readyRead, this, [this, peer] { read(peer); });
         connect(peer, &QLocalSocket::disconnected, this, [this, peer] {
             read(peer); // a sender that ends at once has left its message behind
@@ -117,21 +112,13 @@ void InstanceLink::read(QLocalSocket *peer)
     const auto entry = received_.find(peer);
     if (entry == received_.end())
         return;
-    QByteArray &bytes = *entry;
-    bytes += peer->readAll();
-    if (bytes.size() < headerSize)
+    const LinkMessage::State state = entry->take(peer->readAll());
+    if (state == LinkMessage::State::Incomplete)
         return;
-    const quint32 length = qFromBigEndian<quint32>(bytes.constData());
-    if (length > largestMessage || bytes.size() > headerSize + static_cast<qsizetype>(length)) {
-        finish(peer);
-        return;
-    }
-    if (bytes.size() < headerSize + static_cast<qsizetype>(length))
-        return;
-    const QByteArray text = bytes.mid(headerSize);
+    const QString text = entry->text();
     finish(peer);
-    if (text.isValidUtf8() && !text.contains('\0'))
-        emit textReceived(QString::fromUtf8(text));
+    if (state == LinkMessage::State::Whole)
+        emit textReceived(text);
 }
 
 void InstanceLink::finish(QLocalSocket *peer)

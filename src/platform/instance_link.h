@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/link_message.h"
+
 #include <QHash>
 #include <QLocalServer>
 #include <QLockFile>
@@ -14,9 +16,7 @@ class QLocalSocket;
 /// its whole life and listens at a local socket that only this user can reach; a later start hands its
 /// command line over and ends. Which start is the first is decided by the lock alone, so that two starts in
 /// one instant never both are, and a socket left behind by a crash is replaced.
-///
-/// A message is its length as four bytes, most significant first, and as many bytes of UTF-8. Whatever else
-/// arrives is dropped.
+/// What arrives and is no LinkMessage is dropped.
 class InstanceLink : public QObject
 {
     Q_OBJECT
@@ -38,8 +38,6 @@ public:
     /// `timeoutMs`.
     bool send(const QString &text, int timeoutMs = 3000) const;
 
-    static constexpr quint32 largestMessage = 64 * 1024; ///< bytes
-
 signals:
     /// A later start has handed over this text.
     void textReceived(const QString &text);
@@ -52,6 +50,6 @@ private:
     QString address_;
     QLockFile lock_;
     QLocalServer server_;
-    QHash<QLocalSocket *, QByteArray> received_;
+    QHash<QLocalSocket *, LinkMessage> received_;
     bool first_ = true;
 };

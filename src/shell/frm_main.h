@@ -43,6 +43,8 @@ public:
     void HiddenText_Change(const QString &text);
 
     const MainControls &controls() const { return controls_; }
+    /// For whoever plays the program without a hand at the mouse.
+    Rooms &rooms() { return *rooms_; }
 
     // What menus and tools of the window itself do.
     void showOptions();

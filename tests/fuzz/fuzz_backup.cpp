@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "fuzz/targets.h"
+#include "persistence/backup_file.h"
+
+void fuzz::backup(const QByteArray &bytes)
+{
+    const std::vector<BackupRecord> records = backup_file::decode(bytes);
+    promise(records.size() <= static_cast<std::size_t>(backup_file::largestCount),
+            "no more than 2001 records");
+
+    // What was read can be written, and is then read again.
+    MyObj array;
+    for (const BackupRecord &record : records)
+        array.AddElementToMyObj(record.key, record.type, record.left, record.top, record.caption);
+    const std::vector<BackupRecord> again = backup_file::decode(backup_file::encode(array));
+    const std::size_t expected =
+        std::min(records.size() + 1, static_cast<std::size_t>(backup_file::largestCount));
+    promise(again.size() == expected, "as many records as were written");
+    for (std::size_t i = 1; i < again.size(); ++i) {
+        const BackupRecord &before = records[i - 1];
+        const BackupRecord &after = again[i];
+        promise(before.key == after.key && before.type == after.type && before.left == after.left &&
+                    before.top == after.top && before.caption == after.caption,
+                "a record is read as it was written");
+    }
+}
