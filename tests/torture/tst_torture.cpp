@@ -91,6 +91,7 @@ private:
              {"text/Hauptbausteine.Txt", "facit/Hauptbausteine.lex", "affix/prefix.afx", "affix/suffix.afx",
               "text kurz lang/langer Stammvokal.Txt", "text kurz lang/kurzer Stammvokal.Txt"})
             layFile(QString::fromLatin1(name), words);
+        QFile::copy(QStringLiteral(WORTEL_SOURCE_DIR "/data/lextip.ini"), folder_.filePath(u"lextip.ini"_s));
         SettingsFile(folder_.filePath(u"settings.ini"_s))
             .SaveSettings(u"Settings"_s, {{u"UseBackup"_s, u"1"_s},
                                           {u"NumWortel"_s, u"8"_s},
@@ -104,6 +105,9 @@ private:
     {
         QProcess player;
         player.setProcessChannelMode(QProcess::ForwardedChannels);
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"XDG_RUNTIME_DIR"_s, folder_.path());
+        player.setProcessEnvironment(environment);
         QElapsedTimer time;
         time.start();
         player.start(QCoreApplication::applicationDirPath() + u"/torture_player"_s,
@@ -118,7 +122,9 @@ private:
             while (!hasBegun() && player.state() != QProcess::NotRunning && !time.hasExpired(patienceMs))
                 player.waitForFinished(2);
             lastStartMs_ = static_cast<int>(time.elapsed());
-            QThread::usleep(random_() % 60000);
+            // Shortly behind the start the first commit is under way; later, undo and sessions come into
+            // play.
+            QThread::usleep(random_() % (random_() % 2 == 0 ? 60000 : 400000));
         }
         player.kill();
         player.waitForFinished(patienceMs);
