@@ -98,6 +98,8 @@ void Arrangement::SortMorphemeAscending(bool removeDuplicates)
 void Arrangement::SpreadAllMorpheme(bool sorted)
 {
     Procedure step{ground_.log, "SpreadAllMorpheme", form};
+    if (modes_.PlacingBusy)
+        return; // a second placement must not start: its tiles would find no place
     const Hourglass hourglass;
     const int filter = store_.filter().selected();
     step([&] {
@@ -145,6 +147,8 @@ void Arrangement::spreadTiles()
 void Arrangement::SpreadMorpheme(Colour colour)
 {
     Procedure step{ground_.log, "SpreadMorpheme", form};
+    if (modes_.PlacingBusy)
+        return;
     step([&] { store_.counters().set(0, 0); });
     rebuildBoard(ground_, canvas_, step, [&](TilePointer &tile) {
         if (tile->BGColor != colour)

@@ -156,8 +156,7 @@ BoardCommands::Ending BoardCommands::addOneWortel(const Command &, const Press &
     const BoardMeasures &window = store_.measures();
     Rnd &rnd = ground_.rnd;
     const QString stem = lists_.WortelList.at(rnd.absInt(lists_.WortelList.count()));
-    const int x = rnd.absInt(window.ScaleWidth(), -100);
-    const int y = rnd.absInt(window.ScaleHeight(), -300) + 80;
+    const auto [x, y] = places::addedWortel(rnd, window.ScaleWidth(), window.ScaleHeight());
     store_.CanvasDrawWortel(x, y, stem, colours::wortelBack, colours::wortelText);
     store_.counters().add(0, 1);
     return Ending::Whole;
@@ -178,15 +177,9 @@ std::optional<int> BoardCommands::number(const Command &command)
 {
     if (command.argument != command::presetNumber)
         return command.argument;
-    try {
-        const double value = CDbl(controls_.Text1->text());
-        if (command.does == Does::CopyTile && value < 0)
-            return 0;
-    } catch (const RuntimeError &) {
-        tell(u"Bitte schreibe eine Zahl in das Feld \"Anzahl Wortel\""_s);
-        return std::nullopt;
-    }
-    return rooms_.bulk.countInText1();
+    const std::optional<int> count = rooms_.bulk.countInText1();
+    const bool isNone = command.does == Does::CopyTile && Val(controls_.Text1->text()) < 0;
+    return count && isNone ? 0 : count;
 }
 
 BoardCommands::Ending BoardCommands::refill(const Command &command, const Press &)

@@ -16,12 +16,14 @@
 #include "platform/sound.h"
 #include "platform/text.h"
 #include "platform/word_lists.h"
+#include "widgets/dealing_tools.h"
 #include "widgets/guards.h"
 #include "widgets/main_controls.h"
 #include "widgets/press_button.h"
 
 #include <QLineEdit>
 
+#include <algorithm>
 #include <cmath>
 #include <numeric>
 
@@ -44,33 +46,15 @@ std::vector<int> countingFromOne(std::size_t count)
     return numbers;
 }
 
-/// Tools that rest while the button "Wortel" refills the board.
-class RefillSheet
+/// The number that the text is, if it is one.
+std::optional<double> typedNumber(const QString &text)
 {
-public:
-    explicit RefillSheet(const MainControls &controls)
-        : controls_(controls)
-    {
-        enable(false);
+    try {
+        return CDbl(text);
+    } catch (const RuntimeError &) {
+        return std::nullopt;
     }
-    ~RefillSheet()
-    {
-        enable(true);
-        controls_.Text1->setDisabled(controls_.Check1->isChecked());
-    }
-    RefillSheet(const RefillSheet &) = delete;
-    RefillSheet &operator=(const RefillSheet &) = delete;
-
-private:
-    void enable(bool on)
-    {
-        controls_.Check2->setEnabled(on);
-        controls_.Check1->setEnabled(on);
-        controls_.Text1->setEnabled(on);
-    }
-
-    const MainControls &controls_;
-};
+}
 
 } // namespace
 
@@ -87,12 +71,14 @@ BulkTiles::BulkTiles(Ground &ground, const MainControls &controls, const WordLis
 
 std::optional<int> BulkTiles::countInText1()
 {
-    const double number = Round(std::fabs(Val(controls_.Text1->text())));
-    if (number <= largestCount)
-        return static_cast<int>(number);
+    const std::optional<double> number = typedNumber(controls_.Text1->text());
+    const double count = Round(std::fabs(number.value_or(0)));
+    if (number && count <= largestCount)
+        return static_cast<int>(count);
     ground_.boxes.ShowInfoBox(
-        u"Diese Anzahl ist zu groß. Es dürfen höchstens %1 Wortel sein."_s.arg(largestCount), u"INFO"_s,
-        u"Wortel-Meister"_s);
+        number ? u"Diese Anzahl ist zu groß. Es dürfen höchstens %1 Wortel sein."_s.arg(largestCount)
+               : u"Bitte schreibe eine Zahl in das Feld \"Anzahl Wortel\""_s,
+        u"INFO"_s, u"Wortel-Meister"_s);
     return std::nullopt;
 }
 
@@ -146,7 +132,7 @@ void BulkTiles::Refill()
     const int filter = store_.filter().selected();
     {
         const FrozenBoard frozen(canvas_.surface());
-        if (Val(controls_.Text1->text()) != 0) {
+        if (typedNumber(controls_.Text1->text()) != 0.0) {
             step([&] { store_.counters().set(0, 0); });
             step([&] {
                 if (ground_.options.isOn(Setting::NoOverlapOnStart))
@@ -220,7 +206,7 @@ void BulkTiles::drawAffixRows()
     step([&] {
         const Options &options = ground_.options;
         if (options.isOn(Setting::FillAffix) && !options.text(Setting::NumAffixToFill).isEmpty())
-            copies = CInt(options.number(Setting::NumAffixToFill));
+            copies = std::max(0, CInt(options.number(Setting::NumAffixToFill)));
     });
     const auto drawRow = [&](const std::vector<AffixHome> &homes, const TileKind &kind) {
         for (const AffixHome &home : homes) {
@@ -248,7 +234,7 @@ void BulkTiles::selectTwice(int filter)
 void BulkTiles::Check2_LeftPress()
 {
     Procedure step{ground_.log, "Check2_MouseDown", form};
-    const RefillSheet sheet(controls_);
+    const DealingToolsRest rest(controls_);
     const Hourglass hourglass;
     step([&] { ground_.pump.yield(); });
     if (ground_.options.isOn(Setting::SoundOnActions))

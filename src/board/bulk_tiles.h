@@ -26,7 +26,8 @@ public:
     BulkTiles(Ground &ground, const MainControls &controls, const WordLists &lists, const AffixHomes &homes,
               Canvas &canvas, Placement &placement);
 
-    /// The absolute value of `Text1`, rounded. A number above 16 bits is told to the user and gives nothing.
+    /// The absolute value of `Text1`, rounded. What is no number, or one above 16 bits, is told to the user
+    /// and gives nothing.
     std::optional<int> countInText1();
 
     /// Adds random Wortel tiles, with no test for overlap.

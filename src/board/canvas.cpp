@@ -9,7 +9,6 @@
 #include "platform/modes.h"
 #include "platform/procedure.h"
 #include "platform/text.h"
-#include "widgets/alpha_panel.h"
 #include "widgets/floating_tile.h"
 #include "widgets/main_controls.h"
 #include "widgets/picture_box.h"
@@ -256,12 +255,6 @@ void Canvas::CanvasUnSelectAllWortel()
     });
     step([&] { ground_.pump.yield(); });
     step([&] { controls_.lblMove->hide(); });
-}
-
-void Canvas::blendTipPanel()
-{
-    if (!controls_.PicAlpha->isHidden())
-        controls_.PicAlpha->blend(controls_.picCanvas->image());
 }
 
 // Buttons ------------------------------------------------------------------------------------------

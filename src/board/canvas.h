@@ -52,8 +52,6 @@ public:
     void CanvasUnSelectAllWortel();
     /// Restores filter `index` and repaints the board without flicker.
     void RecallFilter(int index);
-    /// The window's size has changed: the tip panel mixes the board in again, if it is visible.
-    void blendTipPanel();
 
 public slots:
     void OptType_Click(int index);

@@ -97,11 +97,12 @@ Placement::Found Placement::searchWortel(Place &place, long long &tries, Tally &
     const BoardMeasures &measures = store_.measures();
     for (;;) {
         place = places::freeWortel(ground_.rnd, measures.ScaleWidth(), measures.ScaleHeight());
-        if (!places::checkOverlapInList(store_.tiles(), place.x, place.y, place.x + places::boxWidth,
-                                        place.y + places::boxHeight))
-            return Found::Place;
-        if (++tries == tryLimit_)
+        const bool taken = places::checkOverlapInList(
+            store_.tiles(), place.x, place.y, place.x + places::boxWidth, place.y + places::boxHeight);
+        if (++tries == tryLimit_) // a try that finds a place counts as well
             return Found::Limit;
+        if (!taken)
+            return Found::Place;
         if (tries == triesBeforeCancelIsOffered)
             controls_.Label4->show();
         if (ground_.pump.inputWaiting()) {

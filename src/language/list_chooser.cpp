@@ -12,43 +12,19 @@
 #include "platform/text.h"
 #include "platform/word_lists.h"
 #include "widgets/alpha_panel.h"
+#include "widgets/dealing_tools.h"
 #include "widgets/guards.h"
 #include "widgets/main_controls.h"
 #include "widgets/press_button.h"
 #include "widgets/store_list.h"
 
 #include <QLabel>
-#include <QLineEdit>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr int heightOverList = 40; ///< pixels between a list's upper edge and the tile laid from it
-
-/// Locks the tools that deal tiles while one of these lives.
-class ToolsLock
-{
-public:
-    explicit ToolsLock(const MainControls &controls)
-        : controls_(controls)
-    {
-        enable(false);
-    }
-    ~ToolsLock() { enable(true); }
-    ToolsLock(const ToolsLock &) = delete;
-    ToolsLock &operator=(const ToolsLock &) = delete;
-
-private:
-    void enable(bool on)
-    {
-        controls_.Check2->setEnabled(on);
-        controls_.Check1->setEnabled(on);
-        controls_.Text1->setEnabled(on);
-    }
-
-    const MainControls &controls_;
-};
 
 QString inBrackets(qsizetype count) { return u'[' + QString::number(count) + u']'; }
 
@@ -68,7 +44,7 @@ ListChooser::ListChooser(Ground &ground, const MainControls &controls, WordLists
 void ListChooser::chooseStemLists()
 {
     Procedure step{ground_.log, "Check2_MouseDown", "frmMain"};
-    const ToolsLock lock(controls_);
+    const DealingToolsRest rest(controls_);
     const Hourglass hourglass;
     QStringList paths;
     step([&] {

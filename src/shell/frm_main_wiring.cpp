@@ -4,7 +4,6 @@
 #include "shell/frm_main.h"
 
 #include "platform/ground.h"
-#include "platform/log.h"
 #include "platform/options.h"
 #include "shell/about_window.h"
 #include "shell/rooms.h"
@@ -56,10 +55,7 @@ void frmMain::wireBoard()
             whileTheyAct([&r] { r.chooser.chooseStemLists(); }));
     connect(&r.bulk, &BulkTiles::commitWanted, &r.commands, &BoardCommands::Commit);
     connect(&r.commands, &BoardCommands::commandChosen, this, &frmMain::carryOut);
-    connect(&r.morphemeLists, &MorphemeLists::menuRestoreWanted, this, [this, &r] {
-        r.menus.CreateMenus();
-        ground_.log.WriteLog(u"Event: User requested a menu-restore"_s);
-    });
+    connect(&r.morphemeLists, &MorphemeLists::menuRestoreWanted, this, [&r] { r.menus.CreateMenus(); });
     connect(controls_.Label4, &ClickLabel::clicked, this, [this] { modes_.CancelPreparing = true; });
     connect(controls_.Label2, &ClickLabel::clicked, this, &frmMain::showAbout);
     onPress(
