@@ -4,6 +4,7 @@
 #include "board/random_array.h"
 #include "board/tile_sort.h"
 #include "platform/rnd.h"
+#include "support/columns.h"
 #include "support/error_of.h"
 #include "support/registry.h"
 
@@ -51,8 +52,7 @@ class BoardRulesTest : public QObject
 private slots:
     void overlap_data()
     {
-        QTest::addColumn<QPoint>("probe");
-        QTest::addColumn<bool>("overlaps");
+        columns<QPoint, bool>("probe", "overlaps");
         // The tile lies at 100, 100 and counts as 38 by 25, one pixel wider and higher.
         QTest::newRow("same place") << QPoint(100, 100) << true;
         QTest::newRow("left, last pixel shared") << QPoint(62, 100) << true;
@@ -82,8 +82,8 @@ private slots:
     void randomPlacesStayInTheirRange_data()
     {
         using Draw = places::Place (*)(Rnd &, int, int);
-        QTest::addColumn<Draw>("draw");
-        QTest::addColumn<QRect>("range"); // both corners are reached or nearly so
+        // range: both corners are reached or nearly so
+        columns<Draw, QRect>("draw", "range");
         QTest::newRow("PlaceWortelFree")
             << Draw(places::freeWortel) << QRect(QPoint(0, 35), QPoint(532, 422));
         QTest::newRow("NoWortelCollision2")
@@ -112,9 +112,7 @@ private slots:
 
     void probeWidths_data()
     {
-        QTest::addColumn<int>("kind");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("width");
+        columns<int, QString, int>("kind", "text", "width");
         QTest::newRow("short prefix") << 1 << u"be"_s << 30;
         QTest::newRow("long prefix") << 1 << u"ver"_s << 37;
         QTest::newRow("short suffix") << 2 << u"en"_s << 29;
@@ -149,24 +147,18 @@ private slots:
                     .startsWith(u"Ich habe noch einmal probiert.\n\nIch habe jetzt 3 Morpheme ohne "));
     }
 
-    void randomArrayPermutes_data()
-    {
-        QTest::addColumn<int>("count");
-        for (const int count : {0, 1, 2, 3, 500})
-            QTest::addRow("%d", count) << count;
-    }
     void randomArrayPermutes()
     {
-        QFETCH(int, count);
-        std::vector<int> source(static_cast<std::size_t>(count));
-        std::iota(source.begin(), source.end(), 1);
-        std::vector<int> out;
-        Rnd rnd(3);
-        RandomArray(source, out, rnd);
-        if (count == 500)
-            QVERIFY(out != source);
-        std::sort(out.begin(), out.end());
-        QCOMPARE(out, source);
+        for (const std::size_t count : {0U, 1U, 2U, 500U}) {
+            std::vector<int> source(count);
+            std::iota(source.begin(), source.end(), 1);
+            std::vector<int> out;
+            Rnd rnd(3);
+            RandomArray(source, out, rnd);
+            QVERIFY(count < 500 || out != source);
+            std::sort(out.begin(), out.end());
+            QCOMPARE(out, source);
+        }
     }
     void randomArrayFavoursTheLastPlace()
     {
@@ -186,10 +178,7 @@ private slots:
 
     void sorting_data()
     {
-        QTest::addColumn<QStringList>("tiles");
-        QTest::addColumn<bool>("everyKind");
-        QTest::addColumn<bool>("removeDuplicates");
-        QTest::addColumn<QStringList>("sorted");
+        columns<QStringList, bool, bool, QStringList>("tiles", "everyKind", "removeDuplicates", "sorted");
         QTest::newRow("Wortel texts run over Wortel tiles")
             << QStringList{u"Mspiel"_s, u"Pver"_s, u"Mfahr"_s, u"Sung"_s, u"Mhalt"_s} << false << false
             << QStringList{u"Mfahr"_s, u"Pver"_s, u"Mhalt"_s, u"Sung"_s, u"Mspiel"_s};

@@ -3,6 +3,7 @@
 #include "board/commands.h"
 #include "board/menu_model.h"
 #include "platform/files.h"
+#include "support/columns.h"
 #include "support/registry.h"
 #include "support/test_hand.h"
 
@@ -64,44 +65,31 @@ private slots:
         QCOMPARE(tableIds(From::Key), (QSet<int>{1, 2, 4, 5, 6, 8, 9, 10}));
     }
 
-    void everyRow_data()
+    /// On an empty board a command that needs tiles says so and does nothing else.
+    void emptyBoard()
     {
-        QTest::addColumn<int>("row");
-        const auto table = command::table();
-        for (std::size_t i = 0; i < table.size(); ++i)
-            QTest::addRow("%d/%d", static_cast<int>(table[i].from), table[i].id) << static_cast<int>(i);
-    }
-    void everyRow()
-    {
-        QFETCH(int, row);
-        const command::Command &command = command::table()[static_cast<std::size_t>(row)];
-        QCOMPARE(command.missing != nullptr, command.needs != Needs::Nothing);
-        QCOMPARE(command.question != nullptr, command.asks != Asks::Nothing);
-        QVERIFY(command.does < command::Does::Count);
-        QCOMPARE(command::find(command.from, command.id), &command);
-
-        // On an empty board a command that needs tiles says so and does nothing else.
-        if (command.needs == Needs::Nothing)
-            return;
-        TestHand hand;
-        hand.t.boxes.willBeRead();
-        hand.run(command.from, command.id);
-        QVERIFY(hand.t.ok());
-        QCOMPARE(hand.t.boxes.asked.first().text, QString::fromUtf16(command.missing));
-        QCOMPARE(hand.t.boxes.asked.first().style, u"INFO"_s);
-        QCOMPARE(hand.t.boxes.asked.first().title, u"Wortel-Meister"_s);
-        QCOMPARE(hand.commits + hand.backups, 0);
-        QVERIFY(hand.t.sound.resources.isEmpty());
+        for (const command::Command &command : command::table()) {
+            QCOMPARE(command.missing != nullptr, command.needs != Needs::Nothing);
+            QCOMPARE(command.question != nullptr, command.asks != Asks::Nothing);
+            QCOMPARE(command::find(command.from, command.id), &command);
+            if (command.needs == Needs::Nothing)
+                continue;
+            TestHand hand;
+            hand.t.boxes.willBeRead();
+            hand.run(command.from, command.id);
+            QVERIFY(hand.t.ok());
+            const Question &told = hand.t.boxes.asked.first();
+            QCOMPARE(told.text, QString::fromUtf16(command.missing));
+            QCOMPARE(told.style + told.title, u"INFOWortel-Meister"_s);
+            QVERIFY(hand.commits + hand.backups == 0 && hand.t.sound.resources.isEmpty());
+        }
     }
 
     void commandsOnTheBoard_data()
     {
-        QTest::addColumn<From>("from");
-        QTest::addColumn<int>("id");
-        QTest::addColumn<QPoint>("point");
-        QTest::addColumn<QString>("counters"); ///< Wortel, prefix, suffix, all
-        QTest::addColumn<int>("commits");
-        QTest::addColumn<QList<int>>("sounds");
+        // counters: Wortel, prefix, suffix, all
+        columns<From, int, QPoint, QString, int, QList<int>>("from", "id", "point", "counters", "commits",
+                                                             "sounds");
 
         const QPoint onWortel(110, 110);
         const QPoint onPrefix(110, 210);
@@ -169,90 +157,67 @@ private slots:
         QTEST(hand.t.sound.resources, "sounds");
     }
 
-    /// A refusal and an empty entry leave the board alone.
-    void refused_data()
-    {
-        QTest::addColumn<From>("from");
-        QTest::addColumn<int>("id");
-        for (const int id : {234, 104, 304, 240, 241, 1503})
-            QTest::addRow("main %d", id) << From::MainMenu << id;
-        QTest::newRow("remove tile") << From::TileMenu << 105;
-        QTest::newRow("edit") << From::TileMenu << 104;
-        QTest::newRow("insert") << From::MainMenu << 204;
-        QTest::newRow("Ctrl+E") << From::Key << 5;
-    }
-    void refused()
-    {
-        QFETCH(From, from);
-        QFETCH(int, id);
-        TestHand hand;
-        layBoard(hand);
-        const QStringList before = hand.described();
-        const auto does = command::find(from, id)->does;
-        if (does == command::Does::EditTile || does == command::Does::Insert)
-            hand.t.boxes.willType({});
-        else
-            hand.t.boxes.willPress(1);
-        hand.run(from, id, {110, 110});
-        QVERIFY(hand.t.ok());
-        QCOMPARE(hand.described(), before);
-        QVERIFY(hand.countersEqualTiles());
-        QCOMPARE(hand.commits + hand.backups, 0);
-        QVERIFY(hand.t.sound.resources.isEmpty());
-    }
-
     void questions_data()
     {
-        QTest::addColumn<From>("from");
-        QTest::addColumn<int>("id");
-        QTest::addColumn<QPoint>("point");
-        QTest::addColumn<QString>("title");
-        QTest::addColumn<QString>("style");
-        QTest::addColumn<bool>("savedBySetting");
-        QTest::newRow("prefix") << From::TileMenu << 105 << QPoint(110, 210) << u"Entfernen"_s << u"PREFIX"_s
-                                << true;
-        QTest::newRow("suffix") << From::TileMenu << 105 << QPoint(110, 310) << u"Entfernen"_s << u"SUFFIX"_s
-                                << true;
-        QTest::newRow("all Wortel") << From::MainMenu << 234 << QPoint() << u"Entfernen"_s << u"WORTEL"_s
-                                    << true;
-        QTest::newRow("everything") << From::MainMenu << 1503 << QPoint() << u"Bestätigen"_s << u"CONFIRM"_s
-                                    << true;
-        QTest::newRow("replace") << From::MainMenu << 240 << QPoint() << u"Bestätigen"_s << u"CONFIRM"_s
-                                 << false;
+        // y: of the press
+        // saved: by the setting
+        columns<From, int, int, QString, QString, bool>("from", "id", "y", "title", "style", "saved");
+        const auto tile = From::TileMenu;
+        const auto main = From::MainMenu;
+        const QString remove = u"Entfernen"_s;
+        const QString confirm = u"Bestätigen"_s;
+        QTest::newRow("prefix") << tile << 105 << 210 << remove << u"PREFIX"_s << true;
+        QTest::newRow("Wortel") << tile << 105 << 110 << remove << u"WORTEL"_s << true;
+        QTest::newRow("suffix") << tile << 105 << 310 << remove << u"SUFFIX"_s << true;
+        QTest::newRow("all prefixes") << main << 104 << 0 << remove << u"PREFIX"_s << true;
+        QTest::newRow("all Wortel") << main << 234 << 0 << remove << u"WORTEL"_s << true;
+        QTest::newRow("all suffixes") << main << 304 << 0 << remove << u"SUFFIX"_s << true;
+        QTest::newRow("everything") << main << 1503 << 0 << confirm << u"CONFIRM"_s << true;
+        QTest::newRow("replace") << main << 240 << 0 << confirm << u"CONFIRM"_s << false;
+        QTest::newRow("spread") << main << 241 << 0 << confirm << u"CONFIRM"_s << false;
+        QTest::newRow("Ctrl+E") << From::Key << 5 << 0 << confirm << u"CONFIRM"_s << false;
+        QTest::newRow("edit") << tile << 104 << 110 << u"Wortel: Bearbeiten"_s << QString() << false;
+        QTest::newRow("insert") << main << 103 << 400 << u"Präfix: Einfügen"_s << QString() << false;
     }
+    /// A refusal and an empty entry leave the board alone; a question that the setting saves is a Yes.
     void questions()
     {
         QFETCH(From, from);
         QFETCH(int, id);
-        QFETCH(QPoint, point);
-        QFETCH(bool, savedBySetting);
-        {
-            TestHand hand;
-            layBoard(hand);
-            hand.t.boxes.willPress(0);
-            hand.run(from, id, point);
-            QTEST(hand.t.boxes.asked.first().title, "title");
-            QTEST(hand.t.boxes.asked.first().style, "style");
-            QCOMPARE(hand.t.boxes.asked.first().code, 3);
-        }
+        QFETCH(int, y);
+        QFETCH(QString, style);
+        QFETCH(bool, saved);
         TestHand hand;
         layBoard(hand);
+        const QStringList before = hand.described();
+        if (style.isEmpty())
+            hand.t.boxes.willType({});
+        else
+            hand.t.boxes.willPress(1);
+        hand.run(from, id, {110, y});
+        QVERIFY(hand.t.ok());
+        QTEST(hand.t.boxes.asked.first().title, "title");
+        if (!style.isEmpty()) {
+            QCOMPARE(hand.t.boxes.asked.first().style, style);
+            QCOMPARE(hand.t.boxes.asked.first().code, 3);
+        }
+        QCOMPARE(hand.described(), before);
+        QVERIFY(hand.countersEqualTiles());
+        QVERIFY(hand.commits + hand.backups == 0 && hand.t.sound.resources.isEmpty());
+        if (!saved)
+            return;
         hand.t.options.setBox(Setting::ConfirmBeforeErase, 0);
         hand.t.options.setBox(Setting::SoundOnActions, 0);
-        if (!savedBySetting)
-            hand.t.boxes.willPress(0);
-        hand.run(from, id, point);
+        hand.run(from, id, {110, y});
         QVERIFY(hand.t.ok());
-        QVERIFY(hand.commits == 1 || !savedBySetting);
-        QVERIFY(hand.t.sound.resources.isEmpty());
+        QVERIFY(hand.store->count() < before.size());
+        QVERIFY(hand.commits == 1 && hand.t.sound.resources.isEmpty());
     }
 
     void presetNumber_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<bool>("told"); ///< a notice asks for a number, or for a smaller one
-        QTest::addColumn<int>("copies");
-        QTest::addColumn<int>("added");
+        // told: a notice asks for a number, or for a smaller one
+        columns<QString, bool, int, int>("text", "told", "copies", "added");
         QTest::newRow("number") << u"3"_s << false << 3 << 3;
         QTest::newRow("rounded to even") << u"2.5"_s << false << 2 << 2;
         QTest::newRow("negative") << u"-5"_s << false << 0 << 5;
@@ -267,34 +232,14 @@ private slots:
         TestHand hand;
         layBoard(hand);
         hand.controls.Text1->setText(text);
-        if (told)
+        for (int notices = told ? 3 : 0; notices > 0; --notices)
             hand.t.boxes.willBeRead();
         hand.run(From::TileMenu, 123, {110, 210});
         QTEST(hand.optTypes->value(1) - 2, "copies");
-        if (told)
-            hand.t.boxes.willBeRead();
         hand.run(From::MainMenu, 223);
         QTEST(hand.optTypes->value(0) - 3, "added");
-        // Refilling by a number that is none must not empty the board.
-        if (told) {
-            hand.t.boxes.willBeRead();
-            hand.run(From::MainMenu, 213);
-            QVERIFY(hand.store->count() >= 6);
-        }
-        QVERIFY(hand.t.ok());
-    }
-
-    void otherRooms()
-    {
-        TestHand hand;
-        QList<int> expected;
-        for (const command::Command &row : command::table())
-            if (row.does == command::Does::OtherRoom && row.from == From::MainMenu) {
-                hand.run(row.from, row.id);
-                expected << row.id;
-            }
-        QCOMPARE(hand.chosen, expected);
-        QCOMPARE(hand.commits, 0);
+        hand.run(From::MainMenu, 213);
+        QVERIFY(!told || hand.store->count() == 6); // what is no number must not empty the board
         QVERIFY(hand.t.ok());
     }
 
@@ -327,21 +272,18 @@ private slots:
     void filterComesBack()
     {
         TestHand hand;
-        layBoard(hand);
         hand.optTypes->select(1);
         hand.t.boxes.willType(u"ent"_s);
         hand.run(From::MainMenu, 103);
         QCOMPARE(hand.optTypes->selected(), 1);
         hand.run(From::MainMenu, 1003);
         QCOMPARE(hand.optTypes->selected(), 3);
-        QCOMPARE(hand.chosen, QList<int>{1003});
     }
 
     /// A tile that the filter hides lies first in the store: the shown one is meant.
     void hiddenTileUnderThePointer_data()
     {
-        QTest::addColumn<int>("id");
-        QTest::addColumn<QStringList>("left");
+        columns<int, QStringList>("id", "left");
         QTest::newRow("remove") << 105 << QStringList{u"fahr"_s};
         QTest::newRow("edit") << 104 << QStringList{u"fahr"_s, u"zer"_s};
         QTest::newRow("capitals") << 106 << QStringList{u"fahr"_s, u"Ver"_s};

@@ -3,6 +3,7 @@
 #include "board/menu_model.h"
 #include "board/menu_table.h"
 #include "board/popup_menu.h"
+#include "support/columns.h"
 #include "support/registry.h"
 
 #include <QDir>
@@ -83,9 +84,7 @@ class MenusTest : public QObject
 private slots:
     void everyRow_data()
     {
-        QTest::addColumn<int>("name");
-        QTest::addColumn<int>("commands");
-        QTest::addColumn<QString>("firstCaption");
+        columns<int, int, QString>("name", "commands", "firstCaption");
         QTest::newRow("main") << 0 << 94 << u"Hauptmenü"_s;
         QTest::newRow("prefix") << 1 << 12 << u"Präfix"_s;
         QTest::newRow("wortel") << 2 << 12 << u"Wortel"_s;
@@ -124,33 +123,16 @@ private slots:
         QCOMPARE(ids.size(), commands);
     }
 
-    void submenusBearTheirName()
-    {
-        std::vector<const MenuItem *> all;
-        const MenuTree tree = buildMenu(MenuName::MainMenu, {});
-        flatten(tree, all);
-        for (const MenuItem *item : all)
-            if (item->kind == Kind::Submenu && item->caption != u"S p i e l e"_s) {
-                QCOMPARE(item->children.front().kind, Kind::Heading);
-                QCOMPARE(item->children.front().caption, item->caption);
-            }
-    }
-
     void dictionaryHintNamesItsButton()
     {
-        MenuFacts facts;
-        facts.dictionaryButton = u"Suchen"_s;
-        const MenuTree tree = buildMenu(MenuName::MainMenu, facts);
+        const MenuTree tree = buildMenu(MenuName::MainMenu, {{}, true, u"Suchen"_s});
         QCOMPARE(itemWithId(tree, 401).hint, u"Linksklick auf Suchen"_s);
         QCOMPARE(itemWithId(tree, 402).hint, u"Rechtsklick auf Suchen"_s);
     }
 
     void modeTurnsBranchesOff_data()
     {
-        QTest::addColumn<bool>("game");
-        QTest::addColumn<bool>("retype");
-        QTest::addColumn<bool>("undo");
-        QTest::addColumn<QStringList>("off");
+        columns<bool, bool, bool, QStringList>("game", "retype", "undo", "off");
         const QStringList both{u"Wörterbuch"_s, u"Wörterliste"_s, u"Optionen"_s};
         QTest::newRow("nothing runs") << false << false << true << QStringList();
         QTest::newRow("game") << true << false << true << both + QStringList{u"Abschreiben"_s};
@@ -183,9 +165,7 @@ private slots:
 
     void openingSubmenu_data()
     {
-        QTest::addColumn<QString>("caption");
-        QTest::addColumn<Modes>("modes");
-        QTest::addColumn<QString>("expected");
+        columns<QString, Modes, QString>("caption", "modes", "expected");
 
         const QString retype = u"Abschreiben"_s;
         Modes dictionary = retyping(&Modes::RetypeRandomWords);
@@ -240,89 +220,46 @@ private slots:
         QCOMPARE(states(itemNamed(model.Restore(MenuName::MainMenu), caption).children), expected);
     }
 
-    void gamesThatAreOff()
+    void otherSubmenusStay()
     {
-        const MenuTree tree = buildMenu(MenuName::MainMenu, {inGame(), true, noButton});
+        MenuModel model([] { return MenuFacts{inGame(), true, noButton}; });
+        model.CreateMenus();
+        const MenuTree &tree = model.Restore(MenuName::MainMenu);
+        QVERIFY(!model.CP_InitPopupMenu(itemNamed(tree, u"Hilfe"_s).index));
+        QVERIFY(!model.CP_InitPopupMenu(9999));
+        QCOMPARE(model.ItemKey(MenuName::MainMenu, 9999), 0);
+        // Of the games in a game only "Paarlon" may still be chosen.
         const MenuTree &games = itemNamed(tree, u"S p i e l e"_s).children;
-        QVERIFY(itemNamed(games, u"Paarlon"_s).enabled);
         QCOMPARE(states(itemNamed(games, u"Paarlon"_s).children), u"150+ 250+ 350+"_s);
-        QVERIFY(!itemNamed(games, u"Tonarin"_s).enabled);
         QCOMPARE(states(itemNamed(games, u"Tonarin"_s).children), u"1702- 1703-"_s);
     }
 
-    void otherSubmenusStay()
+    void chosenWithKeysOrMouse()
     {
-        MenuModel model([] { return MenuFacts{}; });
-        model.CreateMenus();
-        QVERIFY(!model.CP_InitPopupMenu(itemNamed(model.Restore(MenuName::MainMenu), u"Hilfe"_s).index));
-        QVERIFY(!model.CP_InitPopupMenu(0));
-        QVERIFY(!model.CP_InitPopupMenu(9999));
-        QCOMPARE(model.ItemKey(MenuName::MainMenu, 9999), 0);
-    }
-
-    /// Every command of a tree can be reached in the popup, and its item index leads back to its id.
-    void popupShowsTheTree()
-    {
-        MenuModel model([] { return MenuFacts{}; });
-        model.CreateMenus();
-        PopupMenu popup(model, nullptr);
-        for (int name = 0; name < menuCount; ++name) {
-            const auto which = static_cast<MenuName>(name);
-            const std::unique_ptr<QMenu> menu = popup.makeMenu(which);
-            std::vector<const MenuItem *> all;
-            flatten(model.Restore(which), all);
-            QList<QAction *> actions;
-            QList<QMenu *> open{menu.get()};
-            while (!open.isEmpty())
-                for (QAction *action : open.takeFirst()->actions()) {
-                    actions << action;
-                    if (action->menu() != nullptr)
-                        open << action->menu();
-                }
-            QCOMPARE(actions.size(), static_cast<qsizetype>(all.size()));
-            for (const QAction *action : actions) {
-                if (action->isSeparator() || action->menu() != nullptr)
-                    continue;
-                const MenuItem *item = model.itemAt(which, action->data().toInt());
-                QVERIFY(item != nullptr);
-                QCOMPARE(action->text().section(u'\t', 0, 0), item->caption);
-                QCOMPARE(action->text().section(u'\t', 1), item->hint);
-            }
-        }
-    }
-
-    void chosenWithKeysAndMouse_data()
-    {
-        QTest::addColumn<bool>("mouse");
-        QTest::newRow("keys") << false;
-        QTest::newRow("mouse") << true;
-    }
-    void chosenWithKeysAndMouse()
-    {
-        QFETCH(bool, mouse);
         MenuModel model([] { return MenuFacts{}; });
         model.CreateMenus();
         QWidget owner;
         owner.show();
         PopupMenu popup(model, &owner);
-        QTimer::singleShot(50, &owner, [mouse] {
-            auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-            QVERIFY(menu != nullptr);
-            QAction *edit = nullptr;
-            for (QAction *action : menu->actions())
-                if (action->text() == u"Bearbeiten"_s)
-                    edit = action;
-            if (mouse) {
-                QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(edit).center());
-                return;
-            }
-            while (menu->activeAction() != edit)
-                QTest::keyClick(menu, Qt::Key_Down);
-            QTest::keyClick(menu, Qt::Key_Return);
-        });
-        const int index = popup.ShowPopupMenu(MenuName::SuffixMenu, QPoint(10, 10));
-        QCOMPARE(model.ItemKey(MenuName::SuffixMenu, index), 104);
-
+        for (const bool mouse : {false, true}) {
+            QTimer::singleShot(50, &owner, [mouse] {
+                auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+                QVERIFY(menu != nullptr);
+                QAction *edit = nullptr;
+                for (QAction *action : menu->actions())
+                    if (action->text() == u"Bearbeiten"_s)
+                        edit = action;
+                if (mouse) {
+                    QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(edit).center());
+                    return;
+                }
+                while (menu->activeAction() != edit)
+                    QTest::keyClick(menu, Qt::Key_Down);
+                QTest::keyClick(menu, Qt::Key_Return);
+            });
+            const int index = popup.ShowPopupMenu(MenuName::SuffixMenu, QPoint(10, 10));
+            QCOMPARE(model.ItemKey(MenuName::SuffixMenu, index), 104);
+        }
         QTimer::singleShot(50, &owner,
                            [] { QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape); });
         QCOMPARE(popup.ShowPopupMenu(MenuName::MainMenu, QPoint(10, 10)), 0);

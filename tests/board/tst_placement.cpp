@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "board/places.h"
+#include "support/columns.h"
 #include "support/registry.h"
 #include "support/test_board.h"
 #include "widgets/click_label.h"
@@ -30,8 +31,7 @@ class PlacementTest : public QObject
 private slots:
     void limitFollowsTheSetting_data()
     {
-        QTest::addColumn<QString>("setting");
-        QTest::addColumn<int>("limit");
+        columns<QString, int>("setting", "limit");
         QTest::newRow("3") << u"3"_s << 3000;
         QTest::newRow("0") << u"0"_s << 0;
         QTest::newRow("no number is repaired") << u"abc"_s << 1000000;
@@ -101,15 +101,17 @@ private slots:
         b.placement->PlaceWortelFree(3);
         b.placement->NoWortelCollision2(1, u"x"_s);
         QVERIFY(!b.placement->MorphemeCollision(1, u"x"_s, prefix.back, prefix.text));
-        QCOMPARE(b.store->count(), 1);
+        b.arrangement->SpreadMorpheme(wortel.back);
+        b.arrangement->SpreadAllMorpheme(false);
+        QCOMPARE(b.described(), QStringList{u"0,0 a"_s});
+        QCOMPARE(b.optTypes->value(0), 1);
         QVERIFY(b.modes.PlacingBusy);
     }
 
     void atTheLimitItAsks_data()
     {
         using Answer = Boxes::Answer;
-        QTest::addColumn<Answer>("answer");
-        QTest::addColumn<bool>("givenUp");
+        columns<Answer, bool>("answer", "givenUp");
         QTest::newRow("no") << Answer::No << true;
         QTest::newRow("cancel") << Answer::Cancel << true;
         QTest::newRow("yes, then the X") << Answer::Yes << true;
@@ -191,10 +193,7 @@ private slots:
 
     void liningUp_data()
     {
-        QTest::addColumn<QString>("columns");
-        QTest::addColumn<bool>("sort");
-        QTest::addColumn<bool>("removeDuplicates");
-        QTest::addColumn<QStringList>("tiles");
+        columns<QString, bool, bool, QStringList>("columns", "sort", "removeDuplicates", "tiles");
         QTest::newRow("two columns, sorted")
             << u"2"_s << true << false
             << QStringList{u"0,50 a"_s, u"7,7 ver"_s, u"60,50 b"_s, u"0,80 c"_s, u"60,80 c"_s};
@@ -232,7 +231,6 @@ private slots:
         TestBoard b;
         for (int i = 0; i < 20; ++i)
             b.lay(wortel, 0, 0, u"a"_s);
-        b.t.options.setText(Setting::ColumnsOnLineUp, u"1"_s);
         b.t.options.setText(Setting::VertSpaceOnLineUp, u"30000"_s);
         b.t.options.setText(Setting::StartPosTopOnLineUp, u"9999999"_s);
         b.arrangement->LineUpWorteles(false, false);

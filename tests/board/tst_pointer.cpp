@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/files.h"
+#include "support/columns.h"
 #include "support/registry.h"
 #include "support/test_hand.h"
 #include "widgets/alpha_panel.h"
@@ -80,8 +81,7 @@ private slots:
 
     void limitsOfMoving_data()
     {
-        QTest::addColumn<QPoint>("to");
-        QTest::addColumn<QPoint>("expected");
+        columns<QPoint, QPoint>("to", "expected");
         QTest::newRow("left of the board") << QPoint(-40, 60) << QPoint(0, 60);
         QTest::newRow("above the board") << QPoint(60, -3) << QPoint(60, 0);
         QTest::newRow("last column") << QPoint(602, 60) << QPoint(602, 60);
@@ -104,9 +104,7 @@ private slots:
 
     void backupAfterAMove_data()
     {
-        QTest::addColumn<QString>("useBackup");
-        QTest::addColumn<bool>("onTile");
-        QTest::addColumn<int>("backups");
+        columns<QString, bool, int>("useBackup", "onTile", "backups");
         QTest::newRow("moved") << u"1"_s << true << 1;
         QTest::newRow("setting off") << u"0"_s << true << 0;
         QTest::newRow("empty spot") << u"1"_s << false << 0;
@@ -159,9 +157,8 @@ private slots:
 
     void insertingWithShiftKeys_data()
     {
-        QTest::addColumn<Qt::KeyboardModifiers>("shift");
-        QTest::addColumn<int>("filter");
-        QTest::addColumn<int>("kind"); ///< index of the inserted kind, -1 for none
+        // kind: index of the inserted kind, -1 for none
+        columns<Qt::KeyboardModifiers, int, int>("shift", "filter", "kind");
         const Qt::KeyboardModifiers shift = Qt::ShiftModifier;
         const Qt::KeyboardModifiers ctrl = Qt::ControlModifier;
         const Qt::KeyboardModifiers alt = Qt::AltModifier;
@@ -201,10 +198,7 @@ private slots:
 
     void rightPress_data()
     {
-        QTest::addColumn<QPoint>("point");
-        QTest::addColumn<Qt::KeyboardModifiers>("shift");
-        QTest::addColumn<QStringList>("tiles");
-        QTest::addColumn<int>("commits");
+        columns<QPoint, Qt::KeyboardModifiers, QStringList, int>("point", "shift", "tiles", "commits");
         const QStringList before{u"100,100 fahr"_s};
         QTest::newRow("shift on a tile") << QPoint(110, 110) << Qt::KeyboardModifiers(Qt::ShiftModifier)
                                          << before + QStringList{u"130,110 fahr"_s} << 1;
@@ -233,9 +227,7 @@ private slots:
 
     void menuUnderThePointer_data()
     {
-        QTest::addColumn<QPoint>("point");
-        QTest::addColumn<int>("filter");
-        QTest::addColumn<int>("menu");
+        columns<QPoint, int, int>("point", "filter", "menu");
         QTest::newRow("prefix") << QPoint(110, 110) << 3 << static_cast<int>(MenuName::PrefixMenu);
         QTest::newRow("Wortel") << QPoint(210, 110) << 3 << static_cast<int>(MenuName::WortelMenu);
         QTest::newRow("suffix") << QPoint(310, 110) << 2 << static_cast<int>(MenuName::SuffixMenu);
@@ -276,16 +268,6 @@ private slots:
         QVERIFY(hand.t.ok());
     }
 
-    void rightPressLetsAHeldTileGo()
-    {
-        TestHand hand;
-        hand.lay(wortel, 100, 100, u"fahr"_s);
-        hand.press({110, 110});
-        hand.press({110, 110}, right);
-        QVERIFY(hand.controls.BtnMove1->isHidden());
-        QVERIFY(!hand.store->tiles().front()->Selected);
-    }
-
     void staleStopEndsWithTheNextPress()
     {
         TestHand hand;
@@ -300,15 +282,14 @@ private slots:
         hand.modes.StopPlacing = true; // asked to stop while a tile is held
         hand.release({110, 110});
         QVERIFY(!hand.controls.BtnMove1->isHidden());
-        hand.press({400, 400});
+        hand.press({400, 400}, right); // any press lets it go
         QVERIFY(hand.controls.BtnMove1->isHidden());
+        QVERIFY(!hand.store->tiles().front()->Selected);
     }
 
     void wordCheckDrag_data()
     {
-        QTest::addColumn<int>("soundOnTimeOut");
-        QTest::addColumn<int>("filter");
-        QTest::addColumn<QList<int>>("sounds");
+        columns<int, int, QList<int>>("soundOnTimeOut", "filter", "sounds");
         QTest::newRow("with sound") << 1 << 3 << QList<int>{107};
         QTest::newRow("silent, filtered") << 0 << 0 << QList<int>();
     }
@@ -348,28 +329,24 @@ private slots:
         QCOMPARE(hand.t.sound.resources, sounds + sounds); // once for each drop
     }
 
-    void dropElsewhereDropsNothing_data()
-    {
-        QTest::addColumn<bool>("escape");
-        QTest::newRow("released over the board") << false;
-        QTest::newRow("Esc over the field") << true;
-    }
     void dropElsewhereDropsNothing()
     {
-        QFETCH(bool, escape);
-        ShownHand hand;
-        hand.lay(wortel, 100, 100, u"fahr"_s);
-        hand.controls.Option1[0]->setChecked(true);
-        hand.press({110, 110});
-        hand.drag(escape ? hand.fieldOnBoard() : QPoint(300, 200));
-        if (escape)
-            hand.key(Qt::Key_Escape);
-        hand.release(escape ? hand.fieldOnBoard() : QPoint(300, 200));
-        QCOMPARE(hand.controls.Dropper1->Caption(), QString());
-        QVERIFY(!hand.controls.Dropper1->isHighlighted());
-        QVERIFY(hand.controls.BtnMove1->isHidden());
-        QCOMPARE(hand.described(), QStringList{u"100,100 fahr"_s});
-        QCOMPARE(hand.backups, 0);
+        for (const bool escape : {false, true}) {
+            ShownHand hand;
+            hand.lay(wortel, 100, 100, u"fahr"_s);
+            hand.controls.Option1[0]->setChecked(true);
+            const QPoint end = escape ? hand.fieldOnBoard() : QPoint(300, 200);
+            hand.press({110, 110});
+            hand.drag(end);
+            if (escape)
+                hand.key(Qt::Key_Escape);
+            hand.release(end);
+            QCOMPARE(hand.controls.Dropper1->Caption(), QString());
+            QVERIFY(!hand.controls.Dropper1->isHighlighted());
+            QVERIFY(hand.controls.BtnMove1->isHidden());
+            QCOMPARE(hand.described(), QStringList{u"100,100 fahr"_s});
+            QCOMPARE(hand.backups, 0);
+        }
     }
 
     void fingerDragsAndLongPressIsTheRightButton()
@@ -397,11 +374,8 @@ private slots:
 
     void keysOfTheBoard_data()
     {
-        QTest::addColumn<Qt::Key>("code");
-        QTest::addColumn<Qt::KeyboardModifiers>("shift");
-        QTest::addColumn<bool>("inField");
-        QTest::addColumn<int>("commits");
-        QTest::addColumn<QList<int>>("chosen");
+        columns<Qt::Key, Qt::KeyboardModifiers, bool, int, QList<int>>("code", "shift", "inField", "commits",
+                                                                       "chosen");
         const Qt::KeyboardModifiers ctrl = Qt::ControlModifier;
         const QList<int> none;
         QTest::newRow("Ctrl+A") << Qt::Key_A << ctrl << false << 1 << none;
@@ -442,10 +416,8 @@ private slots:
 
     void escapeAsksWhileWordsArePrepared_data()
     {
-        QTest::addColumn<bool>("retype");
-        QTest::addColumn<bool>("inField");
-        QTest::addColumn<int>("answer"); ///< -1: no question
-        QTest::addColumn<bool>("stops");
+        // answer: -1: no question
+        columns<bool, bool, int, bool>("retype", "inField", "answer", "stops");
         QTest::newRow("yes") << true << false << 0 << true;
         QTest::newRow("no") << true << false << 1 << false;
         QTest::newRow("in the field") << true << true << -1 << false;

@@ -296,7 +296,7 @@ private slots:
         QStringList now = player.objects();
         for (const QString &object : objects)
             now.removeOne(object);
-        QCOMPARE(now.join(u' '), QString()); // nothing was made and left behind
+        QCOMPARE(now.join(u' '), QString());       // nothing was made and left behind
         QVERIFY(player.hand.commits > steps / 20); // it did play
     }
 };

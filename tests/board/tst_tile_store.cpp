@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/columns.h"
 #include "support/error_of.h"
 #include "support/registry.h"
 #include "support/test_board.h"
@@ -45,10 +46,7 @@ class TileStoreTest : public QObject
 private slots:
     void drawsInOrder_data()
     {
-        QTest::addColumn<bool>("selected");
-        QTest::addColumn<bool>("monochrome");
-        QTest::addColumn<int>("extent");
-        QTest::addColumn<QStringList>("calls");
+        columns<bool, bool, int, QStringList>("selected", "monochrome", "extent", "calls");
         QTest::newRow("lying") << false << false << 40
                                << QStringList{u"F 3 7 43 32 00ffff"_s, u"O 3 7 43 32 ffffff"_s,
                                               u"T 5 12 ver ff0000"_s};
@@ -79,8 +77,7 @@ private slots:
 
     void edgesAreOutside_data()
     {
-        QTest::addColumn<QPoint>("point");
-        QTest::addColumn<bool>("inside");
+        columns<QPoint, bool>("point", "inside");
         QTest::newRow("left edge") << QPoint(10, 30) << false;
         QTest::newRow("beside left edge") << QPoint(11, 30) << true;
         QTest::newRow("right edge") << QPoint(50, 30) << false;
@@ -132,8 +129,7 @@ private slots:
 
     void widthIsThatOfTheTextPlusTen_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("measured");
+        columns<QString, QString>("text", "measured");
         QTest::newRow("word") << u"Haus"_s << u"Haus"_s;
         QTest::newRow("empty") << QString() << QString();
         QTest::newRow("line ends and tabs are blanks") << u"a\r\nb\tc"_s << u"a  b c"_s;
@@ -166,9 +162,7 @@ private slots:
 
     void eraseByText_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QStringList>("left");
-        QTest::addColumn<QString>("counter");
+        columns<QString, QStringList, QString>("text", "left", "counter");
         QTest::newRow("first match, case ignored") << u"HAUS"_s << QStringList{u"ver"_s, u"haus"_s} << u"1"_s;
         QTest::newRow("no match") << u"Baum"_s << QStringList{u"Haus"_s, u"ver"_s, u"haus"_s} << u"2"_s;
         QTest::newRow("another kind counts as Wortel")
@@ -188,9 +182,7 @@ private slots:
 
     void copies_data()
     {
-        QTest::addColumn<int>("x");
-        QTest::addColumn<int>("count");
-        QTest::addColumn<QStringList>("tiles");
+        columns<int, int, QStringList>("x", "count", "tiles");
         const QStringList three{u"42,9 a"_s, u"84,9 a"_s, u"126,9 a"_s};
         QTest::newRow("three") << 0 << 3 << three;
         QTest::newRow("none") << 0 << 0 << QStringList{};
@@ -207,16 +199,6 @@ private slots:
         b.store->DuplicateObject2(suffix.back, u"a"_s, count, x, 9);
         QCOMPARE(b.described(), tiles);
         QCOMPARE(b.optTypes->value(2), static_cast<int>(tiles.size()));
-    }
-
-    void oneCopyAndNoneOfAnUnknownKind()
-    {
-        TestBoard b;
-        b.store->DuplicateObject(prefix.back, u"be"_s, 30, 40);
-        b.store->DuplicateObject(colours::board, u"be"_s, 30, 40);
-        b.store->DuplicateObject2(colours::board, u"be"_s, 2, 30, 40);
-        QCOMPARE(b.described(), QStringList{u"50,40 be"_s});
-        QCOMPARE(b.counters().at(1), u"1"_s);
     }
 
     void totalOverflowsAtSixteenBits()

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "dialogs/message_box.h"
 #include "dialogs/real_boxes.h"
+#include "support/columns.h"
 #include "support/registry.h"
 #include "widgets/press_button.h"
 
@@ -67,8 +68,7 @@ private slots:
 
     void questionButtons_data()
     {
-        QTest::addColumn<int>("code");
-        QTest::addColumn<QStringList>("captions");
+        columns<int, QStringList>("code", "captions");
         QTest::newRow("0") << 0 << QStringList{u"OK"_s};
         QTest::newRow("3") << 3 << QStringList{u"OK"_s, u"Abbrechen"_s};
         QTest::newRow("4") << 4 << QStringList{u"Yes"_s, u"No"_s};
@@ -113,9 +113,7 @@ private slots:
 
     void keys_data()
     {
-        QTest::addColumn<QString>("kind");
-        QTest::addColumn<Qt::Key>("key");
-        QTest::addColumn<QString>("answer");
+        columns<QString, Qt::Key, QString>("kind", "key", "answer");
         QTest::newRow("question, Enter") << u"MBox"_s << Qt::Key_Return << u"0"_s;
         QTest::newRow("question, keypad Enter") << u"MBox"_s << Qt::Key_Enter << u"0"_s;
         QTest::newRow("question, Esc") << u"MBox"_s << Qt::Key_Escape << u"1"_s;
@@ -156,25 +154,20 @@ private slots:
         QCOMPARE(answer, 1);
     }
 
-    void noticeClosesByItsSign_data()
-    {
-        QTest::addColumn<QString>("style");
-        QTest::addColumn<QString>("sign");
-        QTest::newRow("smiley") << u"SMILEY"_s << u"Image1"_s;
-        QTest::newRow("write") << u"WRITE"_s << u"Image2"_s;
-        QTest::newRow("info") << u"INFO"_s << u"Image3"_s;
-    }
     void noticeClosesByItsSign()
     {
-        QFETCH(QString, style);
-        QFETCH(QString, sign);
-        const int answer = answered([&] { return boxes_.ShowInfoBox(u"Die Liste ist leer"_s, style, {}); },
-                                    [&](QWidget *box) {
-                                        QCOMPARE(box->findChildren<PressButton *>().size(), 1);
-                                        QVERIFY(buttonOf(box, sign) != nullptr);
-                                        QTest::mouseClick(buttonOf(box, sign), Qt::LeftButton);
-                                    });
-        QCOMPARE(answer, 0);
+        for (const auto &[style, sign] :
+             {std::pair{u"SMILEY"_s, u"Image1"_s}, std::pair{u"WRITE"_s, u"Image2"_s},
+              std::pair{u"INFO"_s, u"Image3"_s}}) {
+            const auto press = [name = sign](QWidget *box) {
+                QCOMPARE(box->findChildren<PressButton *>().size(), 1);
+                QVERIFY(buttonOf(box, name) != nullptr);
+                QTest::mouseClick(buttonOf(box, name), Qt::LeftButton);
+            };
+            const QString kind = style;
+            QCOMPARE(answered([&] { return boxes_.ShowInfoBox(u"Die Liste ist leer"_s, kind, {}); }, press),
+                     0);
+        }
     }
 
     void typedTextComesBack()
@@ -198,8 +191,7 @@ private slots:
 
     void coloursOfStyles_data()
     {
-        QTest::addColumn<QString>("style");
-        QTest::addColumn<QColor>("window");
+        columns<QString, QColor>("style", "window");
         QTest::newRow("PREFIX") << u"PREFIX"_s << QColor(255, 255, 0);
         QTest::newRow("WORTEL") << u"WORTEL"_s << QColor(255, 0, 0);
         QTest::newRow("SUFFIX") << u"SUFFIX"_s << QColor(0, 0, 255);
@@ -221,7 +213,6 @@ private slots:
 
     void growsWithItsText()
     {
-        int low = 0;
         const auto heightOf = [&](const QString &text) {
             int height = 0;
             answered([&] { return boxes_.ShowMBox(text, true, 3, {}, u"CONFIRM"_s); },
@@ -232,7 +223,7 @@ private slots:
                      });
             return height;
         };
-        low = heightOf(u"eins"_s);
+        const int low = heightOf(u"eins"_s);
         QVERIFY(heightOf(u"eins\nzwei\r\ndrei\rvier"_s) >= low + 3 * 18);
     }
 
@@ -308,9 +299,8 @@ private slots:
 
     void plainBoxHasGermanButtons_data()
     {
-        QTest::addColumn<Boxes::Buttons>("buttons");
-        QTest::addColumn<QString>("press"); ///< empty: Esc
-        QTest::addColumn<Boxes::Answer>("answer");
+        // press: empty: Esc
+        columns<Boxes::Buttons, QString, Boxes::Answer>("buttons", "press", "answer");
         QTest::newRow("OK") << Boxes::Buttons::Ok << u"OK"_s << Boxes::Answer::Ok;
         QTest::newRow("OK, Esc") << Boxes::Buttons::Ok << QString() << Boxes::Answer::Ok;
         QTest::newRow("Ja") << Boxes::Buttons::YesNo << u"Ja"_s << Boxes::Answer::Yes;

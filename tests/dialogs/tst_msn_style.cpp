@@ -78,25 +78,19 @@ private slots:
         QVERIFY(desk.controls.Command2->isEnabled() && desk.controls.Command4->isEnabled());
     }
 
-    void aRunningGameKeepsItsButtons()
+    void aRunningGameKeepsItsButtonsAndSilenceItsPeace()
     {
         Desk desk;
         desk.modes.GameActive = true;
+        desk.t.options.setBox(Setting::UseSounds, 0);
         desk.controls.Command3->setEnabled(false);
         desk.controls.Command4->setEnabled(true);
         desk.report(0);
+        QVERIFY(desk.t.sound.resources.isEmpty());
         QVERIFY(desk.controls.Command4->isEnabled());
         QTRY_VERIFY(!desk.row(1)->isVisible());
         QVERIFY(!desk.controls.Command3->isEnabled());
         QVERIFY(desk.controls.Command2->isEnabled());
-    }
-
-    void silentWhereSoundsAreOff()
-    {
-        Desk desk;
-        desk.t.options.setBox(Setting::UseSounds, 0);
-        desk.report(0);
-        QVERIFY(desk.t.sound.resources.isEmpty());
     }
 
     void fiveInARowReuseTheFirstSlot()
