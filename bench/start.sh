@@ -29,7 +29,7 @@ sample() {
     "$@" >/dev/null 2>&1 &
     local game=$! ticks=0 peak=0
     for _ in $(seq 200); do
-        [ -n "$(xdotool search --onlyvisible --pid "$game" --name "$title" 2>/dev/null)" ] && break
+        [ -n "$(xdotool search --all --onlyvisible --pid "$game" --name "$title" 2>/dev/null)" ] && break
         sleep 0.05
     done
     sleep "$settle"
@@ -47,7 +47,7 @@ best() { # best <name> <settle> <command...>: least processor time and least mem
 read -r other_cpu other_memory < <(best 'anagram' 0.3 kanagram)
 read -r own_cpu own_memory < <(best '^Wortel-Meister [0-9]' 0.3 "$program")
 awk -v c="$own_cpu" -v oc="$other_cpu" -v m="$own_memory" -v om="$other_memory" '
-    function row(name, ratio, limit) { printf "%-58s %7.2f  limit %5.2f%s\n", name, ratio, limit, ratio > limit ? "  over" : ""; return ratio > limit }
+    function row(name, ratio, limit) { printf "%-58s %7.2f  limit %5.2f%s\n", name, ratio, limit, (ratio > limit) ? "  over" : ""; return ratio > limit }
     BEGIN {
         over = row(sprintf("start: processor time (%.2f s to %.2f s)", c, oc), c / oc, 0.35)
         over += row(sprintf("start: peak memory (%.0f MB to %.0f MB)", m / 1024, om / 1024), m / om, 0.45)
