@@ -9,4 +9,7 @@ preset=${1:-dev}
 install_missing "${build_packages[@]}" "${display_packages[@]}"
 build_preset "$preset"
 cd "build/$preset"
-exec ctest --output-on-failure -j2
+status=0
+ctest --output-on-failure -j2 || status=$?
+grep -ho '[0-9]* runs killed.*' Testing/Temporary/LastTest.log || true
+exit "$status"
