@@ -54,6 +54,7 @@ frmMain::frmMain(Ground &ground, const StartFacts &facts)
     : ground_(ground)
     , facts_(facts)
     , controls_(makeMainControls(this))
+    , help_(ground.AppFolder, this)
 {
     setObjectName(u"frmMain"_s);
     setWindowTitle(u"Wortel-Meister"_s);

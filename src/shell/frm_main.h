@@ -4,6 +4,7 @@
 
 #include "platform/modes.h"
 #include "platform/word_lists.h"
+#include "shell/help.h"
 #include "widgets/main_controls.h"
 
 #include <QWidget>
@@ -88,6 +89,7 @@ private:
     WordLists lists_;
     MainControls controls_;
     std::unique_ptr<Rooms> rooms_;
+    Help help_;
     QString hiddenText_;
     bool cmdLineReady_ = false;
     bool activated_ = false;

@@ -149,7 +149,7 @@ void frmMain::showAbout()
     rooms_->optTypes.select(TileFilter::all);
 }
 
-void frmMain::showHelp() {}
+void frmMain::showHelp() { help_.open(); }
 
 bool frmMain::eventFilter(QObject *watched, QEvent *event)
 {

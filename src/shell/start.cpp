@@ -31,24 +31,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Looks alike on every desktop; tiles are measured in this font, in pixels whatever the screen's dpi.
-void dressApplication(QApplication &application)
-{
-    QCoreApplication::setApplicationName(u"Wortel-Meister"_s);
-    QCoreApplication::setApplicationVersion(
-        u"%1.%2.%3"_s.arg(version::major).arg(version::minor).arg(version::revision));
-    QGuiApplication::setDesktopFileName(u"wortel-meister"_s);
-    QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
-    QFont font(u"Liberation Sans"_s);
-    font.setPixelSize(11);
-    QApplication::setFont(font);
-    QApplication::setWindowIcon(QIcon(u":/icons/wortel-meister.svg"_s));
-    // Qt's own words (file dialogs, standard buttons) in German, whatever the desktop's language is.
-    auto *german = new QTranslator(&application);
-    if (german->load(u"qtbase_de"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(german);
-}
-
 QString findAppFolder()
 {
     const QString program = QCoreApplication::applicationDirPath();
@@ -91,6 +73,24 @@ int StartApplication(QApplication &application, RealGround &real, InstanceLink &
 }
 
 } // namespace
+
+// Looks alike on every desktop; tiles are measured in this font, in pixels whatever the screen's dpi.
+void dressApplication(QApplication &application)
+{
+    QCoreApplication::setApplicationName(u"Wortel-Meister"_s);
+    QCoreApplication::setApplicationVersion(
+        u"%1.%2.%3"_s.arg(version::major).arg(version::minor).arg(version::revision));
+    QGuiApplication::setDesktopFileName(u"wortel-meister"_s);
+    QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
+    QFont font(u"Liberation Sans"_s);
+    font.setPixelSize(11);
+    QApplication::setFont(font);
+    QApplication::setWindowIcon(QIcon(u":/icons/wortel-meister.svg"_s));
+    // Qt's own words (file dialogs, standard buttons) in German, whatever the desktop's language is.
+    auto *german = new QTranslator(&application);
+    if (german->load(u"qtbase_de"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(german);
+}
 
 QString commandLineText(const QStringList &arguments)
 {
