@@ -75,6 +75,7 @@ HelpWindow::HelpWindow(const QString &folder, QWidget *owner)
     connect(contents_, &QTreeWidget::itemClicked, this,
             [this](const QTreeWidgetItem *item) { followContents(item); });
     connect(browser_, &QTextBrowser::sourceChanged, this, &HelpWindow::markPage);
+    connect(browser_, &QTextBrowser::sourceChanged, searchState_, &QLabel::clear);
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
 
     if (pages_.pages().isEmpty())
@@ -176,6 +177,7 @@ void HelpWindow::makeSearch()
     searchBox_->setToolTip(u"Wort eingeben und die Eingabetaste drücken (Strg+F)"_s);
     searchState_->setObjectName(u"searchState"_s);
     searchState_->setTextFormat(Qt::PlainText);
+    searchState_->setStyleSheet(u"color: #a00000; font-weight: bold"_s);
     connect(searchBox_, &QLineEdit::textChanged, searchState_, &QLabel::clear);
     connect(searchBox_, &QLineEdit::returnPressed, this, [this] { searchOn(false); });
     connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this, [this] {

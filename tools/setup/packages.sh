@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Sourced by run.sh, test.sh and bench.sh: installs the Debian packages that are missing, and builds a preset.
 
-build_packages=(g++ cmake ninja-build qt6-base-dev qt6-base-dev-tools libqt6svg6-dev qt6-multimedia-dev libgl1-mesa-dev
+build_packages=(g++ cmake ninja-build qt6-base-dev qt6-base-dev-tools qt6-svg-dev qt6-multimedia-dev libgl1-mesa-dev
                 fonts-liberation qt6-translations-l10n)
 display_packages=(xvfb xauth imagemagick xdotool openbox)
 
