@@ -64,6 +64,8 @@ BoxWindow::BoxWindow(const boxstyle::Colours &colours, const QString &title, con
     setWindowTitle(title.simplified().left(200));
     setModal(true);
     setFocusPolicy(Qt::StrongFocus);
+    if (owner == nullptr) // at the start: the splash would cover it
+        setWindowFlag(Qt::WindowStaysOnTopHint);
 
     Label3_->setObjectName(QStringLiteral("Label3"));
     Label3_->setTextFormat(Qt::PlainText);

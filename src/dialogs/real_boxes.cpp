@@ -106,7 +106,8 @@ QWidget *RealBoxes::owner() const
 {
     if (QWidget *modal = QApplication::activeModalWidget())
         return modal;
-    if (QWidget *active = QApplication::activeWindow(); active != nullptr && active->isVisible())
+    QWidget *active = QApplication::activeWindow();
+    if (active != nullptr && active->isVisible() && active->windowType() != Qt::SplashScreen)
         return active;
     return mainWindow_ != nullptr && mainWindow_->isVisible() ? mainWindow_.data() : nullptr;
 }
@@ -115,6 +116,8 @@ Boxes::Answer RealBoxes::plainBox(Icon icon, const QString &title, const QString
 {
     QWidget *const parent = owner();
     QMessageBox box(parent);
+    if (parent == nullptr) // at the start: the splash would cover it
+        box.setWindowFlag(Qt::WindowStaysOnTopHint);
     box.setTextFormat(Qt::PlainText);
     box.setIcon(plainIcon(icon));
     box.setWindowTitle(titleOr(title).simplified().left(60));

@@ -297,6 +297,20 @@ private slots:
                  });
     }
 
+    void aBoxAtTheStartStandsOverTheSplash()
+    {
+        Boxes &boxes = boxes_;
+        QWidget splash(nullptr, Qt::SplashScreen | Qt::WindowStaysOnTopHint);
+        splash.show();
+        splash.activateWindow();
+        const auto check = [](QWidget *box) {
+            QVERIFY(box->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+            pressKey(box, Qt::Key_Escape);
+        };
+        answered([&] { return boxes_.ShowMBox(u"?"_s, true, 3, {}, u"CONFIRM"_s); }, check);
+        answered([&] { return int(boxes.plainBox(Boxes::Icon::Critical, {}, u"fehlt"_s)); }, check);
+    }
+
     void plainBoxHasGermanButtons_data()
     {
         // press: empty: Esc
