@@ -36,12 +36,16 @@ constexpr int controlText = 13; ///< pixels
 constexpr int textStep = 2;     ///< pixels by which the text grows or shrinks
 constexpr int frameRoom = 40;   ///< pixels for the window's own frame and title bar
 
+// A window system keeps a dialog, and only a dialog, above the window that it belongs to.
+constexpr Qt::WindowFlags windowKind = Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                                       Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint;
+
 constexpr int addressRole = Qt::UserRole;
 
 } // namespace
 
 HelpWindow::HelpWindow(const QString &folder, QWidget *owner)
-    : QWidget(owner, Qt::Window)
+    : QWidget(owner, windowKind)
     , pages_(folder)
     , browser_(new HelpBrowser(pages_, this))
     , contents_(new QTreeWidget(this))

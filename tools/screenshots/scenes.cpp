@@ -200,6 +200,7 @@ void scenes::options(Stage &stage)
                           qFatal("The options have not opened.");
                       // Where the data lie on this machine says nothing to a reader.
                       dialog->findChild<QLineEdit *>(u"Text2"_s)->setText(u"text\\Hauptbausteine.Txt"_s);
+                      Stage::play(300);
                       stage.keep(u"optionen"_s, *dialog, pageWidth);
                       dialog->findChild<QPushButton *>(u"cmdCancel"_s)->click();
                   });
