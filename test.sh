@@ -9,7 +9,9 @@ preset=${1:-dev}
 install_missing "${build_packages[@]}" "${display_packages[@]}"
 build_preset "$preset"
 cd "build/$preset"
+mkdir -p Testing
 status=0
-ctest --output-on-failure -j2 || status=$?
+ctest --output-on-failure -j2 | tee Testing/ctest.log || status=$?
 grep -ho '[0-9]* runs killed.*' Testing/Temporary/LastTest.log || true
+grep 'tests passed' Testing/ctest.log
 exit "$status"
