@@ -13,6 +13,7 @@
 #include "platform/sound.h"
 #include "platform/text.h"
 #include "widgets/dropper.h"
+#include "widgets/finger.h"
 #include "widgets/floating_tile.h"
 #include "widgets/main_controls.h"
 #include "widgets/picture_box.h"
@@ -20,7 +21,6 @@
 
 #include <QLabel>
 #include <QMouseEvent>
-#include <QPointingDevice>
 
 #include <algorithm>
 
@@ -37,13 +37,6 @@ constexpr int prefix = 1;
 constexpr int suffix = 2;
 
 constexpr auto shiftKeys = Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier;
-
-bool isFinger(const QMouseEvent &event)
-{
-    return event.pointingDevice()->type() == QInputDevice::DeviceType::TouchScreen ||
-           event.source() == Qt::MouseEventSynthesizedByQt ||
-           event.source() == Qt::MouseEventSynthesizedBySystem;
-}
 
 MenuName menuOf(const TileKind *kind)
 {
@@ -74,7 +67,7 @@ BoardPointer::BoardPointer(Ground &ground, const MainControls &controls, Modes &
     , longPress_(this)
 {
     longPress_.setSingleShot(true);
-    longPress_.setInterval(longPressTime);
+    longPress_.setInterval(finger::longPressTime);
     connect(&longPress_, &QTimer::timeout, this, &BoardPointer::onLongPress);
     connect(controls.picCanvas, &PictureBox::mouseDown, this, &BoardPointer::onMouseDown);
     connect(controls.picCanvas, &PictureBox::mouseMoved, this, &BoardPointer::onMouseMoved);
@@ -93,7 +86,7 @@ void BoardPointer::onMouseDown(QMouseEvent *event)
 {
     longPress_.stop();
     const QPoint point = event->position().toPoint();
-    const bool waits = event->button() == Qt::LeftButton && isFinger(*event);
+    const bool waits = event->button() == Qt::LeftButton && finger::isBehind(*event);
     if (waits)
         longPress_.start();
     picCanvas_MouseDown(event->button(), event->modifiers(), point);

@@ -27,7 +27,6 @@ class BoardPointer : public QObject
     Q_OBJECT
 
 public:
-    static constexpr int longPressTime = 600; ///< milliseconds
     /// How near a tile may come to the right edge and to the lower edge of the window, in pixels.
     static constexpr int rightMargin = 30;
     static constexpr int lowerMargin = 80;

@@ -37,6 +37,8 @@ QMessageBox::Icon plainIcon(Boxes::Icon icon)
     return QMessageBox::NoIcon;
 }
 
+constexpr int letterSize = 15; ///< pixels
+
 struct PlainButton
 {
     Boxes::Answer answer;
@@ -70,8 +72,8 @@ std::pair<const PlainButton *, const PlainButton *> plainButtons(Boxes::Buttons 
 
 QString textForPlainBox(const QString &text)
 {
-    constexpr int longestWord = 50;
-    constexpr int longestLine = 70; ///< about what the box shows in one line
+    constexpr int longestWord = 40;
+    constexpr int longestLine = 60; ///< about what the box shows in one line
     constexpr int mostLines = 12;
     constexpr int tabColumns = 16;
     const QString ellipsis(QChar(0x2026));
@@ -118,6 +120,9 @@ Boxes::Answer RealBoxes::plainBox(Icon icon, const QString &title, const QString
     QMessageBox box(parent);
     if (parent == nullptr) // at the start: the splash would cover it
         box.setWindowFlag(Qt::WindowStaysOnTopHint);
+    QFont letters = box.font();
+    letters.setPixelSize(letterSize);
+    box.setFont(letters);
     box.setTextFormat(Qt::PlainText);
     box.setIcon(plainIcon(icon));
     box.setWindowTitle(titleOr(title).simplified().left(60));

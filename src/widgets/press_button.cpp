@@ -2,11 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "widgets/press_button.h"
 
+#include "widgets/finger.h"
+
 #include <QLinearGradient>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
-#include <QPointingDevice>
 #include <QTimer>
 
 #include <algorithm>
@@ -23,13 +24,6 @@ constexpr double cornerRadius = 6;
 constexpr int margin = 3; ///< pixels round the face, for shadow and checked frame
 constexpr int gap = 4;    ///< pixels between icon and text
 constexpr int touchSize = 34;
-
-bool isFromFinger(const QMouseEvent &event)
-{
-    return event.source() == Qt::MouseEventSynthesizedBySystem ||
-           event.source() == Qt::MouseEventSynthesizedByQt ||
-           event.pointerType() == QPointingDevice::PointerType::Finger;
-}
 
 } // namespace
 
@@ -51,7 +45,7 @@ PressButton::PressButton(QWidget *parent)
     setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     setAttribute(Qt::WA_Hover);
     longPress_->setSingleShot(true);
-    longPress_->setInterval(longPressTime);
+    longPress_->setInterval(finger::longPressTime);
     connect(longPress_, &QTimer::timeout, this, &PressButton::onLongPress);
 }
 
@@ -177,7 +171,7 @@ void PressButton::mousePressEvent(QMouseEvent *event)
         emit mouseDown(Qt::RightButton, event->modifiers());
         return;
     }
-    if (event->button() == Qt::LeftButton && isFromFinger(*event))
+    if (event->button() == Qt::LeftButton && finger::isBehind(*event))
         longPress_->start();
     QToolButton::mousePressEvent(event);
 }

@@ -14,8 +14,6 @@ class PressButton : public QToolButton
     Q_OBJECT
 
 public:
-    static constexpr int longPressTime = 700; ///< milliseconds that a finger rests for the right button
-
     explicit PressButton(QWidget *parent = nullptr);
 
     /// The face in a colour of its own (a kind's colour, a running game's); invalid for the normal face.
