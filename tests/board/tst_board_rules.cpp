@@ -127,13 +127,8 @@ private slots:
         QTEST(places::probeWidth(tileKinds.at(static_cast<std::size_t>(kind)).back, text), "width");
     }
 
-    void lineUpPlaces()
+    void lineUpPlacesBeyondTheNumbers()
     {
-        QCOMPARE(places::GetLeft(0, 5, 100), 0);
-        QCOMPARE(places::GetLeft(4, 5, 100), 400);
-        QCOMPARE(places::GetLeft(5, 5, 100), 0);
-        QCOMPARE(places::GetTop(4, 5, 30), 0);
-        QCOMPARE(places::GetTop(5, 5, 30), 30);
         QCOMPARE(errorOf([] { places::GetLeft(1, 0, 100); }), int(RuntimeError::DivisionByZero));
         QCOMPARE(errorOf([] { places::GetTop(32000, 2, 100); }), int(RuntimeError::Overflow));
     }

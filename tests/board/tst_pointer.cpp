@@ -6,6 +6,7 @@
 #include "support/test_hand.h"
 #include "widgets/alpha_panel.h"
 #include "widgets/dropper.h"
+#include "widgets/finger.h"
 #include "widgets/floating_tile.h"
 #include "widgets/store_list.h"
 
@@ -361,7 +362,7 @@ private slots:
         QTest::touchEvent(board, screen.get()).move(1, {200, 220});
         QTest::touchEvent(board, screen.get()).release(1, {200, 220});
         QCOMPARE(hand.described(), QStringList{u"200,220 fahr"_s});
-        QTest::qWait(BoardPointer::longPressTime + 100);
+        QTest::qWait(finger::longPressTime + 100);
         QCOMPARE(hand.popup.shown, 0);
 
         QTest::touchEvent(board, screen.get()).press(1, {210, 230});

@@ -97,17 +97,16 @@ private slots:
 
     void releaseBesideTheButtonIsNoAnswer()
     {
-        const int answer = answered([&] { return boxes_.ShowMBox(u"?"_s, true, 3, {}, u"WORTEL"_s); },
-                                    [](QWidget *box) {
-                                        PressButton *button = buttonOf(box, u"But1(0)"_s);
-                                        QTest::mousePress(button, Qt::LeftButton);
-                                        QVERIFY(button->isDown());
-                                        QTest::mouseMove(button, QPoint(-30, -30));
-                                        QTest::mouseRelease(button, Qt::LeftButton, {}, QPoint(-30, -30));
-                                        QVERIFY(!button->isDown());
-                                        QVERIFY(box->isVisible());
-                                        pressKey(box, Qt::Key_Escape);
-                                    });
+        const int answer = question([](QWidget *box) {
+            PressButton *button = buttonOf(box, u"But1(0)"_s);
+            QTest::mousePress(button, Qt::LeftButton);
+            QVERIFY(button->isDown());
+            QTest::mouseMove(button, QPoint(-30, -30));
+            QTest::mouseRelease(button, Qt::LeftButton, {}, QPoint(-30, -30));
+            QVERIFY(!button->isDown());
+            QVERIFY(box->isVisible());
+            pressKey(box, Qt::Key_Escape);
+        });
         QCOMPARE(answer, 1);
     }
 
@@ -143,14 +142,12 @@ private slots:
 
     void heldEnterIsNoAnswer()
     {
-        const int answer =
-            answered([&] { return boxes_.ShowMBox(u"?"_s, true, 3, {}, u"CONFIRM"_s); },
-                     [](QWidget *box) {
-                         QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, u"\r"_s, true);
-                         QApplication::sendEvent(box, &held);
-                         QVERIFY(box->isVisible());
-                         pressKey(box, Qt::Key_Escape);
-                     });
+        const int answer = question([](QWidget *box) {
+            QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, u"\r"_s, true);
+            QApplication::sendEvent(box, &held);
+            QVERIFY(box->isVisible());
+            pressKey(box, Qt::Key_Escape);
+        });
         QCOMPARE(answer, 1);
     }
 
@@ -189,38 +186,33 @@ private slots:
                  u"fahr"_s);
     }
 
-    void coloursOfStyles_data()
-    {
-        columns<QString, QColor>("style", "window");
-        QTest::newRow("PREFIX") << u"PREFIX"_s << QColor(255, 255, 0);
-        QTest::newRow("WORTEL") << u"WORTEL"_s << QColor(255, 0, 0);
-        QTest::newRow("SUFFIX") << u"SUFFIX"_s << QColor(0, 0, 255);
-        QTest::newRow("HISCORE") << u"HISCORE"_s << QColor(255, 255, 255);
-        QTest::newRow("unknown") << u"prefix"_s << QColor(0xF0, 0xF0, 0xF0);
-    }
     void coloursOfStyles()
     {
-        QFETCH(QString, style);
-        QFETCH(QColor, window);
-        answered([&] { return boxes_.ShowMBox(u"Frage"_s, true, 3, u"Titel"_s, style); },
-                 [&](QWidget *box) {
-                     const QImage picture = box->grab().toImage();
-                     QCOMPARE(picture.pixelColor(8, picture.height() - 8), window); // beside the buttons
-                     QCOMPARE(picture.pixelColor(picture.width() / 2, 6), window);  // the strip
-                     pressKey(box, Qt::Key_Escape);
-                 });
+        for (const auto &[style, colour] :
+             {std::pair{u"PREFIX"_s, QColor(255, 255, 0)}, std::pair{u"WORTEL"_s, QColor(255, 0, 0)},
+              std::pair{u"SUFFIX"_s, QColor(0, 0, 255)}, std::pair{u"HISCORE"_s, QColor(255, 255, 255)},
+              std::pair{u"prefix"_s, QColor(0xF0, 0xF0, 0xF0)}}) {
+            const auto look = [window = colour](QWidget *box) {
+                const QImage picture = box->grab().toImage();
+                QCOMPARE(picture.pixelColor(8, picture.height() - 8), window); // beside the buttons
+                QCOMPARE(picture.pixelColor(picture.width() / 2, 6), window);  // the strip
+                pressKey(box, Qt::Key_Escape);
+            };
+            question(look, u"Frage"_s, style);
+        }
     }
 
     void growsWithItsText()
     {
         const auto heightOf = [&](const QString &text) {
             int height = 0;
-            answered([&] { return boxes_.ShowMBox(text, true, 3, {}, u"CONFIRM"_s); },
-                     [&](QWidget *box) {
-                         height = box->height();
-                         QVERIFY(!box->findChild<QScrollArea *>()->verticalScrollBar()->isVisible());
-                         pressKey(box, Qt::Key_Escape);
-                     });
+            question(
+                [&](QWidget *box) {
+                    height = box->height();
+                    QVERIFY(!box->findChild<QScrollArea *>()->verticalScrollBar()->isVisible());
+                    pressKey(box, Qt::Key_Escape);
+                },
+                text);
             return height;
         };
         const int low = heightOf(u"eins"_s);
@@ -276,25 +268,23 @@ private slots:
 
     void movesByItsTitle()
     {
-        answered([&] { return boxes_.ShowMBox(u"?"_s, true, 3, {}, u"CONFIRM"_s); },
-                 [](QWidget *box) {
-                     auto *strip = box->findChild<QLabel *>(u"Label3"_s);
-                     const QPoint before = box->pos();
-                     const QPoint grip(10, 10);
-                     const QPoint start = strip->mapToGlobal(grip);
-                     QTest::mousePress(strip, Qt::LeftButton, {}, grip);
-                     const auto drag = [&](const QPoint &by) {
-                         QMouseEvent move(QEvent::MouseMove, grip, start + by, Qt::NoButton, Qt::LeftButton,
-                                          {});
-                         QApplication::sendEvent(strip, &move);
-                     };
-                     drag({40, 25});
-                     QCOMPARE(box->pos(), before + QPoint(40, 25));
-                     drag({100000, 100000});
-                     QVERIFY(box->screen()->availableGeometry().contains(box->geometry()));
-                     QTest::mouseRelease(strip, Qt::LeftButton, {}, grip);
-                     pressKey(box, Qt::Key_Escape);
-                 });
+        question([](QWidget *box) {
+            auto *strip = box->findChild<QLabel *>(u"Label3"_s);
+            const QPoint before = box->pos();
+            const QPoint grip(10, 10);
+            const QPoint start = strip->mapToGlobal(grip);
+            QTest::mousePress(strip, Qt::LeftButton, {}, grip);
+            const auto drag = [&](const QPoint &by) {
+                QMouseEvent move(QEvent::MouseMove, grip, start + by, Qt::NoButton, Qt::LeftButton, {});
+                QApplication::sendEvent(strip, &move);
+            };
+            drag({40, 25});
+            QCOMPARE(box->pos(), before + QPoint(40, 25));
+            drag({100000, 100000});
+            QVERIFY(box->screen()->availableGeometry().contains(box->geometry()));
+            QTest::mouseRelease(strip, Qt::LeftButton, {}, grip);
+            pressKey(box, Qt::Key_Escape);
+        });
     }
 
     void aBoxAtTheStartStandsOverTheSplash()
@@ -307,7 +297,7 @@ private slots:
             QVERIFY(box->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
             pressKey(box, Qt::Key_Escape);
         };
-        answered([&] { return boxes_.ShowMBox(u"?"_s, true, 3, {}, u"CONFIRM"_s); }, check);
+        question(check);
         answered([&] { return int(boxes.plainBox(Boxes::Icon::Critical, {}, u"fehlt"_s)); }, check);
     }
 
@@ -345,6 +335,13 @@ private slots:
     }
 
 private:
+    /// Asks with two buttons and lets `act` answer.
+    int question(const std::function<void(QWidget *)> &act, const QString &text = u"?"_s,
+                 const QString &style = u"CONFIRM"_s)
+    {
+        return answered([&] { return boxes_.ShowMBox(text, true, 3, {}, style); }, act);
+    }
+
     RealBoxes boxes_;
 };
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/registry.h"
+#include "widgets/finger.h"
 #include "widgets/press_button.h"
 
 #include <QPointingDevice>
@@ -91,7 +92,7 @@ private slots:
     {
         Bench bench(true);
         bench.touch(QEvent::MouseButtonPress);
-        QTest::qWait(PressButton::longPressTime + 150);
+        QTest::qWait(finger::longPressTime + 150);
         QCOMPARE(bench.told, QStringList{u"right"_s});
         bench.touch(QEvent::MouseButtonRelease);
         QCOMPARE(bench.told.size(), 1);
@@ -106,7 +107,7 @@ private slots:
     {
         Bench bench;
         QTest::mousePress(&bench.button, Qt::LeftButton);
-        QTest::qWait(PressButton::longPressTime + 150);
+        QTest::qWait(finger::longPressTime + 150);
         QVERIFY(bench.told.isEmpty());
         QTest::mouseRelease(&bench.button, Qt::LeftButton);
         QCOMPARE(bench.told, QStringList{u"left"_s});
