@@ -15,6 +15,7 @@
 #include "widgets/dropper.h"
 #include "widgets/finger.h"
 #include "widgets/floating_tile.h"
+#include "widgets/gradient.h"
 #include "widgets/main_controls.h"
 #include "widgets/picture_box.h"
 #include "widgets/press_button.h"
@@ -199,14 +200,16 @@ void BoardPointer::picCanvas_MouseMove(Qt::MouseButtons buttons, const QPoint &p
     const int x = std::max(0, point.x());
     const int y = std::max(0, point.y());
     const BoardMeasures &window = store_.measures();
-    if (x > window.ScaleWidth() - rightMargin || y > window.ScaleHeight() - lowerMargin)
+    FloatingTile &held = *controls_.BtnMove1;
+    // Under the band a tile could never be taken again, so it ends above it, however high the band is.
+    const int lowest = std::min(window.ScaleHeight() - lowerMargin, controls_.Picture1->y() - held.height());
+    if (x > window.ScaleWidth() - rightMargin || y > lowest)
         return;
     cWortel *tile = store_.current();
     if (tile == nullptr || !modes_.MoveAllowed)
         return;
     if (ground_.options.isOn(Setting::MoveableInFilter) && !store_.filter().shows(tile->BGColor))
         return;
-    FloatingTile &held = *controls_.BtnMove1;
     held.move(x, y);
     tile->setXLeft(held.x());
     tile->setYTop(held.y());

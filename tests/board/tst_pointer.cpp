@@ -87,8 +87,8 @@ private slots:
         QTest::newRow("above the board") << QPoint(60, -3) << QPoint(60, 0);
         QTest::newRow("last column") << QPoint(602, 60) << QPoint(602, 60);
         QTest::newRow("past the right margin") << QPoint(603, 60) << QPoint(100, 100);
-        QTest::newRow("last row") << QPoint(60, 493) << QPoint(60, 493);
-        QTest::newRow("into the band") << QPoint(60, 494) << QPoint(100, 100);
+        QTest::newRow("last row") << QPoint(60, 459) << QPoint(60, 459);
+        QTest::newRow("into the band") << QPoint(60, 460) << QPoint(100, 100);
     }
     void limitsOfMoving()
     {
