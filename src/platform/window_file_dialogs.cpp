@@ -32,8 +32,10 @@ QString startFolder(const QString &stored)
 }
 
 /// A dialog's common ways. The name filters are as patterns, which the label shows already.
-void prepare(QFileDialog &dialog, const QString &title, const QString &folder, const QString &filter)
+void prepare(QFileDialog &dialog, QFileDialog::AcceptMode mode, const QString &title, const QString &folder,
+             const QString &filter)
 {
+    dialog.setAcceptMode(mode); // first: it makes the buttons anew, and their words would be lost
     dialog.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::HideNameFilterDetails);
     dialog.setWindowTitle(title);
     dialog.setDirectory(startFolder(folder));
@@ -74,8 +76,7 @@ QStringList WindowFileDialogs::openFiles(const QString &title, const QString &fo
                                          bool multiple)
 {
     QFileDialog dialog(QApplication::activeWindow());
-    prepare(dialog, title, folder, filter);
-    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    prepare(dialog, QFileDialog::AcceptOpen, title, folder, filter);
     dialog.setFileMode(multiple ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile);
     dialog.setLabelText(QFileDialog::Accept, u"Öffnen"_s);
     if (dialog.exec() != QDialog::Accepted)
@@ -91,9 +92,8 @@ QString WindowFileDialogs::saveFile(const QString &title, const QString &folder,
                                     const QString &suffix, const QString &suggestedName)
 {
     QFileDialog dialog(QApplication::activeWindow());
-    prepare(dialog, title, folder, filter);
+    prepare(dialog, QFileDialog::AcceptSave, title, folder, filter);
     dialog.setOption(QFileDialog::DontConfirmOverwrite); // asked below, in German
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setLabelText(QFileDialog::Accept, u"Speichern"_s);
     dialog.setDefaultSuffix(suffix.startsWith(u'.') ? suffix.mid(1) : suffix);
