@@ -75,6 +75,26 @@ void Desktop::makePortableCopy()
     }
 }
 
+void Desktop::setSetting(const QString &key, const QString &value)
+{
+    const QString folder = home() + u"/.config/Wortel-Meister"_s;
+    QDir().mkpath(folder);
+    QFile file(folder + u"/settings.ini"_s);
+    if (!file.open(QIODevice::Append))
+        return;
+    if (file.size() == 0)
+        file.write("[Settings]\n");
+    file.write((key + u'=' + value + u'\n').toUtf8());
+}
+
+QString Desktop::writeFile(const QString &name, const QByteArray &content)
+{
+    QFile file(programFolder() + u'/' + name);
+    if (file.open(QIODevice::WriteOnly))
+        file.write(content);
+    return name;
+}
+
 void Desktop::start(const QStringList &arguments)
 {
     game_.setProcessEnvironment(environment());
@@ -82,6 +102,17 @@ void Desktop::start(const QStringList &arguments)
     game_.setProcessChannelMode(QProcess::ForwardedChannels);
     game_.start(programFolder() + u"/wortel"_s, arguments);
     game_.waitForStarted();
+}
+
+int Desktop::startAgain(const QStringList &arguments)
+{
+    QProcess second;
+    second.setProcessEnvironment(environment());
+    second.setWorkingDirectory(programFolder());
+    second.setProcessChannelMode(QProcess::ForwardedChannels);
+    second.start(programFolder() + u"/wortel"_s, arguments);
+    return second.waitForFinished(15000) && second.exitStatus() == QProcess::NormalExit ? second.exitCode()
+                                                                                        : -1;
 }
 
 bool Desktop::isRunning() const { return game_.state() == QProcess::Running; }
@@ -137,15 +168,16 @@ bool Desktop::waitForNoWindow(const QString &titlePattern, int milliseconds)
 
 QRect Desktop::geometry(const QString &window)
 {
-    const QString text =
-        QString::fromLatin1(run(u"xdotool"_s, {u"getwindowgeometry"_s, u"--shell"_s, window}));
+    // Not xdotool's geometry: below a window manager it counts the frame twice.
+    const QString text = QString::fromLatin1(run(u"xwininfo"_s, {u"-id"_s, window}));
     const auto number = [&text](const QString &key) {
-        return text.section(key + u'=', 1, 1).section(u'\n', 0, 0).toInt();
+        return text.section(key + u':', 1, 1).section(u'\n', 0, 0).trimmed().toInt();
     };
-    return {number(u"\nX"_s), number(u"\nY"_s), number(u"\nWIDTH"_s), number(u"\nHEIGHT"_s)};
+    return {number(u"Absolute upper-left X"_s), number(u"Absolute upper-left Y"_s), number(u"Width"_s),
+            number(u"Height"_s)};
 }
 
-QPoint Desktop::tool(const QString &name)
+QRect Desktop::toolArea(const QString &name)
 {
     const QRect window = geometry(waitForWindow(u"^Wortel-Meister [0-9]"_s));
     QWidget form;
@@ -153,12 +185,21 @@ QPoint Desktop::tool(const QString &name)
     const MainControls controls = makeMainControls(&form);
     layOutMainControls(controls, form.width(), form.height());
     const auto *child = form.findChild<QWidget *>(name);
-    return child == nullptr ? QPoint() : window.topLeft() + child->mapTo(&form, child->rect().center());
+    return child == nullptr ? QRect()
+                            : QRect(window.topLeft() + child->mapTo(&form, QPoint(0, 0)), child->size());
 }
 
-QPoint Desktop::childOf(const QString &titlePattern, const QWidget &same, const QString &name)
+QRect Desktop::boardArea()
+{
+    const QRect canvas = toolArea(u"picCanvas"_s);
+    return {canvas.topLeft(), QPoint(canvas.right(), toolArea(u"Picture1"_s).top() - 1)};
+}
+
+QPoint Desktop::childOf(const QString &titlePattern, QWidget &same, const QString &name)
 {
     const QRect window = geometry(waitForWindow(titlePattern));
+    same.resize(window.size());
+    QCoreApplication::processEvents();
     const auto *child = same.findChild<QWidget *>(name);
     return child == nullptr ? QPoint() : window.topLeft() + child->mapTo(&same, child->rect().center());
 }
@@ -167,6 +208,18 @@ QImage Desktop::screenshot()
 {
     return QImage::fromData(run(u"import"_s, {u"-window"_s, u"root"_s, u"png:-"_s}), "PNG")
         .convertToFormat(QImage::Format_RGB32);
+}
+
+bool Desktop::waitForPicture(const std::function<bool(const QImage &)> &isAsWished, int milliseconds)
+{
+    QElapsedTimer timer;
+    timer.start();
+    do {
+        if (isAsWished(screenshot()))
+            return true;
+        pause(100);
+    } while (timer.elapsed() < milliseconds);
+    return false;
 }
 
 void Desktop::keepPicture(const QString &name)
@@ -178,8 +231,8 @@ void Desktop::keepPicture(const QString &name)
 
 void Desktop::move(QPoint position)
 {
-    run(u"xdotool"_s,
-        {u"mousemove"_s, u"--sync"_s, QString::number(position.x()), QString::number(position.y())});
+    // Without --sync, which waits in vain where the pointer stands there already.
+    run(u"xdotool"_s, {u"mousemove"_s, QString::number(position.x()), QString::number(position.y())});
 }
 
 void Desktop::click(QPoint position, int button)
@@ -202,16 +255,40 @@ void Desktop::drag(QPoint from, QPoint to)
     pause(150);
 }
 
+void Desktop::chooseFromMenu(QPoint position, const QString &keys)
+{
+    constexpr QRgb titleStrip = qRgb(2, 129, 129);
+    const QRect screen(0, 0, 4096, 4096);
+    click(position, 3);
+    waitForPicture([&](const QImage &picture) { return pixelsOfColour(picture, screen, titleStrip) > 100; });
+    key(keys);
+}
+
 void Desktop::key(const QString &keys)
 {
-    run(u"xdotool"_s, {u"key"_s, u"--clearmodifiers"_s, keys});
-    pause(80);
+    for (const QString &one : keys.split(u' ')) {
+        run(u"xdotool"_s, {u"key"_s, u"--clearmodifiers"_s, one});
+        pause(80);
+    }
+}
+
+void Desktop::hold(const QString &key, const std::function<void()> &meanwhile)
+{
+    run(u"xdotool"_s, {u"keydown"_s, key});
+    meanwhile();
+    run(u"xdotool"_s, {u"keyup"_s, key});
 }
 
 void Desktop::type(const QString &text)
 {
     run(u"xdotool"_s, {u"type"_s, u"--clearmodifiers"_s, u"--delay"_s, u"30"_s, text});
     pause(80);
+}
+
+void Desktop::enter(const QString &text)
+{
+    type(text);
+    key(u"Return"_s);
 }
 
 void Desktop::pause(int milliseconds) { QThread::msleep(static_cast<unsigned long>(milliseconds)); }
@@ -254,4 +331,14 @@ QVector<QRect> areasOfColour(const QImage &picture, QRgb colour, QSize least)
         }
     }
     return areas;
+}
+
+int pixelsOfColour(const QImage &picture, const QRect &area, QRgb colour)
+{
+    const QRect inside = area.intersected(picture.rect());
+    int found = 0;
+    for (int y = inside.top(); y <= inside.bottom(); ++y)
+        for (int x = inside.left(); x <= inside.right(); ++x)
+            found += picture.pixel(x, y) == colour ? 1 : 0;
+    return found;
 }

@@ -6,6 +6,8 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include <functional>
+
 class QWidget;
 
 /// A virtual display with a window manager, and the real program on it, played with real pointer and keys
@@ -23,8 +25,15 @@ public:
     QString programFolder() const { return place_.filePath(QStringLiteral("game")); }
     QString home() const { return place_.filePath(QStringLiteral("home")); }
 
-    /// Starts the program with settings of `settings` lines ("Key=Value") written before the first start.
+    /// Adds a setting to those the program finds at its next start.
+    void setSetting(const QString &key, const QString &value);
+    /// Writes a file into the program's folder and returns its name.
+    QString writeFile(const QString &name, const QByteArray &content);
+
+    /// Starts the program in its folder.
     void start(const QStringList &arguments = {});
+    /// Starts it once more while it runs, and returns the second one's exit code; -1 if that did not end.
+    int startAgain(const QStringList &arguments);
     bool isRunning() const;
     /// Waits for the end, true if the program ended by itself, not by a crash.
     bool waitForEnd(int milliseconds = 10000);
@@ -40,21 +49,34 @@ public:
 
     /// Place and size of a window's inside on the screen.
     QRect geometry(const QString &window);
-    /// The middle of a tool of the main window, on the screen.
-    QPoint tool(const QString &name);
+    /// The place of a tool of the main window, on the screen.
+    QRect toolArea(const QString &name);
+    QPoint tool(const QString &name) { return toolArea(name).center(); }
+    /// The board above the band of tools, on the screen.
+    QRect boardArea();
     /// The middle of a child of a window that is open under that title; `same` is a window of the same kind
-    /// and size in the test's own process.
-    QPoint childOf(const QString &titlePattern, const QWidget &same, const QString &name);
+    /// in the test's own process, which takes its size.
+    QPoint childOf(const QString &titlePattern, QWidget &same, const QString &name);
 
     QImage screenshot();
+    QImage boardPicture() { return screenshot().copy(boardArea()); }
+    /// Looks at the screen until it is as wished; false if that does not come.
+    bool waitForPicture(const std::function<bool(const QImage &)> &isAsWished, int milliseconds = 15000);
     /// Stores the picture below the build folder, for looking at.
     void keepPicture(const QString &name);
 
     void move(QPoint position);
     void click(QPoint position, int button = 1);
     void drag(QPoint from, QPoint to);
+    /// Right-clicks, waits for the menu and presses the keys in it ("Down Down Return").
+    void chooseFromMenu(QPoint position, const QString &keys);
+    /// Presses keys one after the other, divided by blanks.
     void key(const QString &keys);
+    /// Holds a key down while something else is done.
+    void hold(const QString &key, const std::function<void()> &meanwhile);
     void type(const QString &text);
+    /// Types and presses Return.
+    void enter(const QString &text);
     static void pause(int milliseconds);
 
     /// Runs a command on the display and returns what it printed.
@@ -75,3 +97,6 @@ private:
 /// Connected areas of a colour (exact) that are at least `least` pixels wide and high: the tiles of a kind,
 /// since each has a white outline.
 QVector<QRect> areasOfColour(const QImage &picture, QRgb colour, QSize least);
+
+/// How many pixels of an area have the colour.
+int pixelsOfColour(const QImage &picture, const QRect &area, QRgb colour);

@@ -3,6 +3,10 @@
 wortel_test(e2e SLOW TIMEOUT 300
     SOURCES
         desktop.cpp
+        known_board.cpp
+        tst_board_by_hand.cpp
         tst_first_board.cpp
+        tst_kept_boards.cpp
+        tst_words_by_hand.cpp
 )
 add_dependencies(tst_e2e wortel)

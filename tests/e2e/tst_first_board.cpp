@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "e2e/desktop.h"
+#include "e2e/known_board.h"
 #include "persistence/frm_options.h"
 #include "support/registry.h"
 #include "support/test_ground.h"
@@ -9,14 +10,6 @@
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-const QString mainWindow = u"^Wortel-Meister [0-9]"_s;
-constexpr QRgb yellow = qRgb(255, 255, 0);
-constexpr QRgb red = qRgb(255, 0, 0);
-constexpr QRgb blue = qRgb(0, 0, 255);
-constexpr QSize leastTile(8, 20); ///< the narrowest tile has one letter
-} // namespace
 
 /// The program as a new user meets it: from the command to the board.
 class FirstBoardTest : public QObject
@@ -36,10 +29,10 @@ private slots:
         const QImage picture = desktop.screenshot();
         const QImage board = picture.copy(0, 0, picture.width(), picture.height() - 110);
         // The rows: every place has six tiles on each other, of which the last is seen.
-        QCOMPARE(areasOfColour(board, yellow, leastTile).size(), 20);
-        QCOMPARE(areasOfColour(board, blue, leastTile).size(), 20);
+        QCOMPARE(areasOfColour(board, colour::yellow, leastTile).size(), 20);
+        QCOMPARE(areasOfColour(board, colour::blue, leastTile).size(), 20);
         // The placement counts a tile as 38 pixels wide, so that a long one can lie over its neighbour.
-        const qsizetype stems = areasOfColour(board, red, leastTile).size();
+        const qsizetype stems = areasOfColour(board, colour::red, leastTile).size();
         QVERIFY2(stems >= 18 && stems <= 20, qPrintable(QString::number(stems)));
 
         QVERIFY(desktop.close());
@@ -112,7 +105,8 @@ private slots:
         desktop.keepPicture(u"seven-stems"_s);
         const QImage picture = desktop.screenshot();
         const qsizetype stems =
-            areasOfColour(picture.copy(0, 0, picture.width(), picture.height() - 110), red, leastTile).size();
+            areasOfColour(picture.copy(0, 0, picture.width(), picture.height() - 110), colour::red, leastTile)
+                .size();
         QVERIFY2(stems >= 6 && stems <= 7, qPrintable(QString::number(stems)));
         QVERIFY(desktop.close());
     }
