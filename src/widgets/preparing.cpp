@@ -36,4 +36,6 @@ void ToggleButtonsOnPreparing(const MainControls &controls, bool enable)
 {
     for (const Control &control : restingControls)
         control(controls)->setEnabled(enable);
+    if (controls.Check1->isChecked())
+        controls.Text1->setEnabled(false); // "Alle" needs no number
 }

@@ -146,7 +146,9 @@ private slots:
         QCOMPARE(b.optTypes->selected(), 1);
         QVERIFY(b.controls.GameProgress->isHidden() && b.controls.Label4->isHidden());
         QVERIFY(b.controls.Check2->isEnabled() && !b.controls.Check3->isHidden());
+        b.controls.Check1->setChecked(true);
         b.arrangement->SpreadAllMorpheme(true);
+        QVERIFY(!b.controls.Text1->isEnabled()); // "Alle" still takes it away
         QCOMPARE(b.store->count(), 10);
         const QStringList texts = b.texts();
         QVERIFY(std::is_sorted(texts.cbegin(), texts.cend()));
