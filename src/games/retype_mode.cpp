@@ -24,6 +24,7 @@
 #include "widgets/store_list.h"
 
 #include <QLineEdit>
+#include <QScopedValueRollback>
 
 using namespace Qt::StringLiterals;
 
@@ -93,7 +94,7 @@ void RetypeMode::Check4_MouseDown(Qt::MouseButton button, Qt::KeyboardModifiers 
     if (state_ == State::Preparing) {
         stopWanted_ = true;
         modes_.CancelPreparing = true;
-    } else if (state_ == State::Ending) {
+    } else if (state_ == State::Ending || !modes_.CheckButtonsAct) {
         return;
     } else if (button == Qt::LeftButton) {
         step([&] { leftPress(); });
@@ -235,7 +236,7 @@ void RetypeMode::StartTheRetyping(const QString &Mode)
     bool runs = false;
     {
         // Until the strip stands, a press of the button only asks for the end, whichever step lets it in.
-        const Busy preparing(state_, State::Preparing);
+        const QScopedValueRollback preparing(state_, State::Preparing);
         stopWanted_ = false;
         KeptWords_.clear();
         sheet_.layOn(modeSheet);
@@ -262,7 +263,7 @@ void RetypeMode::StopTheRetyping()
 {
     Procedure step(ground_.log, "StopTheRetyping", "frmMain");
     // The drag mode's change lets events run.
-    const Busy ending(state_, State::Ending);
+    const QScopedValueRollback ending(state_, State::Ending);
     step([&] { controls_.Scroller->setEnabled(false); });
     step([&] { controls_.Scroller->setScroll(false); });
     controls_.Scroller->hide();

@@ -48,7 +48,8 @@ public:
                const Rooms &rooms, QObject *parent = nullptr);
 
     /// Left: starts from the word list or stops. Right: from the dictionary by the tiles on the board, with
-    /// Shift from nonsense words, or stops. While words are prepared, each is a cancel.
+    /// Shift from nonsense words, or stops. While words are prepared, each is a cancel. Rests while a report
+    /// stands over the board, which has taken away tools that the mode must give back.
     void Check4_MouseDown(Qt::MouseButton button, Qt::KeyboardModifiers keys);
     /// The menu's entries 1600, 1601, 1607 and 1608; another number does nothing.
     void command(int id);
@@ -76,25 +77,6 @@ signals:
 
 private:
     enum class State { Rest, Preparing, Ending };
-
-    /// Another state while one of these lives.
-    class Busy
-    {
-    public:
-        Busy(State &state, State now)
-            : state_(state)
-            , before_(state)
-        {
-            state_ = now;
-        }
-        ~Busy() { state_ = before_; }
-        Busy(const Busy &) = delete;
-        Busy &operator=(const Busy &) = delete;
-
-    private:
-        State &state_;
-        State before_;
-    };
 
     void leftPress();
     void rightPress(bool shift);

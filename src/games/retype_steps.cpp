@@ -34,6 +34,7 @@
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QScopedValueRollback>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -300,7 +301,7 @@ void RetypeMode::eraseTile(const QString &word)
 void RetypeMode::finish(const RetypeSource &source)
 {
     Procedure step(ground_.log, "FillScroller", "frmMain", Procedure::Silent);
-    const Busy ending(state_, State::Ending);
+    const QScopedValueRollback ending(state_, State::Ending);
     controls_.Scroller->setEnabled(false);
     controls_.Scroller->setScroll(false);
     controls_.Scroller->hide();

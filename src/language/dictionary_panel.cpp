@@ -50,7 +50,7 @@ void DictionaryPanel::toggleForSearch()
     Procedure step{ground_.log, "Command2_MouseDown", "frmMain"};
     step([&] { standOnBand(controls_, controls_.LexiconList); });
     controls_.LexiconList->setVisible(!isOpen());
-    controls_.Command4->setEnabled(false);
+    controls_.Command4->setEnabled(!isOpen());
     if (isOpen()) {
         step([&] { openList(); });
         return;
@@ -91,6 +91,7 @@ void DictionaryPanel::storeLoading(const WordStore *store)
         return;
     controls_.LexiconList->hide();
     controls_.Command3->setToolTip(u"Wörterbuch"_s);
+    controls_.Command4->setEnabled(true);
     closeList();
 }
 

@@ -21,6 +21,8 @@
 #include <QLabel>
 #include <QLineEdit>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -121,7 +123,8 @@ void WordCheck::askForWord()
 
 int WordCheck::verifySeconds() const
 {
-    return static_cast<int>(Fix(Val(ground_.options.stored(Setting::VerifyWinTime))));
+    constexpr double aDay = 24 * 3600; // what no number of the store may pass, to stay an int
+    return static_cast<int>(std::clamp(Fix(Val(ground_.options.stored(Setting::VerifyWinTime))), 0.0, aDay));
 }
 
 void WordCheck::checkInDictionary(const QString &word)

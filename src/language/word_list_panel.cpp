@@ -134,11 +134,9 @@ void WordListPanel::Save_Result()
     const QString text = lists_.CorrectWordList.rows().join(u"\r\n"_s) + u"\r\n"_s;
     if (step([&] { writeFileAtomically(path, windows1252::encodeLossy(text)); }))
         step([&] { emit wordListSaved(path); });
-
-    QString chosen = path.left(path.lastIndexOf(u'\\') + 1);
-    if (chosen.endsWith(u'\\'))
-        chosen.chop(1);
-    step([&] { ground_.store.SaveSetting(u"Path"_s, u"Export"_s, chosen); });
+    step([&] {
+        ground_.store.SaveSetting(u"Path"_s, u"Export"_s, path.left(path.lastIndexOf(u'\\')));
+    });
 }
 
 void WordListPanel::CorrectWordsToClip()

@@ -15,6 +15,8 @@
 #include "platform/procedure.h"
 #include "widgets/guards.h"
 
+#include <QScopedValueRollback>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -34,23 +36,6 @@ const TileKind *kindOfLetter(char letter)
             return &kind;
     return nullptr;
 }
-
-/// The flag says to whom it concerns that the file is being written.
-class BusyFlag
-{
-public:
-    explicit BusyFlag(bool &flag)
-        : flag_(flag)
-    {
-        flag_ = true;
-    }
-    ~BusyFlag() { flag_ = false; }
-    BusyFlag(const BusyFlag &) = delete;
-    BusyFlag &operator=(const BusyFlag &) = delete;
-
-private:
-    bool &flag_;
-};
 
 } // namespace
 
@@ -90,7 +75,7 @@ void Backup::SaveMyObjects(const QString &path)
 
 void Backup::writeBoard(const QString &path)
 {
-    const BusyFlag busy(modes_.BackupBusy);
+    const QScopedValueRollback busy(modes_.BackupBusy, true);
     MyObj array;
     array.addTiles(canvas_.store().tiles());
     writeFileAtomically(path, backup_file::encode(array));

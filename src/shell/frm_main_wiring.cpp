@@ -102,11 +102,7 @@ void frmMain::wireLanguage()
 void frmMain::wireModes()
 {
     Rooms &r = *rooms_;
-    connect(controls_.Check4, &PressButton::mouseDown, this,
-            [this, &r](Qt::MouseButton button, Qt::KeyboardModifiers keys) {
-                if (modes_.CheckButtonsAct)
-                    r.retype.Check4_MouseDown(button, keys);
-            });
+    connect(controls_.Check4, &PressButton::mouseDown, &r.retype, &RetypeMode::Check4_MouseDown);
     connect(&r.check, &WordCheck::retypeWordFound, &r.retype, &RetypeMode::wordCopied);
     connect(&r.wordList, &WordListPanel::wordsEdited, &r.strip, &StripControl::takeWords);
     connect(&r.retype, &RetypeMode::menusChanged, this, [&r] { r.menus.CreateMenus(); });
