@@ -134,9 +134,7 @@ void WordListPanel::Save_Result()
     const QString text = lists_.CorrectWordList.rows().join(u"\r\n"_s) + u"\r\n"_s;
     if (step([&] { writeFileAtomically(path, windows1252::encodeLossy(text)); }))
         step([&] { emit wordListSaved(path); });
-    step([&] {
-        ground_.store.SaveSetting(u"Path"_s, u"Export"_s, path.left(path.lastIndexOf(u'\\')));
-    });
+    step([&] { ground_.store.SaveSetting(u"Path"_s, u"Export"_s, path.left(path.lastIndexOf(u'\\'))); });
 }
 
 void WordListPanel::CorrectWordsToClip()

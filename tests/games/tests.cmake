@@ -3,5 +3,6 @@
 wortel_test(games
     SOURCES
         tst_retype_mode.cpp
+        tst_retype_ways.cpp
         tst_strip_control.cpp
 )

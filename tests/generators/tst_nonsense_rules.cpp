@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "generators/nonsense_tables.h"
 #include "generators/nonsense_words.h"
 #include "language/word_tests.h"
 #include "platform/text.h"
@@ -74,16 +73,6 @@ private slots:
         const QString stretch = nonsense::stretchOf(stem, suffix);
         QTEST(nonsense::holdsBadCluster(stretch), "bad");
         QTEST(nonsense::holdsBadClusterForSweep(stretch), "badForSweep");
-    }
-
-    void clusterTablesKeepTheirRows()
-    {
-        QCOMPARE(nonsense::badClusterCount, std::size_t(29));
-        const auto &table = nonsense::BadClusterSweepList;
-        QCOMPARE(std::count(table.begin(), table.end(), QStringView(u"RATT")), 2);
-        QCOMPARE(table.back(), QStringView(u"SST"));
-        for (const QStringView entry : table) // the search takes each entry in capitals
-            QCOMPARE(UCase(entry.toString()), entry.toString());
     }
 
     void suffixes_data()

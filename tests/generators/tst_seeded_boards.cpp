@@ -122,20 +122,6 @@ private slots:
         }
         QCOMPARE(letThrough, 0); // one word a round: the sweep of the same round sees it
     }
-
-    void twoRunsGiveDifferentLists()
-    {
-        QStringList runs;
-        for (const quint64 seed : {1, 2}) {
-            Board board(u"Hauptbausteine.Txt"_s, 3);
-            collectMorphemes(board.tiles.tiles.tiles(), board.lists);
-            Rnd rnd(seed);
-            while (board.lists.CorrectWordList.count() < 8)
-                tryRealWord(board.lists, board.tests, rnd);
-            runs.append(board.lists.CorrectWordList.rows().join(u' '));
-        }
-        QVERIFY(runs.at(0) != runs.at(1));
-    }
 };
 
 WORTEL_TEST(SeededBoardsTest)

@@ -135,26 +135,13 @@ private slots:
         QVERIFY(w.t.ok());
     }
 
-    void noWordsWanted_data() { addRuns(); }
-    void noWordsWanted()
-    {
-        QFETCH(int, which);
-        Window w;
-        w.lists.CorrectWordList.add(u"alt"_s);
-        w.lists.PseudoWordList.add(u"alt"_s);
-        w.run(static_cast<Run>(which), 0);
-        QVERIFY(
-            (isReal(static_cast<Run>(which)) ? w.lists.CorrectWordList : w.lists.PseudoWordList).isEmpty());
-        QCOMPARE(w.c.GameProgress->maximum(), 1);
-    }
-
     /// A board or a dictionary that cannot yield the words keeps the loop running until the cancel, and no
     /// control stays locked.
     void cancelEndsASearchThatCannotEnd_data()
     {
         QTest::addColumn<int>("which");
         QTest::addColumn<QString>("lack");
-        for (const QString &lack : {u"no tiles"_s, u"one tile"_s, u"no dictionary"_s, u"too many wanted"_s})
+        for (const QString &lack : {u"no tiles"_s, u"no dictionary"_s, u"too many wanted"_s})
             for (const Run run : {RealWords, NonsenseWords, RealForKernling, NonsenseForKernling})
                 QTest::addRow("%s %d", qPrintable(lack), int(run)) << int(run) << lack;
     }
@@ -164,10 +151,8 @@ private slots:
         QFETCH(QString, lack);
         const Run run = static_cast<Run>(which);
         Window w;
-        if (lack == u"no tiles"_s || lack == u"one tile"_s)
+        if (lack == u"no tiles"_s)
             w.board.tiles.takeAll();
-        if (lack == u"one tile"_s)
-            w.board.lay(u"x"_s, colours::wortelBack);
         if (lack == u"no dictionary"_s)
             w.lists.LexiconList.clear();
         w.modes.RetypeActive = true;
@@ -202,19 +187,15 @@ private slots:
         w.inYield(500, [&] { w.modes.CancelPreparing = true; });
         w.run(RealWords, 3);
         QCOMPARE(w.lists.CorrectWordList.count(), 2);
-    }
-
-    void theMainCancelAbandonsTheStemGame()
-    {
-        Window w;
+        w.t.pump.yields = 0;
         w.modes.RetypeActive = true;
         w.inYield(500, [&] { w.modes.CancelPreparing = w.modes.KernlingCancel = true; });
         w.run(RealForKernling, 3);
         QVERIFY(!w.modes.RetypeActive);
-        QVERIFY(w.fillProgress.isHidden());
+        QVERIFY2(w.fillProgress.isHidden(), "the main cancel abandons the stem game, too");
     }
 
-    void longPartsAreWordsToo()
+    void oddAmounts()
     {
         Window w;
         w.board.tiles.takeAll();
@@ -223,6 +204,9 @@ private slots:
         w.lists.LexiconList.add(stem.toUpper());
         w.run(RealWords, 1); // a stem alone is a word of its own
         QCOMPARE(w.lists.CorrectWordList.rows(), QStringList(stem.toUpper()));
+        w.run(RealWords, 0);
+        QVERIFY(w.lists.CorrectWordList.isEmpty());
+        QCOMPARE(w.c.GameProgress->maximum(), 1);
     }
 };
 

@@ -64,23 +64,18 @@ private slots:
         QVERIFY(w.t.ok());
     }
 
-    void nothingEntered_data()
-    {
-        QTest::addColumn<Qt::MouseButton>("button");
-        QTest::newRow("check") << Qt::LeftButton;
-        QTest::newRow("search") << Qt::RightButton;
-    }
     void nothingEntered()
     {
-        QFETCH(Qt::MouseButton, button);
-        WordWindow w;
-        w.t.boxes.willBeRead();
-        w.check.Command2_MouseDown(button);
-        QCOMPARE(w.t.boxes.asked.first().title, u"Wortel-Meister: Wortkontrolle"_s);
-        QCOMPARE(w.t.boxes.asked.first().text, u"Gib bitte ein Wort ein"_s);
-        QCOMPARE(w.t.boxes.asked.first().style, u"WRITE"_s);
-        QVERIFY(!w.dictionary.isOpen());
-        QVERIFY(w.t.ok());
+        for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
+            WordWindow w;
+            w.t.boxes.willBeRead();
+            w.check.Command2_MouseDown(button);
+            QCOMPARE(w.t.boxes.asked.first().title, u"Wortel-Meister: Wortkontrolle"_s);
+            QCOMPARE(w.t.boxes.asked.first().text, u"Gib bitte ein Wort ein"_s);
+            QCOMPARE(w.t.boxes.asked.first().style, u"WRITE"_s);
+            QVERIFY(!w.dictionary.isOpen());
+            QVERIFY(w.t.ok());
+        }
     }
 
     void aGameCountsEachWordOnce()
@@ -199,16 +194,12 @@ private slots:
         QVERIFY(!w.modes.KurzVokalMode);
         QVERIFY(w.lists.CorrectWordList.isEmpty());
         QCOMPARE(off.size(), 1);
-    }
 
-    void bothVowelBoxesLeaveTheFlags()
-    {
-        WordWindow w;
         w.modes.LangVokalMode = true;
-        w.c.ChkVokal[0]->setChecked(true);
-        w.c.ChkVokal[1]->setChecked(true);
+        for (PressButton *both : w.c.ChkVokal)
+            both->setChecked(true);
         w.check.readVowelBoxes();
-        QVERIFY(w.modes.LangVokalMode && !w.modes.KurzVokalMode);
+        QVERIFY2(w.modes.LangVokalMode && !w.modes.KurzVokalMode, "both leave the flags");
     }
 
     void clearingAndCapitals()

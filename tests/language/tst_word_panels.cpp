@@ -60,8 +60,10 @@ private slots:
         QVERIFY(!w.c.Command2->isEnabled() && !w.c.Option1[0]->isEnabled() && w.c.Command4->isEnabled());
         QCOMPARE(w.entry(), QString());
         QCOMPARE(w.c.Command3->toolTip(), u"Suchen"_s);
-        choose(w, u"mnuCloseLex"_s);
-        QVERIFY(!w.dictionary.isOpen());
+        w.words.Show_Result(); // closes the dictionary
+        QVERIFY(!w.dictionary.isOpen() && !w.c.CorrectWordList->isHidden());
+        choose(w, u"mnuCloseTheList"_s);
+        QVERIFY(w.c.CorrectWordList->isHidden());
         QVERIFY(w.c.Text2->isHidden());
         QVERIFY(w.c.Command2->isEnabled() && w.c.Option1[0]->isEnabled());
         QCOMPARE(w.c.Command3->toolTip(), u"Wörterbuch"_s);
@@ -82,6 +84,12 @@ private slots:
         QCOMPARE(w.entry(), QString());
         w.dictionary.toggle();
         QVERIFY(w.c.Command4->isEnabled());
+        w.dictionary.toggleForSearch();
+        w.dictionary.storeLoading(&w.lists.WortelList);
+        QVERIFY(w.dictionary.isOpen());
+        w.dictionary.storeLoading(&w.lists.LexiconList);
+        QVERIFY(!w.dictionary.isOpen());
+        QVERIFY(w.c.Command2->isEnabled() && w.c.Command4->isEnabled() && w.c.Text2->isHidden());
     }
 
     void searchBox_data()
@@ -104,17 +112,6 @@ private slots:
         QTEST(w.c.LexiconList->ListIndex(), "row");
     }
 
-    void loadingClosesTheDictionary()
-    {
-        WordWindow w;
-        w.dictionary.toggle();
-        w.dictionary.storeLoading(&w.lists.WortelList);
-        QVERIFY(w.dictionary.isOpen());
-        w.dictionary.storeLoading(&w.lists.LexiconList);
-        QVERIFY(!w.dictionary.isOpen());
-        QVERIFY(w.c.Command2->isEnabled() && w.c.Text2->isHidden());
-    }
-
     void dictionaryMenuFeedsTheWordList()
     {
         WordWindow w;
@@ -126,17 +123,6 @@ private slots:
         QCOMPARE(w.lists.CorrectWordList.rows(), QStringList(u"laufen"_s));
         choose(w, u"mnuClearRetypeList"_s);
         QVERIFY(w.lists.CorrectWordList.isEmpty());
-    }
-
-    void showResultClosesTheDictionary()
-    {
-        WordWindow w;
-        w.dictionary.toggle();
-        w.words.Show_Result();
-        QVERIFY(!w.dictionary.isOpen());
-        QVERIFY(!w.c.CorrectWordList->isHidden());
-        choose(w, u"mnuCloseTheList"_s);
-        QVERIFY(w.c.CorrectWordList->isHidden());
     }
 
     void listsStayInTheWindowAndOffTheirTools_data()
@@ -201,16 +187,10 @@ private slots:
         w.t.boxes.willTypeWord(u"laufen"_s);
         choose(w, u"mnuEditWord"_s); // nothing is selected: nothing happens
         QCOMPARE(w.lists.CorrectWordList.count(), 2);
-        QVERIFY(w.t.ok());
-    }
-
-    void vowelModeAsksNoWord()
-    {
-        WordWindow w;
-        w.modes.KurzVokalMode = true;
+        w.modes.KurzVokalMode = true; // asks for no word; the last one is used as it stands
         choose(w, u"mnuAddWord2"_s);
-        QVERIFY(w.t.boxes.asked.isEmpty());
-        QVERIFY(w.lists.CorrectWordList.isEmpty());
+        QCOMPARE(w.lists.CorrectWordList.rows(), QStringList({u"Haus"_s, u"Affe"_s, u"laufen"_s}));
+        QVERIFY(w.t.ok());
     }
 
     void deleting()

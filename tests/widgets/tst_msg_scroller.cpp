@@ -46,12 +46,10 @@ void movePointer(MsgScroller &strip, const QPoint &position, Qt::MouseButtons bu
 
 bool hasInk(const QImage &image, const QRect &area, const QColor &colour)
 {
-    for (int y = area.top(); y <= area.bottom(); ++y) {
-        for (int x = area.left(); x <= area.right(); ++x) {
+    for (int y = area.top(); y <= area.bottom(); ++y)
+        for (int x = area.left(); x <= area.right(); ++x)
             if (image.pixelColor(x, y) == colour)
                 return true;
-        }
-    }
     return false;
 }
 
@@ -62,7 +60,6 @@ class MsgScrollerTest : public QObject
     Q_OBJECT
 
 private slots:
-    void defaults();
     void runsWhileItIsAskedTo();
     void ticks();
     void glidesBetweenTicks();
@@ -76,22 +73,6 @@ private slots:
     void hotSpotsAreTold();
     void colours();
 };
-
-void MsgScrollerTest::defaults()
-{
-    MsgScroller strip;
-    QCOMPARE(strip.BorderStyle(), 1);
-    QCOMPARE(strip.ScrollInterval(), 120);
-    QCOMPARE(strip.ScrollSpeed(), 3);
-    QVERIFY(!strip.isEnabled());
-    QCOMPARE(strip.Seperator(), u"·"_s);
-    QVERIFY(!strip.AutoScroll());
-    QVERIFY(!strip.Scroll());
-    QVERIFY(strip.AllowPan());
-    QCOMPARE(strip.Offset(), -250);
-    strip.setScrollSpeed(0);
-    QCOMPARE(strip.ScrollSpeed(), 3);
-}
 
 void MsgScrollerTest::runsWhileItIsAskedTo()
 {
@@ -129,6 +110,7 @@ void MsgScrollerTest::ticks()
     strip.tick();
     QCOMPARE(strip.Offset(), -247);
     strip.setScrollSpeed(10);
+    strip.setScrollSpeed(0); // leaves the old speed
     strip.tick();
     QCOMPARE(strip.Offset(), -237);
     // A single item follows itself.
@@ -184,7 +166,6 @@ void MsgScrollerTest::standsStill_data()
     QTest::newRow("not asked to run") << 20 << false << false;
     QTest::newRow("paused") << 20 << true << true;
     QTest::newRow("interval 0") << 0 << true << false;
-    QTest::newRow("negative interval") << -5 << true << false;
 }
 
 void MsgScrollerTest::standsStill()
