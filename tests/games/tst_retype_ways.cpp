@@ -71,8 +71,8 @@ const Way ways[] = {
     {"board, no words asked for", tilesFor<Setting::NumReTypeWords, 0>, 0, none, right},
     {"board, more than 16 bits", tilesFor<Setting::NumReTypeWords, 99999>, 0, none, right},
     {"nonsense, a list without any",
-     [](Desk &d) { d.layTiles(), d.lists.CurrentWortelFile = u"ig oder lich.txt"_s; }, 0, none, nonsense,
-     nullptr, 0},
+     [](Desk &d) { d.layTiles(), d.lists.CurrentWortelFile = u"text\\ig oder lich.txt"_s; }, 0, none,
+     nonsense, nullptr, 0},
     {"nonsense, stopped", tiles, 0, none, nonsense, left},
     {"nonsense, all copied", tiles, 0, none, nonsense, copyAll, 0},
     {"nonsense, button while preparing", tilesFor<Setting::NumPseudoReTypeWords, 1000>, 60, nonsense,
@@ -122,7 +122,9 @@ QStringList statesOf(const Desk &desk)
                             QGuiApplication::overrideCursor() != nullptr};
     for (qsizetype flag = 0; flag < flags.size(); ++flag)
         result << u"flag %1 is %2"_s.arg(flag).arg(flags.at(flag));
-    return result << u"bar "_s + desk.caption();
+    result << u"bar "_s + desk.caption();
+    result.sort(); // what is raised changes its place among its neighbours
+    return result;
 }
 
 } // namespace
