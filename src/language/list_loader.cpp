@@ -8,6 +8,7 @@
 #include "platform/options.h"
 #include "platform/procedure.h"
 #include "platform/rnd.h"
+#include "platform/runtime_error.h"
 #include "platform/text.h"
 #include "platform/word_lists.h"
 
@@ -33,6 +34,8 @@ constexpr std::array<StartList, 4> startLists{{
     {&WordLists::PrefixFile, &WordLists::PrefixList, true},
     {&WordLists::SuffixFile, &WordLists::SuffixList, true},
 }};
+
+const QString errorTitle = u"Wortel-Meister - Fehler"_s;
 
 QString missing(const QString &path) { return u"Datei "_s + path + u" fehlt"_s; }
 
@@ -127,9 +130,7 @@ void ListLoader::Fill_Lexicon(const QString &path)
     Procedure step{ground_.log, "Fill_Lexicon", "frmMain"};
     ground_.rnd.Randomize();
     if (!IsTextFile(path)) {
-        step([&] {
-            ground_.boxes.plainBox(Boxes::Icon::Warning, u"Wortel-Meister - Fehler"_s, missing(path));
-        });
+        step([&] { ground_.boxes.plainBox(Boxes::Icon::Warning, errorTitle, missing(path)); });
         return;
     }
     const Busy busyNow(*this);
@@ -148,18 +149,29 @@ void ListLoader::FillKurzLanglist()
     step([&] { fillVowelList(lists_.kurzvokalList, kurzVokalFile_, true, __LINE__); });
 }
 
-void ListLoader::append(WordStore &store, const QString &path) { store.addAll(readListFile(path)); }
+void ListLoader::append(WordStore &store, const QString &path) { store.addAll(read(path, false)); }
+
+/// Without the message an unreadable list would look like an empty one.
+QStringList ListLoader::read(const QString &path, bool keepBlank)
+{
+    try {
+        return readListFile(path, keepBlank);
+    } catch (const RuntimeError &) {
+        ground_.boxes.plainBox(Boxes::Icon::Warning, errorTitle,
+                               u"Datei "_s + path + u" kann nicht gelesen werden"_s);
+        throw;
+    }
+}
 
 void ListLoader::fillVowelList(WordStore &store, const QString &path, bool keepBlank, int line)
 {
     if (!IsTextFile(path)) {
-        ground_.boxes.plainBox(Boxes::Icon::Warning, u"Wortel-Meister - Fehler"_s,
-                               missingIn(path, "FillKurzLanglist", line));
+        ground_.boxes.plainBox(Boxes::Icon::Warning, errorTitle, missingIn(path, "FillKurzLanglist", line));
         return;
     }
     QSet<QString> seen;
     QStringList fresh;
-    for (const QString &word : readListFile(path, keepBlank)) {
+    for (const QString &word : read(path, keepBlank)) {
         const QString folded = UCase(word);
         if (!word.isEmpty() && (seen.contains(folded) || store.contains(word)))
             continue;

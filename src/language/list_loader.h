@@ -58,6 +58,7 @@ private:
     class Busy;
 
     void append(WordStore &store, const QString &path);
+    QStringList read(const QString &path, bool keepBlank);
     void fillVowelList(WordStore &store, const QString &path, bool keepBlank, int line);
 
     Ground &ground_;

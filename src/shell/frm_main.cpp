@@ -4,6 +4,7 @@
 
 #include "platform/boxes.h"
 #include "platform/clock.h"
+#include "platform/desktop.h"
 #include "platform/files.h"
 #include "platform/ground.h"
 #include "platform/log.h"
@@ -235,6 +236,7 @@ void frmMain::Form_Unload()
     step([&] { qApp->removeEventFilter(this); });
     step([&] { rooms_->store.takeAll(); });
     step([&] { rooms_->homes = {}; });
+    step([&] { rooms_->undo.ClearCollBuffer(); });
     step([&] { rooms_->background.remove(); });
     step([&] {
         if (!ground_.options.storedIsOn(Setting::UseBackup))
@@ -246,6 +248,7 @@ void frmMain::Form_Unload()
     });
     step([&] { ground_.log.WriteLog(u"Event: Application ended successfully"_s); });
     step([&] { ground_.log.WriteLog(u"*** Error-logging ended ***"_s); });
+    step([] { ShowTaskBar(true); });
 }
 
 void frmMain::loadKept()

@@ -6,6 +6,7 @@
 #include "platform/text.h"
 #include "version.h"
 
+#include <QEvent>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QPainter>
@@ -109,6 +110,17 @@ QString frmSplash::versionText()
 {
     return QString::number(version::major) + u'.' + FormatNumber(version::minor, 2) + u'.' +
            FormatNumber(version::revision, 2);
+}
+
+bool frmSplash::event(QEvent *event)
+{
+    // A question or an error while the window loads would lie behind the splash, which stays on top.
+    if (event->type() == QEvent::WindowBlocked) {
+        hide();
+        if (shadow_)
+            shadow_->hide();
+    }
+    return QWidget::event(event);
 }
 
 void frmSplash::paintEvent(QPaintEvent *)

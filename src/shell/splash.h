@@ -46,6 +46,7 @@ public:
     static QString versionText();
 
 protected:
+    bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:

@@ -143,6 +143,11 @@ private slots:
         QCOMPARE(f.lists.LexiconList.count(), 1);
         QCOMPARE(f.t.boxes.asked.last().title, u"Wortel-Meister - Fehler"_s);
         QCOMPARE(f.t.boxes.asked.last().text, u"Datei "_s + f.t.AppFolder + u"facit\\allein.lex fehlt"_s);
+
+        f.t.boxes.willAnswer(Boxes::Answer::Ok);
+        f.loader.Fill_Lexicon(u"\\proc\\self\\mem"_s); // there, but every read fails
+        QCOMPARE(f.t.boxes.asked.last().text, u"Datei \\proc\\self\\mem kann nicht gelesen werden"_s);
+        QCOMPARE(f.lists.LexiconList.count(), 1);
         QCOMPARE(hourglasses, 0);
         QVERIFY(f.t.ok());
     }
