@@ -4,6 +4,7 @@
 #include "persistence/option_fields.h"
 #include "persistence/options_layout.h"
 #include "platform/options.h"
+#include "support/columns.h"
 #include "support/registry.h"
 #include "support/test_ground.h"
 
@@ -105,11 +106,7 @@ private slots:
 
     void closing_data()
     {
-        QTest::addColumn<bool>("change");
-        QTest::addColumn<int>("answer");
-        QTest::addColumn<QString>("edited");
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<int>("repaints");
+        columns<bool, int, QString, QString, int>("change", "answer", "edited", "stored", "repaints");
         QTest::newRow("OK unchanged") << false << -1 << u"20"_s << u"20"_s << 1;
         QTest::newRow("OK, yes") << true << 0 << u"33"_s << u"33"_s << 1;
         QTest::newRow("OK, no") << true << 1 << u"20"_s << u"20"_s << 1;
@@ -201,29 +198,21 @@ private slots:
     {
         TestGround t;
         frmOptions window(t.ground);
-        window.show();
-        window.ShowProperFrame(u"FrameSpielen"_s);
         QSignalSpy scores(&window, &frmOptions::resetScores);
-        for (const char *name : {"Command1", "Command10", "Command9"})
-            press(window, name);
-        QCOMPARE(scores.count(), 3);
-        QCOMPARE(scores.last().first().value<frmOptions::Scores>(), frmOptions::Scores::Paarlon);
-        window.ShowProperFrame(u"FrameWortel"_s);
         QSignalSpy registered(&window, &frmOptions::registerFileType);
         QSignalSpy removed(&window, &frmOptions::removeFileType);
-        press(window, "Command7");
-        press(window, "Command8");
-        QCOMPARE(registered.count() + removed.count(), 2);
-        window.ShowProperFrame(u"FrameWörterbuch"_s);
         t.boxes.willAnswer(Boxes::Answer::Ok);
-        press(window, "Command2");
+        for (const char *name : {"Command1", "Command10", "Command9", "Command7", "Command8", "Command2"})
+            window.findChild<QPushButton *>(QLatin1String(name))->click();
+        QCOMPARE(scores.count(), 3);
+        QCOMPARE(scores.last().first().value<frmOptions::Scores>(), frmOptions::Scores::Paarlon);
+        QCOMPARE(registered.count() + removed.count(), 2);
         QCOMPARE(t.boxes.asked.last().text, u"Diese Funktion ist noch nicht ins Programm eingebaut"_s);
     }
 
     void droppedFiles_data()
     {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<bool>("taken");
+        columns<QString, bool>("file", "taken");
         QTest::newRow("text") << u"/x/Stämme.txt"_s << true;
         QTest::newRow("case") << u"/x/a.b.TxT"_s << true;
         QTest::newRow("longer ending") << u"/x/a.rtxt"_s << true;

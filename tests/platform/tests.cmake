@@ -8,7 +8,6 @@ wortel_test(platform
         tst_instance_link.cpp
         tst_options.cpp
         tst_procedure.cpp
-        tst_runtime_error.cpp
         tst_settings_file.cpp
         tst_system_info.cpp
         tst_text.cpp

@@ -4,6 +4,7 @@
 #include "platform/files.h"
 #include "platform/sound_player.h"
 #include "platform/system_clock.h"
+#include "support/columns.h"
 #include "support/registry.h"
 
 #include <QtTest>
@@ -28,8 +29,7 @@ class DesktopTest : public QObject
 private slots:
     void knowsWaves_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<bool>("isWave");
+        columns<QByteArray, bool>("bytes", "isWave");
         QTest::newRow("whole") << wave(format + sound) << true;
         QTest::newRow("with another chunk of odd size")
             << wave(format + QByteArray("LIST\x01\0\0\0x\0", 10) + sound) << true;
@@ -105,25 +105,6 @@ private slots:
         QVERIFY(served);
         QVERIFY(timer.elapsed() >= LoopPump::sliceMs - 1); // not in every round
         QVERIFY(!pump.inputWaiting());
-    }
-
-    void windowsAreCentredAndOnTop()
-    {
-        QWidget form;
-        form.resize(301, 200);
-        CenterForm(&form);
-        const QRect screen = form.screen()->geometry();
-        QCOMPARE(form.pos(), QPoint((screen.width() - 301) / 2, (screen.height() - 200) / 2));
-        form.show();
-        MakeTopMost(&form);
-        QVERIFY(form.windowFlags().testFlag(Qt::WindowStaysOnTopHint) && form.isVisible());
-        MakeTopMost(&form, false);
-        QVERIFY(!form.windowFlags().testFlag(Qt::WindowStaysOnTopHint) && form.isVisible());
-        QFrame control;
-        ThinBorder(&control, true);
-        QCOMPARE(control.frameWidth(), 1);
-        ThinBorder(&control, false);
-        QCOMPARE(control.frameWidth(), 0);
     }
 };
 

@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/ini_file.h"
+#include "support/columns.h"
 #include "support/error_of.h"
+#include "support/file_bytes.h"
 #include "support/registry.h"
 
 #include <QtTest>
@@ -15,25 +17,13 @@ class IniFileTest : public QObject
     QTemporaryDir folder_;
     QString path_ = folder_.filePath(u"Probe.ini"_s);
 
-    void put(const QByteArray &bytes) const
-    {
-        QFile file(path_);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
-    QByteArray get() const
-    {
-        QFile file(path_);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing");
-    }
-
 private slots:
     void cleanup() { QFile::remove(path_); }
 
     void reads_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("value"); // of key Tipp in section A
+        // value: of key Tipp in section A
+        columns<QByteArray, QString>("bytes", "value");
         QTest::newRow("plain") << QByteArray("[A]\r\nTipp=x y\r\n") << u"x y"_s;
         QTest::newRow("other case and blanks") << QByteArray("  [ a ]\n  tiPP =  x  \n") << u"x"_s;
         QTest::newRow("quotes keep blanks") << QByteArray("[A]\nTipp=\" x \"\n") << u" x "_s;
@@ -61,14 +51,14 @@ private slots:
     void reads()
     {
         QFETCH(QByteArray, bytes);
-        put(bytes);
+        putBytes(path_, bytes);
         QTEST(IniFile(path_).read(u"A"_s, u"Tipp"_s, u"-"_s), "value");
     }
 
     void writes_data()
     {
-        QTest::addColumn<QByteArray>("before");
-        QTest::addColumn<QByteArray>("after"); // key K in section A set to "ö"
+        // after: key K in section A set to "ö"
+        columns<QByteArray, QByteArray>("before", "after");
         QTest::newRow("new file") << QByteArray() << QByteArray("[A]\r\nK=\xF6\r\n");
         QTest::newRow("in place") << QByteArray("; \x84 \n[a]\nk = 1\nx=2\n")
                                   << QByteArray("; \x84 \n[a]\nk =\xF6\r\nx=2\n");
@@ -87,12 +77,12 @@ private slots:
     void writes()
     {
         QFETCH(QByteArray, before);
-        put(before);
+        putBytes(path_, before);
         IniFile file(path_);
         file.write(u"A"_s, u"K"_s, u"ö"_s);
         QCOMPARE(file.read(u"a"_s, u"k"_s), u"ö"_s);
         file.save();
-        QTEST(get(), "after");
+        QTEST(bytesOf(path_), "after");
         QCOMPARE(IniFile(path_).read(u"a"_s, u"k"_s), u"ö"_s);
     }
 
@@ -101,13 +91,13 @@ private slots:
         IniFile file(path_);
         file.write(u"A\n[B]"_s, u"K\r"_s, u"a\r\n[C]\nK=1"_s);
         file.save();
-        QCOMPARE(get(), QByteArray("[A [B]]\r\nK =a  [C] K=1\r\n"));
+        QCOMPARE(bytesOf(path_), QByteArray("[A [B]]\r\nK =a  [C] K=1\r\n"));
         QCOMPARE(IniFile(path_).read(u"A [B]"_s, u"K"_s), u"a  [C] K=1"_s);
     }
 
     void untouchedFileIsNotWritten()
     {
-        put("x");
+        putBytes(path_, "x");
         QFile::remove(path_);
         IniFile(path_).save();
         QVERIFY(!QFileInfo::exists(path_));

@@ -3,6 +3,7 @@
 #include "platform/options.h"
 #include "platform/runtime_error.h"
 #include "platform/text_masks.h"
+#include "support/columns.h"
 #include "support/registry.h"
 #include "support/test_ground.h"
 
@@ -66,9 +67,7 @@ private slots:
 
     void storedTexts_data()
     {
-        QTest::addColumn<Setting>("id");
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<QString>("shown");
+        columns<Setting, QString, QString>("id", "stored", "shown");
         const QString before = u"(before)"_s;
         QTest::newRow("box on") << Setting::UseBackup << u"1"_s << u"1"_s;
         QTest::newRow("box in its third state") << Setting::UseBackup << u"2"_s << u"2"_s;
@@ -100,30 +99,21 @@ private slots:
         QCOMPARE(t.options.text(id), shown == u"(before)"_s ? before : shown);
     }
 
-    void readersPastTheEditedValue_data()
-    {
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<bool>("on");
-        QTest::newRow("0") << u"0"_s << false;
-        QTest::newRow("1") << u"1"_s << true;
-        QTest::newRow("2") << u"2"_s << true;
-        QTest::newRow("False") << u"False"_s << false;
-        QTest::newRow("garbage gives the default") << u"??"_s << true;
-    }
     void readersPastTheEditedValue()
     {
-        QFETCH(QString, stored);
-        QFETCH(bool, on);
-        TestGround t;
-        t.store.SaveSetting(u"Settings"_s, u"UseUndo"_s, stored);
-        t.options.setBox(Setting::UseUndo, on ? 0 : 1);
-        QCOMPARE(t.options.storedIsOn(Setting::UseUndo), on);
+        const std::pair<QString, bool> rows[] = {
+            {u"0"_s, false}, {u"1"_s, true}, {u"2"_s, true}, {u"False"_s, false}, {u"??"_s, true}};
+        for (const auto &[stored, on] : rows) { // garbage gives the default
+            TestGround t;
+            t.store.SaveSetting(u"Settings"_s, u"UseUndo"_s, stored);
+            t.options.setBox(Setting::UseUndo, on ? 0 : 1);
+            QCOMPARE(t.options.storedIsOn(Setting::UseUndo), on);
+        }
     }
 
     void blankFieldsAreRepaired_data()
     {
-        QTest::addColumn<Setting>("id");
-        QTest::addColumn<QString>("repaired");
+        columns<Setting, QString>("id", "repaired");
         QTest::newRow("NumWortel") << Setting::NumWortel << u"20"_s;
         QTest::newRow("MaxTriesToPlace") << Setting::MaxTriesToPlace << u"1000"_s;
         QTest::newRow("WortelFile") << Setting::WortelFile << u"%APP%text\\Hauptbausteine.Txt"_s;
@@ -162,11 +152,7 @@ private slots:
 
     void masks_data()
     {
-        QTest::addColumn<bool>("all");
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<int>("caret");
-        QTest::addColumn<QString>("kept");
-        QTest::addColumn<int>("caretAfter");
+        columns<bool, QString, int, QString, int>("all", "typed", "caret", "kept", "caretAfter");
         QTest::newRow("digits stay") << false << u"0129"_s << 2 << u"0129"_s << 2;
         QTest::newRow("dropped before the caret") << false << u"1a2b3"_s << 4 << u"123"_s << 2;
         QTest::newRow("dropped behind the caret") << false << u"1a2b3"_s << 1 << u"123"_s << 1;

@@ -3,6 +3,7 @@
 #include "platform/files.h"
 #include "platform/log.h"
 #include "platform/procedure.h"
+#include "support/columns.h"
 #include "support/registry.h"
 
 #include <QtTest>
@@ -68,8 +69,7 @@ private slots:
 
     void logIsInertOrHarmless_data()
     {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<bool>("on");
+        columns<QString, bool>("file", "on");
         QTest::newRow("off") << folder_.filePath(u"off.log"_s) << false;
         QTest::newRow("no such folder") << folder_.filePath(u"fehlt/errors.log"_s) << true;
         QTest::newRow("is a folder") << folder_.path() << true;

@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/settings_file.h"
+#include "support/columns.h"
 #include "support/error_of.h"
+#include "support/file_bytes.h"
 #include "support/file_size_limit.h"
 #include "support/registry.h"
 
@@ -17,27 +19,12 @@ class SettingsFileTest : public QObject
     QTemporaryDir folder_;
     QString file_ = folder_.filePath(u"Neu/Wortel-Meister/settings.ini"_s);
 
-    void put(const QByteArray &bytes) const
-    {
-        QDir().mkpath(QFileInfo(file_).path());
-        QFile file(file_);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
-    static QByteArray get(const QString &path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing");
-    }
-
 private slots:
     void cleanup() { QDir(folder_.filePath(u"Neu"_s)).removeRecursively(); }
 
     void keepsAnyText_data()
     {
-        QTest::addColumn<QString>("section");
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<QString>("value");
+        columns<QString, QString, QString>("section", "key", "value");
         QTest::newRow("plain") << u"Settings"_s << u"NumWortel"_s << u"20"_s;
         QTest::newRow("umlauts and blanks") << u"Fächer zwei"_s << u" Größe :"_s << u"  weiß  "_s;
         QTest::newRow("signs") << u"a]=[b"_s << u"=k=["_s << u"x=[y];#"_s;
@@ -77,12 +64,8 @@ private slots:
 
     void garbageIsKeptBeside_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("numWortel");
-        QTest::newRow("binary") << QByteArray("\x7F"
-                                              "ELF\0\xFF\n\xFE",
-                                              8)
-                                << u"20"_s;
+        columns<QByteArray, QString>("bytes", "numWortel");
+        QTest::newRow("binary") << QByteArray("\177ELF\0\xFF\n\xFE", 8) << u"20"_s;
         QTest::newRow("half good") << QByteArray("[Settings]\nNumWortel=7\n\xFF\xFEschrott\n[Sett") << u"7"_s;
         QTest::newRow("a letter") << QByteArray("Liebe Oma,\nwie geht es dir?\n") << u"20"_s;
         QTest::newRow("one endless line") << QByteArray(1 << 20, 'x') << u"20"_s;
@@ -90,20 +73,20 @@ private slots:
     void garbageIsKeptBeside()
     {
         QFETCH(QByteArray, bytes);
-        put(bytes);
+        putBytes(file_, bytes);
         SettingsFile store(file_);
         QTEST(store.GetSetting(u"Settings"_s, u"NumWortel"_s, u"20"_s), "numWortel");
-        QCOMPARE(get(file_), bytes);
+        QCOMPARE(bytesOf(file_), bytes);
         store.SaveSetting(u"Settings"_s, u"UseUndo"_s, u"0"_s);
-        QCOMPARE(get(file_ + u".bak"_s), bytes);
+        QCOMPARE(bytesOf(file_ + u".bak"_s), bytes);
         QTEST(SettingsFile(file_).GetSetting(u"Settings"_s, u"NumWortel"_s, u"20"_s), "numWortel");
         store.SaveSetting(u"Settings"_s, u"UseUndo"_s, u"1"_s);
-        QCOMPARE(get(file_ + u".bak"_s), bytes);
+        QCOMPARE(bytesOf(file_ + u".bak"_s), bytes);
     }
 
     void emptyFileIsNoGarbage()
     {
-        put("");
+        putBytes(file_, "");
         SettingsFile store(file_);
         store.SaveSetting(u"Settings"_s, u"a"_s, u"1"_s);
         QVERIFY(!QFileInfo::exists(file_ + u".bak"_s));
@@ -113,11 +96,11 @@ private slots:
     {
         SettingsFile store(file_);
         store.SaveSetting(u"Settings"_s, u"a"_s, u"1"_s);
-        const QByteArray before = get(file_);
+        const QByteArray before = bytesOf(file_);
         {
             const FileSizeLimit full(100);
             QVERIFY(errorOf([&] { store.SaveSetting(u"Settings"_s, u"b"_s, QString(500, u'x')); }) != 0);
-            QCOMPARE(get(file_), before);
+            QCOMPARE(bytesOf(file_), before);
             QCOMPARE(store.GetSetting(u"Settings"_s, u"b"_s, QString()).size(), 500);
         }
         store.SaveSetting(u"Settings"_s, u"a"_s, u"1"_s); // unchanged, but there is something to make up for
@@ -136,7 +119,7 @@ private slots:
 
     void aHeldLockCostsHalfASecondAtMost()
     {
-        put("[Settings]\na=1\n");
+        putBytes(file_, "[Settings]\na=1\n");
         QLockFile lock(file_ + u".lock"_s);
         QVERIFY(lock.lock());
         SettingsFile store(file_);

@@ -3,6 +3,7 @@
 #include "platform/files.h"
 #include "platform/log.h"
 #include "platform/system_info.h"
+#include "support/columns.h"
 #include "support/registry.h"
 
 #include <QStandardPaths>
@@ -15,24 +16,13 @@ class SystemInfoTest : public QObject
     Q_OBJECT
 
 private slots:
-    void namesSystems_data()
-    {
-        QTest::addColumn<QString>("version");
-        QTest::addColumn<QString>("build");
-        QTest::addColumn<QString>("name");
-        QTest::newRow("first") << u"1.4.0"_s << u"950"_s << u"Windows 95 Alpha"_s;
-        QTest::newRow("OSR 2") << u"1.4.0"_s << u"1111"_s << u"Windows 95 B (OSR 2/OSR 2.1)"_s;
-        QTest::newRow("other build") << u"1.4.0"_s << u"951"_s << u"Windows 95, Build n/a"_s;
-        QTest::newRow("any build") << u"2.5.1"_s << u"2600"_s << u"Windows XP"_s;
-        QTest::newRow("unknown") << u"2.5.2"_s << u"3790"_s << u"Not Available"_s;
-    }
     void namesSystems()
     {
-        QFETCH(QString, version);
-        QFETCH(QString, build);
-        QTEST(osName(version, build), "name");
-        QVERIFY(!GetOSName().isEmpty());
-        QVERIFY(!GetUserName().isEmpty());
+        QCOMPARE(osName(u"1.4.0"_s, u"1111"_s), u"Windows 95 B (OSR 2/OSR 2.1)"_s);
+        QCOMPARE(osName(u"1.4.0"_s, u"951"_s), u"Windows 95, Build n/a"_s);
+        QCOMPARE(osName(u"2.5.1"_s, u"2600"_s), u"Windows XP"_s);
+        QCOMPARE(osName(u"2.5.2"_s, u"3790"_s), u"Not Available"_s);
+        QVERIFY(!GetOSName().isEmpty() && !GetUserName().isEmpty());
     }
 
     void killsFiles()
@@ -57,8 +47,7 @@ private slots:
 
     void recentDocuments_data()
     {
-        QTest::addColumn<QByteArray>("before");
-        QTest::addColumn<bool>("understood");
+        columns<QByteArray, bool>("before", "understood");
         QTest::newRow("no list yet") << QByteArray() << true;
         QTest::newRow("a list") << QByteArray("<xbel version=\"1.0\" xmlns:bookmark=\"b\" xmlns:mime=\"m\">\n"
                                               "  <bookmark href=\"file:///x\"></bookmark>\n</xbel>\n")

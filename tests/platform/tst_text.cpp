@@ -3,6 +3,7 @@
 #include "platform/rnd.h"
 #include "platform/text.h"
 #include "platform/windows1252.h"
+#include "support/columns.h"
 #include "support/error_of.h"
 #include "support/registry.h"
 
@@ -19,9 +20,7 @@ class TextTest : public QObject
 private slots:
     void casesMapOneToOne_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("upper");
-        QTest::addColumn<QString>("lower");
+        columns<QString, QString, QString>("text", "upper", "lower");
         QTest::newRow("sharp s") << u"Straße"_s << u"STRAßE"_s << u"straße"_s;
         QTest::newRow("umlauts") << u"äÖü"_s << u"ÄÖÜ"_s << u"äöü"_s;
         QTest::newRow("ligature") << u"ﬁn"_s << u"ﬁN"_s << u"ﬁn"_s;
@@ -52,10 +51,7 @@ private slots:
 
     void turnsTheFirstLetter_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<bool>("capital");
-        QTest::addColumn<QString>("toggled");
-        QTest::addColumn<QString>("initCap");
+        columns<QString, bool, QString, QString>("text", "capital", "toggled", "initCap");
         QTest::newRow("small") << u"haus"_s << false << u"Haus"_s << u"Haus"_s;
         QTest::newRow("capitals") << u"HAUS"_s << true << u"haus"_s << u"Haus"_s;
         QTest::newRow("ü is small") << u"üBung"_s << false << u"Übung"_s << u"Übung"_s;
@@ -81,9 +77,8 @@ private slots:
 
     void readsNumbers_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<double>("value");
-        QTest::addColumn<int>("whole"); // the error of CDbl
+        // whole: the error of CDbl
+        columns<QString, double, int>("text", "value", "whole");
         QTest::newRow("plain") << u"12"_s << 12.0 << 0;
         QTest::newRow("letters behind") << u"12abc"_s << 12.0 << 13;
         QTest::newRow("blanks") << u" - 1 2 "_s << -12.0 << 13;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/files.h"
 #include "platform/window_file_dialogs.h"
+#include "support/columns.h"
 #include "support/registry.h"
 
 #include <QtTest>
@@ -48,21 +49,10 @@ private slots:
             writeFileAtomically(folder_.filePath(name), "x");
     }
 
-    void turnsFilters_data()
-    {
-        QTest::addColumn<QString>("filter");
-        QTest::addColumn<QStringList>("names");
-        QTest::newRow("one") << lists_ << QStringList{u"Text Dateien (*.txt) (*.txt)"_s};
-        QTest::newRow("patterns") << u"Bild-Dateien (*.jpg, *.gif, *.bmp)|*.jpg;*.jpeg;*.gif;*.bmp;"_s
-                                  << QStringList{
-                                         u"Bild-Dateien (*.jpg, *.gif, *.bmp) (*.jpg *.jpeg *.gif *.bmp)"_s};
-        QTest::newRow("two") << u"A|*.a|B|*.b"_s << QStringList{u"A (*.a)"_s, u"B (*.b)"_s};
-        QTest::newRow("half") << u"A"_s << QStringList();
-    }
     void turnsFilters()
     {
-        QFETCH(QString, filter);
-        QTEST(WindowFileDialogs::nameFilters(filter), "names");
+        QCOMPARE(WindowFileDialogs::nameFilters(u"A|*.a|Bilder (*.jpg)|*.jpg;*.jpeg;|halb"_s),
+                 QStringList({u"A (*.a)"_s, u"Bilder (*.jpg) (*.jpg *.jpeg)"_s}));
     }
 
     void opensSeveralInTheDialogsOrder()
@@ -87,8 +77,7 @@ private slots:
 
     void savesWithSuffix_data()
     {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("name");
+        columns<QString, QString>("typed", "name");
         QTest::newRow("added") << u"Größe"_s << u"Größe.txt"_s;
         QTest::newRow("there") << u"Größe.TXT"_s << u"Größe.TXT"_s;
         QTest::newRow("other") << u"Größe.lst"_s << u"Größe.lst"_s;

@@ -3,6 +3,7 @@
 #include "platform/rnd.h"
 #include "platform/text.h"
 #include "platform/word_store.h"
+#include "support/columns.h"
 #include "support/error_of.h"
 #include "support/registry.h"
 
@@ -113,8 +114,7 @@ private slots:
 
     void removesOnlyNeighbouringDuplicates_data()
     {
-        QTest::addColumn<QStringList>("rows");
-        QTest::addColumn<QStringList>("left");
+        columns<QStringList, QStringList>("rows", "left");
         QTest::newRow("neighbours") << QStringList{u"Abend"_s, u"Abend"_s, u"Abend"_s}
                                     << QStringList{u"Abend"_s};
         const QStringList apart{u"Abend"_s, u"Ball"_s, u"Abend"_s};
@@ -134,6 +134,9 @@ private slots:
 
     void countIsSixteenBits()
     {
+        QCOMPARE(Int16(-32768LL).value(), -32768);
+        for (const long long beyond : {32768LL, -32769LL, 0x100000001LL})
+            QCOMPARE(errorOf([&] { Int16{beyond}; }), 6);
         WordStore store;
         QSignalSpy changed(&store, &WordStore::changed);
         QCOMPARE(errorOf([&] { store.addAll(numbered(40000)); }), 6);
@@ -157,9 +160,7 @@ private slots:
 
     void findPrefixWrapsRound_data()
     {
-        QTest::addColumn<QString>("start");
-        QTest::addColumn<int>("after");
-        QTest::addColumn<int>("row");
+        columns<QString, int, int>("start", "after", "row");
         QTest::newRow("from the first") << u"AB"_s << -1 << 0;
         QTest::newRow("behind the first") << u"ab"_s << 0 << 2;
         QTest::newRow("wraps") << u"ba"_s << 1 << 1;

@@ -3,10 +3,14 @@
 #include "platform/files.h"
 #include "platform/runtime_error.h"
 #include "shell/argument_handler.h"
+#include "shell/splash.h"
 #include "shell/start_steps.h"
+#include "support/columns.h"
 #include "support/registry.h"
 #include "support/test_ground.h"
 
+#include <QApplication>
+#include <QDialog>
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
@@ -20,22 +24,22 @@ class StartStepsTest : public QObject
 private slots:
     void actsOnArguments_data()
     {
-        QTest::addColumn<QString>("line");
-        QTest::addColumn<bool>("goesOn");
-        QTest::addColumn<QString>("boxTitle"); // of the plain box, if any
-        QTest::addColumn<QString>("boxText");
-        QTest::addColumn<bool>("about");
+        // boxTitle: of the plain box, if any
+        columns<QString, bool, QString, QString, bool>("line", "goesOn", "boxTitle", "boxText", "about");
         const QString none;
         QTest::newRow("nothing") << none << true << none << none << false;
         QTest::newRow("about ends the walk") << u"/I /?"_s << false << none << none << true;
         QTest::newRow("parameters") << u"/?"_s << false << u"Wortel-Meister - Commandline Parameters"_s
-                                    << u"Valid parameters are\n\n/L\tEnable errors and events-logging\n\n/I\tShow info about... Wortel\n\n"
+                                    << u"Valid parameters are\n\n/L\tEnable errors and "
+                                       u"events-logging\n\n/I\tShow info about... Wortel\n\n"
                                        "/?\tShow valid parameters\n\nExample:\n\nwortel /L"_s
                                     << false;
         QTest::newRow("wrong") << u"/xyz"_s << false << u"Wortel-Meister - Fehler"_s
-                               << u"Invalid Parameter: xyz\n\nFor valid parameters, type: Wortel /?"_s << false;
-        QTest::newRow("small letter is wrong") << u"/i"_s << false << u"Wortel-Meister - Fehler"_s
-                                               << u"Invalid Parameter: i\n\nFor valid parameters, type: Wortel /?"_s << false;
+                               << u"Invalid Parameter: xyz\n\nFor valid parameters, type: Wortel /?"_s
+                               << false;
+        QTest::newRow("small letter is wrong")
+            << u"/i"_s << false << u"Wortel-Meister - Fehler"_s
+            << u"Invalid Parameter: i\n\nFor valid parameters, type: Wortel /?"_s << false;
     }
     void actsOnArguments()
     {
@@ -50,7 +54,8 @@ private slots:
         ArgumentHandler handler;
         handler.ParseCommandLine(line);
         bool shown = false;
-        QCOMPARE(start_steps::ApplyArguments(t.ground, handler, true, [&] { shown = true; }) == Next::GoOn, goesOn);
+        QCOMPARE(start_steps::ApplyArguments(t.ground, handler, true, [&] { shown = true; }) == Next::GoOn,
+                 goesOn);
         QCOMPARE(shown, about);
         QVERIFY(t.ok());
         QCOMPARE(t.boxes.asked.isEmpty() ? QString() : t.boxes.asked.first().title, boxTitle);
@@ -64,17 +69,15 @@ private slots:
         t.boxes.willAnswer(Boxes::Answer::Ok);
         ArgumentHandler handler;
         handler.ParseCommandLine(u"/I"_s);
-        const Next next = start_steps::ApplyArguments(t.ground, handler, true, [] { throw RuntimeError::of(7); });
+        const Next next =
+            start_steps::ApplyArguments(t.ground, handler, true, [] { throw RuntimeError::of(7); });
         QVERIFY(next == Next::GoOn);
         QCOMPARE(t.boxes.asked.first().text, u"Commandline Parameter Error"_s);
     }
 
     void opensTheLog_data()
     {
-        QTest::addColumn<bool>("first");
-        QTest::addColumn<int>("answer");
-        QTest::addColumn<bool>("oldLogStays");
-        QTest::addColumn<bool>("backup");
+        columns<bool, int, bool, bool>("first", "answer", "oldLogStays", "backup");
         QTest::newRow("emptied") << true << 0 << false << false;
         QTest::newRow("kept") << true << 1 << true << true;
         QTest::newRow("second instance") << false << -1 << true << false;
@@ -101,8 +104,8 @@ private slots:
         QCOMPARE(lines.contains(u"alt"_s), oldLogStays);
         if (!first)
             return;
-        QCOMPARE(t.boxes.asked.first().text,
-                 u"Möchten Sie erst die Fehleraufzeichnungsdatei\n\n"_s + file + u" (error.log) zurücksetzen?  "_s);
+        QCOMPARE(t.boxes.asked.first().text, u"Möchten Sie erst die Fehleraufzeichnungsdatei\n\n"_s + file +
+                                                 u" (error.log) zurücksetzen?  "_s);
         QCOMPARE(t.boxes.asked.first().style, u"CONFIRM"_s);
         QVERIFY(lines.contains(u"Date/Time: 03/14/2026  09:26 AM"_s));
         const QString last = backup ? u"Event: Backup-file (WLXAutoSave.bak), opened in the default folder"_s
@@ -110,13 +113,23 @@ private slots:
         QCOMPARE(lines.last(), last);
     }
 
+    void theSplashStepsAsideForAQuestion()
+    {
+        TestGround t;
+        frmSplash splash(t.clock);
+        splash.showWithShadow();
+        QVERIFY(splash.isVisible());
+        QDialog question;
+        question.setModal(true);
+        question.show();
+        for (const QWidget *window : QApplication::topLevelWidgets())
+            QCOMPARE(window->isVisible(), window == &question);
+    }
+
     void offersRecovery_data()
     {
-        QTest::addColumn<QString>("useBackup");
-        QTest::addColumn<bool>("fileExists");
-        QTest::addColumn<int>("answer"); // -1: not asked
-        QTest::addColumn<bool>("goesOn");
-        QTest::addColumn<bool>("recovers");
+        // answer: -1: not asked
+        columns<QString, bool, int, bool, bool>("useBackup", "fileExists", "answer", "goesOn", "recovers");
         const int yes = static_cast<int>(Boxes::Answer::Yes);
         const int no = static_cast<int>(Boxes::Answer::No);
         const int cancel = static_cast<int>(Boxes::Answer::Cancel);

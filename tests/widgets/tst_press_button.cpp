@@ -79,15 +79,6 @@ private slots:
         QVERIFY(!bench.button.isChecked());
     }
 
-    void disabledTellsNothing()
-    {
-        Bench bench;
-        bench.button.setEnabled(false);
-        QTest::mouseClick(&bench.button, Qt::LeftButton);
-        QTest::mouseClick(&bench.button, Qt::RightButton);
-        QVERIFY(bench.told.isEmpty());
-    }
-
     void aRestingFingerIsTheRightButton()
     {
         Bench bench(true);
@@ -121,32 +112,6 @@ private slots:
         QPointer<PressButton> watched(button);
         QTest::mouseClick(button, Qt::LeftButton);
         QVERIFY(watched.isNull());
-    }
-
-    void statesLookDifferent()
-    {
-        Bench bench(true);
-        bench.button.setText(u"20"_s);
-        QList<QImage> looks;
-        const auto take = [&] {
-            const QImage look = bench.button.grab().toImage();
-            QVERIFY(!looks.contains(look));
-            looks << look;
-        };
-        take();
-        bench.button.setDown(true);
-        take();
-        bench.button.setDown(false);
-        bench.button.setChecked(true);
-        take();
-        bench.button.setEnabled(false);
-        take();
-        bench.button.setChecked(false);
-        take();
-        bench.button.setFace(Qt::red, Qt::white);
-        take();
-        bench.button.setEnabled(true);
-        take();
     }
 };
 

