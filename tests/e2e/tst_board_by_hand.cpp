@@ -25,7 +25,9 @@ private slots:
         desktop_->start({desktop_->writeFile(u"brett.wlx"_s, knownBoard())});
         QVERIFY(!desktop_->waitForWindow(mainWindow).isEmpty());
         board_ = desktop_->boardArea();
-        QVERIFY(desktop_->waitForPicture([this](const QImage &) { return wortels().size() == 6; }));
+        counterArea_ = desktop_->toolArea(u"OptType(0)"_s);
+        QVERIFY(
+            desktop_->waitForPicture([this](const QImage &picture) { return wortels(picture).size() == 6; }));
     }
 
     void aTileFollowsThePointer()
@@ -72,11 +74,14 @@ private slots:
         desktop_->keepPicture(u"remove-question"_s);
         desktop_->key(u"Return"_s);
         QVERIFY(desktop_->waitForNoWindow(u"^Entfernen$"_s));
-        QVERIFY(desktop_->waitForPicture([this](const QImage &) { return wortels().size() == 5; }));
-        QVERIFY(desktop_->waitForPicture([&](const QImage &) { return !sameText(counter(), six); }));
+        QVERIFY(
+            desktop_->waitForPicture([this](const QImage &picture) { return wortels(picture).size() == 5; }));
+        QVERIFY(desktop_->waitForPicture(
+            [&](const QImage &picture) { return !sameText(counter(picture), six); }));
 
         desktop_->chooseFromMenu(wortels().first().center(), u"Down Down Right Return"_s); // one copy
-        QVERIFY(desktop_->waitForPicture([&](const QImage &) { return sameText(counter(), six); }));
+        QVERIFY(
+            desktop_->waitForPicture([&](const QImage &picture) { return sameText(counter(picture), six); }));
         desktop_->keepPicture(u"tile-copied"_s);
     }
 
@@ -105,8 +110,8 @@ private slots:
 
         desktop_->key(u"ctrl+b"_s);
         // Five in a row, as the setting tells, and the sixth below the first.
-        QVERIFY(desktop_->waitForPicture([this](const QImage &) {
-            const QVector<QRect> tiles = wortels();
+        QVERIFY(desktop_->waitForPicture([this](const QImage &picture) {
+            const QVector<QRect> tiles = wortels(picture);
             return tiles.size() == 6 && tiles.at(4).top() == tiles.at(0).top() &&
                    tiles.at(5).left() == tiles.at(0).left();
         }));
@@ -138,6 +143,7 @@ private slots:
 private:
     QVector<QRect> tiles(QRgb colour) { return tilesOn(desktop_->screenshot(), board_, colour); }
     QVector<QRect> wortels() { return tiles(colour::red); }
+    QVector<QRect> wortels(const QImage &screen) const { return tilesOn(screen, board_, colour::red); }
     /// The sorted board shows its six words in their order.
     QRect tileOf(const QString &text)
     {
@@ -146,10 +152,12 @@ private:
         return wortels().value(words.indexOf(text));
     }
     QPoint emptySpot() const { return board_.topRight() + QPoint(-300, 60); }
-    QImage counter() { return desktop_->screenshot().copy(desktop_->toolArea(u"OptType(0)"_s)); }
+    QImage counter() { return counter(desktop_->screenshot()); }
+    QImage counter(const QImage &screen) const { return screen.copy(counterArea_); }
 
     std::unique_ptr<Desktop> desktop_;
     QRect board_;
+    QRect counterArea_;
 };
 
 WORTEL_TEST(BoardByHandTest)
