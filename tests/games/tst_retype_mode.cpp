@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "games/retype_desk.h"
+#include "support/columns.h"
 #include "support/registry.h"
 #include "widgets/click_label.h"
 #include "widgets/gradient.h"
@@ -92,9 +93,7 @@ private slots:
 
     void copiedWordsLeave_data()
     {
-        QTest::addColumn<QStringList>("words");
-        QTest::addColumn<QStringList>("typed");
-        QTest::addColumn<QStringList>("left");
+        columns<QStringList, QStringList, QStringList>("words", "typed", "left");
         QTest::newRow("case ignored")
             << QStringList{u"haus"_s, u"laufen"_s} << QStringList{u"HAUS"_s} << QStringList{u"laufen"_s};
         // The row that moves up into the gap is passed over.
@@ -138,10 +137,7 @@ private slots:
 
     void praises_data()
     {
-        QTest::addColumn<QString>("mode");
-        QTest::addColumn<QString>("copied");
-        QTest::addColumn<QString>("style");
-        QTest::addColumn<QString>("caption");
+        columns<QString, QString, QString, QString>("mode", "copied", "style", "caption");
         const QString words = u"0 Wörter übrig zum Abschreiben"_s;
         QTest::newRow("words") << u"USERWORDS"_s << u"alle Wörter"_s << u"SMILEY"_s << words;
         QTest::newRow("nonsense") << u"PSEUDOWORDSFROMSCREEN"_s << u"alle Wörter"_s << u"SMILEY"_s << words;
@@ -185,8 +181,7 @@ private slots:
 
     void keepsTheWords_data()
     {
-        QTest::addColumn<int>("option");
-        QTest::addColumn<int>("answer");
+        columns<int, int>("option", "answer");
         QTest::newRow("shown") << 1 << 0;
         QTest::newRow("shown after Esc, too") << 1 << 1;
         QTest::newRow("not asked for") << 0 << 0;
@@ -345,8 +340,7 @@ private slots:
 
     void limits_data()
     {
-        QTest::addColumn<int>("count");
-        QTest::addColumn<QString>("notice");
+        columns<int, QString>("count", "notice");
         QTest::newRow("none") << 0 << u"Es gibt keine Wörter zum Abschreiben"_s;
         QTest::newRow("1023") << 1023 << QString();
         QTest::newRow("1024") << 1024 << u"Es können max. 1024 Wörter benutzt werden"_s;
@@ -375,9 +369,7 @@ private slots:
 
     void oddStripsAreCopied_data()
     {
-        QTest::addColumn<QString>("separator");
-        QTest::addColumn<int>("interval");
-        QTest::addColumn<int>("length");
+        columns<QString, int, int>("separator", "interval", "length");
         QTest::newRow("500 letters") << QString(36, u' ') << 125 << 500;
         QTest::newRow("10,000 blanks") << QString(10000, u' ') << 125 << 5;
         QTest::newRow("interval 0") << QString(36, u' ') << 0 << 5;

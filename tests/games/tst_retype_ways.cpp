@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "games/retype_desk.h"
+#include "support/columns.h"
 #include "support/registry.h"
 
 #include <QtTest>
@@ -137,8 +138,7 @@ class RetypeWaysTest : public QObject
 private slots:
     void everyWayGivesTheToolsBack_data()
     {
-        QTest::addColumn<int>("start");
-        QTest::addColumn<int>("way");
+        columns<int, int>("start", "way");
         for (int start = 0; start < static_cast<int>(std::size(starts)); ++start) {
             for (int way = 0; way < static_cast<int>(std::size(ways)); ++way)
                 QTest::addRow("%s: %s", starts[start].name, ways[way].name) << start << way;

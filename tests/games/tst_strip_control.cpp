@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "games/strip_control.h"
+#include "support/columns.h"
 #include "support/registry.h"
 #include "support/test_ground.h"
 #include "widgets/main_controls.h"
@@ -64,8 +65,7 @@ private slots:
 
 void StripControlTest::places_data()
 {
-    QTest::addColumn<int>("option");
-    QTest::addColumn<QPoint>("place");
+    columns<int, QPoint>("option", "place");
     // The list stands 35 pixels from the left, the band is 88 high, the strip 250 by 30.
     QTest::newRow("lower left") << static_cast<int>(Setting::ScrollerLeftDownPos) << QPoint(35, 582);
     QTest::newRow("middle") << static_cast<int>(Setting::ScrollerMiddlePos) << QPoint(375, 247);
@@ -136,9 +136,7 @@ void StripControlTest::movesWithShift()
 
 void StripControlTest::rightButtonPauses_data()
 {
-    QTest::addColumn<int>("allowed");
-    QTest::addColumn<Qt::KeyboardModifiers>("keys");
-    QTest::addColumn<bool>("pauses");
+    columns<int, Qt::KeyboardModifiers, bool>("allowed", "keys", "pauses");
     QTest::newRow("allowed") << 1 << Qt::KeyboardModifiers() << true;
     QTest::newRow("not allowed") << 0 << Qt::KeyboardModifiers() << false;
     QTest::newRow("with Shift") << 1 << Qt::KeyboardModifiers(Qt::ShiftModifier) << false;

@@ -4,6 +4,7 @@
 #include "language/word_tests.h"
 #include "platform/text.h"
 #include "platform/word_lists.h"
+#include "support/columns.h"
 #include "support/plain_board.h"
 #include "support/registry.h"
 #include "support/test_ground.h"
@@ -52,10 +53,7 @@ private slots:
 
     void clusters_data()
     {
-        QTest::addColumn<QString>("stem");
-        QTest::addColumn<QString>("suffix");
-        QTest::addColumn<bool>("bad");
-        QTest::addColumn<bool>("badForSweep");
+        columns<QString, QString, bool, bool>("stem", "suffix", "bad", "badForSweep");
         QTest::newRow("harmless") << u"haus"_s << u"er"_s << false << false;
         QTest::newRow("ratt") << u"rat"_s << u"t"_s << true << true;
         QTest::newRow("sst is for the sweep only") << u"fass"_s << u"t"_s << false << true;
@@ -77,8 +75,7 @@ private slots:
 
     void suffixes_data()
     {
-        QTest::addColumn<QString>("suffix");
-        QTest::addColumn<QStringList>("drawn");
+        columns<QString, QStringList>("suffix", "drawn");
         QTest::newRow("keit") << u"keit"_s << QStringList({u"barkeit"_s, u"lichkeit"_s});
         QTest::newRow("KEIT keeps its case")
             << u"KEIT"_s << QStringList({u"barKEIT"_s, u"barkeit"_s, u"lichKEIT"_s, u"lichkeit"_s});
@@ -112,9 +109,7 @@ private slots:
 
     void collecting_data()
     {
-        QTest::addColumn<QString>("stemList");
-        QTest::addColumn<QStringList>("prefixes");
-        QTest::addColumn<QStringList>("suffixes");
+        columns<QString, QStringList, QStringList>("stemList", "prefixes", "suffixes");
         QTest::newRow("usual list") << u"AU ODER EI"_s << QStringList({u"ver"_s, u"S"_s})
                                     << QStringList({u"ung"_s, u"lich"_s, u"losigkeit"_s});
         QTest::newRow("noun list") << u"Ung Heit Keit schaft NIS TUM"_s << QStringList()

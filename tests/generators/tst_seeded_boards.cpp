@@ -7,6 +7,7 @@
 #include "platform/files.h"
 #include "platform/text.h"
 #include "platform/word_lists.h"
+#include "support/columns.h"
 #include "support/plain_board.h"
 #include "support/registry.h"
 #include "support/test_ground.h"
@@ -65,8 +66,7 @@ private:
 private slots:
     void boards_data()
     {
-        QTest::addColumn<QString>("stemList");
-        QTest::addColumn<int>("seed");
+        columns<QString, int>("stemList", "seed");
         const QStringList names =
             QDir(nativePath(dataFolder() + u"text"_s)).entryList({u"*.txt"_s}, QDir::Files);
         QVERIFY(names.size() >= 3);

@@ -4,6 +4,7 @@
 #include "language/word_tests.h"
 #include "platform/modes.h"
 #include "platform/word_lists.h"
+#include "support/columns.h"
 #include "support/plain_board.h"
 #include "support/registry.h"
 #include "support/test_ground.h"
@@ -139,8 +140,7 @@ private slots:
     /// control stays locked.
     void cancelEndsASearchThatCannotEnd_data()
     {
-        QTest::addColumn<int>("which");
-        QTest::addColumn<QString>("lack");
+        columns<int, QString>("which", "lack");
         for (const QString &lack : {u"no tiles"_s, u"no dictionary"_s, u"too many wanted"_s})
             for (const Run run : {RealWords, NonsenseWords, RealForKernling, NonsenseForKernling})
                 QTest::addRow("%s %d", qPrintable(lack), int(run)) << int(run) << lack;

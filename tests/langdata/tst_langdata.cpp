@@ -5,6 +5,7 @@
 #include "langdata/maker.h"
 #include "langdata/segmenter.h"
 #include "langdata/textfiles.h"
+#include "support/columns.h"
 #include "support/registry.h"
 
 #include <QDir>
@@ -106,8 +107,7 @@ void LangDataTest::addStemLists()
 
 void LangDataTest::listFileIsClean_data()
 {
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<qsizetype>("fewest");
+    columns<QString, qsizetype>("path", "fewest");
     const auto add = [](const QString &folder, const QString &pattern, qsizetype fewest) {
         for (const QString &name : filesIn(folder, pattern))
             QTest::newRow(qPrintable(name)) << dataPath(folder + u'/' + name) << fewest;
@@ -201,8 +201,7 @@ void LangDataTest::nothingUnfitForChildren()
 
 void LangDataTest::affixFitsItsStep_data()
 {
-    QTest::addColumn<QString>("affix");
-    QTest::addColumn<int>("step");
+    columns<QString, int>("affix", "step");
     // pixels from one tile of the first board's rows to the next
     static constexpr int prefixSteps[] = {37, 37, 37, 37, 37, 37, 37, 45, 29, 37,
                                           37, 37, 92, 37, 37, 37, 37, 37, 37, 37};

@@ -4,6 +4,7 @@
 #include "langdata/sources.h"
 #include "langdata/textfiles.h"
 #include "langdata/workshop.h"
+#include "support/columns.h"
 #include "support/registry.h"
 
 #include <QCryptographicHash>
@@ -187,8 +188,7 @@ void LangDataToolTest::badInputLeavesOldFiles()
 
 void LangDataToolTest::blocklistIsAnchored_data()
 {
-    QTest::addColumn<QString>("word");
-    QTest::addColumn<bool>("blocked");
+    columns<QString, bool>("word", "blocked");
     QTest::newRow("the part itself") << u"Arsch"_s << true;
     QTest::newRow("between affixes") << u"verarschte"_s << true;
     QTest::newRow("two prefixes") << u"zuverarschen"_s << true;

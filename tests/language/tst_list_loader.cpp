@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "language/list_loader.h"
 #include "platform/word_lists.h"
+#include "support/columns.h"
 #include "support/registry.h"
 #include "support/test_ground.h"
 
@@ -57,8 +58,7 @@ private slots:
 
     void startStopsAtAMissingFile_data()
     {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<int>("filledStores");
+        columns<QString, int>("file", "filledStores");
         QTest::newRow("stem list") << u"text\\Hauptbausteine.Txt"_s << 0;
         QTest::newRow("dictionary") << u"facit\\Hauptbausteine.lex"_s << 1;
         QTest::newRow("prefixes") << u"affix\\prefix.afx"_s << 2;
@@ -86,8 +86,7 @@ private slots:
 
     void dictionaryOfAStemList_data()
     {
-        QTest::addColumn<QString>("stemList");
-        QTest::addColumn<QString>("dictionary");
+        columns<QString, QString>("stemList", "dictionary");
         QTest::newRow("capital ending") << u"C:\\w\\text\\Deutsch.TXT"_s << u"C:\\w\\facit\\Deutsch.lex"_s;
         QTest::newRow("every text") << u"C:\\textaufgaben\\text\\a.txt"_s
                                     << u"C:\\facitaufgaben\\facit\\a.lex"_s;

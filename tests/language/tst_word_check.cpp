@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "language/word_window.h"
+#include "support/columns.h"
 #include "support/registry.h"
 
 #include <QLabel>
@@ -33,10 +34,7 @@ private slots:
 
     void wrongWord_data()
     {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<int>("caseRule");
-        QTest::addColumn<int>("trims");
-        QTest::addColumn<QString>("asked");
+        columns<QString, int, int, QString>("typed", "caseRule", "trims", "asked");
         QTest::newRow("not in the dictionary") << u"Hauß"_s << 0 << 1 << u"Hauß"_s;
         QTest::newRow("wrong case") << u"haus"_s << 1 << 1 << u"haus"_s;
         QTest::newRow("blanks kept") << u"Haus "_s << 1 << 0 << u"Haus "_s;
@@ -94,9 +92,7 @@ private slots:
 
     void retypeModeTakesTheWord_data()
     {
-        QTest::addColumn<QString>("word");
-        QTest::addColumn<QString>("mode");
-        QTest::addColumn<QString>("popup");
+        columns<QString, QString, QString>("word", "mode", "popup");
         QTest::newRow("dictionary")
             << u"Haus"_s << u"CORRECT_WORDS"_s
             << u"Richtig !|Das gesuchte Wort \n\"Haus\"\nist richtig.|1s 101 bold smiley"_s;
@@ -145,11 +141,7 @@ private slots:
 
     void vowelModes_data()
     {
-        QTest::addColumn<int>("box");
-        QTest::addColumn<QString>("word");
-        QTest::addColumn<bool>("right");
-        QTest::addColumn<QList<int>>("sounds");
-        QTest::addColumn<bool>("asksForAStem");
+        columns<int, QString, bool, QList<int>, bool>("box", "word", "right", "sounds", "asksForAStem");
         QTest::newRow("short, right") << 0 << u"BALL"_s << true << QList<int>() << false;
         QTest::newRow("short, other group") << 0 << u"bahn"_s << false << QList<int>{124} << false;
         QTest::newRow("long, right") << 1 << u"bahn"_s << true << QList<int>() << false;

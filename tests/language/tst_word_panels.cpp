@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "language/word_window.h"
 #include "platform/files.h"
+#include "support/columns.h"
 #include "support/registry.h"
 
 #include <QClipboard>
@@ -94,8 +95,7 @@ private slots:
 
     void searchBox_data()
     {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<int>("row");
+        columns<QString, int>("typed", "row");
         QTest::newRow("begins behind the first entry") << u"h"_s << 3;
         QTest::newRow("wraps round") << u"haus"_s << 0;
         QTest::newRow("case ignored") << u"LÄU"_s << 2;
@@ -150,8 +150,7 @@ private slots:
 
     void wordsAreAddedByTheirDictionarySpelling_data()
     {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QStringList>("rows");
+        columns<QString, QStringList>("typed", "rows");
         QTest::newRow("in the dictionary") << u"LÄUFER"_s << QStringList({u"Haus"_s, u"Läufer"_s});
         QTest::newRow("not in it") << u"Maus"_s << QStringList(u"Haus"_s);
         QTest::newRow("in the list already") << u"haus"_s << QStringList(u"Haus"_s);

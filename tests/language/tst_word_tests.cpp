@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "language/word_tests.h"
 #include "platform/word_lists.h"
+#include "support/columns.h"
 #include "support/registry.h"
 #include "support/test_ground.h"
 
@@ -30,9 +31,7 @@ private slots:
 
     void caseRule_data()
     {
-        QTest::addColumn<QString>("word");
-        QTest::addColumn<int>("rule");
-        QTest::addColumn<bool>("found");
+        columns<QString, int, bool>("word", "rule", "found");
         QTest::newRow("exact, as written") << u"Haus"_s << 1 << true;
         QTest::newRow("exact, the second spelling") << u"haus"_s << 1 << true;
         QTest::newRow("exact, no such spelling") << u"HAUS"_s << 1 << false;
@@ -104,9 +103,7 @@ private slots:
 
     void sortsStable_data()
     {
-        QTest::addColumn<bool>("ascending");
-        QTest::addColumn<bool>("caseSensitive");
-        QTest::addColumn<QStringList>("sorted");
+        columns<bool, bool, QStringList>("ascending", "caseSensitive", "sorted");
         QTest::newRow("collated") << true << false
                                   << QStringList({u"ab"_s, u"Äpfel"_s, u"b"_s, u"B"_s, u"Zebra"_s});
         QTest::newRow("collated, down")

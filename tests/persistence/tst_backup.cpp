@@ -3,6 +3,7 @@
 #include "persistence/backup.h"
 #include "persistence/backup_file.h"
 #include "platform/files.h"
+#include "support/columns.h"
 #include "support/file_size_limit.h"
 #include "support/registry.h"
 #include "support/test_board.h"
@@ -90,9 +91,7 @@ private slots:
 
     void badFiles_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("tiles");
-        QTest::addColumn<bool>("told");
+        columns<QByteArray, QString, bool>("bytes", "tiles", "told");
         const auto row = [](const char *name, const QByteArray &bytes, const char *tiles, bool told = false) {
             QTest::newRow(name) << bytes << QString::fromUtf8(tiles) << told;
         };

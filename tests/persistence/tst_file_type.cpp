@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "persistence/file_type.h"
 #include "platform/log.h"
+#include "support/columns.h"
 #include "support/registry.h"
 #include "widgets/resources.h"
 
@@ -61,8 +62,7 @@ private slots:
 
     void commandLines_data()
     {
-        QTest::addColumn<QString>("program");
-        QTest::addColumn<QByteArray>("exec");
+        columns<QString, QByteArray>("program", "exec");
         QTest::newRow("blanks and umlauts")
             << u"/home/kind/Müllers Spiel/wortel"_s << QByteArray("\"/home/kind/Müllers Spiel/wortel\" %F");
         QTest::newRow("percent") << u"/a/100%/wortel"_s << QByteArray("\"/a/100%%/wortel\" %F");

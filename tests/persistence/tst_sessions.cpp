@@ -6,6 +6,7 @@
 #include "persistence/sessions.h"
 #include "persistence/undo_ring.h"
 #include "platform/files.h"
+#include "support/columns.h"
 #include "support/file_size_limit.h"
 #include "support/registry.h"
 #include "support/test_board.h"
@@ -103,9 +104,7 @@ private slots:
 
     void odd_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("tiles");
-        QTest::addColumn<bool>("told");
+        columns<QByteArray, QString, bool>("bytes", "tiles", "told");
         const auto row = [](const char *name, const QByteArray &bytes, const char *tiles, bool told = false) {
             QTest::newRow(name) << bytes << QString::fromUtf8(tiles) << told;
         };
@@ -187,10 +186,7 @@ private slots:
 
     void stemListComesAlong_data()
     {
-        QTest::addColumn<QByteArray>("name");
-        QTest::addColumn<bool>("on");
-        QTest::addColumn<bool>("loaded");
-        QTest::addColumn<bool>("told");
+        columns<QByteArray, bool, bool, bool>("name", "on", "loaded", "told");
         QTest::newRow("on") << QByteArray("[Name]\r\nLexiconInUse=Bäume\r\n") << true << true << false;
         QTest::newRow("off") << QByteArray("[Name]\r\nLexiconInUse=Bäume\r\n") << false << false << false;
         QTest::newRow("missing list")
@@ -268,8 +264,7 @@ private slots:
 
     void filesThatCannotBeRead_data()
     {
-        QTest::addColumn<bool>("folder");
-        QTest::addColumn<bool>("told");
+        columns<bool, bool>("folder", "told");
         QTest::newRow("a folder in its place") << true << true;
         QTest::newRow("missing") << false << false;
     }
@@ -310,8 +305,7 @@ private slots:
 
     void webNames_data()
     {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<QString>("name");
+        columns<QString, QString>("path", "name");
         QTest::newRow("plain") << u"C:\\x\\Bäume.wlx"_s << u"BÄUME.html"_s;
         QTest::newRow("other ending") << u"C:\\x\\a.txt"_s << u"A.TXT.html"_s;
         QTest::newRow("ending inside") << u"C:\\x\\a.wlx.wlx"_s << u"A.html"_s;

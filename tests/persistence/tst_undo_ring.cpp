@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "board/menu_model.h"
 #include "persistence/undo_ring.h"
+#include "support/columns.h"
 #include "support/registry.h"
 #include "support/test_board.h"
 
@@ -31,10 +32,7 @@ private slots:
     // grows by one with each change.
     void walks_data()
     {
-        QTest::addColumn<QString>("actions");
-        QTest::addColumn<int>("count");
-        QTest::addColumn<bool>("canUndo");
-        QTest::addColumn<bool>("canRedo");
+        columns<QString, int, bool, bool>("actions", "count", "canUndo", "canRedo");
         QTest::newRow("start") << u"x"_s << 0 << false << false;
         QTest::newRow("back to the start") << u"xcu"_s << 0 << false << true;
         QTest::newRow("and forward") << u"xcur"_s << 1 << true << false;

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/columns.h"
 #include "support/registry.h"
 
 #include <QDirIterator>
@@ -160,9 +161,7 @@ private slots:
 
     void soundsAreSoftAndShort_data()
     {
-        QTest::addColumn<QString>("folder");
-        QTest::addColumn<int>("count");
-        QTest::addColumn<double>("longest");
+        columns<QString, int, double>("folder", "count", "longest");
         QTest::newRow("numbered") << u"/resources/sounds"_s << 23 << 4.0;
         QTest::newRow("vowels") << u"/data/sounds kurz lang"_s << 39 << 0.7;
     }
