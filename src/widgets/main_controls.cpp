@@ -241,9 +241,9 @@ void makeLists(C &c)
     const QString noteStyle =
         QStringLiteral("background: #ffffe8; color: #1b2a4a; border: 2px solid #1b2a4a; border-radius: 6px; "
                        "padding: 10px; font-size: 14px");
-    c.WortelList = makeList(c.form, "WortelList", 84, 240);
-    c.PrefixList = makeList(c.form, "PrefixList", 64, 240);
-    c.SuffixList = makeList(c.form, "SuffixList", 64, 240);
+    c.WortelList = makeList(c.form, "WortelList", 84, 300);
+    c.PrefixList = makeList(c.form, "PrefixList", 66, 300);
+    c.SuffixList = makeList(c.form, "SuffixList", 66, 300);
     c.LexiconList = makeList(c.form, "LexiconList", 190, 260);
     c.CorrectWordList = makeList(c.form, "CorrectWordList", 190, 260);
     c.LexiconList->setToolTip(QStringLiteral("Rechtsklick: Menü zeigen"));
