@@ -15,6 +15,7 @@
 #include "widgets/dealing_tools.h"
 #include "widgets/guards.h"
 #include "widgets/main_controls.h"
+#include "widgets/plain_tool_tip.h"
 #include "widgets/press_button.h"
 #include "widgets/store_list.h"
 
@@ -64,7 +65,7 @@ void ListChooser::chooseStemLists()
     const QString shownName = paths.size() == 1 ? listBaseName(paths.first()) : QString();
     for (QString path : paths)
         step([&] { loader_.FillWortelList(path); });
-    controls_.Label3->setToolTip(shownName);
+    controls_.Label3->setToolTip(plainToolTip(shownName));
     step([&] { board_.Refill(); });
 }
 

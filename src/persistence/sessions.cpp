@@ -20,6 +20,7 @@
 #include "platform/word_lists.h"
 #include "widgets/guards.h"
 #include "widgets/main_controls.h"
+#include "widgets/plain_tool_tip.h"
 
 #include <QLabel>
 
@@ -155,6 +156,6 @@ void Sessions::loadLists(const QString &name)
     lists_.LexiconList.clear();
     lists_.WortelList.clear();
     rooms_.loader.FillWortelList(path);
-    controls_.Label3->setToolTip(name);
+    controls_.Label3->setToolTip(plainToolTip(name));
     ground_.pump.yield();
 }

@@ -19,6 +19,7 @@
 #include "version.h"
 #include "widgets/guards.h"
 #include "widgets/main_controls.h"
+#include "widgets/plain_tool_tip.h"
 
 #include <QLabel>
 
@@ -51,7 +52,7 @@ bool ProgInit::run(Int16 count, int screenCode)
     step([&] { layWortelTiles(count); });
     if (!affixRowsLaid_) {
         affixRowsLaid_ = true;
-        step([&] { layAffixRows(screenCode); });
+        layAffixRows(step, screenCode);
     }
     step([&] { loader_.FillKurzLanglist(); });
     return true;
@@ -60,7 +61,7 @@ bool ProgInit::run(Int16 count, int screenCode)
 void ProgInit::nameTheList()
 {
     controls_.Label3->setText(RTrimText(GetOnlyFileName(lists_.CurrentLexiconFile), u".lex"_s));
-    controls_.Label3->setToolTip(listBaseName(lists_.CurrentWortelFile));
+    controls_.Label3->setToolTip(plainToolTip(listBaseName(lists_.CurrentWortelFile)));
 }
 
 void ProgInit::layWortelTiles(int count)
@@ -83,23 +84,34 @@ void ProgInit::layWortelTiles(int count)
     }
 }
 
-void ProgInit::layAffixRows(int screenCode)
+bool ProgInit::fillsAffixes() const
 {
-    const int addToPosition = CInt(Val(ground_.options.stored(Setting::AddToSuffixPosition)));
-    const int suffixTop =
-        affix_rows::suffixTop(canvas_.store().measures().ScaleHeight(), screenCode, addToPosition);
-    layAffixRow(*kindOfColour(colours::prefixBack), affix_rows::prefixTop, affix_rows::prefixStep);
-    layAffixRow(*kindOfColour(colours::suffixBack), suffixTop, affix_rows::suffixStep);
+    return ground_.options.isOn(Setting::FillAffix) &&
+           !ground_.options.text(Setting::NumAffixToFill).isEmpty();
 }
 
-void ProgInit::layAffixRow(const TileKind &kind, int top, int (*stepAfter)(int))
+void ProgInit::layAffixRows(Procedure &step, int screenCode)
+{
+    // A number past 16 bits leaves rows without copies at their usual place.
+    int copies = 0;
+    int addToPosition = 0;
+    if (fillsAffixes())
+        step([&] { copies = CInt(Val(ground_.options.text(Setting::NumAffixToFill))); });
+    step([&] { addToPosition = CInt(Val(ground_.options.stored(Setting::AddToSuffixPosition))); });
+    const int suffixTop =
+        affix_rows::suffixTop(canvas_.store().measures().ScaleHeight(), screenCode, addToPosition);
+    step([&] {
+        layAffixRow(*kindOfColour(colours::prefixBack), affix_rows::prefixTop, affix_rows::prefixStep,
+                    copies);
+    });
+    step([&] { layAffixRow(*kindOfColour(colours::suffixBack), suffixTop, affix_rows::suffixStep, copies); });
+}
+
+void ProgInit::layAffixRow(const TileKind &kind, int top, int (*stepAfter)(int), int copies)
 {
     const bool isPrefix = kind.back == colours::prefixBack;
     const WordStore &affixes = isPrefix ? lists_.PrefixList : lists_.SuffixList;
     std::vector<AffixHome> &homes = isPrefix ? homes_.prefixes : homes_.suffixes;
-    const bool fills =
-        ground_.options.isOn(Setting::FillAffix) && !ground_.options.text(Setting::NumAffixToFill).isEmpty();
-    const int copies = fills ? CInt(Val(ground_.options.text(Setting::NumAffixToFill))) : 0;
 
     CanvasSurface::Batch batch(canvas_.surface());
     int left = 0;
@@ -113,6 +125,6 @@ void ProgInit::layAffixRow(const TileKind &kind, int top, int (*stepAfter)(int))
     // The counter takes the whole list, though only twenty of its entries have a place.
     TileCounters &counters = canvas_.store().counters();
     counters.set(kind.filterIndex, Int16(affixes.count() * (1 + copies)));
-    if (fills)
+    if (fillsAffixes())
         counters.updateTotal();
 }

@@ -7,6 +7,7 @@
 class Canvas;
 class ListLoader;
 class Placement;
+class Procedure;
 struct AffixHomes;
 struct Ground;
 struct MainControls;
@@ -28,8 +29,9 @@ public:
 private:
     void nameTheList();
     void layWortelTiles(int count);
-    void layAffixRows(int screenCode);
-    void layAffixRow(const TileKind &kind, int top, int (*step)(int));
+    bool fillsAffixes() const;
+    void layAffixRows(Procedure &step, int screenCode);
+    void layAffixRow(const TileKind &kind, int top, int (*stepAfter)(int), int copies);
 
     Ground &ground_;
     const MainControls &controls_;
