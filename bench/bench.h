@@ -8,9 +8,11 @@
 #include <limits>
 #include <vector>
 
-/// Speed is told as ratios against a baseline measured in the same run, because machines differ and are noisy. A file of benchmarks registers its rows:
+/// Speed is told as ratios against a baseline measured in the same run, because machines differ and are
+/// noisy. A file of benchmarks registers its rows:
 ///
-///     static const bench::Row row{"board: draw 1,000 tiles", 1.3, [] { return bench::ratio([] { work(); }, [] { baseline(); }); }};
+///     static const bench::Row row{"board: draw 1,000 tiles", 1.3, [] { return bench::ratio([] { work(); },
+///     [] { baseline(); }); }};
 namespace bench {
 
 struct Row
@@ -46,9 +48,6 @@ template <typename Work, typename Baseline> double ratio(Work &&work, Baseline &
 }
 
 /// Keeps the optimiser from throwing a result away.
-template <typename Value> void keep(const Value &value)
-{
-    asm volatile("" : : "r,m"(value) : "memory");
-}
+template <typename Value> void keep(const Value &value) { asm volatile("" : : "r,m"(value) : "memory"); }
 
 } // namespace bench

@@ -17,12 +17,15 @@ std::vector<const bench::Row *> &bench::rows()
 }
 
 bench::Row::Row(const char *rowName, double rowLimit, std::function<double()> rowMeasure)
-    : name(rowName), limit(rowLimit), measure(std::move(rowMeasure))
+    : name(rowName)
+    , limit(rowLimit)
+    , measure(std::move(rowMeasure))
 {
     rows().push_back(this);
 }
 
-/// Runs every row, or those whose names contain the first argument; one line each. Returns 1 if one is over its limit.
+/// Runs every row, or those whose names contain the first argument; one line each. Returns 1 if one is over
+/// its limit.
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
@@ -32,8 +35,9 @@ int main(int argc, char *argv[])
     QApplication::setFont(font);
 
     const QString wanted = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QString();
-    std::sort(bench::rows().begin(), bench::rows().end(),
-              [](const bench::Row *a, const bench::Row *b) { return QLatin1String(a->name) < QLatin1String(b->name); });
+    std::sort(bench::rows().begin(), bench::rows().end(), [](const bench::Row *a, const bench::Row *b) {
+        return QLatin1String(a->name) < QLatin1String(b->name);
+    });
     bool over = false;
     for (const bench::Row *row : bench::rows()) {
         if (!QString::fromUtf8(row->name).contains(wanted))

@@ -2,7 +2,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/start.h"
 
-int main(int argc, char *argv[])
-{
-    return startWortel(argc, argv);
-}
+int main(int argc, char *argv[]) { return startWortel(argc, argv); }

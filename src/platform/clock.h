@@ -21,6 +21,7 @@ public:
     virtual ~EventPump() = default;
     /// Lets pending window events run.
     virtual void yield() = 0;
-    /// True if a key, mouse button, paint or hot-key event waits; cheap enough to ask in every round of a search.
+    /// True if a key, mouse button, paint or hot-key event waits; cheap enough to ask in every round of a
+    /// search.
     virtual bool inputWaiting() = 0;
 };

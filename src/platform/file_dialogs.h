@@ -5,15 +5,18 @@
 #include <QString>
 #include <QStringList>
 
-/// The seam of the file, colour, font and printer dialogs. Folders and paths are in the stored form (backslashes).
+/// The seam of the file, colour, font and printer dialogs. Folders and paths are in the stored form
+/// (backslashes).
 class FileDialogs
 {
 public:
     virtual ~FileDialogs() = default;
 
     /// What was chosen: full paths, in the dialog's order. Empty if it was cancelled.
-    virtual QStringList openFiles(const QString &title, const QString &folder, const QString &filter, bool multiple) = 0;
-    /// The full path, with `suffix` (".wlx") added if the name has none, or empty. Asks before a file is replaced.
-    virtual QString saveFile(const QString &title, const QString &folder, const QString &filter, const QString &suffix,
-                             const QString &suggestedName = {}) = 0;
+    virtual QStringList openFiles(const QString &title, const QString &folder, const QString &filter,
+                                  bool multiple) = 0;
+    /// The full path, with `suffix` (".wlx") added if the name has none, or empty. Asks before a file is
+    /// replaced.
+    virtual QString saveFile(const QString &title, const QString &folder, const QString &filter,
+                             const QString &suffix, const QString &suggestedName = {}) = 0;
 };

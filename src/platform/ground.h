@@ -14,7 +14,8 @@ class Rnd;
 class SettingsStore;
 class Sound;
 
-/// The ground that every room stands on, made once by the entry procedure (a test makes its own) and handed to each room as one reference.
+/// The ground that every room stands on, made once by the entry procedure (a test makes its own) and handed
+/// to each room as one reference.
 struct Ground
 {
     QString AppFolder; ///< the program's folder in the stored form, always with one trailing backslash

@@ -14,7 +14,7 @@
 class LinkMessage
 {
 public:
-    static constexpr qsizetype headerSize = 4;             ///< bytes
+    static constexpr qsizetype headerSize = 4;              ///< bytes
     static constexpr std::uint32_t largestText = 64 * 1024; ///< bytes
 
     enum class State : std::uint8_t {

@@ -4,18 +4,21 @@
 
 #include <QString>
 
-/// The event and error log, inert unless the program was started with "/L". Each line is one unbuffered write behind what the file
-/// holds (Windows-1252, CR LF), so that a crash loses at most one line.
+/// The event and error log, inert unless the program was started with "/L". Each line is one unbuffered write
+/// behind what the file holds (Windows-1252, CR LF), so that a crash loses at most one line.
 class Log
 {
 public:
-    explicit Log(QString file = {}) : file_(std::move(file)) {}
+    explicit Log(QString file = {})
+        : file_(std::move(file))
+    {}
 
     bool enabled() const { return enabled_; }
     QString file() const { return file_; }
     void enable(const QString &file);
 
-    /// Appends the trimmed `text` with " - " and the time. Returns at once while the log is off; errors of the writer are swallowed.
+    /// Appends the trimmed `text` with " - " and the time. Returns at once while the log is off; errors of
+    /// the writer are swallowed.
     void WriteLog(const QString &text);
 
 private:

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-/// The modes of play. They exclude each other through disabled buttons. Owned by the main window, passed where they are read.
+/// The modes of play. They exclude each other through disabled buttons. Owned by the main window, passed
+/// where they are read.
 struct Modes
 {
     bool GameActive = false;
@@ -29,5 +30,8 @@ struct Modes
     bool CanUndo = false;
     bool CanRedo = false;
 
-    void clearRetypeSources() { RetypeUserWords = RetypeRandomWords = RetypePseudoWords = RetypeChosenWords = false; }
+    void clearRetypeSources()
+    {
+        RetypeUserWords = RetypeRandomWords = RetypePseudoWords = RetypeChosenWords = false;
+    }
 };

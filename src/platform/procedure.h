@@ -10,8 +10,9 @@
 #include <source_location>
 #include <utility>
 
-/// The shell that every procedure has. Made at a procedure's start it writes the trace line; each step called through it that throws is logged with
-/// number, description, line, procedure and form, and the next step runs. Hot procedures (one tile's drawing, properties, ticks) have no shell.
+/// The shell that every procedure has. Made at a procedure's start it writes the trace line; each step called
+/// through it that throws is logged with number, description, line, procedure and form, and the next step
+/// runs. Hot procedures (one tile's drawing, properties, ticks) have no shell.
 class Procedure
 {
 public:
@@ -20,7 +21,8 @@ public:
     Procedure(Log &log, const char *name, const char *form, Trace trace = Traced, const QString &detail = {});
 
     /// Runs `step`; returns false if it threw. `std::bad_alloc` is error 7, any other exception error 5.
-    template <typename Step> bool operator()(Step &&step, std::source_location where = std::source_location::current())
+    template <typename Step>
+    bool operator()(Step &&step, std::source_location where = std::source_location::current())
     {
         try {
             std::forward<Step>(step)();

@@ -6,15 +6,17 @@
 
 #include <stdexcept>
 
-/// An error of the program's classic runtime: a number with its meaning. Procedures throw it where a step cannot be
-/// done; `Procedure` logs it and goes on with the next step, since a fault must not stop the game in front of a child.
+/// An error of the program's classic runtime: a number with its meaning. Procedures throw it where a step
+/// cannot be done; `Procedure` logs it and goes on with the next step, since a fault must not stop the game
+/// in front of a child.
 class RuntimeError : public std::runtime_error
 {
 public:
     RuntimeError(int number, const QString &description)
-        : std::runtime_error(description.toStdString()), number_(number), description_(description)
-    {
-    }
+        : std::runtime_error(description.toStdString())
+        , number_(number)
+        , description_(description)
+    {}
 
     int number() const { return number_; }
     QString description() const { return description_; }

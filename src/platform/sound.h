@@ -4,7 +4,8 @@
 
 #include <QString>
 
-/// The seam of the sounds. Nothing ever waits for a sound to end, and a machine without a sound server is silent without delay.
+/// The seam of the sounds. Nothing ever waits for a sound to end, and a machine without a sound server is
+/// silent without delay.
 class Sound
 {
 public:

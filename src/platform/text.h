@@ -5,8 +5,9 @@
 #include <QDateTime>
 #include <QString>
 
-/// The text and number functions of the program's runtime. They are the only ones used for these jobs, because Qt's own differ
-/// where it matters (`QString::toUpper` makes "SS" of "ß", `toInt` gives 0 for "12abc").
+/// The text and number functions of the program's runtime. They are the only ones used for these jobs,
+/// because Qt's own differ where it matters (`QString::toUpper` makes "SS" of "ß", `toInt` gives 0 for
+/// "12abc").
 
 /// Upper case, one character to one character: "ß" stays "ß", umlauts fold.
 QString UCase(const QString &text);
@@ -28,15 +29,18 @@ QString RTrimText(const QString &text, const QString &ending);
 
 /// First letter upper case, all others lower case.
 QString InitCapWord(const QString &text);
-/// False for an empty text, and for a text that begins with a to z, "ß" or "ü". "ä" and "ö" deliberately count as capitals.
+/// False for an empty text, and for a text that begins with a to z, "ß" or "ü". "ä" and "ö" deliberately
+/// count as capitals.
 bool FirstIsInitCap(const QString &text);
 /// The first letter's case turned over by `FirstIsInitCap`, the rest in lower case.
 QString ToggleInitChar(const QString &text);
 
-/// Tabs and line ends become blanks, other control characters below 32 go; with `keepLineEnds` CR and LF stay.
+/// Tabs and line ends become blanks, other control characters below 32 go; with `keepLineEnds` CR and LF
+/// stay.
 QString CleanText(const QString &text, bool keepLineEnds = false);
 
-/// The number at the start of `text` (blanks skipped, a sign, digits, a decimal point, an exponent); 0 where there is none.
+/// The number at the start of `text` (blanks skipped, a sign, digits, a decimal point, an exponent); 0 where
+/// there is none.
 double Val(const QString &text);
 /// The largest whole number not above `value`.
 double Int(double value);
@@ -48,7 +52,8 @@ double Round(double value);
 int CInt(double value);
 /// `value` rounded by `Round` as a 32-bit number. Throws RuntimeError 6 where it does not fit.
 int CLng(double value);
-/// The number that `text` holds as a whole (blanks at the ends allowed). Throws RuntimeError 13 if it is none.
+/// The number that `text` holds as a whole (blanks at the ends allowed). Throws RuntimeError 13 if it is
+/// none.
 double CDbl(const QString &text);
 
 /// A number with leading zeros up to `digits` digits, as the pattern "00" gives it.

@@ -8,8 +8,9 @@
 
 #include <optional>
 
-/// Windows-1252, the 8-bit code page of all data files, through an own 256-entry table, strict both ways. The five
-/// unassigned bytes (0x81, 0x8D, 0x8F, 0x90, 0x9D) map to the control characters of the same number, as the original platform does.
+/// Windows-1252, the 8-bit code page of all data files, through an own 256-entry table, strict both ways. The
+/// five unassigned bytes (0x81, 0x8D, 0x8F, 0x90, 0x9D) map to the control characters of the same number, as
+/// the original platform does.
 namespace windows1252 {
 
 /// Every byte has a character, so decoding cannot fail. The result is in normal form C.

@@ -4,8 +4,9 @@
 
 #include "platform/word_store.h"
 
-/// All word stores of the main window and the files they come from, made once and passed by reference. They stand on the ground floor because the board
-/// draws its tiles from them as well as the language rooms that fill and search them.
+/// All word stores of the main window and the files they come from, made once and passed by reference. They
+/// stand on the ground floor because the board draws its tiles from them as well as the language rooms that
+/// fill and search them.
 struct WordLists
 {
     WordStore WortelList;

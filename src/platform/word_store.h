@@ -9,9 +9,11 @@
 #include <QString>
 #include <QStringList>
 
-/// An ordered list of strings with the semantics of a list box: 0-based rows, a signed 16-bit count, a whole-item find that ignores case, and an
-/// order that is either that of appending or kept sorted (German collation, case-blind). Reading a row that is not there gives the empty string.
-/// It keeps its own case-blind hash index, so that a find is constant time however long the list is; a list control shows a store, it is not the store.
+/// An ordered list of strings with the semantics of a list box: 0-based rows, a signed 16-bit count, a
+/// whole-item find that ignores case, and an order that is either that of appending or kept sorted (German
+/// collation, case-blind). Reading a row that is not there gives the empty string. It keeps its own
+/// case-blind hash index, so that a find is constant time however long the list is; a list control shows a
+/// store, it is not the store.
 class WordStore : public QObject
 {
     Q_OBJECT
@@ -29,7 +31,8 @@ public:
     int add(const QString &item);
     /// Appends many at once with one signal; on overflow those that fit stay and RuntimeError 6 is thrown.
     void addAll(const QStringList &items);
-    /// Overwrites a row at its place, also in a kept-sorted list. Throws RuntimeError 9 for a row that is not there.
+    /// Overwrites a row at its place, also in a kept-sorted list. Throws RuntimeError 9 for a row that is not
+    /// there.
     void replace(int row, const QString &item);
     /// Throws RuntimeError 9 for a row that is not there.
     void removeAt(int row);
@@ -53,6 +56,7 @@ private:
 
     Order order_;
     QStringList rows_;
-    /// Filled by the first find, grows with appended rows, and is made anew by the first find behind any other change.
+    /// Filled by the first find, grows with appended rows, and is made anew by the first find behind any
+    /// other change.
     mutable CaseBlindIndex index_;
 };

@@ -18,8 +18,8 @@ class QLineEdit;
 class QWidget;
 class StoreList;
 
-/// The main window as a designer drew it: the named controls, with captions, tool tips and object names from one table, and no logic. Rooms get a
-/// reference to it. The window owns the controls.
+/// The main window as a designer drew it: the named controls, with captions, tool tips and object names from
+/// one table, and no logic. Rooms get a reference to it. The window owns the controls.
 struct MainControls
 {
     QWidget *form = nullptr;
@@ -68,7 +68,7 @@ struct MainControls
     StoreList *SuffixList = nullptr;
     StoreList *LexiconList = nullptr;
     StoreList *CorrectWordList = nullptr;
-    QLineEdit *Text2 = nullptr; ///< search box over the dictionary
+    QLineEdit *Text2 = nullptr;      ///< search box over the dictionary
     MsgScroller *Scroller = nullptr; ///< object name "MsgScroller"
     QLabel *txtWelcomeMsg = nullptr;
     QLabel *TxtWordHint = nullptr;
@@ -76,5 +76,6 @@ struct MainControls
 
 /// Makes all controls as children of `form`, with the design sizes, hidden ones hidden.
 MainControls makeMainControls(QWidget *form);
-/// Places band and panels for a form of that size (pixels) and the board above them, as the window's resizing tells.
+/// Places band and panels for a form of that size (pixels) and the board above them, as the window's resizing
+/// tells.
 void layOutMainControls(const MainControls &controls, int width, int height);

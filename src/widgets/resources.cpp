@@ -4,7 +4,4 @@
 
 #include <QDir>
 
-void initResources()
-{
-    Q_INIT_RESOURCE(wortel);
-}
+void initResources() { Q_INIT_RESOURCE(wortel); }
