@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bench.h"
 
-#include "board/colour.h"
-#include "board/places.h"
+#include "board/tiles/colour.h"
+#include "board/tiles/places.h"
 #include "support/test_board.h"
 
 #include <QPainter>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bench.h"
 
-#include "board/menu_model.h"
+#include "board/hand/menu_model.h"
 #include "persistence/backup.h"
 #include "persistence/undo_ring.h"
 #include "platform/files.h"

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generators/word_maker.h"
 
-#include "board/tile_store.h"
+#include "board/tiles/tile_store.h"
 #include "generators/nonsense_words.h"
 #include "generators/real_words.h"
 #include "language/word_tests.h"

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "language/list_chooser.h"
 
-#include "board/tile_store.h"
+#include "board/tiles/tile_store.h"
 #include "language/list_loader.h"
 #include "platform/clock.h"
 #include "platform/file_dialogs.h"

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "persistence/backup.h"
 
-#include "board/bulk_tiles.h"
-#include "board/canvas.h"
+#include "board/canvas/bulk_tiles.h"
+#include "board/canvas/canvas.h"
 #include "persistence/backup_file.h"
 #include "persistence/session_dialog.h"
 #include "platform/boxes.h"

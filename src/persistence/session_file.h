@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "board/tile_store.h"
+#include "board/tiles/tile_store.h"
 
 #include <functional>
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "persistence/sessions.h"
 
-#include "board/bulk_tiles.h"
-#include "board/canvas.h"
+#include "board/canvas/bulk_tiles.h"
+#include "board/canvas/canvas.h"
 #include "language/list_loader.h"
 #include "persistence/file_type.h"
 #include "persistence/session_dialog.h"

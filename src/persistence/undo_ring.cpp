@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "persistence/undo_ring.h"
 
-#include "board/canvas.h"
-#include "board/menu_model.h"
+#include "board/canvas/canvas.h"
+#include "board/hand/menu_model.h"
 #include "platform/clock.h"
 #include "platform/ground.h"
 #include "platform/modes.h"

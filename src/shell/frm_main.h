@@ -4,7 +4,7 @@
 
 #include "platform/modes.h"
 #include "platform/word_lists.h"
-#include "shell/help.h"
+#include "shell/handbook/help.h"
 #include "widgets/main_controls.h"
 
 #include <QWidget>

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/prog_init.h"
 
-#include "board/affix_homes.h"
-#include "board/canvas.h"
-#include "board/placement.h"
+#include "board/canvas/canvas.h"
+#include "board/canvas/placement.h"
+#include "board/tiles/affix_homes.h"
 #include "language/list_loader.h"
 #include "platform/boxes.h"
 #include "platform/clock.h"

@@ -2,13 +2,13 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 wortel_test(board
     SOURCES
-        tst_board_rules.cpp
-        tst_bulk_tiles.cpp
-        tst_canvas.cpp
-        tst_commands.cpp
-        tst_menus.cpp
-        tst_placement.cpp
-        tst_pointer.cpp
-        tst_random_player.cpp
-        tst_tile_store.cpp
+        canvas/tst_bulk_tiles.cpp
+        canvas/tst_canvas.cpp
+        canvas/tst_placement.cpp
+        hand/tst_commands.cpp
+        hand/tst_menus.cpp
+        hand/tst_pointer.cpp
+        hand/tst_random_player.cpp
+        tiles/tst_board_rules.cpp
+        tiles/tst_tile_store.cpp
 )

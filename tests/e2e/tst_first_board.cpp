@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "e2e/desktop.h"
 #include "e2e/known_board.h"
-#include "persistence/frm_options.h"
+#include "persistence/settings/frm_options.h"
 #include "support/registry.h"
 #include "support/test_ground.h"
 

@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 wortel_test(games
     SOURCES
-        tst_retype_mode.cpp
-        tst_retype_ways.cpp
-        tst_strip_control.cpp
+        retype/tst_retype_mode.cpp
+        retype/tst_retype_ways.cpp
+        retype/tst_strip_control.cpp
 )

@@ -2,9 +2,9 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 wortel_test(persistence
     SOURCES
+        settings/tst_frm_options.cpp
         tst_backup.cpp
         tst_file_type.cpp
-        tst_frm_options.cpp
         tst_sessions.cpp
         tst_undo_ring.cpp
 )

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "board/menu_model.h"
+#include "board/hand/menu_model.h"
 #include "language/list_loader.h"
 #include "persistence/session_file.h"
 #include "persistence/sessions.h"

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "board/menu_model.h"
+#include "board/hand/menu_model.h"
 #include "persistence/undo_ring.h"
 #include "support/columns.h"
 #include "support/registry.h"

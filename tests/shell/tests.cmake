@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 wortel_test(shell
     SOURCES
-        tst_help.cpp
+        handbook/tst_help.cpp
         tst_start_rules.cpp
         tst_start_steps.cpp
 )

@@ -2,14 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "board/affix_homes.h"
-#include "board/arrangement.h"
-#include "board/bulk_tiles.h"
-#include "board/canvas.h"
-#include "board/canvas_surface.h"
-#include "board/opt_types.h"
-#include "board/placement.h"
-#include "board/tile_store.h"
+#include "board/canvas/arrangement.h"
+#include "board/canvas/bulk_tiles.h"
+#include "board/canvas/canvas.h"
+#include "board/canvas/canvas_surface.h"
+#include "board/canvas/opt_types.h"
+#include "board/canvas/placement.h"
+#include "board/tiles/affix_homes.h"
+#include "board/tiles/tile_store.h"
 #include "platform/modes.h"
 #include "platform/word_lists.h"
 #include "support/test_ground.h"

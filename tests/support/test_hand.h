@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "board/board_commands.h"
-#include "board/board_keys.h"
-#include "board/board_pointer.h"
-#include "board/morpheme_lists.h"
-#include "board/popup_menu.h"
+#include "board/hand/board_commands.h"
+#include "board/hand/board_keys.h"
+#include "board/hand/board_pointer.h"
+#include "board/hand/morpheme_lists.h"
+#include "board/hand/popup_menu.h"
 #include "support/test_board.h"
 
 #include <QMouseEvent>

@@ -10,7 +10,7 @@
 //   I BOARD      a change is about to be backed up
 //   D            it has been
 //   E TEXT       a box has told a fault
-#include "board/commands.h"
+#include "board/hand/commands.h"
 #include "platform/files.h"
 #include "platform/settings_file.h"
 #include "platform/system_clock.h"

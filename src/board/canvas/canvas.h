@@ -1,0 +1,76 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "board/canvas/canvas_surface.h"
+#include "board/tiles/tile_store.h"
+
+#include <QObject>
+
+#include <optional>
+
+class OptTypes;
+class Procedure;
+struct Ground;
+struct MainControls;
+struct Modes;
+
+/// Keeps the board's picture true to the tile store: redraws, filters, removes tiles, picks a tile up with
+/// its floating copy. There is no partial repainting: what removes or reorders something clears the surface
+/// and draws all visible tiles again.
+class Canvas : public QObject
+{
+    Q_OBJECT
+
+public:
+    static constexpr int heldHeight = 26; ///< pixels: a held tile looks lifted
+
+    Canvas(Ground &ground, const MainControls &controls, Modes &modes, TileStore &store,
+           CanvasSurface &surface, OptTypes &optTypes);
+
+    TileStore &store() const { return store_; }
+    CanvasSurface &surface() const { return surface_; }
+
+    void CanvasRedrawAll();
+    /// Draws only the tiles of the selected kind; nothing while "Alle" is selected.
+    void CanvasFilterAndDraw();
+    /// One of the two, by the filter.
+    void redrawFiltered();
+    /// Black on white, for printing.
+    void DrawMonoChrome();
+    /// Removes the first tile with `Inside(x, y)`, or the first of the kind with that back colour. The kind's
+    /// own counter stays: the callers lower it.
+    void CanvasEraseWortel(int x, int y, std::optional<Colour> kind = {});
+    /// Removes all tiles of that back colour; serves all three kinds despite its name.
+    void CanvasEraseAllAffix(Colour colour);
+    /// Gives the tile of that kind whose place is `pos` ("x,y", as `PosOfSelectedWortel` tells it) a new
+    /// text. It moves to the top of the drawing order. Nothing for a colour that no kind has.
+    void EditObject(const QString &pos, const QString &text, Colour kind);
+
+    /// Picks up the first tile under the point that the filter shows, and shows its floating copy.
+    bool CanvasSelectWortel(int x, int y);
+    void CanvasUnSelectAllWortel();
+    /// Restores filter `index` and repaints the board without flicker.
+    void RecallFilter(int index);
+
+public slots:
+    void OptType_Click(int index);
+    void Option1_Click(int index);
+    void Check1_Click();
+
+signals:
+    /// A tile was picked up in the mode "Ziehmodus Wortkontrolle": a drag of `BtnMove1` begins.
+    void wordCheckDragBegins();
+
+private:
+    void draw(bool everyKind);
+    void showHeld(const cWortel &tile);
+    void eraseTile(Procedure &step, int index);
+
+    Ground &ground_;
+    const MainControls &controls_;
+    Modes &modes_;
+    TileStore &store_;
+    CanvasSurface &surface_;
+    OptTypes &optTypes_;
+};

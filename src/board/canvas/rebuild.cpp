@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "board/canvas/rebuild.h"
+
+#include "board/canvas/canvas.h"
+#include "platform/clock.h"
+#include "platform/ground.h"
+#include "platform/procedure.h"
+#include "widgets/guards.h"
+
+void rebuildBoard(Ground &ground, Canvas &canvas, Procedure &step,
+                  const std::function<void(TilePointer &)> &each)
+{
+    const Hourglass hourglass;
+    TileStore &store = canvas.store();
+    const int filter = store.filter().selected();
+    {
+        const FrozenBoard frozen(canvas.surface());
+        TileList scratch = store.takeAll();
+        for (TilePointer &tile : scratch) {
+            step([&] { each(tile); });
+            if (tile)
+                step([&] { store.redrawAndAppend(std::move(tile)); });
+        }
+        step([&] { ground.pump.yield(); });
+        step([&] { canvas.CanvasRedrawAll(); });
+    }
+    step([&] { canvas.RecallFilter(filter); });
+}

@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "board/hand/menu_model.h"
+#include "board/hand/tile_drag.h"
+
+#include <QObject>
+#include <QPoint>
+#include <QTimer>
+
+class BoardCommands;
+class Canvas;
+class PopupMenu;
+class QMouseEvent;
+class TileStore;
+struct Ground;
+struct MainControls;
+struct Modes;
+struct Press;
+
+/// What the pointer does on the board: it picks tiles up, moves and drops them, inserts, copies and removes
+/// with the shift keys, and opens the menus. A finger drags like the left button, and a long press is the
+/// right button.
+class BoardPointer : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// How near a tile may come to the right edge and to the lower edge of the window, in pixels.
+    static constexpr int rightMargin = 30;
+    static constexpr int lowerMargin = 80;
+
+    /// Listens to `picCanvas` from now on.
+    BoardPointer(Ground &ground, const MainControls &controls, Modes &modes, Canvas &canvas,
+                 BoardCommands &commands, PopupMenu &popup);
+
+    // The handlers of the board; points are pixels of `picCanvas`
+    void picCanvas_MouseDown(Qt::MouseButton button, Qt::KeyboardModifiers shift, const QPoint &point);
+    void picCanvas_MouseMove(Qt::MouseButtons buttons, const QPoint &point);
+    void picCanvas_MouseUp(Qt::MouseButton button, const QPoint &point);
+
+    /// Joins the held tile's text to the word in the field.
+    void Dropper1_DragDrop();
+    /// What follows a drop: the board is drawn anew and the filter comes back.
+    void DoOnDrop();
+
+    bool isDragging() const { return drag_.isActive(); }
+    bool TileMoved() const { return tileMoved_; }
+    /// The tile falls back to its place and nothing is dropped.
+    void cancelDrag();
+
+private:
+    void onMouseDown(QMouseEvent *event);
+    void onMouseMoved(QMouseEvent *event);
+    void onLongPress();
+
+    void leftPress(Qt::KeyboardModifiers shift, const QPoint &point);
+    void rightPress(Qt::KeyboardModifiers shift, const QPoint &point);
+    void insertByShift(Qt::KeyboardModifiers shift, const QPoint &point);
+    void showMenu(const Press &press);
+    void letGo();
+
+    Ground &ground_;
+    const MainControls &controls_;
+    Modes &modes_;
+    Canvas &canvas_;
+    TileStore &store_;
+    BoardCommands &commands_;
+    PopupMenu &popup_;
+    TileDrag drag_;
+    QTimer longPress_;
+    QPoint pressed_;
+    bool tileMoved_ = false;
+};

@@ -1,0 +1,229 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "board/hand/menu_model.h"
+
+#include "board/hand/menu_table.h"
+
+#include <algorithm>
+#include <span>
+
+using menu::Row;
+using menu::Rule;
+using Rows = std::span<const Row>;
+
+namespace {
+
+/// The source of the words that are being retyped. The mode "dictionary" has the flag of the chosen words on
+/// as well, so the order counts.
+Rule runningRetype(const Modes &modes)
+{
+    if (modes.RetypeUserWords)
+        return Rule::RetypeUser;
+    if (modes.RetypeRandomWords)
+        return Rule::RetypeRandom;
+    if (modes.RetypePseudoWords)
+        return Rule::RetypePseudo;
+    return modes.RetypeChosenWords ? Rule::RetypeChosen : Rule::Always;
+}
+
+bool isEnabled(Rule rule, const MenuFacts &facts)
+{
+    const Modes &modes = facts.modes;
+    switch (rule) {
+    case Rule::Always:
+    case Rule::Klotar:
+        return true;
+    case Rule::NoGame:
+        return !modes.GameActive;
+    case Rule::NoRetype:
+        return !modes.RetypeActive;
+    case Rule::NoGameNoRetype:
+        return !modes.GameActive && !modes.RetypeActive;
+    case Rule::Undo:
+        return facts.useUndo;
+    case Rule::StepBack:
+        return modes.CanUndo;
+    case Rule::StepForward:
+        return modes.CanRedo;
+    case Rule::RetypeUser:
+    case Rule::RetypeRandom:
+    case Rule::RetypePseudo:
+    case Rule::RetypeChosen:
+        return !modes.RetypeActive || rule == runningRetype(modes);
+    }
+    return true;
+}
+
+bool isChecked(Rule rule, const Modes &modes)
+{
+    switch (rule) {
+    case Rule::Klotar:
+        return modes.GameActive && modes.GameLevel > 0 && !modes.GameShortVowels && !modes.GameLongVowels;
+    case Rule::RetypeUser:
+    case Rule::RetypeRandom:
+    case Rule::RetypePseudo:
+    case Rule::RetypeChosen:
+        return modes.RetypeActive && rule == runningRetype(modes);
+    default:
+        return false;
+    }
+}
+
+MenuItem makeItem(const Row &row, bool parentEnabled, const MenuFacts &facts)
+{
+    MenuItem item;
+    const QStringView caption(row.caption);
+    if (caption.startsWith(u'-'))
+        item.kind = caption.size() > 1 ? MenuItem::Kind::Heading : MenuItem::Kind::Separator;
+    item.id = row.id;
+    item.caption = (item.kind == MenuItem::Kind::Command ? caption : caption.mid(1)).toString();
+    item.hint = QString::fromUtf16(row.hint).replace(u'%', facts.dictionaryButton);
+    item.icon = row.icon;
+    item.enabled = parentEnabled && isEnabled(row.rule, facts);
+    item.checked = isChecked(row.rule, facts.modes);
+    return item;
+}
+
+/// Appends the rows from `position` on that lie at `level` or deeper to `items` and returns the position
+/// behind them.
+std::size_t addRows(std::vector<MenuItem> &items, Rows rows, std::size_t position, int level,
+                    bool parentEnabled, const MenuFacts &facts, int &lastIndex)
+{
+    while (position < rows.size() && rows[position].level >= level) {
+        MenuItem &item = items.emplace_back(makeItem(rows[position], parentEnabled, facts));
+        item.index = ++lastIndex;
+        ++position;
+        if (position < rows.size() && rows[position].level > level) {
+            item.kind = MenuItem::Kind::Submenu;
+            position = addRows(item.children, rows, position, level + 1, item.enabled, facts, lastIndex);
+        }
+    }
+    return position;
+}
+
+/// A row of `mainMenu` whose submenu is brought up to date when it opens, told by its first command.
+constexpr int retypeMark = 1600;
+constexpr int actionMark = 2801;
+constexpr int gamesMark = 701;
+
+int firstCommand(const MenuItem &item)
+{
+    for (const MenuItem &child : item.children)
+        if (child.id != 0)
+            return child.id;
+    return 0;
+}
+
+/// The rows below the row whose first command is `mark`.
+Rows rowsWithMark(int mark)
+{
+    const Rows rows(menu::mainMenu);
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        if (rows[i].id != mark)
+            continue;
+        std::size_t first = i;
+        while (first > 0 && rows[first - 1].level >= rows[i].level)
+            --first;
+        std::size_t last = i;
+        while (last < rows.size() && rows[last].level >= rows[i].level)
+            ++last;
+        return rows.subspan(first, last - first);
+    }
+    return {};
+}
+
+int lastIndexOf(const std::vector<MenuItem> &items)
+{
+    int last = 0;
+    for (const MenuItem &item : items)
+        last = std::max({last, item.index, lastIndexOf(item.children)});
+    return last;
+}
+
+void renumber(std::vector<MenuItem> &items, int &lastIndex)
+{
+    for (MenuItem &item : items) {
+        item.index = ++lastIndex;
+        renumber(item.children, lastIndex);
+    }
+}
+
+} // namespace
+
+MenuTree buildMenu(MenuName name, const MenuFacts &facts)
+{
+    MenuTree tree;
+    int lastIndex = 0;
+    const auto append = [&](Rows rows) { addRows(tree, rows, 0, 1, true, facts, lastIndex); };
+    switch (name) {
+    case MenuName::MainMenu:
+        append(menu::mainMenu);
+        return tree;
+    case MenuName::PrefixMenu:
+        append(menu::prefixHead);
+        append(menu::capitalsRow);
+        break;
+    case MenuName::WortelMenu:
+        append(menu::wortelHead);
+        append(menu::capitalsRow);
+        break;
+    case MenuName::SuffixMenu:
+        append(menu::suffixHead);
+        break;
+    }
+    append(menu::tileMenu);
+    return tree;
+}
+
+bool changesOnOpening(const MenuItem &item)
+{
+    const int mark = firstCommand(item);
+    return mark == retypeMark || mark == actionMark || mark == gamesMark;
+}
+
+std::vector<MenuItem> childrenOnOpening(const MenuItem &item, const MenuFacts &facts)
+{
+    const int mark = firstCommand(item);
+    const Rows rows = mark == retypeMark ? Rows(menu::retypeMenu) : rowsWithMark(mark);
+    std::vector<MenuItem> children;
+    int lastIndex = 0;
+    if (!rows.empty())
+        addRows(children, rows, 0, rows.front().level, item.enabled, facts, lastIndex);
+    return children;
+}
+
+const MenuItem *findItem(const MenuTree &tree, int index)
+{
+    for (const MenuItem &item : tree) {
+        if (item.index == index)
+            return &item;
+        if (const MenuItem *found = findItem(item.children, index))
+            return found;
+    }
+    return nullptr;
+}
+
+void MenuModel::CreateMenus()
+{
+    const MenuFacts now = facts_();
+    for (std::size_t i = 0; i < trees_.size(); ++i)
+        trees_[i] = buildMenu(static_cast<MenuName>(i), now);
+}
+
+bool MenuModel::CP_InitPopupMenu(int index)
+{
+    MenuTree &tree = trees_[static_cast<std::size_t>(MenuName::MainMenu)];
+    auto *item = const_cast<MenuItem *>(findItem(tree, index)); // the tree is ours
+    if (item == nullptr || !changesOnOpening(*item))
+        return false;
+    int lastIndex = lastIndexOf(tree);
+    item->children = childrenOnOpening(*item, facts_());
+    renumber(item->children, lastIndex);
+    return true;
+}
+
+int MenuModel::ItemKey(MenuName name, int index) const
+{
+    const MenuItem *item = findItem(Restore(name), index);
+    return item == nullptr ? 0 : item->id;
+}

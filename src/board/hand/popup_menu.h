@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "board/hand/menu_model.h"
+
+#include <memory>
+
+class MenuStyle;
+class QMenu;
+class QPoint;
+class QWidget;
+
+/// The menu object `CP`: shows a tree of the menu model as a popup menu and tells what was chosen. It is
+/// worked with mouse, finger or keys and always stays inside the screen.
+class PopupMenu
+{
+public:
+    PopupMenu(MenuModel &model, QWidget *owner);
+    virtual ~PopupMenu();
+
+    MenuModel &model() { return model_; }
+
+    /// Shows the menu modally with its corner at `position` (pixels of the screen) and returns the index of
+    /// the chosen item, 0 for none.
+    virtual int ShowPopupMenu(MenuName name, const QPoint &position);
+
+    /// The menu as a window that is not yet shown, for whoever wants to show it in another way.
+    std::unique_ptr<QMenu> makeMenu(MenuName name);
+
+private:
+    void fill(QMenu &menu, MenuName name, const std::vector<MenuItem> &items);
+    void addSubmenu(QMenu &menu, MenuName name, const MenuItem &item);
+    void fitRows(const QPoint &position, std::size_t rows);
+
+    MenuModel &model_;
+    QWidget *owner_;
+    std::unique_ptr<MenuStyle> style_;
+};

@@ -1,0 +1,110 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "board/tiles/places.h"
+
+#include "platform/rnd.h"
+
+#include <QString>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace places {
+
+namespace {
+
+/// abs(Int(Rnd * size - offset)) for both axes, x drawn first.
+Place draw(Rnd &rnd, int width, int offsetX, int height, int offsetY)
+{
+    const int x = rnd.absInt(width, -offsetX);
+    const int y = rnd.absInt(height, -offsetY);
+    return {x, y};
+}
+
+} // namespace
+
+bool checkOverlapInList(const TileList &tiles, int x, int y, int right, int bottom)
+{
+    return std::any_of(tiles.cbegin(), tiles.cend(), [=](const auto &tile) {
+        // A tile read from a file may lie anywhere in 32 bits: nothing is added to its place.
+        const int left = tile->xLeft();
+        const int top = tile->yTop();
+        return x - (boxWidth + 1) < left && left < right + 1 && y - (boxHeight + 1) < top && top < bottom + 1;
+    });
+}
+
+Place freeWortel(Rnd &rnd, int scaleWidth, int scaleHeight)
+{
+    const Place place = draw(rnd, scaleWidth, 100, scaleHeight, 185);
+    return {place.x, place.y + 35};
+}
+
+Place spreadWortel(Rnd &rnd, int scaleWidth, int scaleHeight)
+{
+    const Place place = draw(rnd, scaleWidth, 100, scaleHeight, 155);
+    return {place.x, place.y + 35};
+}
+
+Place firstMorpheme(Rnd &rnd, int scaleWidth, int scaleHeight)
+{
+    const Place place = draw(rnd, scaleWidth, 32, scaleHeight, 100);
+    return {place.x, place.y - 2};
+}
+
+Place spreadMorpheme(Rnd &rnd, int scaleWidth, int scaleHeight)
+{
+    const Place place = draw(rnd, scaleWidth, 40, scaleHeight, 100);
+    return {place.x, place.y - 2};
+}
+
+Place refilledWortel(Rnd &rnd, int scaleWidth, int scaleHeight)
+{
+    const Place place = draw(rnd, scaleWidth, 100, scaleHeight, 200);
+    return {place.x, place.y + 65};
+}
+
+Place addedWortel(Rnd &rnd, int scaleWidth, int scaleHeight)
+{
+    const Place place = draw(rnd, scaleWidth, 100, scaleHeight, 300);
+    return {place.x, place.y + 80};
+}
+
+int probeWidth(Colour kind, const QString &text)
+{
+    if (kind == colours::prefixBack && text.size() <= 2)
+        return 30;
+    if (kind == colours::suffixBack && text.size() <= 2)
+        return 29;
+    if (kind == colours::wortelBack && text.size() >= 6)
+        return 39;
+    return 37;
+}
+
+int GetLeft(int i, int columns, int horizontalSpace)
+{
+    if (columns == 0)
+        throw RuntimeError::of(RuntimeError::DivisionByZero);
+    return Int16(static_cast<long long>(i % columns) * horizontalSpace);
+}
+
+int GetTop(int i, int columns, int verticalSpace)
+{
+    if (columns == 0)
+        throw RuntimeError::of(RuntimeError::DivisionByZero);
+    return Int16(static_cast<long long>(i / columns) * verticalSpace);
+}
+
+QString limitQuestion(bool triedAgain, int placed, int limit)
+{
+    const QString number = QString::number(placed);
+    const QString start = triedAgain ? u"Ich habe noch einmal probiert.\n\nIch habe jetzt "_s + number
+                                     : u"Ich habe "_s + number;
+    return start +
+           u" Morpheme ohne Überdeckung platziert.\n\n"
+           "Es ist schwierig, ausreichend freien Platz für das Anordnen der übrigen Morpheme zu finden.\n\n"
+           "Soll ich noch einmal versuchen, die restlichen Morpheme ("_s +
+           QString::number(limit / 1000 - placed) + u") anzuordnen?"_s;
+}
+
+} // namespace places

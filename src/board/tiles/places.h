@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "board/tiles/tile_store.h"
+
+class QString;
+class Rnd;
+
+/// Where tiles may be put: the overlap test, the random places of each search and the places of a line-up.
+/// Everything in pixels.
+namespace places {
+
+struct Place
+{
+    int x = 0;
+    int y = 0;
+};
+
+/// The size that every search and every test takes a tile to have, whatever its text.
+inline constexpr int boxWidth = 38;
+inline constexpr int boxHeight = cWortel::height;
+
+/// True if the rectangle shares a pixel with the box of any tile. Both are widened by one pixel to the right
+/// and below.
+bool checkOverlapInList(const TileList &tiles, int x, int y, int right, int bottom);
+
+/// The random places, for a window of that size. Folded back by the absolute value, so a draw below the
+/// offset lands near the left or upper edge.
+Place freeWortel(Rnd &rnd, int scaleWidth, int scaleHeight);   ///< `PlaceWortelFree`
+Place spreadWortel(Rnd &rnd, int scaleWidth, int scaleHeight); ///< `NoWortelCollision2`
+Place firstMorpheme(Rnd &rnd, int scaleWidth,
+                    int scaleHeight); ///< a probe's first place in `MorphemeCollision`
+Place spreadMorpheme(Rnd &rnd, int scaleWidth, int scaleHeight); ///< its further places; y can be -2
+Place refilledWortel(Rnd &rnd, int scaleWidth, int scaleHeight); ///< `Refill`
+Place addedWortel(Rnd &rnd, int scaleWidth, int scaleHeight); ///< leaves a band of 80 pixels free at the top
+
+/// The width of the probe in `MorphemeCollision`, by kind and length of the text.
+int probeWidth(Colour kind, const QString &text);
+
+/// Column and row of tile `i` in a line-up of `columns`, in pixels. Throw RuntimeError 11 for 0 columns, 6
+/// beyond 16 bits.
+int GetLeft(int i, int columns, int horizontalSpace);
+int GetTop(int i, int columns, int verticalSpace);
+
+/// What the user is asked when a search has passed its limit: `placed` tiles lie on the board, `limit` tries
+/// were allowed. The figure in brackets is shown as it is calculated, also where it makes no sense as a count
+/// of tiles.
+QString limitQuestion(bool triedAgain, int placed, int limit);
+
+} // namespace places

@@ -1,0 +1,200 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "persistence/settings/frm_options.h"
+
+#include "persistence/settings/options_view.h"
+#include "platform/boxes.h"
+#include "platform/clock.h"
+#include "platform/file_dialogs.h"
+#include "platform/files.h"
+#include "platform/ground.h"
+#include "platform/options.h"
+#include "platform/procedure.h"
+#include "platform/settings_store.h"
+#include "platform/text.h"
+#include "widgets/guards.h"
+
+#include <QCloseEvent>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QPushButton>
+#include <QScreen>
+#include <QUrl>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString programTitle = u"Wortel-Meister"_s;
+constexpr QSize wishedSize{880, 540};
+constexpr int yesNo = 4;
+constexpr int answerNo = 1;
+
+} // namespace
+
+frmOptions::frmOptions(Ground &ground, QWidget *parent)
+    : QDialog(parent)
+    , ground_(ground)
+    , view_(new OptionsView(ground.options, this))
+{
+    setObjectName(u"frmOptions"_s);
+    setWindowTitle(u"Optionen"_s);
+    // No close item in the title: only the two buttons end the window.
+    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
+    auto *whole = new QVBoxLayout(this);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->addWidget(view_);
+    connectButtons();
+    QWidget *stemFile = view_->field(Setting::WortelFile);
+    stemFile->setAcceptDrops(true);
+    stemFile->installEventFilter(this);
+}
+
+void frmOptions::connectButtons()
+{
+    const auto onClick = [this](const char *name, auto slot) {
+        connect(view_->button(QLatin1String(name)), &QPushButton::clicked, this, slot);
+    };
+    onClick("cmdOK", &frmOptions::cmdOK_Click);
+    onClick("cmdCancel", &frmOptions::cmdCancel_Click);
+    onClick("Command2", &frmOptions::Command2_Click);
+    onClick("Command3", &frmOptions::Command3_Click);
+    onClick("Command4", &frmOptions::Command4_Click);
+    onClick("Command5", &frmOptions::Command5_Click);
+    onClick("Command6", &frmOptions::Command6_Click);
+    onClick("Command1", [this] { emit resetScores(Scores::Klotar); });
+    onClick("Command10", [this] { emit resetScores(Scores::Tonarin); });
+    onClick("Command9", [this] { emit resetScores(Scores::Paarlon); });
+    onClick("Command7", &frmOptions::registerFileType);
+    onClick("Command8", &frmOptions::removeFileType);
+}
+
+void frmOptions::edit()
+{
+    Procedure step{ground_.log, "Command6_Click", "frmMain"};
+    step([&] { ground_.options.GetSettings(); });
+    step([&] { ground_.options.subSnapShot(); });
+    step([&] { exec(); });
+    step([&] { ground_.pump.yield(); });
+}
+
+void frmOptions::ShowProperFrame(const QString &name) { view_->ShowProperFrame(name); }
+
+void frmOptions::cmdOK_Click()
+{
+    Procedure step{ground_.log, "cmdOK_Click", "frmOptions"};
+    int answer = answerNo;
+    step([&] {
+        if (ground_.options.IsChanged())
+            answer = ground_.boxes.ShowMBox(
+                u"Es wurden Änderungen gemacht.\n\nWillst du die Änderungen bestätigen?"_s, true, yesNo,
+                programTitle + u" - Bestätigen"_s, u"CONFIRM"_s);
+    });
+    step([&] {
+        if (answer != answerNo) {
+            apply();
+            return;
+        }
+        ground_.options.GetSettings();
+        ground_.pump.yield();
+    });
+    step([&] { done(QDialog::Accepted); });
+    step([&] { emit recallFilter(); });
+}
+
+// Only hides: the edits stay in force until the settings are loaded again.
+void frmOptions::cmdCancel_Click() { done(QDialog::Rejected); }
+
+void frmOptions::apply()
+{
+    bool saved = false;
+    {
+        const Hourglass glass;
+        saved = ground_.options.ApplySettings();
+        ground_.pump.yield();
+    }
+    if (!saved)
+        ground_.boxes.plainBox(
+            Boxes::Icon::Warning, programTitle + u" - Fehler"_s,
+            u"Die Einstellungen konnten nicht gespeichert werden.\n\nSie gelten bis zum Ende des Programms."_s);
+}
+
+void frmOptions::Command2_Click()
+{
+    ground_.boxes.plainBox(Boxes::Icon::Information, programTitle,
+                           u"Diese Funktion ist noch nicht ins Programm eingebaut"_s);
+}
+
+void frmOptions::Command3_Click()
+{
+    const QStringList chosen =
+        ground_.fileDialogs.openFiles(u"Choose Initial Wortel-File"_s, ground_.AppFolder + u"text\\"_s,
+                                      u"Text Dateien (*.txt)|*.txt"_s, false);
+    if (!chosen.isEmpty())
+        ground_.options.setText(Setting::WortelFile, chosen.first());
+}
+
+void frmOptions::Command4_Click()
+{
+    Procedure step{ground_.log, "Command4_Click", "frmOptions"};
+    QStringList chosen;
+    step([&] {
+        const QString folder = ground_.store.GetSetting(u"Path"_s, u"RestoreBGPath"_s, ground_.AppFolder);
+        chosen = ground_.fileDialogs.openFiles(
+            u"Hintergrund für Wortel wählen"_s, folder,
+            u"Bild-Dateien (*.jpg, *.gif, *.bmp)|*.jpg;*.jpeg;*.gif;*.bmp;"_s, false);
+    });
+    if (chosen.isEmpty())
+        return;
+    const QString path = chosen.first();
+    step([&] {
+        ground_.store.SaveSetting(u"Path"_s, u"RestoreBGPath"_s, path.left(path.lastIndexOf(u'\\')));
+    });
+    step([&] { ground_.options.setText(Setting::BackgroundPicture, path); });
+}
+
+void frmOptions::Command5_Click() { ground_.options.setText(Setting::BackgroundPicture, {}); }
+
+void frmOptions::Command6_Click() { ground_.options.setText(Setting::WortelFile, {}); }
+
+void frmOptions::Text2_OLEDragDrop(const QString &path)
+{
+    const QString ending = path.mid(path.lastIndexOf(u'.') + 1).right(3);
+    if (UCase(ending) == u"TXT"_s)
+        ground_.options.setText(Setting::WortelFile, path);
+    else
+        ground_.boxes.plainBox(Boxes::Icon::Warning, programTitle + u" - Fehler: Format"_s,
+                               u"Hier passt nur eine Text-Datei (*.txt)."_s);
+}
+
+bool frmOptions::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::DragEnter && event->type() != QEvent::DragMove &&
+        event->type() != QEvent::Drop)
+        return QDialog::eventFilter(watched, event);
+    auto *drop = static_cast<QDropEvent *>(event);
+    if (!drop->mimeData()->hasUrls())
+        return QDialog::eventFilter(watched, event);
+    drop->acceptProposedAction();
+    const QUrl url = drop->mimeData()->urls().value(0);
+    if (event->type() == QEvent::Drop && url.isLocalFile())
+        Text2_OLEDragDrop(storedPath(url.toLocalFile()));
+    return true;
+}
+
+void frmOptions::showEvent(QShowEvent *event)
+{
+    fitToScreen();
+    QDialog::showEvent(event);
+}
+
+void frmOptions::fitToScreen()
+{
+    // The frame that a window manager draws round the window needs room too.
+    const QRect room = screen()->availableGeometry().adjusted(8, 16, -8, -16);
+    resize(wishedSize.boundedTo(room.size()));
+    move(room.center() - rect().center());
+}
+
+void frmOptions::closeEvent(QCloseEvent *event) { event->ignore(); }

@@ -1,0 +1,180 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "games/retype/retype_desk.h"
+#include "support/columns.h"
+#include "support/registry.h"
+
+#include <QtTest>
+
+namespace {
+
+using Act = void (*)(Desk &);
+
+constexpr Act none = [](Desk &) {};
+constexpr Act words = [](Desk &d) { d.fillList(); };
+constexpr Act tiles = [](Desk &d) { d.layTiles(); };
+constexpr Act noLexicon = [](Desk &d) { d.layTiles(), d.lists.LexiconList.clear(); };
+constexpr Act left = [](Desk &d) { d.left(); };
+constexpr Act right = [](Desk &d) { d.right(); };
+constexpr Act nonsense = [](Desk &d) { d.nonsense(); };
+constexpr Act everyButton = [](Desk &d) { d.left(), d.nonsense(), d.left(); };
+constexpr Act cancel = [](Desk &d) { d.modes.CancelPreparing = true; };
+constexpr Act close = [](Desk &d) { d.modes.Closing = true; };
+constexpr Act copyAll = [](Desk &d) { d.copyAll(); };
+
+template <int box> void vowels(Desk &d)
+{
+    d.fillVowels();
+    d.controls.ChkVokal[box]->setChecked(true);
+}
+
+template <Setting setting, int count> void tilesFor(Desk &d)
+{
+    d.layTiles();
+    d.test.options.setText(setting, QString::number(count));
+}
+
+/// A way through the mode, from off to off: the lists and tiles, what comes at which yield of the
+/// preparation, the start, and what follows in the mode that then runs. `answer` is that of a box.
+struct Way
+{
+    const char *name;
+    Act lay;
+    int yield;
+    Act meanwhile;
+    Act start;
+    Act then = nullptr;
+    int answer = -1;
+};
+
+const Way ways[] = {
+    {"empty list", none, 0, none, left},
+    {"word list, stopped", words, 0, none, left, left},
+    {"word list, stopped with the right button", words, 0, none, left, right},
+    {"word list, all copied", words, 0, none, left, copyAll, 0},
+    {"word list, praise closed with Esc", words, 0, none, left, copyAll, 1},
+    {"word list, X at the first word", words, 1, cancel, left},
+    {"word list, X at the last word", words, 3, cancel, left},
+    {"word list, window closed while preparing", words, 2, close, left},
+    {"word list, button while preparing", words, 2, left, left},
+    {"word list, both buttons while preparing", words, 1, everyButton, left},
+    {"word list, none in the dictionary", [](Desk &d) { d.lists.CorrectWordList.add(u"xxx"_s); }, 0, none,
+     left},
+    {"short vowels, stopped", vowels<0>, 0, none, left, left},
+    {"long vowels, all copied", vowels<1>, 0, none, left, copyAll, 0},
+    {"short vowels, none in the list", [](Desk &d) { vowels<0>(d), d.lists.kurzvokalList.clear(); }, 0, none,
+     left},
+    {"board, no tiles", none, 0, none, right, nullptr, 0},
+    {"board, stopped", tiles, 0, none, right, right},
+    {"board, all copied", tiles, 0, none, right, copyAll, 0},
+    {"board, no dictionary, X", noLexicon, 50, cancel, right},
+    {"board, no dictionary, button", noLexicon, 50, right, right},
+    {"board, no words asked for", tilesFor<Setting::NumReTypeWords, 0>, 0, none, right},
+    {"board, more than 16 bits", tilesFor<Setting::NumReTypeWords, 99999>, 0, none, right},
+    {"nonsense, a list without any",
+     [](Desk &d) { d.layTiles(), d.lists.CurrentWortelFile = u"text\\ig oder lich.txt"_s; }, 0, none,
+     nonsense, nullptr, 0},
+    {"nonsense, stopped", tiles, 0, none, nonsense, left},
+    {"nonsense, all copied", tiles, 0, none, nonsense, copyAll, 0},
+    {"nonsense, button while preparing", tilesFor<Setting::NumPseudoReTypeWords, 1000>, 60, nonsense,
+     nonsense},
+    {"nonsense, X before the first word", tiles, 1, cancel, nonsense},
+};
+
+/// How the window may stand before the mode begins.
+struct Start
+{
+    const char *name;
+    Act make;
+};
+
+const Start starts[] = {
+    {"plain", none},
+    {"all stems asked for", [](Desk &d) { d.controls.Check1->setChecked(true); }},
+    {"word list open", [](Desk &d) { d.controls.CorrectWordList->QWidget::show(); }},
+    {"dictionary open", [](Desk &d) { d.dictionary.toggle(); }},
+};
+
+/// How every control of the window stands, but for the words in lists and fields and the counters of the
+/// board's tiles.
+QStringList statesOf(const Desk &desk)
+{
+    QStringList result;
+    for (const QWidget *widget : desk.form.findChildren<QWidget *>()) {
+        const QString name = widget->objectName();
+        if (name.isEmpty() || name.startsWith(u"qt_") || name.startsWith(u"OptType"))
+            continue;
+        QString state = name + (widget->isHidden() ? u" hidden"_s : u" shown"_s) +
+                        (widget->isEnabled() ? u" enabled "_s : u" disabled "_s) + widget->toolTip();
+        if (const auto *button = qobject_cast<const PressButton *>(widget))
+            state += u' ' + button->faceColour().name() + u' ' + button->text();
+        result << state;
+    }
+    const Modes &m = desk.modes;
+    const QList<bool> flags{m.RetypeActive,
+                            m.RetypeUserWords,
+                            m.RetypeRandomWords,
+                            m.RetypePseudoWords,
+                            m.RetypeChosenWords,
+                            m.KurzVokalMode,
+                            m.LangVokalMode,
+                            m.CancelPreparing,
+                            desk.controls.Scroller->isTimerOn(),
+                            QGuiApplication::overrideCursor() != nullptr};
+    for (qsizetype flag = 0; flag < flags.size(); ++flag)
+        result << u"flag %1 is %2"_s.arg(flag).arg(flags.at(flag));
+    result << u"bar "_s + desk.caption();
+    result.sort(); // what is raised changes its place among its neighbours
+    return result;
+}
+
+} // namespace
+
+/// Every way through the mode gives each tool of the window back as it was.
+class RetypeWaysTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void everyWayGivesTheToolsBack_data()
+    {
+        columns<int, int>("start", "way");
+        for (int start = 0; start < static_cast<int>(std::size(starts)); ++start) {
+            for (int way = 0; way < static_cast<int>(std::size(ways)); ++way)
+                QTest::addRow("%s: %s", starts[start].name, ways[way].name) << start << way;
+        }
+    }
+
+    void everyWayGivesTheToolsBack()
+    {
+        QFETCH(int, start);
+        QFETCH(int, way);
+        const Way &taken = ways[way];
+        Desk desk;
+        starts[start].make(desk);
+        const QStringList before = statesOf(desk);
+
+        taken.lay(desk);
+        if (taken.yield > 0)
+            desk.atYield(taken.yield, [&] { taken.meanwhile(desk); });
+        if (taken.answer >= 0)
+            desk.test.boxes.willBeRead(taken.answer);
+        taken.start(desk);
+        QCOMPARE(desk.modes.RetypeActive, taken.then != nullptr);
+        if (taken.then != nullptr)
+            taken.then(desk);
+
+        const QStringList after = statesOf(desk);
+        QCOMPARE(after.size(), before.size());
+        for (qsizetype row = 0; row < before.size(); ++row)
+            QCOMPARE(after.at(row), before.at(row));
+        QVERIFY(desk.controls.Option1[1]->isChecked());
+        QVERIFY(!desk.retype.isPreparing());
+        if (taken.meanwhile == cancel && taken.lay == words)
+            QVERIFY(desk.lists.CorrectWordList.isEmpty());
+        QVERIFY(desk.test.ok());
+    }
+};
+
+WORTEL_TEST(RetypeWaysTest)
+#include "tst_retype_ways.moc"
