@@ -13,7 +13,7 @@
 #include "platform/options.h"
 #include "platform/procedure.h"
 #include "platform/settings_store.h"
-#include "platform/windows1252.h"
+#include "platform/text_encoding.h"
 #include "platform/word_lists.h"
 #include "widgets/gradient.h"
 #include "widgets/main_controls.h"
@@ -132,7 +132,7 @@ void WordListPanel::Save_Result()
     if (path.isEmpty())
         return;
     const QString text = lists_.CorrectWordList.rows().join(u"\r\n"_s) + u"\r\n"_s;
-    if (step([&] { writeFileAtomically(path, windows1252::encodeLossy(text)); }))
+    if (step([&] { writeFileAtomically(path, encodeText(text)); }))
         step([&] { emit wordListSaved(path); });
     step([&] { ground_.store.SaveSetting(u"Path"_s, u"Export"_s, path.left(path.lastIndexOf(u'\\'))); });
 }

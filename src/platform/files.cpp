@@ -4,13 +4,13 @@
 
 #include "platform/runtime_error.h"
 #include "platform/text.h"
+#include "platform/text_encoding.h"
 #include "platform/windows1252.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
-#include <QStringDecoder>
 
 #include <algorithm>
 #include <type_traits>
@@ -187,27 +187,15 @@ QByteArray ReadWholeFile(const QString &path)
     return bytes;
 }
 
-bool isUtf8(const QByteArray &bytes)
-{
-    if (bytes.startsWith("\xEF\xBB\xBF"))
-        return true;
-    const auto isAscii = [](char byte) { return static_cast<signed char>(byte) >= 0; };
-    return bytes.isValidUtf8() && !std::all_of(bytes.begin(), bytes.end(), isAscii);
-}
-
 QStringList readListFile(const QString &path, bool keepBlank)
 {
     const QByteArray bytes = ReadWholeFile(path);
-    QStringDecoder decoder;
-    if (isUtf8(bytes))
-        decoder = QStringDecoder(QStringDecoder::Utf8);
-    else if (bytes.startsWith("\xFF\xFE") || bytes.startsWith("\xFE\xFF"))
-        decoder = QStringDecoder(QStringDecoder::Utf16);
-    if (!decoder.isValid())
+    const TextEncoding encoding = encodingOf(bytes);
+    if (encoding == TextEncoding::Windows1252) // each entry by itself, which spares a copy of the whole
         return entriesOf(bytes.begin(), bytes.end(), keepBlank, [](const char *from, qsizetype count) {
             return windows1252::decode(QByteArrayView(from, count));
         });
-    const QString text = QString(decoder.decode(bytes)).normalized(QString::NormalizationForm_C);
+    const QString text = decodeText(bytes, encoding);
     const auto *const units = reinterpret_cast<const char16_t *>(text.utf16());
     return entriesOf(units, units + text.size(), keepBlank, [](const char16_t *from, qsizetype count) {
         return QString(reinterpret_cast<const QChar *>(from), count);

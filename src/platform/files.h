@@ -25,12 +25,8 @@ QString listBaseName(const QString &path);
 
 /// The whole file. Throws RuntimeError 53 if it is missing, 70 if it may not be read, 75 for other faults.
 QByteArray ReadWholeFile(const QString &path);
-/// True for bytes with a UTF-8 mark, and for bytes that hold characters beyond ASCII, all of them well-formed
-/// UTF-8. German text in Windows-1252 never looks so.
-bool isUtf8(const QByteArray &bytes);
-/// The trimmed, non-empty entries of a list file (Windows-1252; CR LF, CR or LF; a NUL ends nothing and is
-/// dropped; UTF-8 with a byte-order mark or valid multi-byte sequences throughout is recognised). With
-/// `keepBlank` blank lines stay as empty entries. Throws as ReadWholeFile.
+/// The trimmed, non-empty entries of a list file, in whatever encoding (CR LF, CR or LF; a NUL ends nothing
+/// and is dropped). With `keepBlank` blank lines stay as empty entries. Throws as ReadWholeFile.
 QStringList readListFile(const QString &path, bool keepBlank = false);
 
 /// Replaces `path` by `bytes`: written beside, flushed, renamed, so that a reader finds the old bytes or the

@@ -7,13 +7,10 @@
 #include "platform/windows1252.h"
 
 #include <QFileInfo>
-#include <QStringDecoder>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-const QByteArray utf8Mark = "\xEF\xBB\xBF";
 
 /// Without the blanks at its ends, in the form in which names are compared.
 QString foldedName(const QString &name) { return UCase(name.trimmed()); }
@@ -44,14 +41,16 @@ IniFile::IniFile(const QString &path)
     sections_.emplace_back();
     if (!QFileInfo::exists(nativePath(path)))
         return;
-    QByteArray bytes = ReadWholeFile(path);
-    if (bytes.startsWith("\xFF\xFE") || bytes.startsWith("\xFE\xFF")) {
-        QStringDecoder decoder(QStringDecoder::Utf16);
-        bytes = utf8Mark + QString(decoder.decode(bytes)).toUtf8();
+    const QByteArray bytes = ReadWholeFile(path);
+    encoding_ = encodingOf(bytes);
+    marked_ = bytes.startsWith(utf8Mark);
+    if (encoding_ == TextEncoding::Utf16) {
+        marked_ = true;
+        encoding_ = TextEncoding::Utf8;
+        parse(decodeText(bytes).toUtf8());
+    } else {
+        parse(marked_ ? bytes.mid(utf8Mark.size()) : bytes);
     }
-    if (isUtf8(bytes))
-        encoding_ = Encoding::Utf8;
-    parse(bytes);
 }
 
 void IniFile::parse(const QByteArray &bytes)
@@ -70,9 +69,7 @@ void IniFile::parse(const QByteArray &bytes)
 
 void IniFile::addLine(const QByteArray &line)
 {
-    QByteArray text = line.trimmed();
-    if (text.startsWith(utf8Mark))
-        text.remove(0, utf8Mark.size());
+    const QByteArray text = line.trimmed();
     const qsizetype end = text.startsWith('[') ? text.lastIndexOf(']') : -1;
     if (end > 0)
         addSection(decode(text.mid(1, end - 1)));
@@ -116,6 +113,7 @@ QString IniFile::read(const QString &section, const QString &key, const QString 
 void IniFile::write(const QString &section, const QString &key, const QString &value)
 {
     changed_ = true;
+    makeRoomFor(section + key + value);
     const auto found = sectionIndex_.constFind(foldedName(section));
     int place = 0;
     if (found != sectionIndex_.cend()) {
@@ -143,6 +141,17 @@ void IniFile::write(const QString &section, const QString &key, const QString &v
     keyIndex_.insert(name, static_cast<int>(at));
 }
 
+/// A character that the page does not have turns the file into one that has them all.
+void IniFile::makeRoomFor(const QString &text)
+{
+    if (encoding_ != TextEncoding::Windows1252 || windows1252::encode(text))
+        return;
+    for (Lines &lines : sections_)
+        for (QByteArray &line : lines)
+            line = decode(line).toUtf8();
+    encoding_ = TextEncoding::Utf8;
+}
+
 void IniFile::save()
 {
     if (!changed_)
@@ -151,18 +160,16 @@ void IniFile::save()
     for (const Lines &lines : sections_)
         for (const QByteArray &line : lines)
             bytes += line;
+    // Where the bytes alone would be taken for another encoding, the mark tells.
+    if (marked_ || decodeText(bytes) != decode(bytes))
+        bytes = utf8Mark + (encoding_ == TextEncoding::Utf8 ? bytes : decode(bytes).toUtf8());
     writeFileAtomically(path_, bytes);
     changed_ = false;
 }
 
-QString IniFile::decode(const QByteArray &bytes) const
-{
-    if (encoding_ == Encoding::Windows1252)
-        return windows1252::decode(bytes);
-    return QString::fromUtf8(bytes).normalized(QString::NormalizationForm_C);
-}
+QString IniFile::decode(const QByteArray &bytes) const { return decodeText(bytes, encoding_); }
 
 QByteArray IniFile::encode(const QString &text) const
 {
-    return encoding_ == Encoding::Windows1252 ? windows1252::encodeLossy(text) : text.toUtf8();
+    return encoding_ == TextEncoding::Windows1252 ? windows1252::encodeLossy(text) : text.toUtf8();
 }

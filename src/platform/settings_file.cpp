@@ -4,6 +4,7 @@
 
 #include "platform/files.h"
 #include "platform/runtime_error.h"
+#include "platform/text_encoding.h"
 
 #include <QDir>
 #include <QFile>
@@ -121,7 +122,10 @@ void SettingsFile::readFile() const
         return;
     }
     QString section;
-    const QList<QByteArray> lines = file.readAll().split('\n');
+    QByteArray bytes = file.readAll();
+    if (bytes.startsWith(utf8Mark)) // saved by an editor
+        bytes.remove(0, utf8Mark.size());
+    const QList<QByteArray> lines = bytes.split('\n');
     for (const QByteArray &raw : lines) {
         const QByteArray line = raw.trimmed();
         switch (kindOf(line)) {

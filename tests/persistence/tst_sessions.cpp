@@ -71,11 +71,20 @@ private slots:
         QCOMPARE(rig.sessions.WebExportName(), u"A.html"_s);
     }
 
+    void savesAndOpens_data()
+    {
+        columns<QString>("caption");
+        QTest::newRow("signs") << u"  groß \"x\"=[;] "_s;
+        QTest::newRow("sharp s before a quotation mark") << u"groß“"_s;
+        QTest::newRow("long") << QString(800, u'x');
+        QTest::newRow("another script") << u"Ω"_s;
+    }
     void savesAndOpens()
     {
+        QFETCH(QString, caption);
         Rig rig;
         rig.lay(prefix, 1, 2, u"ver"_s);
-        rig.lay(wortel, -30, 40, u"  groß \"x\"=[;] "_s);
+        rig.lay(wortel, -30, 40, caption);
         rig.lay(suffix, 0, 0, u"schaft"_s);
         const QStringList tiles = rig.described();
         rig.sessions.SaveObjects(rig.path);

@@ -44,7 +44,8 @@ private slots:
         QTest::newRow("UTF-8 with mark") << QByteArray("\xEF\xBB\xBF[A]\nTipp=sch\xC3\xB6n") << u"schön"_s;
         QTest::newRow("UTF-16") << QByteArray("\xFF\xFE[\0A\0]\0\n\0T\0i\0p\0p\0=\0\xF6\0", 22) << u"ö"_s;
         QTest::newRow("NUL bytes") << QByteArray("[A]\nTipp=a\0b", 12) << u"ab"_s;
-        QTest::newRow("cut at 750") << "[A]\nTipp=" + QByteArray(800, 'x') << QString(750, u'x');
+        QTest::newRow("sharp s before a quotation mark") << QByteArray("[A]\nTipp=gro\xDF\x93") << u"groß“"_s;
+        QTest::newRow("long") << "[A]\nTipp=" + QByteArray(800, 'x') << QString(800, u'x');
         QTest::newRow("no text at all") << QByteArray() << u"-"_s;
         QTest::newRow("brackets and equals signs") << QByteArray("[\n]\n=\n[]\n==\n]A[") << u"-"_s;
     }
@@ -52,7 +53,9 @@ private slots:
     {
         QFETCH(QByteArray, bytes);
         putBytes(path_, bytes);
-        QTEST(IniFile(path_).read(u"A"_s, u"Tipp"_s, u"-"_s), "value");
+        QFETCH(QString, value);
+        QCOMPARE(IniFile(path_).read(u"A"_s, u"Tipp"_s, u"-"_s), value);
+        QCOMPARE(IniFile(path_).read(u"A"_s, u"Tipp"_s, u"-"_s, 750), value.left(750));
     }
 
     void writes_data()
@@ -84,6 +87,27 @@ private slots:
         file.save();
         QTEST(bytesOf(path_), "after");
         QCOMPARE(IniFile(path_).read(u"a"_s, u"k"_s), u"ö"_s);
+    }
+
+    void everyTextComesBack_data()
+    {
+        columns<QByteArray, QString>("before", "value");
+        QTest::newRow("sharp s before a quotation mark") << QByteArray("[A]\nx=1\n") << u"groß“"_s;
+        QTest::newRow("two letters like one of UTF-8") << QByteArray("[A]\nx=1\n") << u"Ã¤"_s;
+        QTest::newRow("letters the page lacks") << QByteArray("[A]\nx=\xE4\n") << u"Ω 😀"_s;
+        QTest::newRow("the same in UTF-8") << QByteArray("[A]\nx=\xC3\xA4\n") << u"Ω 😀"_s;
+    }
+    void everyTextComesBack()
+    {
+        QFETCH(QByteArray, before);
+        QFETCH(QString, value);
+        putBytes(path_, before);
+        IniFile file(path_);
+        const QString other = file.read(u"A"_s, u"x"_s);
+        file.write(u"A"_s, u"K"_s, value);
+        file.save();
+        QCOMPARE(IniFile(path_).read(u"A"_s, u"K"_s), value);
+        QCOMPARE(IniFile(path_).read(u"A"_s, u"x"_s), other);
     }
 
     void lineEndsBecomeBlanks()

@@ -84,12 +84,17 @@ private slots:
         QCOMPARE(bytesOf(file_ + u".bak"_s), bytes);
     }
 
-    void emptyFileIsNoGarbage()
+    void emptyAndMarkedFilesAreNoGarbage()
     {
-        putBytes(file_, "");
-        SettingsFile store(file_);
-        store.SaveSetting(u"Settings"_s, u"a"_s, u"1"_s);
-        QVERIFY(!QFileInfo::exists(file_ + u".bak"_s));
+        for (const auto &[bytes, held] :
+             {std::pair{"", u"-"_s}, {"\xEF\xBB\xBF[Settings]\r\nb=gro\xC3\x9F\r\n", u"groß"_s}}) {
+            putBytes(file_, bytes);
+            SettingsFile store(file_);
+            QCOMPARE(store.GetSetting(u"Settings"_s, u"b"_s, u"-"_s), held);
+            store.SaveSetting(u"Settings"_s, u"a"_s, u"1"_s);
+            QCOMPARE(SettingsFile(file_).GetSetting(u"Settings"_s, u"b"_s, u"-"_s), held);
+            QVERIFY(!QFileInfo::exists(file_ + u".bak"_s));
+        }
     }
 
     void aFullDiskLosesNothing()

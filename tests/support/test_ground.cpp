@@ -3,7 +3,7 @@
 #include "support/test_ground.h"
 
 #include "platform/files.h"
-#include "platform/windows1252.h"
+#include "platform/text_encoding.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -109,6 +109,6 @@ QString TestGround::writeFile(const QString &name, const QString &text) const
 {
     const QString stored = AppFolder + name;
     QDir().mkpath(QFileInfo(nativePath(stored)).path());
-    writeFileAtomically(stored, windows1252::encodeLossy(text));
+    writeFileAtomically(stored, encodeText(text));
     return stored;
 }
