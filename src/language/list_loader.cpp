@@ -7,6 +7,7 @@
 #include "platform/ground.h"
 #include "platform/options.h"
 #include "platform/procedure.h"
+#include "platform/product.h"
 #include "platform/rnd.h"
 #include "platform/runtime_error.h"
 #include "platform/text.h"
@@ -34,8 +35,6 @@ constexpr std::array<StartList, 4> startLists{{
     {&WordLists::PrefixFile, &WordLists::PrefixList, true},
     {&WordLists::SuffixFile, &WordLists::SuffixList, true},
 }};
-
-const QString errorTitle = u"Wortel-Meister - Fehler"_s;
 
 QString missing(const QString &path) { return u"Datei "_s + path + u" fehlt"_s; }
 
@@ -130,7 +129,7 @@ void ListLoader::Fill_Lexicon(const QString &path)
     Procedure step{ground_.log, "Fill_Lexicon", "frmMain"};
     ground_.rnd.Randomize();
     if (!IsTextFile(path)) {
-        step([&] { ground_.boxes.plainBox(Boxes::Icon::Warning, errorTitle, missing(path)); });
+        step([&] { ground_.boxes.plainBox(Boxes::Icon::Warning, product::faultTitle, missing(path)); });
         return;
     }
     const Busy busyNow(*this);
@@ -157,7 +156,7 @@ QStringList ListLoader::read(const QString &path, bool keepBlank)
     try {
         return readListFile(path, keepBlank);
     } catch (const RuntimeError &) {
-        ground_.boxes.plainBox(Boxes::Icon::Warning, errorTitle,
+        ground_.boxes.plainBox(Boxes::Icon::Warning, product::faultTitle,
                                u"Datei "_s + path + u" kann nicht gelesen werden"_s);
         throw;
     }
@@ -166,7 +165,8 @@ QStringList ListLoader::read(const QString &path, bool keepBlank)
 void ListLoader::fillVowelList(WordStore &store, const QString &path, bool keepBlank, int line)
 {
     if (!IsTextFile(path)) {
-        ground_.boxes.plainBox(Boxes::Icon::Warning, errorTitle, missingIn(path, "FillKurzLanglist", line));
+        ground_.boxes.plainBox(Boxes::Icon::Warning, product::faultTitle,
+                               missingIn(path, "FillKurzLanglist", line));
         return;
     }
     QSet<QString> seen;

@@ -13,6 +13,7 @@
 #include "platform/modes.h"
 #include "platform/options.h"
 #include "platform/procedure.h"
+#include "platform/product.h"
 #include "widgets/guards.h"
 
 #include <QScopedValueRollback>
@@ -22,7 +23,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto form = "frmMain";
-const QString faultTitle = u"Wortel-Meister - Fehler"_s;
 
 SessionDialog dialog(const QString &title, const QString &folderKey)
 {
@@ -47,7 +47,7 @@ Backup::Backup(Ground &ground, Modes &modes, Canvas &canvas, BulkTiles &bulk, QO
     , bulk_(bulk)
 {}
 
-QString Backup::file(const Ground &ground) { return ground.AppFolder + u"WLXAutoSave.bak"_s; }
+QString Backup::file(const Ground &ground) { return product::backupFile(ground.AppFolder); }
 
 void Backup::saveIfWanted()
 {
@@ -67,7 +67,7 @@ void Backup::SaveMyObjects(const QString &path)
         step([&] { rememberFolder(ground_, ask, target); });
     }
     if (!step([&] { writeBoard(target); }))
-        ground_.boxes.plainBox(Boxes::Icon::Warning, faultTitle,
+        ground_.boxes.plainBox(Boxes::Icon::Warning, product::faultTitle,
                                u".BAK-Datei könnte nicht gespeichert werden"_s);
     // Other events have their turn only now that the change is safe.
     step([&] { ground_.pump.yield(); });
@@ -96,7 +96,7 @@ void Backup::RestoreMyObjects(const QString &path)
     const Hourglass hourglass;
     if (!step([&] { readBoard(source); }))
         ground_.boxes.plainBox(
-            Boxes::Icon::Critical, faultTitle,
+            Boxes::Icon::Critical, product::faultTitle,
             u"Die BAK-Session konnte nicht eingelesen werden: "_s + source +
                 u"\n\nDie Datei enthält ungültige Daten.\n\nDas Laden wird abgebrochen..."_s);
     step([&] { canvas_.store().counters().updateTotal(); });

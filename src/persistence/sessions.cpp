@@ -16,6 +16,7 @@
 #include "platform/ini_file.h"
 #include "platform/options.h"
 #include "platform/procedure.h"
+#include "platform/product.h"
 #include "platform/system_info.h"
 #include "platform/word_lists.h"
 #include "widgets/guards.h"
@@ -31,7 +32,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto form = "frmMain";
-const QString faultTitle = u"Wortel-Meister - Fehler"_s;
 const QString filter = u"Wortel-Sitzungen(*.wlx)|*.wlx"_s;
 
 QString lineHere(std::source_location where = std::source_location::current())
@@ -83,7 +83,7 @@ void Sessions::writeSession(const QString &path)
         file.save();
     } catch (const RuntimeError &error) {
         ground_.boxes.plainBox(
-            Boxes::Icon::Critical, faultTitle,
+            Boxes::Icon::Critical, product::faultTitle,
             u".WLX-Datei könnte nicht gespeichert werden.\n\n FrmTransform::SaveObjects (Line: "_s +
                 lineHere() + u") \n"_s + error.description());
         throw;
@@ -113,7 +113,7 @@ void Sessions::RestoreObjects(const QString &path)
     const bool whole = step([&] { readSession(source); });
     if (!whole)
         ground_.boxes.plainBox(
-            Boxes::Icon::Critical, faultTitle,
+            Boxes::Icon::Critical, product::faultTitle,
             u"Die WXL-Sitzung konnte nicht eingelesen werden: "_s + source +
                 u"\n\nDie Datei enthält ungültige Daten.\n\nDas Laden wird abgebrochen..."_s);
     step([&] { rooms_.canvas.store().counters().updateTotal(); });

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/about_window.h"
 
-#include "shell/splash.h"
+#include "platform/product.h"
 #include "widgets/gradient.h"
 
 #include <QIcon>
@@ -41,7 +41,7 @@ fAbout::fAbout(QWidget *parent)
     inner->setContentsMargins(28, 18, 28, 18);
     inner->addWidget(icon);
     inner->addWidget(line(QStringLiteral("Wortel-Meister"), 26, true, panel));
-    inner->addWidget(line(QStringLiteral("Version ") + frmSplash::versionText(), 13, false, panel));
+    inner->addWidget(line(QStringLiteral("Version ") + product::paddedVersion(), 13, false, panel));
     inner->addWidget(
         line(QStringLiteral("Ein Werkzeug zum Erkennen von Wortstrukturen\nSpiel mit Wortbausteinen"), 14,
              false, panel));

@@ -3,7 +3,7 @@
 #include "shell/application_folder.h"
 
 #include "platform/files.h"
-#include "version.h"
+#include "platform/product.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -15,11 +15,6 @@ namespace {
 /// Written last when a folder has been filled: its text is the version of the program that filled it.
 constexpr char16_t filledMark[] = u"/.filled";
 
-QString versionText()
-{
-    return QStringLiteral("%1.%2.%3").arg(version::major).arg(version::minor).arg(version::revision);
-}
-
 bool holdsData(const QString &folder)
 {
     return QFileInfo(folder + QStringLiteral("/text")).isDir() &&
@@ -29,7 +24,7 @@ bool holdsData(const QString &folder)
 bool isFilled(const QString &folder)
 {
     QFile mark(folder + QString::fromUtf16(filledMark));
-    return mark.open(QIODevice::ReadOnly) && QString::fromUtf8(mark.readAll()) == versionText() &&
+    return mark.open(QIODevice::ReadOnly) && QString::fromUtf8(mark.readAll()) == product::version() &&
            holdsData(folder);
 }
 
@@ -45,7 +40,7 @@ void fill(const QString &folder, const QString &installedData)
         QDir().mkpath(QFileInfo(target).path());
         writeFileAtomically(target, ReadWholeFile(source));
     }
-    writeFileAtomically(folder + QString::fromUtf16(filledMark), versionText().toUtf8());
+    writeFileAtomically(folder + QString::fromUtf16(filledMark), product::version().toUtf8());
 }
 
 } // namespace

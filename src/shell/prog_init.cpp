@@ -12,11 +12,11 @@
 #include "platform/ground.h"
 #include "platform/options.h"
 #include "platform/procedure.h"
+#include "platform/product.h"
 #include "platform/rnd.h"
 #include "platform/text.h"
 #include "platform/word_lists.h"
 #include "shell/affix_rows.h"
-#include "version.h"
 #include "widgets/guards.h"
 #include "widgets/main_controls.h"
 #include "widgets/plain_tool_tip.h"
@@ -41,13 +41,11 @@ bool ProgInit::run(Int16 count, int screenCode)
     Procedure step{ground_.log, "ProgInit", "frmMain"};
     Hourglass hourglass;
     if (const std::optional<QString> missing = loader_.loadAtStart()) {
-        ground_.boxes.plainBox(Boxes::Icon::Critical, u"Wortel-Meister - Fehler"_s, *missing);
+        ground_.boxes.plainBox(Boxes::Icon::Critical, product::faultTitle, *missing);
         return false;
     }
     step([&] { nameTheList(); });
-    step([&] {
-        controls_.form->setWindowTitle(u"Wortel-Meister %1.%2"_s.arg(version::major).arg(version::minor));
-    });
+    step([&] { controls_.form->setWindowTitle(product::caption()); });
     step([&] { canvas_.surface().clear(); });
     step([&] { layWortelTiles(count); });
     if (!affixRowsLaid_) {

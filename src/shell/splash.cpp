@@ -3,8 +3,7 @@
 #include "shell/splash.h"
 
 #include "platform/clock.h"
-#include "platform/text.h"
-#include "version.h"
+#include "platform/product.h"
 
 #include <QEvent>
 #include <QGuiApplication>
@@ -82,7 +81,7 @@ frmSplash::frmSplash(Clock &clock)
         label->setStyleSheet(QStringLiteral("color: #1b2a4a"));
         label->setGeometry(0, row.top, splashSize.width(), row.height);
     }
-    findChild<QLabel *>(QStringLiteral("lblversion"))->setText(versionText());
+    findChild<QLabel *>(QStringLiteral("lblversion"))->setText(product::paddedVersion());
     if (QScreen *where = QGuiApplication::primaryScreen())
         move(where->geometry().center() - rect().center());
 }
@@ -104,12 +103,6 @@ void frmSplash::leaveTop()
     if (shadow_)
         shadow_->lower();
     lower();
-}
-
-QString frmSplash::versionText()
-{
-    return QString::number(version::major) + u'.' + FormatNumber(version::minor, 2) + u'.' +
-           FormatNumber(version::revision, 2);
 }
 
 bool frmSplash::event(QEvent *event)

@@ -42,8 +42,6 @@ public:
     void showWithShadow();
     /// Splash and shadow leave the always-on-top band.
     void leaveTop();
-    /// Major version, ".", minor and revision with two digits each.
-    static QString versionText();
 
 protected:
     bool event(QEvent *event) override;

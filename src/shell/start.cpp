@@ -5,6 +5,7 @@
 #include "platform/desktop.h"
 #include "platform/files.h"
 #include "platform/instance_link.h"
+#include "platform/product.h"
 #include "shell/about_window.h"
 #include "shell/affix_rows.h"
 #include "shell/application_folder.h"
@@ -14,7 +15,6 @@
 #include "shell/splash.h"
 #include "shell/start_steps.h"
 #include "shell/termination.h"
-#include "version.h"
 #include "widgets/resources.h"
 
 #include <QApplication>
@@ -77,9 +77,8 @@ int StartApplication(QApplication &application, RealGround &real, InstanceLink &
 // Looks alike on every desktop; tiles are measured in this font, in pixels whatever the screen's dpi.
 void dressApplication(QApplication &application)
 {
-    QCoreApplication::setApplicationName(u"Wortel-Meister"_s);
-    QCoreApplication::setApplicationVersion(
-        u"%1.%2.%3"_s.arg(version::major).arg(version::minor).arg(version::revision));
+    QCoreApplication::setApplicationName(product::name);
+    QCoreApplication::setApplicationVersion(product::version());
     QGuiApplication::setDesktopFileName(u"wortel-meister"_s);
     QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
     QFont font(u"Liberation Sans"_s);

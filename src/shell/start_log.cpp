@@ -6,9 +6,9 @@
 #include "platform/clock.h"
 #include "platform/ground.h"
 #include "platform/log.h"
+#include "platform/product.h"
 #include "platform/system_info.h"
 #include "platform/text.h"
-#include "version.h"
 
 using namespace Qt::StringLiterals;
 
@@ -25,13 +25,12 @@ void startLog(Ground &ground, bool useBackup)
 
     const QString rule(64, u'-');
     ground.log.WriteLog(rule);
-    ground.log.WriteLog(u"Starting new application-log: Wortel-Meister v.%1.%2.%3"_s.arg(version::major)
-                            .arg(version::minor)
-                            .arg(version::revision));
+    ground.log.WriteLog(u"Starting new application-log: "_s + product::name + u" v."_s + product::version());
     ground.log.WriteLog(u"Date/Time: "_s + FormatDateTime(ground.clock.now()));
     ground.log.WriteLog(u"OS: "_s + GetOSName());
     ground.log.WriteLog(u"User: "_s + GetUserName());
     ground.log.WriteLog(rule);
     if (useBackup)
-        ground.log.WriteLog(u"Event: Backup-file (WLXAutoSave.bak), opened in the default folder"_s);
+        ground.log.WriteLog(u"Event: Backup-file ("_s + product::backupName +
+                            u"), opened in the default folder"_s);
 }

@@ -6,14 +6,13 @@
 #include "platform/files.h"
 #include "platform/ground.h"
 #include "platform/options.h"
+#include "platform/product.h"
 #include "shell/argument_handler.h"
 #include "shell/start_log.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr char16_t errorTitle[] = u"Wortel-Meister - Fehler";
 
 constexpr char16_t parameterText[] = u"Valid parameters are\n\n"
                                      u"/L\tEnable errors and events-logging\n\n"
@@ -38,7 +37,7 @@ start_steps::Next apply(Ground &ground, const Argument &argument, bool isFirstIn
         ground.boxes.plainBox(Boxes::Icon::Information, u"Wortel-Meister - Commandline Parameters"_s,
                               QString::fromUtf16(parameterText));
     else
-        ground.boxes.plainBox(Boxes::Icon::Critical, QString::fromUtf16(errorTitle),
+        ground.boxes.plainBox(Boxes::Icon::Critical, product::faultTitle,
                               u"Invalid Parameter: "_s + name +
                                   u"\n\nFor valid parameters, type: Wortel /?"_s);
     return End;
@@ -54,8 +53,7 @@ start_steps::Next start_steps::ApplyArguments(Ground &ground, const ArgumentHand
             if (apply(ground, arguments.GetArgumentIndex(i), isFirstInstance, showAbout) == Next::End)
                 return Next::End;
     } catch (const std::exception &) {
-        ground.boxes.plainBox(Boxes::Icon::Warning, QString::fromUtf16(errorTitle),
-                              u"Commandline Parameter Error"_s);
+        ground.boxes.plainBox(Boxes::Icon::Warning, product::faultTitle, u"Commandline Parameter Error"_s);
     }
     return Next::GoOn;
 }
@@ -64,7 +62,7 @@ start_steps::Next start_steps::askForRecovery(Ground &ground, bool &RecoverOnSta
 {
     RecoverOnStart = false;
     if (ground.options.stored(Setting::UseBackup) != u"1" ||
-        !IsTextFile(ground.AppFolder + u"WLXAutoSave.bak"_s))
+        !IsTextFile(product::backupFile(ground.AppFolder)))
         return Next::GoOn;
     const Boxes::Answer answer = ground.boxes.plainBox(
         Boxes::Icon::Information, u"Wortel-Meister - Error Recovery"_s,

@@ -11,6 +11,7 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QLabel>
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
@@ -107,6 +108,7 @@ private slots:
         QCOMPARE(t.boxes.asked.first().text, u"Möchten Sie erst die Fehleraufzeichnungsdatei\n\n"_s + file +
                                                  u" (error.log) zurücksetzen?  "_s);
         QCOMPARE(t.boxes.asked.first().style, u"CONFIRM"_s);
+        QVERIFY(lines.contains(u"Starting new application-log: Wortel-Meister v.1.0.0"_s));
         QVERIFY(lines.contains(u"Date/Time: 03/14/2026  09:26 AM"_s));
         const QString last = backup ? u"Event: Backup-file (WLXAutoSave.bak), opened in the default folder"_s
                                     : QString(64, u'-');
@@ -119,6 +121,7 @@ private slots:
         frmSplash splash(t.clock);
         splash.showWithShadow();
         QVERIFY(splash.isVisible());
+        QCOMPARE(splash.findChild<QLabel *>(u"lblversion"_s)->text(), u"1.00.00"_s);
         QDialog question;
         question.setModal(true);
         question.show();
