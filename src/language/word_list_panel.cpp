@@ -132,8 +132,14 @@ void WordListPanel::Save_Result()
     if (path.isEmpty())
         return;
     const QString text = lists_.CorrectWordList.rows().join(u"\r\n"_s) + u"\r\n"_s;
-    if (step([&] { writeFileAtomically(path, encodeText(text)); }))
-        step([&] { emit wordListSaved(path); });
+    if (!step([&] { writeFileAtomically(path, encodeText(text)); })) {
+        step([&] {
+            ground_.boxes.plainBox(Boxes::Icon::Warning, u"Wortel - Fehler"_s,
+                                   u"Die richtigen Wörter konnten nicht in die Datei geschrieben werden"_s);
+        });
+        return;
+    }
+    step([&] { emit wordListSaved(path); });
     step([&] { ground_.store.SaveSetting(u"Path"_s, u"Export"_s, path.left(path.lastIndexOf(u'\\'))); });
 }
 

@@ -27,7 +27,8 @@ public:
     void Show_Result();
     /// The menu command "Bearbeiten": flips the list, above the band, and opens its menu.
     void editByMenu();
-    /// Saves the list as a text file, one word a line (the right press on `Command4`).
+    /// Saves the list as a text file, one word a line (the right press on `Command4`). A failure is told in a
+    /// box, and the folder is remembered only after a success.
     void Save_Result();
     /// The words, each with a line end, go to the clipboard; an empty list leaves that as it is.
     void CorrectWordsToClip();

@@ -247,6 +247,15 @@ private slots:
         w.words.Save_Result();
         const QString path = w.t.AppFolder + u"wörter.txt"_s;
         QSignalSpy saved(&w.words, &WordListPanel::wordListSaved);
+        w.t.fileDialogs.willSave(w.t.AppFolder + u"fort\\wörter.txt"_s);
+        w.t.boxes.willAnswer(Boxes::Answer::Ok);
+        w.words.Save_Result();
+        QCOMPARE(w.t.boxes.asked.last().title, u"Wortel - Fehler"_s);
+        QCOMPARE(w.t.boxes.asked.last().text,
+                 u"Die richtigen Wörter konnten nicht in die Datei geschrieben werden"_s);
+        QCOMPARE(w.t.boxes.asked.last().code, int(Boxes::Icon::Warning));
+        QCOMPARE(w.t.store.GetSetting(u"Path"_s, u"Export"_s, u"none"_s), u"none"_s);
+        QVERIFY(saved.isEmpty());
         w.t.fileDialogs.willSave(path);
         w.words.Save_Result();
         QCOMPARE(ReadWholeFile(path), QByteArray("Haus\r\nL\xE4ufer\r\n"));
