@@ -10,7 +10,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <algorithm>
 #include <type_traits>
@@ -70,62 +69,6 @@ QStringList entriesOf(const Unit *from, const Unit *end, bool keepBlank, Decode 
 }
 
 [[noreturn]] void raise(int number) { throw RuntimeError::of(number); }
-
-/// The error of a file that could not be opened for writing.
-int openError(const QString &path)
-{
-    const QFileInfo info(path);
-    const QFileInfo folder(info.absolutePath());
-    if (!folder.isDir())
-        return RuntimeError::PathNotFound;
-    if (info.isDir())
-        return 75;
-    return !folder.isWritable() || (info.exists() && !info.isWritable()) ? RuntimeError::PermissionDenied
-                                                                         : 75;
-}
-
-int writeError(QFileDevice::FileError error)
-{
-    switch (error) {
-    case QFileDevice::ResourceError:
-        return RuntimeError::DiskFull;
-    case QFileDevice::PermissionsError:
-        return RuntimeError::PermissionDenied;
-    default:
-        return 75;
-    }
-}
-
-/// Writes everything or gives false. A disk that fills up takes a part first and tells its error with the
-/// next write.
-bool writeWhole(QFileDevice &file, const QByteArray &bytes)
-{
-    qint64 done = 0;
-    while (done < bytes.size()) {
-        const qint64 count = file.write(bytes.constData() + done, bytes.size() - done);
-        if (count <= 0)
-            return false;
-        done += count;
-    }
-    return true;
-}
-
-/// For a file that may be written in a folder that may not: in place, and the old bytes put back if that
-/// fails.
-void writeInPlace(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadWrite | QIODevice::Unbuffered))
-        raise(openError(path));
-    const QByteArray old = file.readAll();
-    if (file.seek(0) && writeWhole(file, bytes) && file.resize(bytes.size()))
-        return;
-    const int number = writeError(file.error());
-    file.seek(0);
-    writeWhole(file, old);
-    file.resize(old.size());
-    raise(number);
-}
 
 } // namespace
 
@@ -200,20 +143,4 @@ QStringList readListFile(const QString &path, bool keepBlank)
     return entriesOf(units, units + text.size(), keepBlank, [](const char16_t *from, qsizetype count) {
         return QString(reinterpret_cast<const QChar *>(from), count);
     });
-}
-
-void writeFileAtomically(const QString &path, const QByteArray &bytes)
-{
-    const QString native = nativePath(path);
-    QSaveFile file(native);
-    // Unbuffered, because a buffer that is written only in part when it is flushed counts as written.
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
-        writeInPlace(native, bytes);
-        return;
-    }
-    if (writeWhole(file, bytes) && file.commit())
-        return;
-    const int number = writeError(file.error());
-    file.cancelWriting();
-    raise(number);
 }

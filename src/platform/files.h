@@ -30,6 +30,9 @@ QByteArray ReadWholeFile(const QString &path);
 QStringList readListFile(const QString &path, bool keepBlank = false);
 
 /// Replaces `path` by `bytes`: written beside, flushed, renamed, so that a reader finds the old bytes or the
-/// new, never a mix. Falls back to writing in place only if the temporary file could not be opened. Throws
-/// RuntimeError 61, 70, 75 or 76; the old file then stays.
+/// new, never a mix. A link stays one and the mode stays what it was. Falls back to writing in place only if
+/// the file beside could not be opened. Throws RuntimeError 61, 70, 75 or 76; the old file then stays.
 void writeFileAtomically(const QString &path, const QByteArray &bytes);
+/// Removes what a writer that was killed has left in `folder` (stored form), and not in the folders below it.
+/// Files of other names stay, and so do those that a running program still writes.
+void removeLeftOvers(const QString &folder);

@@ -28,9 +28,14 @@ bool isFilled(const QString &folder)
            holdsData(folder);
 }
 
-/// Copies what is missing. A copy appears under its name only when it is whole.
+/// Copies what is missing, once what a copying that was cut off has left is gone. A copy appears under its
+/// name only when it is whole.
 void fill(const QString &folder, const QString &installedData)
 {
+    removeLeftOvers(folder);
+    QDirIterator folders(folder, QDir::Dirs | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
+    while (folders.hasNext())
+        removeLeftOvers(folders.next());
     QDirIterator files(installedData, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
     while (files.hasNext()) {
         const QString source = files.next();

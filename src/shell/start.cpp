@@ -6,6 +6,7 @@
 #include "platform/files.h"
 #include "platform/instance_link.h"
 #include "platform/product.h"
+#include "platform/settings_file.h"
 #include "shell/about_window.h"
 #include "shell/affix_rows.h"
 #include "shell/application_folder.h"
@@ -25,6 +26,7 @@
 #include <QScreen>
 #include <QStandardPaths>
 #include <QStyleFactory>
+#include <QTimer>
 #include <QTranslator>
 
 using namespace Qt::StringLiterals;
@@ -65,6 +67,12 @@ int StartApplication(QApplication &application, RealGround &real, InstanceLink &
 
     form.showMaximized();
     QGuiApplication::restoreOverrideCursor();
+    // Behind the first board, because a folder of a network may take its time.
+    QTimer::singleShot(0, &form, [&ground] {
+        start_steps::removeLeftOvers(ground,
+                                     {QFileInfo(SettingsFile::defaultFile()).path(),
+                                      QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)});
+    });
 
     Termination termination;
     QObject::connect(&termination, &Termination::requested, &form, &QWidget::close);

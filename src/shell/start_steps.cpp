@@ -7,6 +7,7 @@
 #include "platform/ground.h"
 #include "platform/options.h"
 #include "platform/product.h"
+#include "platform/settings_store.h"
 #include "shell/argument_handler.h"
 #include "shell/start_log.h"
 
@@ -72,4 +73,14 @@ start_steps::Next start_steps::askForRecovery(Ground &ground, bool &RecoverOnSta
         Boxes::Buttons::YesNoCancel);
     RecoverOnStart = answer == Boxes::Answer::Yes;
     return answer == Boxes::Answer::Cancel ? Next::End : Next::GoOn;
+}
+
+void start_steps::removeLeftOvers(const Ground &ground, const QStringList &ownFolders)
+{
+    QStringList folders = ownFolders;
+    folders << ground.AppFolder;
+    for (const QString &key : {u"SaveWLX"_s, u"Export"_s})
+        folders << ground.store.GetSetting(u"Path"_s, key, {});
+    for (const QString &folder : std::as_const(folders))
+        ::removeLeftOvers(folder);
 }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QStringList>
+
 #include <functional>
 
 class ArgumentHandler;
@@ -21,5 +23,9 @@ Next ApplyArguments(Ground &ground, const ArgumentHandler &arguments, bool isFir
 /// If the previous run left its backup file and `UseBackup` is on: asks if it is to be opened. Yes sets
 /// `RecoverOnStart`; Cancel ends the program.
 Next askForRecovery(Ground &ground, bool &RecoverOnStart);
+
+/// Removes what a run that was killed while it wrote has left: in the program's folder, where a session and
+/// the word list were saved last, and in `ownFolders` (native paths).
+void removeLeftOvers(const Ground &ground, const QStringList &ownFolders);
 
 } // namespace start_steps

@@ -8,9 +8,11 @@
 #include "support/file_bytes.h"
 #include "support/file_size_limit.h"
 #include "support/registry.h"
+#include "support/stop_at_rename.h"
 
 #include <QtTest>
 
+#include <sys/wait.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -131,9 +133,44 @@ private slots:
             QVERIFY(errorOf([&] { writeFileAtomically(target, QByteArray(5000, 'x')); }) != 0);
         }
         QCOMPARE(bytesOf(target), QByteArray("new"));
-        QCOMPARE(QDir(folder_.path()).entryList({u"Sitzung*"_s}).size(), 1); // nothing is left beside it
+        QVERIFY(QDir(folder_.path()).entryList({u".wortel*"_s}, QDir::Files | QDir::Hidden).isEmpty());
+        QFile::link(target, path(u"Zeiger"_s));
+        writeFileAtomically(path(u"Zeiger"_s), "linked");
+        QVERIFY(QFileInfo(path(u"Zeiger"_s)).isSymLink());
+        QCOMPARE(bytesOf(target), QByteArray("linked"));
         QCOMPARE(errorOf([&] { writeFileAtomically(path(u"kein Ordner/a.txt"_s), "x"); }), 76);
         QCOMPARE(errorOf([&] { writeFileAtomically(folder_.path(), "x"); }), 75);
+    }
+
+    void whatAKilledWriterLeavesGoes()
+    {
+        const QString target = path(u"leben/Sitzung.wlx"_s);
+        const QStringList others{u".wortel-Heft.tmp"_s, u".wortel-abcdef.tmp.txt"_s, u"Sitzung.wlx.Backup"_s,
+                                 u"wortel-abcdef.tmp"_s, u".wortel-Ordner.tmp/x"_s};
+        for (const QString &other : others)
+            putBytes(path(u"leben/"_s + other), "x");
+        putBytes(target, "old");
+        const auto hidden = [&] {
+            return QDir(path(u"leben"_s)).entryList(QDir::Files | QDir::Hidden).size();
+        };
+        const qsizetype before = hidden();
+        const pid_t child = fork();
+        if (child == 0) {
+            stopAtRename();
+            writeFileAtomically(target, "new");
+            _exit(0);
+        }
+        QTRY_COMPARE(hidden(), before + 1);
+        removeLeftOvers(storedPath(path(u"leben"_s)));
+        QCOMPARE(hidden(), before + 1); // its writer is still at work
+        kill(child, SIGKILL);
+        QCOMPARE(waitpid(child, nullptr, 0), child);
+        QCOMPARE(hidden(), before + 1);
+        removeLeftOvers(storedPath(path(u"leben"_s)));
+        QCOMPARE(hidden(), before);
+        QCOMPARE(bytesOf(target), QByteArray("old"));
+        for (const QString &other : others)
+            QCOMPARE(bytesOf(path(u"leben/"_s + other)), QByteArray("x"));
     }
 };
 

@@ -166,8 +166,11 @@ private slots:
 
         // A copy that was cut off is completed.
         QFile::remove(user + u"/.filled"_s);
+        const QString half = user + u"/text/.wortel-AbCdEf.tmp"_s;
+        writeFileAtomically(half, "al");
         application_folder::find(program, installed, user);
         QVERIFY(QFile::exists(user + u"/lextip.ini"_s));
+        QVERIFY(!QFile::exists(half));
         QCOMPARE(ReadWholeFile(user + u"/text/Ä.txt"_s), QByteArray("vom Lehrer"));
 
         // Portable: the data lie beside the program.

@@ -129,6 +129,19 @@ private slots:
             QCOMPARE(window->isVisible(), window == &question);
     }
 
+    void leftOversGoFromEveryFolder()
+    {
+        TestGround t;
+        QStringList halves;
+        for (const QString &folder : {u""_s, u"Sitzungen\\"_s, u"Listen\\"_s, u"eigene\\"_s})
+            halves << t.writeFile(folder + u".wortel-AbCdEf.tmp"_s, u"x"_s);
+        t.store.SaveSetting(u"Path"_s, u"SaveWLX"_s, t.AppFolder + u"Sitzungen"_s);
+        t.store.SaveSetting(u"Path"_s, u"Export"_s, t.AppFolder + u"LISTEN"_s);
+        start_steps::removeLeftOvers(t.ground, {t.folder.filePath(u"eigene"_s)});
+        for (const QString &half : std::as_const(halves))
+            QVERIFY2(!IsTextFile(half), qPrintable(half));
+    }
+
     void offersRecovery_data()
     {
         // answer: -1: not asked

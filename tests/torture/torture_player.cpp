@@ -236,6 +236,7 @@ int main(int argc, char *argv[])
     Random random(arguments.at(3).toUInt());
     QuickGround quick(storedPath(arguments.at(1)) + u'\\', random, journal);
 
+    start_steps::removeLeftOvers(quick.ground, {});
     StartFacts facts;
     facts.ScreenResolutionCode = affix_rows::GetScreenResolution(800, 600);
     if (start_steps::askForRecovery(quick.ground, facts.RecoverOnStart) == start_steps::Next::End)

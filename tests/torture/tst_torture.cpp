@@ -30,6 +30,7 @@ struct Result
     int recoveries = 0;
     int gotLast = 0;
     int gotLastButOne = 0;
+    int leftOvers = 0;
     qint64 commits = 0;
     QString fault;
 
@@ -41,6 +42,7 @@ struct Result
         recoveries += other.recoveries;
         gotLast += other.gotLast;
         gotLastButOne += other.gotLastButOne;
+        leftOvers += other.leftOvers;
         commits += other.commits;
         if (fault.isEmpty())
             fault = other.fault;
@@ -133,6 +135,11 @@ private:
             return;
         }
         readJournal(!killAfterMs);
+        const QStringList halves =
+            QDir(folder_.path()).entryList({u".wortel-*.tmp"_s}, QDir::Files | QDir::Hidden);
+        result_.leftOvers += static_cast<int>(halves.size());
+        if (halves.size() > 1)
+            fail(u"left-over files pile up"_s);
     }
 
     QString journal() const { return folder_.filePath(u"journal"_s); }
@@ -251,14 +258,16 @@ private slots:
 
         qInfo().noquote() << u"%1 runs killed (%2 in the start, %3 in a commit) among %4 commits in %5 s; %6 "
                              u"recoveries: %7 "
-                             "gave the last commit, %8 the last but one"_s.arg(all.runs)
+                             "gave the last commit, %8 the last but one; %9 left-over files, one at a time"_s
+                                 .arg(all.runs)
                                  .arg(all.killedInStart)
                                  .arg(all.killedInCommit)
                                  .arg(all.commits)
                                  .arg(time.elapsed() / 1000)
                                  .arg(all.recoveries)
                                  .arg(all.gotLast)
-                                 .arg(all.gotLastButOne);
+                                 .arg(all.gotLastButOne)
+                                 .arg(all.leftOvers);
         QVERIFY2(all.fault.isEmpty(), qPrintable(all.fault));
         QVERIFY(all.runs >= 200);
         QVERIFY(all.recoveries > all.runs / 2);
