@@ -29,3 +29,9 @@ void Log::WriteLog(const QString &text)
     const QString line = Trim(text) + QStringLiteral(" - ") + FormatTime(QTime::currentTime());
     file.write(windows1252::encodeLossy(line) + "\r\n");
 }
+
+void Log::end()
+{
+    WriteLog(QStringLiteral("*** Error-logging ended ***"));
+    enabled_ = false;
+}

@@ -20,6 +20,8 @@ public:
     /// Appends the trimmed `text` with " - " and the time. Returns at once while the log is off; errors of
     /// the writer are swallowed.
     void WriteLog(const QString &text);
+    /// Writes the last line: what still happens while the program goes is not logged.
+    void end();
 
 private:
     QString file_;

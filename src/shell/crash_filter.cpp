@@ -6,10 +6,12 @@
 
 #include <array>
 #include <csignal>
+#include <cstdint>
 #include <cstdio>
 #include <cstring>
 #include <ctime>
 #include <fcntl.h>
+#include <ucontext.h>
 #include <unistd.h>
 
 namespace {
@@ -19,6 +21,8 @@ struct ExceptionRow
     std::uint32_t code;
     const char *name;
 };
+
+constexpr std::uint32_t stackOverflow = 0xC00000FD;
 
 constexpr std::array<ExceptionRow, 23> exceptions{{
     {0x80000001, "Guard Page Violation"},
@@ -42,7 +46,7 @@ constexpr std::array<ExceptionRow, 23> exceptions{{
     {0xC0000094, "Integer Divide By Zero"},
     {0xC0000095, "Integer Overflow"},
     {0xC0000096, "Privileged Instruction"},
-    {0xC00000FD, "Stack Overflow"},
+    {stackOverflow, "Stack Overflow"},
     {0xC000013A, "Control-C Exit"},
 }};
 
@@ -121,14 +125,45 @@ std::size_t formatLine(char *line, std::uint32_t code, std::time_t now)
     return static_cast<std::size_t>(out - line);
 }
 
-void handle(int number, siginfo_t *info, void *)
+/// Where the stack ended when the signal came; 0 where it is not known how to ask.
+std::uintptr_t stackPointerOf(const void *context)
+{
+    [[maybe_unused]] const mcontext_t &machine = static_cast<const ucontext_t *>(context)->uc_mcontext;
+#if defined(__x86_64__)
+    return static_cast<std::uintptr_t>(machine.gregs[REG_RSP]);
+#elif defined(__i386__)
+    return static_cast<std::uintptr_t>(machine.gregs[REG_ESP]);
+#elif defined(__aarch64__)
+    return machine.sp;
+#elif defined(__arm__)
+    return machine.arm_sp;
+#else
+    return 0;
+#endif
+}
+
+/// True for an access to the border of the stack, and for none that another process has sent. A call writes
+/// below the pointer, a large frame anywhere above it.
+bool isStackOverflow(int number, const siginfo_t &info, const void *context)
+{
+    constexpr std::uintptr_t below = 64 * 1024;
+    constexpr std::uintptr_t above = 1024 * 1024;
+    const std::uintptr_t pointer = stackPointerOf(context);
+    const auto address = reinterpret_cast<std::uintptr_t>(info.si_addr);
+    return number == SIGSEGV && info.si_code > 0 && pointer != 0 && address + below >= pointer &&
+           address <= pointer + above;
+}
+
+void handle(int number, siginfo_t *info, void *context)
 {
     if (logPath[0] != '\0') {
         const int file = open(logPath.data(), O_WRONLY | O_CREAT | O_APPEND, 0644);
         if (file >= 0) {
             char line[160];
-            const std::size_t length =
-                formatLine(line, crash_filter::codeOfSignal(number, info->si_code), time(nullptr));
+            const std::uint32_t code = isStackOverflow(number, *info, context)
+                                           ? stackOverflow
+                                           : crash_filter::codeOfSignal(number, info->si_code);
+            const std::size_t length = formatLine(line, code, time(nullptr));
             [[maybe_unused]] const ssize_t written = write(file, line, length);
             close(file);
         }

@@ -247,7 +247,7 @@ void frmMain::Form_Unload()
         ground_.log.WriteLog(u"Event: Backup-file "_s + path + u" deleted"_s);
     });
     step([&] { ground_.log.WriteLog(u"Event: Application ended successfully"_s); });
-    step([&] { ground_.log.WriteLog(u"*** Error-logging ended ***"_s); });
+    step([&] { ground_.log.end(); });
     step([] { ShowTaskBar(true); });
 }
 

@@ -65,7 +65,7 @@ int StartApplication(QApplication &application, RealGround &real, InstanceLink &
     splash.reset();
     ground.pump.yield();
 
-    form.showMaximized();
+    showMainWindow(form, ground.options);
     QGuiApplication::restoreOverrideCursor();
     // Behind the first board, because a folder of a network may take its time.
     QTimer::singleShot(0, &form, [&ground] {
@@ -80,7 +80,26 @@ int StartApplication(QApplication &application, RealGround &real, InstanceLink &
     return application.exec();
 }
 
+/// A switch has one "/" and stands before its value's colon; any other text that begins so is a path, also of
+/// a session that is gone.
+bool namesAFile(const QString &argument)
+{
+    if (QFileInfo(argument).isFile())
+        return true;
+    const QString name = argument.section(u':', 0, 0).mid(1);
+    return argument.startsWith(u'/') &&
+           (name.contains(u'/') || name.endsWith(u".wlx"_s, Qt::CaseInsensitive));
+}
+
 } // namespace
+
+void showMainWindow(QWidget &form, const Options &options)
+{
+    if (options.stored(Setting::HideTaskbar) == u"1")
+        form.showFullScreen();
+    else
+        form.showMaximized();
+}
 
 // Looks alike on every desktop; tiles are measured in this font, in pixels whatever the screen's dpi.
 void dressApplication(QApplication &application)
@@ -102,10 +121,8 @@ void dressApplication(QApplication &application)
 QString commandLineText(const QStringList &arguments)
 {
     QStringList pieces;
-    for (const QString &argument : arguments) {
-        const QFileInfo file(argument);
-        pieces << (file.isFile() ? storedPath(file.absoluteFilePath()) : argument);
-    }
+    for (const QString &argument : arguments)
+        pieces << (namesAFile(argument) ? storedPath(QFileInfo(argument).absoluteFilePath()) : argument);
     return pieces.join(u' ');
 }
 

@@ -4,7 +4,9 @@
 
 #include <QString>
 
+class Options;
 class QApplication;
+class QWidget;
 
 /// The entry procedure: from the first instruction to the last. Returns the process's exit code.
 int startWortel(int argc, char *argv[]);
@@ -13,7 +15,10 @@ int startWortel(int argc, char *argv[]);
 /// calls it first.
 void dressApplication(QApplication &application);
 
+/// Shows the window as large as the screen allows: with the task bar hidden, on all of it.
+void showMainWindow(QWidget &form, const Options &options);
+
 /// The command line as one text, the way the program reads it: the arguments joined by blanks. An argument
-/// that names an existing file becomes a full stored path (with backslashes, so that it is not taken for a
-/// switch).
+/// that names a file, by its whole path also one that does not exist, becomes a full stored path (with
+/// backslashes, so that it is not taken for a switch).
 QString commandLineText(const QStringList &arguments);

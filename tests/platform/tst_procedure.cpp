@@ -55,6 +55,18 @@ private slots:
                                   u". Index: 12"_s}));
     }
 
+    void theLastLineIsTheLast()
+    {
+        Log log;
+        log.enable(folder_.filePath(u"last.log"_s));
+        Procedure step{log, "Form_Unload", "frmMain"};
+        step([&] { log.end(); });
+        step([] { throw RuntimeError::of(11); });
+        Procedure{log, "Form_Activate", "frmMain"};
+        QCOMPARE(lines(log).size(), 2);
+        QCOMPARE(lines(log).last(), u"*** Error-logging ended ***"_s);
+    }
+
     void tracesWithDetailAndModule()
     {
         Log log;

@@ -6,6 +6,7 @@
 #include "shell/application_folder.h"
 #include "shell/argument_handler.h"
 #include "shell/crash_filter.h"
+#include "shell/start.h"
 #include "support/columns.h"
 #include "support/registry.h"
 
@@ -18,6 +19,19 @@
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+int *volatile nowhere = nullptr;
+
+int goDown(int depth)
+{
+    volatile char frame[1000];
+    frame[0] = static_cast<char>(depth);
+    return depth == 0 ? 0 : goDown(depth - 1) + frame[0];
+}
+
+} // namespace
 
 /// The rules of the start that need no window.
 class StartRulesTest : public QObject
@@ -71,6 +85,20 @@ private slots:
         QCOMPARE(handler.current()->ArgumentName(), u"Name"_s);
     }
 
+    void readsTheCommandLineAsOneText_data()
+    {
+        columns<QStringList, QString>("arguments", "text");
+        QTest::newRow("switches") << QStringList{u"/L"_s, u"/?"_s, u"/Name:/a/b"_s} << u"/L /? /Name:/a/b"_s;
+        QTest::newRow("a session that is gone")
+            << QStringList{u"/home/wir/fort.wlx"_s, u"/fort.WLX"_s} << u"\\home\\wir\\fort.wlx \\fort.WLX"_s;
+        QTest::newRow("one in the working folder") << QStringList{u"fort.wlx"_s} << u"fort.wlx"_s;
+    }
+    void readsTheCommandLineAsOneText()
+    {
+        QFETCH(QStringList, arguments);
+        QTEST(commandLineText(arguments), "text");
+    }
+
     void knowsTheScreens_data()
     {
         columns<QSize, int, int>("screen", "code", "suffixTop");
@@ -121,14 +149,24 @@ private slots:
         QCOMPARE(crash_filter::exceptionName(code), name);
     }
 
+    void aCrashLeavesItsLine_data()
+    {
+        columns<void (*)(), QString>("crash", "name");
+        QTest::newRow("from outside") << +[] { kill(getpid(), SIGSEGV); } << u"Access Violation"_s;
+        QTest::newRow("no address") << +[] { *nowhere = 1; } << u"Access Violation"_s;
+        QTest::newRow("endless calls") << +[] { goDown(1 << 30); } << u"Stack Overflow"_s;
+    }
     void aCrashLeavesItsLine()
     {
+        using Crash = void (*)();
+        QFETCH(Crash, crash);
+        QFETCH(QString, name);
         QTemporaryDir folder;
         const QString log = folder.filePath(u"errors.log"_s);
         const pid_t child = fork();
         if (child == 0) {
             crash_filter::install(log);
-            kill(getpid(), SIGSEGV);
+            crash();
             _exit(0);
         }
         int status = 0;
@@ -136,8 +174,8 @@ private slots:
         QVERIFY(WIFSIGNALED(status));
         QCOMPARE(WTERMSIG(status), SIGSEGV);
         const QString line = QString::fromLatin1(ReadWholeFile(log));
-        static const QRegularExpression expected(
-            u"^\\*\\*\\* Unhandled Exception: Access Violation at 0 \\*\\*\\* - \\d\\d:\\d\\d:\\d\\d\r\n$"_s);
+        const QRegularExpression expected(u"^\\*\\*\\* Unhandled Exception: "_s + name +
+                                          u" at 0 \\*\\*\\* - \\d\\d:\\d\\d:\\d\\d\r\n$"_s);
         QVERIFY2(expected.match(line).hasMatch(), qPrintable(line));
     }
 

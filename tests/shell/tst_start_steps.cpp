@@ -4,6 +4,7 @@
 #include "platform/runtime_error.h"
 #include "shell/argument_handler.h"
 #include "shell/splash.h"
+#include "shell/start.h"
 #include "shell/start_steps.h"
 #include "support/columns.h"
 #include "support/registry.h"
@@ -113,6 +114,25 @@ private slots:
         const QString last = backup ? u"Event: Backup-file (WLXAutoSave.bak), opened in the default folder"_s
                                     : QString(64, u'-');
         QCOMPARE(lines.last(), last);
+    }
+
+    void fillsTheScreenWithTheTaskBarHidden_data()
+    {
+        columns<QString, bool>("hideTaskbar", "fullScreen");
+        QTest::newRow("off") << u"0"_s << false;
+        QTest::newRow("on") << u"1"_s << true;
+        QTest::newRow("third state is not on") << u"2"_s << false;
+    }
+    void fillsTheScreenWithTheTaskBarHidden()
+    {
+        QFETCH(QString, hideTaskbar);
+        QFETCH(bool, fullScreen);
+        TestGround t;
+        t.store.SaveSetting(u"Settings"_s, u"HideTaskbar"_s, hideTaskbar);
+        QWidget form;
+        showMainWindow(form, t.options);
+        QCOMPARE(form.isFullScreen(), fullScreen);
+        QCOMPARE(form.isMaximized(), !fullScreen);
     }
 
     void theSplashStepsAsideForAQuestion()
