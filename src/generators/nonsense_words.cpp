@@ -132,12 +132,11 @@ QString Generator::candidate()
     return join(parts, initCapRule_);
 }
 
-/// The tests are made on the word before its case changes or an e is linked in.
+/// What is tested is what is added: with its linked e a word may be a real one, or stand in the list.
 bool Generator::tryWord()
 {
-    const QString word = candidate();
-    const std::optional<QString> form = acceptedForm(word);
-    if (!form || tests_.ChkForDuplicates2(word) || tests_.ChkForDuplicates3(word) || Trim(word).isEmpty())
+    const std::optional<QString> form = acceptedForm(candidate());
+    if (!form || tests_.ChkForDuplicates2(*form) || tests_.ChkForDuplicates3(*form) || Trim(*form).isEmpty())
         return false;
     sweep_.added(lists_.PseudoWordList.add(*form), *form);
     return true;

@@ -26,7 +26,7 @@ QString expandSuffix(const QString &suffix, Rnd &rnd);
 /// The parts joined; with `initCapRule` 1 a bare noun suffix gives the word a capital, with 0 it does not.
 /// Any other state of the option gives the empty word.
 QString join(const Morphemes &parts, int initCapRule);
-/// The form in which a word is accepted, or nothing if it breaks a pattern.
+/// The form in which a word is accepted, with its linked e, or nothing if it breaks a pattern.
 std::optional<QString> acceptedForm(const QString &word);
 
 /// The words of a run that hold a forbidden cluster as a whole. A sweep after every round looks at all words

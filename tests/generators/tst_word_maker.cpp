@@ -136,6 +136,23 @@ private slots:
         QVERIFY(w.t.ok());
     }
 
+    /// A word that the sweep takes out again does not count, so that the run goes on.
+    void theSweepsWordsAreMadeUpFor()
+    {
+        for (int round = 0; round < 20; ++round) {
+            Window w;
+            w.board.lay(u"fass"_s, colours::wortelBack);
+            w.board.lay(u"biss"_s, colours::wortelBack);
+            w.board.lay(u"t"_s, colours::suffixBack);
+            w.t.rnd = Rnd(static_cast<quint64>(round));
+            w.run(NonsenseWords, 5);
+            QCOMPARE(w.lists.PseudoWordList.count(), 5);
+            QCOMPARE(w.c.GameProgress->Caption(), u"5 Unsinnswörter vorbereitet"_s);
+            for (const QString &word : w.lists.PseudoWordList.rows())
+                QVERIFY2(!word.endsWith(u"sst"_s), qPrintable(word));
+        }
+    }
+
     /// A board or a dictionary that cannot yield the words keeps the loop running until the cancel, and no
     /// control stays locked.
     void cancelEndsASearchThatCannotEnd_data()
