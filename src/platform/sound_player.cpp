@@ -10,7 +10,6 @@
 #include <QFileInfo>
 #include <QMediaDevices>
 #include <QSoundEffect>
-#include <QUrl>
 #include <QtEndian>
 
 using namespace Qt::StringLiterals;
@@ -27,9 +26,14 @@ SoundPlayer::~SoundPlayer() = default;
 
 void SoundPlayer::PlayResourceSound(int id)
 {
+    if (const QUrl source = resourceOf(id); !source.isEmpty())
+        play(resources_[id], source);
+}
+
+QUrl SoundPlayer::resourceOf(int id)
+{
     const QString path = u"/sounds/%1.wav"_s.arg(id);
-    if (QFile::exists(u':' + path))
-        play(resources_[id], QUrl(u"qrc:"_s + path));
+    return QFile::exists(u':' + path) ? QUrl(u"qrc:"_s + path) : QUrl();
 }
 
 bool SoundPlayer::playFile(const QString &path)

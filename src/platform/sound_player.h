@@ -5,12 +5,12 @@
 #include "platform/sound.h"
 
 #include <QByteArray>
+#include <QUrl>
 
 #include <map>
 #include <memory>
 
 class QSoundEffect;
-class QUrl;
 
 /// The real sounds. The sound system is asked for its first device with the first sound, so that a start
 /// without one costs nothing; where there is no device, nothing more is done. Numbered sounds stay decoded
@@ -24,6 +24,8 @@ public:
     void PlayResourceSound(int id) override;
     bool playFile(const QString &path) override;
 
+    /// Where the sound of a number lies in the resources; empty for a number that has none.
+    static QUrl resourceOf(int id);
     /// True for bytes that hold a WAV file with a format and sound data.
     static bool isWave(const QByteArray &bytes);
 

@@ -3,6 +3,7 @@
 #include "language/list_loader.h"
 #include "platform/word_lists.h"
 #include "support/columns.h"
+#include "support/file_bytes.h"
 #include "support/registry.h"
 #include "support/test_ground.h"
 
@@ -177,14 +178,27 @@ private slots:
         QVERIFY(f.t.ok());
     }
 
-    void aListTooLongKeepsWhatFits()
+    void twoListsTooLongTogetherKeepWhatFits()
     {
         Fixture f;
-        QString words;
-        for (int i = 0; i < 40000; ++i)
-            words += QString::number(i) + u"\r\n"_s;
-        f.loader.Fill_Lexicon(f.t.writeFile(u"facit\\lang.lex"_s, words));
-        QCOMPARE(f.lists.LexiconList.count(), 32767);
+        f.t.log.enable(f.t.AppFolder + u"errors.log"_s);
+        const auto lay = [&](const QString &name, int first) {
+            QString words;
+            for (int number = first; number < first + 20000; ++number)
+                words += QString::number(number) + u"\r\n"_s;
+            f.t.writeFile(u"facit\\"_s + name + u".lex"_s, u"Wort\r\n"_s);
+            return f.t.writeFile(u"text\\"_s + name + u".txt"_s, words);
+        };
+        QString first = lay(u"A"_s, 0);
+        QString second = lay(u"B"_s, 20000);
+        f.loader.FillWortelList(first);
+        const auto logged = [&] { return bytesOf(f.t.folder.filePath(u"errors.log"_s)); };
+        QVERIFY(!logged().contains("Error"));
+        f.loader.FillWortelList(second);
+        QVERIFY2(logged().contains("Error 6 (Overflow)"), logged().constData());
+        QCOMPARE(f.lists.WortelList.count(), 32767);
+        QCOMPARE(f.lists.WortelList.at(32766), u"32766"_s);
+        QCOMPARE(f.lists.LexiconList.rows(), QStringList(u"Wort"_s)); // the dictionary still came
         QVERIFY(f.t.ok());
     }
 };

@@ -5,6 +5,7 @@
 #include "platform/sound_player.h"
 #include "platform/system_clock.h"
 #include "support/columns.h"
+#include "support/file_bytes.h"
 #include "support/registry.h"
 
 #include <QtTest>
@@ -45,6 +46,19 @@ private slots:
     {
         QFETCH(QByteArray, bytes);
         QTEST(SoundPlayer::isWave(bytes), "isWave");
+    }
+
+    void everySoundIsFoundWhereItIsPlayedFrom()
+    {
+        for (int number = 101; number <= 124; ++number) {
+            const QUrl source = SoundPlayer::resourceOf(number);
+            QCOMPARE(source.isEmpty(), number == 116);
+            if (source.isEmpty())
+                continue;
+            QCOMPARE(source.scheme(), u"qrc"_s);
+            QCOMPARE(QFileInfo(source.path()).fileName(), u"%1.wav"_s.arg(number));
+            QVERIFY2(SoundPlayer::isWave(bytesOf(u':' + source.path())), qPrintable(source.path()));
+        }
     }
 
     void soundsCostNoTimeAndNoCrash()

@@ -115,12 +115,6 @@ private slots:
         }
     }
 
-    void everySoundNumberHasItsFile()
-    {
-        for (int number = 101; number <= 124; ++number)
-            QCOMPARE(aliases_.contains(u"sounds/%1.wav"_s.arg(number)), number != 116);
-    }
-
     void listAndFolderAgree()
     {
         QSet<QString> listed;

@@ -40,9 +40,10 @@ void StripControl::SetUpMsgScroller()
     step([&] { strip.setSeperator(QString(gapBlanks, u' ')); });
     step([&] { strip.setScrollInterval(tickInterval); });
     step([&] { strip.setScrollSpeed(CInt(ground_.options.number(Setting::ScrollerSpeed))); });
-    const bool movable = ground_.options.isOn(Setting::ScrollerCanPan);
-    step([&] { strip.setAllowPan(movable); });
-    step([&] { strip.setToolTip(movable ? QStringLiteral("Verschieben / Anhalten") : QString()); });
+    const int canPan = ground_.options.box(Setting::ScrollerCanPan);
+    step([&] { strip.setAllowPan(canPan != 0); });
+    if (canPan != 2) // the third state pans as well, and leaves the tool tip as it is
+        step([&] { strip.setToolTip(canPan == 1 ? QStringLiteral("Verschieben / Anhalten") : QString()); });
 }
 
 void StripControl::PlaceTheMsgScroller()

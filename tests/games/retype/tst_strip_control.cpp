@@ -112,6 +112,10 @@ void StripControlTest::takesItsValuesFromTheOptions()
     QCOMPARE(desk.strip.ScrollSpeed(), 7);
     QVERIFY(!desk.strip.AllowPan());
     QCOMPARE(desk.strip.toolTip(), QString());
+    desk.test.options.setBox(Setting::ScrollerCanPan, 2);
+    QVERIFY(desk.test.options.ApplySettings());
+    QVERIFY(desk.strip.AllowPan());
+    QCOMPARE(desk.strip.toolTip(), QString());
 
     // A number that fits no 16 bits leaves the old speed.
     desk.test.options.setText(Setting::ScrollerSpeed, u"99999"_s);
