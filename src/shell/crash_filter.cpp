@@ -142,16 +142,14 @@ std::uintptr_t stackPointerOf(const void *context)
 #endif
 }
 
-/// True for an access to the border of the stack, and for none that another process has sent. A call writes
-/// below the pointer, a large frame anywhere above it.
+/// True for a fault beside the stack pointer: a call writes below it, a large frame anywhere above.
 bool isStackOverflow(int number, const siginfo_t &info, const void *context)
 {
     constexpr std::uintptr_t below = 64 * 1024;
     constexpr std::uintptr_t above = 1024 * 1024;
     const std::uintptr_t pointer = stackPointerOf(context);
     const auto address = reinterpret_cast<std::uintptr_t>(info.si_addr);
-    return number == SIGSEGV && info.si_code > 0 && pointer != 0 && address + below >= pointer &&
-           address <= pointer + above;
+    return number == SIGSEGV && pointer != 0 && address + below >= pointer && address <= pointer + above;
 }
 
 void handle(int number, siginfo_t *info, void *context)

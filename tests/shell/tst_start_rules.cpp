@@ -90,7 +90,8 @@ private slots:
         columns<QStringList, QString>("arguments", "text");
         QTest::newRow("switches") << QStringList{u"/L"_s, u"/?"_s, u"/Name:/a/b"_s} << u"/L /? /Name:/a/b"_s;
         QTest::newRow("a session that is gone")
-            << QStringList{u"/home/wir/fort.wlx"_s, u"/fort.WLX"_s} << u"\\home\\wir\\fort.wlx \\fort.WLX"_s;
+            << QStringList{u"/home/wir/fort.wlx"_s, u"/home/fort"_s, u"/fort.WLX"_s}
+            << u"\\home\\wir\\fort.wlx \\home\\fort \\fort.WLX"_s;
         QTest::newRow("one in the working folder") << QStringList{u"fort.wlx"_s} << u"fort.wlx"_s;
     }
     void readsTheCommandLineAsOneText()

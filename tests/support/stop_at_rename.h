@@ -11,9 +11,10 @@
 #include <unistd.h>
 
 /// From here on this process stops for ever at the moment in which it would rename a file: as a program that
-/// is killed there, or is still at work.
+/// is killed there, or is still at work. It goes with its parent at the latest.
 inline void stopAtRename()
 {
+    prctl(PR_SET_PDEATHSIG, SIGKILL);
     std::signal(SIGSYS, [](int) {
         for (;;)
             pause();

@@ -106,17 +106,17 @@ void StripControlTest::takesItsValuesFromTheOptions()
     QVERIFY(desk.strip.isHidden());
     QCOMPARE(desk.strip.toolTip(), u"Verschieben / Anhalten"_s);
 
+    desk.test.options.setBox(Setting::ScrollerCanPan, 2);
+    QVERIFY(desk.test.options.ApplySettings());
+    QVERIFY(desk.strip.AllowPan());
+    QCOMPARE(desk.strip.toolTip(), u"Verschieben / Anhalten"_s);
+
     desk.test.options.setText(Setting::ScrollerSpeed, u"7"_s);
     desk.test.options.setBox(Setting::ScrollerCanPan, 0);
     QVERIFY(desk.test.options.ApplySettings());
     QCOMPARE(desk.strip.ScrollSpeed(), 7);
     QVERIFY(!desk.strip.AllowPan());
     QCOMPARE(desk.strip.toolTip(), QString());
-    desk.test.options.setBox(Setting::ScrollerCanPan, 2);
-    QVERIFY(desk.test.options.ApplySettings());
-    QVERIFY(desk.strip.AllowPan());
-    QCOMPARE(desk.strip.toolTip(), QString());
-
     // A number that fits no 16 bits leaves the old speed.
     desk.test.options.setText(Setting::ScrollerSpeed, u"99999"_s);
     QVERIFY(desk.test.options.ApplySettings());
