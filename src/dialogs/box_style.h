@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "widgets/colour.h"
+
 #include <QColor>
 #include <QString>
 
@@ -20,11 +22,11 @@ struct Colours
     QColor buttonText;
 };
 
-inline constexpr QColor yellow{255, 255, 0};
-inline constexpr QColor red{255, 0, 0};
-inline constexpr QColor blue{0, 0, 255};
-inline constexpr QColor white{255, 255, 255};
-inline constexpr QColor black{0, 0, 0};
+inline constexpr QColor yellow = toQColor(colours::prefixBack);
+inline constexpr QColor red = toQColor(colours::wortelBack);
+inline constexpr QColor blue = toQColor(colours::suffixBack);
+inline constexpr QColor white = toQColor(colours::white);
+inline constexpr QColor black = toQColor(colours::black);
 inline constexpr QColor lightFace{0xF4, 0xF7, 0xFC};
 
 inline constexpr Colours plain{{0xF0, 0xF0, 0xF0}, black, {0x70, 0x70, 0x70}, lightFace, black};

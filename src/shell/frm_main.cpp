@@ -16,6 +16,7 @@
 #include "shell/crash_filter.h"
 #include "shell/rooms.h"
 #include "widgets/click_label.h"
+#include "widgets/colour.h"
 #include "widgets/gradient.h"
 #include "widgets/main_controls.h"
 #include "widgets/picture_box.h"
@@ -106,7 +107,7 @@ bool frmMain::Form_Load()
 /// Colours, focus and accessible names that hold for the whole run.
 void frmMain::makeReady()
 {
-    const QColor board(0, 128, 192);
+    const QColor board = toQColor(colours::board);
     QPalette palette = this->palette();
     palette.setColor(QPalette::Window, board);
     setPalette(palette);

@@ -4,6 +4,7 @@
 
 #include "widgets/alpha_panel.h"
 #include "widgets/click_label.h"
+#include "widgets/colour.h"
 #include "widgets/dropper.h"
 #include "widgets/floating_tile.h"
 #include "widgets/gradient.h"
@@ -180,15 +181,15 @@ void makeTilePanel(C &c)
     c.OptType[0] = makeChoice(c.Picture2, "OptType(0)");
     c.OptType[2] = makeChoice(c.Picture2, "OptType(2)");
     c.OptType[3] = makeChoice(c.Picture2, "OptType(3)");
-    c.OptType[0]->setFace(QColor(255, 0, 0), Qt::white);
-    c.OptType[1]->setFace(QColor(255, 255, 0), Qt::blue);
-    c.OptType[2]->setFace(QColor(0, 0, 255), Qt::yellow);
+    c.OptType[0]->setFace(toQColor(colours::wortelBack), toQColor(colours::wortelText));
+    c.OptType[1]->setFace(toQColor(colours::prefixBack), toQColor(colours::prefixText));
+    c.OptType[2]->setFace(toQColor(colours::suffixBack), toQColor(colours::suffixText));
     c.OptType[3]->setFace(QColor(236, 233, 216), Qt::black);
     c.Check1 = makeChoice(c.Picture2, "Check1");
     c.Text1 = make<QLineEdit>(c.Picture2, "Text1");
     c.Text1->setAlignment(Qt::AlignCenter);
     c.Check2 = make<PressButton>(c.Picture2, "Check2");
-    c.Check2->setFace(QColor(255, 0, 0), Qt::white);
+    c.Check2->setFace(toQColor(colours::wortelBack), toQColor(colours::wortelText));
     c.Option1[0] = makeChoice(c.Picture2, "Option1(0)");
     c.Option1[1] = makeChoice(c.Picture2, "Option1(1)");
     c.Option1[1]->setChecked(true);

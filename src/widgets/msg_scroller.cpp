@@ -3,6 +3,7 @@
 #include "widgets/msg_scroller.h"
 
 #include "platform/text.h"
+#include "widgets/colour.h"
 
 #include <QEvent>
 #include <QFontMetrics>
@@ -18,8 +19,6 @@ namespace {
 constexpr int shortestFrame = 16; ///< milliseconds: no screen shows more
 constexpr int fadeWidth = 18;     ///< pixels in which words come up and fade at the edges of a running strip
 constexpr QColor frameColour{0x5B, 0x6F, 0x91};
-
-QColor fromBgr(int colour) { return QColor(colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF); }
 
 } // namespace
 
@@ -371,7 +370,7 @@ void MsgScroller::paintPieces(QPainter &painter) const
     const bool separatorShows = !Trim(separator).isEmpty();
     const int baseline = (height() + fontMetrics().ascent() - fontMetrics().descent()) / 2;
     for (const ScrollerStrip::Piece &piece : strip_.pieces()) {
-        painter.setPen(piece.colour == -1 ? foreColor_ : fromBgr(piece.colour));
+        painter.setPen(piece.colour == -1 ? foreColor_ : toQColor(static_cast<Colour>(piece.colour)));
         painter.drawText(QPointF(piece.left, baseline), piece.text);
         if (separatorShows)
             painter.drawText(QPointF(piece.left + piece.width, baseline), separator);

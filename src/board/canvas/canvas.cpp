@@ -3,12 +3,12 @@
 #include "board/canvas/canvas.h"
 
 #include "board/canvas/opt_types.h"
-#include "board/tiles/colour.h"
 #include "platform/clock.h"
 #include "platform/ground.h"
 #include "platform/modes.h"
 #include "platform/procedure.h"
 #include "platform/text.h"
+#include "widgets/colour.h"
 #include "widgets/floating_tile.h"
 #include "widgets/main_controls.h"
 #include "widgets/picture_box.h"

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "board/canvas/canvas_surface.h"
 
-#include "board/tiles/colour.h"
 #include "board/tiles/tile_store.h"
+#include "widgets/colour.h"
 #include "widgets/picture_box.h"
 
 #include <utility>

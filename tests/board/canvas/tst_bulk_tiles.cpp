@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "board/tiles/colour.h"
 #include "support/columns.h"
 #include "support/registry.h"
 #include "support/test_board.h"
+#include "widgets/colour.h"
 
 #include <QSignalSpy>
 #include <QtTest>

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "board/canvas/background_picture.h"
 #include "board/hand/morpheme_lists.h"
-#include "board/tiles/colour.h"
 #include "platform/files.h"
 #include "support/columns.h"
 #include "support/registry.h"
 #include "support/test_board.h"
+#include "widgets/colour.h"
 #include "widgets/floating_tile.h"
 #include "widgets/gradient.h"
 #include "widgets/store_list.h"

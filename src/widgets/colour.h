@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "board/tiles/tile_kind.h"
+#include "platform/colours.h"
 
 #include <QColor>
 
