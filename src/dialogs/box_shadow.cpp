@@ -33,7 +33,7 @@ bool BoxShadow::eventFilter(QObject *watched, QEvent *event)
         follow();
         break;
     case QEvent::Hide:
-        hide();
+        vanish();
         break;
     default:
         break;
@@ -45,10 +45,36 @@ void BoxShadow::follow()
 {
     if (!box_->isVisible())
         return;
+    if (!frozenParts().isEmpty()) {
+        vanish();
+        return;
+    }
     const QRect place(parentWidget()->mapFromGlobal(box_->geometry().topLeft()), box_->size());
     setGeometry(place.adjusted(-blur, -blur, blur, blur).translated(0, drop));
     show();
     raise();
+}
+
+void BoxShadow::vanish()
+{
+    if (isHidden())
+        return;
+    hide();
+    for (QWidget *frozen : frozenParts()) { // since the box came up
+        frozen->setUpdatesEnabled(true);
+        frozen->repaint();
+        frozen->setUpdatesEnabled(false);
+    }
+}
+
+QWidgetList BoxShadow::frozenParts() const
+{
+    QWidget *ground = parentWidget();
+    if (!ground->updatesEnabled())
+        return {ground};
+    auto parts = ground->findChildren<QWidget *>(Qt::FindDirectChildrenOnly);
+    parts.removeIf([](const QWidget *part) { return part->updatesEnabled() || !part->isVisible(); });
+    return parts;
 }
 
 void BoxShadow::paintEvent(QPaintEvent *)

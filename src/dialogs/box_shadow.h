@@ -6,7 +6,7 @@
 
 /// The soft shadow that a box throws on the window behind it. It is painted by that window, as a
 /// child over all others, because a translucent window of its own needs a compositor that not every desktop
-/// has.
+/// has. Where painting is suspended there is no shadow, since it could not be painted away again.
 class BoxShadow : public QWidget
 {
     Q_OBJECT
@@ -21,6 +21,9 @@ protected:
 
 private:
     void follow();
+    void vanish();
+    /// The parts of the window behind that paint nothing at present.
+    QWidgetList frozenParts() const;
 
     QWidget *box_;
 };

@@ -172,8 +172,7 @@ int BoxWindow::ask(std::optional<QPoint> corner)
     growWithText(screen);
 
     QRect place(QPoint(0, 0), size());
-    const QRect middle = owner_ != nullptr ? owner_->window()->geometry().intersected(screen) : screen;
-    place.moveCenter((middle.isEmpty() ? screen : middle).center());
+    place.moveCenter(screen.center());
     if (corner)
         place.moveTopLeft(*corner);
     place.moveRight(std::min(place.right(), screen.right()));
@@ -181,11 +180,18 @@ int BoxWindow::ask(std::optional<QPoint> corner)
     place.moveLeft(std::max(place.left(), screen.left()));
     place.moveTop(std::max(place.top(), screen.top()));
     setGeometry(place);
-    const int answer = exec();
+    answer_ = escaped; // what ends the loop without a word is no consent
+    exec();
     // Without a window manager nobody else gives the keyboard back either.
     if (owner_ != nullptr)
         owner_->window()->activateWindow();
-    return answer;
+    return answer_;
+}
+
+void BoxWindow::done(int answer)
+{
+    answer_ = answer;
+    QDialog::done(answer);
 }
 
 void BoxWindow::showEvent(QShowEvent *event)
@@ -205,7 +211,7 @@ void BoxWindow::keyPressEvent(QKeyEvent *event)
     case Qt::Key_Escape:
         // A key that is still held from before the box came up is no answer.
         if (!event->isAutoRepeat())
-            done(event->key() == Qt::Key_Escape ? 1 : 0);
+            done(event->key() == Qt::Key_Escape ? escaped : 0);
         break;
     default:
         scroll(event->key());

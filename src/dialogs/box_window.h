@@ -17,8 +17,8 @@ class WrappedText;
 
 /// What all boxes have in common: a frameless modal window with a frame, a title strip and a message that the
 /// box grows with, as far as the screen reaches; beyond that the message scrolls, so that the buttons are
-/// always on the screen. Strip and message move the window. The result of `exec` is the index of the answer:
-/// Enter gives 0, Esc (and the window system's closing) 1.
+/// always on the screen. Strip and message move the window. The answer is the index of a button: Enter gives
+/// 0, Esc 1, and so does whatever else makes the box go.
 class BoxWindow : public QDialog
 {
     Q_OBJECT
@@ -27,13 +27,16 @@ public:
     BoxWindow(const boxstyle::Colours &colours, const QString &title, const QString &prompt, QWidget *owner);
     ~BoxWindow() override;
 
-    /// Shows the box modally, in the middle of `owner` or with its top left corner at `corner` (screen
-    /// pixels), moved so far that it is whole on the screen. Returns the answer.
+    /// Shows the box modally, in the middle of the owner's screen or with its top left corner at `corner`
+    /// (screen pixels), moved so far that it is whole on the screen. Returns the answer.
     int ask(std::optional<QPoint> corner = std::nullopt);
 
-    void reject() override { done(1); }
+    void done(int answer) override;
+    void reject() override { done(escaped); }
 
 protected:
+    static constexpr int escaped = 1;
+
     /// Adds a drawn button to the row under the message; its press is the answer `index`.
     PressButton *addButton(const QString &caption, int index);
     /// Puts a widget beside the message.
@@ -42,7 +45,6 @@ protected:
     void addEntry(QWidget *entry);
     void setMessageAlignment(Qt::Alignment alignment);
     const boxstyle::Colours &colours() const { return colours_; }
-    QLabel *titleStrip() const { return Label3_; }
     WrappedText *message() const { return Label2_; }
 
     void keyPressEvent(QKeyEvent *event) override;
@@ -64,4 +66,5 @@ private:
     QHBoxLayout *middle_;
     QHBoxLayout *buttons_;
     int signWidth_ = 0;
+    int answer_ = escaped;
 };

@@ -2,12 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "dialogs/message_box.h"
 
-#include "dialogs/wrapped_text.h"
-#include "widgets/gradient.h"
 #include "widgets/press_button.h"
 
-#include <QLabel>
-#include <QPainter>
+#include <QIcon>
 
 namespace {
 
@@ -48,15 +45,4 @@ frmMboxRetype::frmMboxRetype(const QString &prompt, const QString &style, const 
     sign->setAccessibleName(QStringLiteral("OK"));
     connect(sign, &QAbstractButton::clicked, this, [this] { done(0); });
     addSign(sign);
-}
-
-void frmMboxRetype::paintBackground(QPainter &painter)
-{
-    gradient::paint(painter, rect());
-    const QRect below = rect().adjusted(8, titleStrip()->geometry().bottom() + 1, -8, -8);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(Qt::white);
-    painter.drawRoundedRect(below, 6, 6);
-    painter.setRenderHint(QPainter::Antialiasing, false);
 }

@@ -14,14 +14,11 @@ public:
     MBox(const QString &prompt, int buttons, const QString &title, const QString &style, QWidget *owner);
 };
 
-/// The notice box: a white sheet on the blue gradient, and a sign whose press closes it, as Enter and Esc do.
+/// The notice box: a white window with a sign whose press closes it, as Enter and Esc do.
 class frmMboxRetype : public BoxWindow
 {
     Q_OBJECT
 
 public:
     frmMboxRetype(const QString &prompt, const QString &style, const QString &title, QWidget *owner);
-
-protected:
-    void paintBackground(QPainter &painter) override;
 };

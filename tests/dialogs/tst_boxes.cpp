@@ -4,6 +4,7 @@
 #include "dialogs/real_boxes.h"
 #include "support/columns.h"
 #include "support/registry.h"
+#include "widgets/picture_box.h"
 #include "widgets/press_button.h"
 
 #include <QLabel>
@@ -14,6 +15,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTimer>
+#include <QWindow>
 #include <QtTest>
 
 #include <functional>
@@ -47,6 +49,18 @@ template <typename Ask> auto answered(Ask ask, const std::function<void(QWidget 
 void pressKey(QWidget *box, Qt::Key key)
 {
     QTest::keyClick(box->focusWidget() ? box->focusWidget() : box, key);
+}
+
+/// The two colours that `picture` has most of, the commoner one first.
+std::pair<QColor, QColor> mainColours(const QImage &picture)
+{
+    QHash<QRgb, int> counts;
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            ++counts[picture.pixel(x, y)];
+    QList<QRgb> found = counts.keys();
+    std::sort(found.begin(), found.end(), [&](QRgb a, QRgb b) { return counts[a] > counts[b]; });
+    return {found.value(0), found.value(1)};
 }
 
 PressButton *buttonOf(QWidget *box, const QString &name) { return box->findChild<PressButton *>(name); }
@@ -128,16 +142,8 @@ private slots:
         QFETCH(QString, kind);
         QFETCH(Qt::Key, key);
         QFETCH(QString, answer);
-        Boxes &boxes = boxes_;
-        const auto ask = [&]() -> QString {
-            if (kind == u"MBox"_s)
-                return QString::number(boxes.ShowMBox(u"?"_s, true, 3, {}, u"SUFFIX"_s));
-            if (kind == u"Info"_s)
-                return QString::number(boxes.ShowInfoBox(u"!"_s, u"INFO"_s, {}));
-            return kind == u"IBox"_s ? boxes.ShowIBox(u"Text"_s, 1, u"vor"_s, {})
-                                     : boxes.ShowWordBox(u"Text"_s, 1, u"vor"_s, {});
-        };
-        QCOMPARE(answered(ask, [key](QWidget *box) { pressKey(box, key); }), answer);
+        QCOMPARE(answered([&] { return answerOf(kind); }, [key](QWidget *box) { pressKey(box, key); }),
+                 answer);
     }
 
     void heldEnterIsNoAnswer()
@@ -151,20 +157,52 @@ private slots:
         QCOMPARE(answer, 1);
     }
 
+    void whatElseClosesABoxIsEsc_data()
+    {
+        columns<QString, QString>("kind", "answer");
+        QTest::newRow("question") << u"MBox"_s << u"1"_s;
+        QTest::newRow("notice") << u"Info"_s << u"1"_s;
+        QTest::newRow("input") << u"IBox"_s << QString();
+        QTest::newRow("word") << u"Word"_s << QString();
+    }
+    void whatElseClosesABoxIsEsc()
+    {
+        QFETCH(QString, kind);
+        const std::function<void(QWidget *)> ways[] = {
+            [](QWidget *box) { box->close(); },
+            [](QWidget *box) { box->hide(); },
+            [](QWidget *box) { qobject_cast<QDialog *>(box)->reject(); },
+            [](QWidget *box) { box->windowHandle()->close(); },
+        };
+        for (const auto &way : ways)
+            QTEST(answered([&] { return answerOf(kind); },
+                           [&](QWidget *box) {
+                               way(box);
+                               QCoreApplication::processEvents();
+                           }),
+                  "answer");
+    }
+
+    void noticeClosesByItsSign_data()
+    {
+        columns<QString, QString, QString>("style", "sign", "picture");
+        QTest::newRow("SMILEY") << u"SMILEY"_s << u"Image1"_s << u":/icons/smiley.svg"_s;
+        QTest::newRow("WRITE") << u"WRITE"_s << u"Image2"_s << u":/icons/write.svg"_s;
+        QTest::newRow("INFO") << u"INFO"_s << u"Image3"_s << u":/icons/information.svg"_s;
+    }
     void noticeClosesByItsSign()
     {
-        for (const auto &[style, sign] :
-             {std::pair{u"SMILEY"_s, u"Image1"_s}, std::pair{u"WRITE"_s, u"Image2"_s},
-              std::pair{u"INFO"_s, u"Image3"_s}}) {
-            const auto press = [name = sign](QWidget *box) {
-                QCOMPARE(box->findChildren<PressButton *>().size(), 1);
-                QVERIFY(buttonOf(box, name) != nullptr);
-                QTest::mouseClick(buttonOf(box, name), Qt::LeftButton);
-            };
-            const QString kind = style;
-            QCOMPARE(answered([&] { return boxes_.ShowInfoBox(u"Die Liste ist leer"_s, kind, {}); }, press),
-                     0);
-        }
+        QFETCH(QString, style);
+        QFETCH(QString, sign);
+        QFETCH(QString, picture);
+        const auto press = [&](QWidget *box) {
+            QCOMPARE(box->findChildren<PressButton *>().size(), 1);
+            QVERIFY(buttonOf(box, sign) != nullptr);
+            QVERIFY(QFile::exists(picture));
+            QCOMPARE(buttonOf(box, sign)->icon().pixmap(56).toImage(), QIcon(picture).pixmap(56).toImage());
+            QTest::mouseClick(buttonOf(box, sign), Qt::LeftButton);
+        };
+        QCOMPARE(answered([&] { return boxes_.ShowInfoBox(u"Die Liste ist leer"_s, style, {}); }, press), 0);
     }
 
     void typedTextComesBack()
@@ -186,20 +224,101 @@ private slots:
                  u"fahr"_s);
     }
 
-    void coloursOfStyles()
+    void colours_data()
     {
-        for (const auto &[style, colour] :
-             {std::pair{u"PREFIX"_s, QColor(255, 255, 0)}, std::pair{u"WORTEL"_s, QColor(255, 0, 0)},
-              std::pair{u"SUFFIX"_s, QColor(0, 0, 255)}, std::pair{u"HISCORE"_s, QColor(255, 255, 255)},
-              std::pair{u"prefix"_s, QColor(0xF0, 0xF0, 0xF0)}}) {
-            const auto look = [window = colour](QWidget *box) {
-                const QImage picture = box->grab().toImage();
-                QCOMPARE(picture.pixelColor(8, picture.height() - 8), window); // beside the buttons
-                QCOMPARE(picture.pixelColor(picture.width() / 2, 6), window);  // the strip
-                pressKey(box, Qt::Key_Escape);
-            };
-            question(look, u"Frage"_s, style);
-        }
+        columns<QString, QString, int, QColor, QColor>("box", "style", "kind", "window", "message");
+        const QColor yellow(255, 255, 0);
+        const QColor red(255, 0, 0);
+        const QColor blue(0, 0, 255);
+        const QColor grey(0xF0, 0xF0, 0xF0);
+        for (const auto &[style, window, message] :
+             {std::tuple{u"PREFIX"_s, yellow, blue}, std::tuple{u"WORTEL"_s, red, QColor(Qt::white)},
+              std::tuple{u"SUFFIX"_s, blue, yellow},
+              std::tuple{u"HISCORE"_s, QColor(Qt::white), QColor(Qt::black)},
+              std::tuple{u"RETYPE"_s, QColor(Qt::white), blue},
+              std::tuple{u"CONFIRM"_s, QColor(Qt::white), blue},
+              std::tuple{u"prefix"_s, grey, QColor(Qt::black)}})
+            QTest::addRow("question %s", qPrintable(style)) << u"MBox"_s << style << 0 << window << message;
+        for (const QString &style : {u"SMILEY"_s, u"WRITE"_s, u"INFO"_s})
+            QTest::addRow("notice %s", qPrintable(style))
+                << u"Info"_s << style << 0 << QColor(Qt::white) << blue;
+        QTest::newRow("input 1") << u"IBox"_s << QString() << 1 << yellow << blue;
+        QTest::newRow("input 2") << u"IBox"_s << QString() << 2 << red << QColor(Qt::white);
+        QTest::newRow("input 3") << u"IBox"_s << QString() << 3 << blue << yellow;
+        QTest::newRow("input 0") << u"IBox"_s << QString() << 0 << grey << QColor(Qt::black);
+    }
+    void colours()
+    {
+        QFETCH(QString, style);
+        QFETCH(int, kind);
+        QFETCH(QColor, window);
+        QFETCH(QColor, message);
+        QFETCH(QString, box);
+        const auto look = [&](QWidget *shown) {
+            const QImage picture = shown->grab().toImage();
+            QCOMPARE(picture.pixelColor(8, picture.height() - 8), window); // beside the buttons
+            QCOMPARE(picture.pixelColor(picture.width() / 2, 6), window);  // the strip
+            const auto *area = shown->findChild<QScrollArea *>(u"Pic1"_s);
+            const QRect words(area->mapTo(shown, QPoint()), area->size());
+            QCOMPARE(mainColours(picture.copy(words)), (std::pair{window, message}));
+            pressKey(shown, Qt::Key_Escape);
+        };
+        answered([&] { return answerOf(box, u"\u2588\u2588"_s, style, kind); }, look);
+    }
+
+    void aBoxWithoutACornerStandsInTheMiddleOfTheScreen_data()
+    {
+        columns<QString>("box");
+        for (const char *box : {"MBox", "Info", "IBox", "Word"})
+            QTest::newRow(box) << QString::fromLatin1(box);
+    }
+    void aBoxWithoutACornerStandsInTheMiddleOfTheScreen()
+    {
+        QFETCH(QString, box);
+        QWidget form;
+        form.setGeometry(0, 0, 200, 100);
+        form.show();
+        form.activateWindow();
+        const QPoint middle = form.screen()->availableGeometry().center();
+        const auto look = [&](QWidget *shown) {
+            QVERIFY2((shown->geometry().center() - middle).manhattanLength() <= 2,
+                     qPrintable(QDebug::toString(shown->geometry())));
+            pressKey(shown, Qt::Key_Escape);
+        };
+        answered([&] { return answerOf(box); }, look);
+    }
+
+    void aShadowNeverStaysOnAFrozenBoard_data()
+    {
+        columns<bool>("before"); // the box comes, or while it stands
+        QTest::newRow("frozen before") << true;
+        QTest::newRow("frozen meanwhile") << false;
+    }
+    void aShadowNeverStaysOnAFrozenBoard()
+    {
+        QFETCH(bool, before);
+        QWidget form;
+        form.setGeometry(QGuiApplication::primaryScreen()->geometry());
+        auto *board = new PictureBox(&form);
+        board->setGeometry(form.rect());
+        board->setBackColour(Qt::cyan);
+        board->cls();
+        form.show();
+        form.activateWindow();
+        const auto onScreen = [&] {
+            QCoreApplication::processEvents();
+            return form.screen()->grabWindow(form.winId()).toImage();
+        };
+        const QImage empty = onScreen();
+        board->LockWindow(before);
+        answered([&] { return answerOf(u"MBox"_s); },
+                 [&](QWidget *box) {
+                     QCOMPARE(onScreen() == empty, before); // a shadow on a live board only
+                     board->LockWindow(true);
+                     pressKey(box, Qt::Key_Escape);
+                 });
+        QVERIFY(onScreen() == empty);
+        QVERIFY(!board->updatesEnabled());
     }
 
     void growsWithItsText()
@@ -335,6 +454,19 @@ private slots:
     }
 
 private:
+    /// What the box of that name answers, as a text.
+    QString answerOf(const QString &box, const QString &text = u"?"_s, const QString &style = u"INFO"_s,
+                     int kind = 1)
+    {
+        Boxes &boxes = boxes_;
+        if (box == u"MBox"_s)
+            return QString::number(boxes.ShowMBox(text, true, 3, {}, style));
+        if (box == u"Info"_s)
+            return QString::number(boxes.ShowInfoBox(text, style, {}));
+        return box == u"IBox"_s ? boxes.ShowIBox(text, kind, u"vor"_s, {})
+                                : boxes.ShowWordBox(text, kind, u"vor"_s, {});
+    }
+
     /// Asks with two buttons and lets `act` answer.
     int question(const std::function<void(QWidget *)> &act, const QString &text = u"?"_s,
                  const QString &style = u"CONFIRM"_s)
