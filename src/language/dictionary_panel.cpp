@@ -8,6 +8,7 @@
 #include "platform/word_lists.h"
 #include "widgets/dropper.h"
 #include "widgets/main_controls.h"
+#include "widgets/opening_press.h"
 #include "widgets/press_button.h"
 #include "widgets/store_list.h"
 
@@ -131,7 +132,7 @@ QMenu *DictionaryPanel::makeMenu()
 void DictionaryPanel::LexiconList_MouseDown(const QPoint &position)
 {
     if (!lists_.LexiconList.isEmpty())
-        mnuLex_->popup(controls_.LexiconList->mapToGlobal(position));
+        mnuLex_->popup(OpeningPress::placeFor(*mnuLex_, controls_.LexiconList->mapToGlobal(position)));
 }
 
 void DictionaryPanel::mnuAddToRetypeList()

@@ -17,6 +17,7 @@
 #include "platform/word_lists.h"
 #include "widgets/gradient.h"
 #include "widgets/main_controls.h"
+#include "widgets/opening_press.h"
 #include "widgets/store_list.h"
 
 #include <QClipboard>
@@ -90,7 +91,7 @@ QMenu *WordListPanel::makeEmptyMenu()
 void WordListPanel::CorrectWordList_MouseDown(const QPoint &position)
 {
     QMenu *menu = lists_.CorrectWordList.isEmpty() ? mnuTest2_ : mnuTest_;
-    menu->popup(controls_.CorrectWordList->mapToGlobal(position));
+    menu->popup(OpeningPress::placeFor(*menu, controls_.CorrectWordList->mapToGlobal(position)));
 }
 
 void WordListPanel::Show_Result()

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <span>
 
+using menu::Opens;
 using menu::Row;
 using menu::Rule;
 using Rows = std::span<const Row>;
@@ -73,14 +74,19 @@ MenuItem makeItem(const Row &row, bool parentEnabled, const MenuFacts &facts)
 {
     MenuItem item;
     const QStringView caption(row.caption);
-    if (caption.startsWith(u'-'))
+    const bool isLine = caption.startsWith(u'-');
+    if (isLine)
         item.kind = caption.size() > 1 ? MenuItem::Kind::Heading : MenuItem::Kind::Separator;
-    item.id = row.id;
-    item.caption = (item.kind == MenuItem::Kind::Command ? caption : caption.mid(1)).toString();
+    else if (row.effect.opens != Opens::Nothing)
+        item.kind = MenuItem::Kind::Submenu;
+    item.id = row.effect.id;
+    item.caption = caption.mid(isLine ? 1 : 0).toString();
     item.hint = QString::fromUtf16(row.hint).replace(u'%', facts.dictionaryButton);
     item.icon = row.icon;
     item.enabled = parentEnabled && isEnabled(row.rule, facts);
     item.checked = isChecked(row.rule, facts.modes);
+    if (row.effect.opens == Opens::FreshSubmenu || row.effect.opens == Opens::RetypeSources)
+        item.onOpening = &row;
     return item;
 }
 
@@ -93,43 +99,22 @@ std::size_t addRows(std::vector<MenuItem> &items, Rows rows, std::size_t positio
         MenuItem &item = items.emplace_back(makeItem(rows[position], parentEnabled, facts));
         item.index = ++lastIndex;
         ++position;
-        if (position < rows.size() && rows[position].level > level) {
-            item.kind = MenuItem::Kind::Submenu;
+        if (item.kind == MenuItem::Kind::Submenu)
             position = addRows(item.children, rows, position, level + 1, item.enabled, facts, lastIndex);
-        }
     }
     return position;
 }
 
-/// A row of `mainMenu` whose submenu is brought up to date when it opens, told by its first command.
-constexpr int retypeMark = 1600;
-constexpr int actionMark = 2801;
-constexpr int gamesMark = 701;
-
-int firstCommand(const MenuItem &item)
+/// What the submenu of `row` shows when it opens.
+std::vector<MenuItem> childrenOnOpening(const Row &row, bool enabled, const MenuFacts &facts)
 {
-    for (const MenuItem &child : item.children)
-        if (child.id != 0)
-            return child.id;
-    return 0;
-}
-
-/// The rows below the row whose first command is `mark`.
-Rows rowsWithMark(int mark)
-{
-    const Rows rows(menu::mainMenu);
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        if (rows[i].id != mark)
-            continue;
-        std::size_t first = i;
-        while (first > 0 && rows[first - 1].level >= rows[i].level)
-            --first;
-        std::size_t last = i;
-        while (last < rows.size() && rows[last].level >= rows[i].level)
-            ++last;
-        return rows.subspan(first, last - first);
-    }
-    return {};
+    Rows rows(menu::retypeMenu);
+    if (row.effect.opens == Opens::FreshSubmenu)
+        rows = Rows(&row + 1, std::end(menu::mainMenu));
+    std::vector<MenuItem> children;
+    int lastIndex = 0;
+    addRows(children, rows, 0, rows.front().level, enabled, facts, lastIndex);
+    return children;
 }
 
 int lastIndexOf(const std::vector<MenuItem> &items)
@@ -175,23 +160,6 @@ MenuTree buildMenu(MenuName name, const MenuFacts &facts)
     return tree;
 }
 
-bool changesOnOpening(const MenuItem &item)
-{
-    const int mark = firstCommand(item);
-    return mark == retypeMark || mark == actionMark || mark == gamesMark;
-}
-
-std::vector<MenuItem> childrenOnOpening(const MenuItem &item, const MenuFacts &facts)
-{
-    const int mark = firstCommand(item);
-    const Rows rows = mark == retypeMark ? Rows(menu::retypeMenu) : rowsWithMark(mark);
-    std::vector<MenuItem> children;
-    int lastIndex = 0;
-    if (!rows.empty())
-        addRows(children, rows, 0, rows.front().level, item.enabled, facts, lastIndex);
-    return children;
-}
-
 const MenuItem *findItem(const MenuTree &tree, int index)
 {
     for (const MenuItem &item : tree) {
@@ -214,10 +182,10 @@ bool MenuModel::CP_InitPopupMenu(int index)
 {
     MenuTree &tree = trees_[static_cast<std::size_t>(MenuName::MainMenu)];
     auto *item = const_cast<MenuItem *>(findItem(tree, index)); // the tree is ours
-    if (item == nullptr || !changesOnOpening(*item))
+    if (item == nullptr || item->onOpening == nullptr)
         return false;
     int lastIndex = lastIndexOf(tree);
-    item->children = childrenOnOpening(*item, facts_());
+    item->children = childrenOnOpening(*item->onOpening, item->enabled, facts_());
     renumber(item->children, lastIndex);
     return true;
 }

@@ -12,6 +12,10 @@
 #include <utility>
 #include <vector>
 
+namespace menu {
+struct Row;
+}
+
 /// The popup menus of the board: one for an empty spot, one for each kind of tile.
 enum class MenuName : std::uint8_t { MainMenu, PrefixMenu, WortelMenu, SuffixMenu };
 inline constexpr int menuCount = 4;
@@ -39,17 +43,15 @@ struct MenuItem
     bool enabled = true;
     bool checked = false;
     std::vector<MenuItem> children;
+    /// The row of a submenu that is brought up to date each time it opens: "Abschreiben", "Aktion" and "S p i
+    /// e l e".
+    const menu::Row *onOpening = nullptr;
 };
 
 using MenuTree = std::vector<MenuItem>;
 
 /// Builds a tree from its table. A disabled item disables what is below it.
 MenuTree buildMenu(MenuName name, const MenuFacts &facts);
-/// True for the submenus that are brought up to date each time they open: "Abschreiben", "Aktion" and "S p i
-/// e l e".
-bool changesOnOpening(const MenuItem &item);
-/// The children that such a submenu shows when it opens.
-std::vector<MenuItem> childrenOnOpening(const MenuItem &item, const MenuFacts &facts);
 /// The item with that index, searched through all levels, or nullptr.
 const MenuItem *findItem(const MenuTree &tree, int index);
 

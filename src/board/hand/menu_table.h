@@ -4,10 +4,10 @@
 
 #include <cstdint>
 
-/// The popup menus as data, one row a line: level, id (0: no command), caption, hint, icon, and the rule that
-/// tells when the item is enabled. A row is a submenu if the row below it lies one level deeper. A caption
-/// that begins with "-" is a title strip, a plain "-" a separator. In a hint, "%" stands for the caption of
-/// the dictionary's button.
+/// The popup menus as data, one row a line: level, what choosing it does (the id of a command, 0 for nothing,
+/// or a submenu, whose rows follow one level deeper), caption, hint, icon, and the rule that tells when the
+/// item is enabled. A caption that begins with "-" is a title strip, a plain "-" a separator. In a hint, "%"
+/// stands for the caption of the dictionary's button.
 namespace menu {
 
 inline constexpr std::int8_t noIcon = -1;
@@ -27,10 +27,34 @@ enum class Rule : std::uint8_t {
     RetypeChosen,
 };
 
+enum class Opens : std::uint8_t {
+    Nothing,
+    Submenu,
+    FreshSubmenu,  ///< its rows are built anew each time it opens
+    RetypeSources, ///< `retypeMenu` takes the place of its rows when it opens
+};
+
+struct Effect
+{
+    constexpr Effect(int command)
+        : id(command)
+    {}
+    constexpr Effect(Opens what)
+        : opens(what)
+    {}
+
+    int id = 0;
+    Opens opens = Opens::Nothing;
+};
+
+inline constexpr Effect submenu = Opens::Submenu;
+inline constexpr Effect freshSubmenu = Opens::FreshSubmenu;
+inline constexpr Effect retypeSources = Opens::RetypeSources;
+
 struct Row
 {
     std::int8_t level;
-    std::int16_t id;
+    Effect effect;
     const char16_t *caption;
     const char16_t *hint = u"";
     std::int8_t icon = noIcon;
@@ -40,7 +64,7 @@ struct Row
 // clang-format off
 inline constexpr Row mainMenu[] = {
     {1, 0,    u"-Hauptmenü"},
-    {1, 0,    u"Präfix", u"", 0},
+    {1, submenu, u"Präfix", u"", 0},
     {2, 0,    u"-Präfix"},
     {2, 101,  u"Präfix-Liste zeigen", u"gelbe Taste+Rechtsklick", 22},
     {2, 102,  u"Nur Präfixe zeigen", u"gelbe Taste+Linksklick", 0},
@@ -48,13 +72,13 @@ inline constexpr Row mainMenu[] = {
     {2, 103,  u"Neues Präfix eingeben", u"Umschalt+Linksklick", 8},
     {2, 108,  u"Alle Präfixe vertauschen", u"", 29},
     {2, 104,  u"Alle Präfixe entfernen", u"", 12},
-    {1, 0,    u"Wortel", u"", 1},
+    {1, submenu, u"Wortel", u"", 1},
     {2, 0,    u"-Wortel"},
     {2, 201,  u"Wortel-Liste(n) auswählen", u"Wortel-Taste+Rechtsklick", 21},
     {2, 202,  u"Wortel-Liste zeigen", u"rote Taste+Rechtsklick", 22},
     {2, 203,  u"Nur Wortele zeigen", u"rote Taste+Linksklick", 1},
     {2, 235,  u"Alle Wortele Großschreibung", u"", 26},
-    {2, 0,    u"Neues Wortel einfügen"},
+    {2, submenu, u"Neues Wortel einfügen"},
     {3, 0,    u"-Neues Wortel einfügen"},
     {3, 206,  u"Einfügen 1"},
     {3, 207,  u"Einfügen 2"},
@@ -64,7 +88,7 @@ inline constexpr Row mainMenu[] = {
     {3, 211,  u"Einfügen 10"},
     {3, 212,  u"Einfügen 15"},
     {3, 213,  u"Voreingestellte Anzahl", u"Wortel-Taste+Linksklick"},
-    {2, 0,    u"Neues Wortel hinzufügen"},
+    {2, submenu, u"Neues Wortel hinzufügen"},
     {3, 0,    u"-Neues Wortel hinzufügen"},
     {3, 216,  u"Hinzufügen 1", u"Strg+A"},
     {3, 217,  u"Hinzufügen 2"},
@@ -78,20 +102,20 @@ inline constexpr Row mainMenu[] = {
     {2, 236,  u"Alle Wortele vertauschen", u"Strg+F", 29},
     {2, 240,  u"Alle Wortele ersetzen", u"Strg+E"},
     {2, 241,  u"Alle Wortele ohne Überdeckung platzieren", u"Strg+D", 30},
-    {2, 0,    u"Alle Wortele anordnen", u"", 35},
+    {2, submenu, u"Alle Wortele anordnen", u"", 35},
     {3, 0,    u"-Alle Wortele anordnen"},
     {3, 260,  u"Alphabetisch [Doppelte entfernen]"},
     {3, 261,  u"Alphabetisch", u"Strg+B"},
     {3, 264,  u"Unsortiert"},
     {2, 234,  u"Alle Wortele entfernen", u"", 12},
-    {1, 0,    u"Suffix", u"", 2},
+    {1, submenu, u"Suffix", u"", 2},
     {2, 0,    u"-Suffix"},
     {2, 301,  u"Suffix-Liste zeigen", u"blaue Taste+Rechtsklick", 22},
     {2, 302,  u"Nur Suffixe zeigen", u"blaue Taste+Linksklick", 2},
     {2, 303,  u"Neues Suffix eingeben", u"Alt+Linksklick", 8},
     {2, 308,  u"Alle Suffixe vertauschen", u"", 29},
     {2, 304,  u"Alle Suffixe entfernen", u"", 12},
-    {1, 0,    u"Alle Morpheme", u"", 19},
+    {1, submenu, u"Alle Morpheme", u"", 19},
     {2, 0,    u"-Alle Morpheme"},
     {2, 1501, u"Alle 3 Listen zeigen", u"", 22},
     {2, 1502, u"Alle Morpheme zeigen", u"", 19},
@@ -99,11 +123,11 @@ inline constexpr Row mainMenu[] = {
     {2, 1522, u"Alle Morpheme ohne Überdeckung platzieren [Doppelte entfernen]", u"", 30},
     {2, 1505, u"Alle Morpheme ohne Überdeckung platzieren"},
     {2, 1503, u"Alle Morpheme entfernen", u"", 12},
-    {1, 0,    u"Wörterbuch", u"", 9, Rule::NoGameNoRetype},
+    {1, submenu, u"Wörterbuch", u"", 9, Rule::NoGameNoRetype},
     {2, 0,    u"-Wörterbuch"},
     {2, 401,  u"Zeigen", u"Linksklick auf %", 10},
     {2, 402,  u"Laden", u"Rechtsklick auf %", 21},
-    {1, 0,    u"Wörterliste", u"", 3, Rule::NoGameNoRetype},
+    {1, submenu, u"Wörterliste", u"", 3, Rule::NoGameNoRetype},
     {2, 0,    u"-Wörterliste"},
     {2, 501,  u"Zeigen", u"Linksklick auf Haken", 14},
     {2, 502,  u"Kopieren", u"", 20},
@@ -111,7 +135,7 @@ inline constexpr Row mainMenu[] = {
     {2, 504,  u"Drucken", u"", 24},
     {2, 506,  u"Bearbeiten", u"Rechtsklick auf Liste", 25},
     {1, 601,  u"Wortkontrolle", u"", 7},
-    {1, 0,    u"Abschreiben", u"", 27, Rule::NoGame},
+    {1, retypeSources, u"Abschreiben", u"", 27, Rule::NoGame},
     {2, 0,    u"-Abschreiben"},
     {2, 1600, u"Wörterliste", u"Linksklick auf Abschreiben"},
     {2, 1601, u"Wörterbuch alle", u"Rechtsklick auf Abschreiben"},
@@ -122,25 +146,25 @@ inline constexpr Row mainMenu[] = {
     {2, 1606, u"Wörterbuch mit Suffix"},
     {2, 1607, u"Unsinnswörter", u"Umschalt+Rechtsklick auf Abschreiben"},
     {2, 1608, u"Ausgewählte Wörter"},
-    {1, 0,    u"S p i e l e", u"", 4, Rule::NoRetype},
+    {1, freshSubmenu, u"S p i e l e", u"", 4, Rule::NoRetype},
     {2, 701,  u"Klotar", u"Linksklick auf Stoppuhr", noIcon, Rule::Klotar},
-    {2, 0,    u"Paarlon"},
+    {2, submenu, u"Paarlon"},
     {3, 0,    u"-Paarlon"},
     {3, 150,  u"Präfix", u"", 0},
     {3, 250,  u"Wortel", u"", 1},
     {3, 350,  u"Suffix", u"", 2},
     {2, 1701, u"Kernling", u"", noIcon, Rule::NoGame},
-    {2, 0,    u"Tonarin", u"", noIcon, Rule::NoGame},
+    {2, submenu, u"Tonarin", u"", noIcon, Rule::NoGame},
     {3, 0,    u"-Tonarin"},
     {3, 1702, u"Kurzvokale"},
     {3, 1703, u"Langvokale"},
-    {1, 0,    u"Bestenliste", u"", 13},
+    {1, submenu, u"Bestenliste", u"", 13},
     {2, 0,    u"-Bestenliste"},
-    {2, 0,    u"Klotar"},
+    {2, submenu, u"Klotar"},
     {3, 0,    u"-Klotar"},
     {3, 2900, u"Zeigen", u"", 11},
     {3, 2901, u"Zurücksetzen", u"", 12},
-    {2, 0,    u"Paarlon"},
+    {2, submenu, u"Paarlon"},
     {3, 0,    u"-Paarlon"},
     {3, 2902, u"Wortel zeigen", u"", 11},
     {3, 2903, u"Wortel zurücksetzen", u"", 12},
@@ -150,18 +174,18 @@ inline constexpr Row mainMenu[] = {
     {3, 0,    u"-"},
     {3, 2906, u"Suffix zeigen"},
     {3, 2907, u"Suffix zurücksetzen"},
-    {2, 0,    u"Kernling"},
+    {2, submenu, u"Kernling"},
     {3, 0,    u"-Kernling"},
     {3, 3104, u"Zeigen", u"", 11},
     {3, 3105, u"Zurücksetzen", u"", 12},
-    {2, 0,    u"Tonarin"},
+    {2, submenu, u"Tonarin"},
     {3, 0,    u"-Tonarin"},
     {3, 3106, u"Zeigen", u"", 11},
     {3, 3107, u"Zurücksetzen", u"", 12},
-    {1, 0,    u"Rechtschreib-Tipp", u"", 32},
+    {1, submenu, u"Rechtschreib-Tipp", u"", 32},
     {2, 0,    u"-Rechtschreib-Tipp"},
     {2, 275,  u"Tipp zeigen", u"Strg+H", 32},
-    {1, 0,    u"Sitzung", u"", 17},
+    {1, submenu, u"Sitzung", u"", 17},
     {2, 0,    u"-Sitzung"},
     {2, 1901, u"Sitzung laden", u"", 21, Rule::NoGameNoRetype},
     {2, 1903, u"Sitzung speichern als", u"", 17},
@@ -170,12 +194,12 @@ inline constexpr Row mainMenu[] = {
     {2, 0,    u"-"},
     {2, 1904, u"Sitzung drucken", u"", 24, Rule::NoGameNoRetype},
     {2, 1905, u"Drucker Einstellungen"},
-    {1, 0,    u"Aktion", u"", noIcon, Rule::Undo},
+    {1, freshSubmenu, u"Aktion", u"", noIcon, Rule::Undo},
     {2, 0,    u"-Aktion"},
     {2, 2801, u"Rückgängig machen", u"Strg+I", 33, Rule::StepBack},
     {2, 2802, u"Wiederholen", u"Strg+J", 34, Rule::StepForward},
     {1, 901,  u"Optionen", u"", 5, Rule::NoGameNoRetype},
-    {1, 0,    u"Hilfe", u"", 16},
+    {1, submenu, u"Hilfe", u"", 16},
     {2, 0,    u"-Hilfe"},
     {2, 1001, u"Inhalt", u"F1", 15},
     {2, 1003, u"Über Wortel-Meister...", u"", 16},
@@ -194,7 +218,7 @@ inline constexpr Row retypeMenu[] = {
 
 /// The rows that the menus of all kinds of tile share; "PrefixMenu" and "WortelMenu" have the capitals before them.
 inline constexpr Row tileMenu[] = {
-    {1, 0,    u"Kopien hinzufügen", u"", 20},
+    {1, submenu, u"Kopien hinzufügen", u"", 20},
     {2, 0,    u"-Kopien hinzufügen"},
     {2, 116,  u"Hinzufügen 1", u"Umschalt+Rechtsklick"},
     {2, 117,  u"Hinzufügen 2"},

@@ -3,11 +3,10 @@
 #include "board/hand/popup_menu.h"
 
 #include "board/hand/menu_style.h"
+#include "widgets/opening_press.h"
 
-#include <QGuiApplication>
 #include <QIcon>
 #include <QMenu>
-#include <QScreen>
 
 #include <algorithm>
 
@@ -44,7 +43,7 @@ int PopupMenu::ShowPopupMenu(MenuName name, const QPoint &position)
 {
     fitRows(position, model_.Restore(name).size());
     const std::unique_ptr<QMenu> menu = makeMenu(name);
-    const QAction *chosen = menu->exec(position);
+    const QAction *chosen = menu->exec(OpeningPress::placeFor(*menu, position));
     return chosen == nullptr ? 0 : chosen->data().toInt();
 }
 
@@ -91,7 +90,7 @@ void PopupMenu::addSubmenu(QMenu &menu, MenuName name, const MenuItem &item)
     submenu->setFont(menu.font());
     submenu->menuAction()->setEnabled(item.enabled);
     fill(*submenu, name, item.children);
-    if (name != MenuName::MainMenu || !changesOnOpening(item))
+    if (item.onOpening == nullptr)
         return;
     QObject::connect(submenu, &QMenu::aboutToShow, submenu, [this, submenu, name, index = item.index] {
         if (!model_.CP_InitPopupMenu(index))
@@ -103,9 +102,6 @@ void PopupMenu::addSubmenu(QMenu &menu, MenuName name, const MenuItem &item)
 
 void PopupMenu::fitRows(const QPoint &position, std::size_t rows)
 {
-    const QScreen *screen = QGuiApplication::screenAt(position);
-    if (screen == nullptr)
-        screen = QGuiApplication::primaryScreen();
-    const int room = screen->availableSize().height() - 8;
+    const int room = OpeningPress::screenOf(position).height() - 8;
     style_->setRowHeight(std::clamp(room / std::max(1, static_cast<int>(rows)), lowestRow, fullRow));
 }

@@ -12,7 +12,8 @@ class QPoint;
 class QWidget;
 
 /// The menu object `CP`: shows a tree of the menu model as a popup menu and tells what was chosen. It is
-/// worked with mouse, finger or keys and always stays inside the screen.
+/// worked with mouse, finger or keys and always stays inside the screen. The press that opened it chooses
+/// nothing, however the hand moves until it lets go.
 class PopupMenu
 {
 public:
@@ -21,8 +22,8 @@ public:
 
     MenuModel &model() { return model_; }
 
-    /// Shows the menu modally with its corner at `position` (pixels of the screen) and returns the index of
-    /// the chosen item, 0 for none.
+    /// Shows the menu modally with its corner at `position` (pixels of the screen), or as near to it as the
+    /// screen lets it lie, and returns the index of the chosen item, 0 for none.
     virtual int ShowPopupMenu(MenuName name, const QPoint &position);
 
     /// The menu as a window that is not yet shown, for whoever wants to show it in another way.
