@@ -4,7 +4,7 @@
 
 #include "widgets/gradient.h"
 
-#include <QGridLayout>
+#include <QBoxLayout>
 #include <QIcon>
 #include <QLabel>
 #include <QPainter>
@@ -23,6 +23,8 @@ constexpr int frameTime = 16;    ///< milliseconds
 constexpr int narrowest = 320;   ///< pixels
 constexpr int widest = 560;
 constexpr int smileySize = 64;
+constexpr int margin = 14;
+constexpr int lineGap = 5;
 constexpr int signSize = 20;
 constexpr int frameWidth = 2;
 constexpr QColor ink{0x08, 0x1C, 0x5C};
@@ -95,17 +97,7 @@ ReportWindow::ReportWindow(QWidget *parent)
     Image1_->setIconSize(QSize(signSize, signSize));
     connect(Image1_, &QAbstractButton::clicked, this, &ReportWindow::closePressed);
 
-    auto *grid = new QGridLayout(picBackground_);
-    grid->setContentsMargins(14, 8, 8, 14);
-    grid->setHorizontalSpacing(14);
-    grid->setVerticalSpacing(5);
-    grid->addWidget(Label1_, 0, 0, 1, 2);
-    grid->addWidget(Image1_, 0, 2, Qt::AlignRight | Qt::AlignTop);
-    grid->addWidget(ImgSmiley_, 1, 0, 3, 1, Qt::AlignVCenter);
-    grid->addWidget(lblAlert_, 1, 1, 1, 2);
-    grid->addWidget(Label2_, 2, 1, 1, 2);
-    grid->addWidget(Label3_, 3, 1, 1, 2);
-    grid->setColumnStretch(1, 1);
+    layOutParts();
 
     frame_->setInterval(frameTime);
     AlertTimer_->setSingleShot(true);
@@ -118,6 +110,26 @@ ReportWindow::ReportWindow(QWidget *parent)
     hide();
 }
 
+void ReportWindow::layOutParts()
+{
+    auto *head = new QHBoxLayout;
+    head->addWidget(Label1_, 1);
+    head->addWidget(Image1_, 0, Qt::AlignRight | Qt::AlignTop);
+    auto *lines = new QVBoxLayout;
+    lines->setSpacing(lineGap);
+    for (QLabel *line : {lblAlert_, Label2_, Label3_})
+        lines->addWidget(line);
+    auto *body = new QHBoxLayout;
+    body->setSpacing(margin);
+    body->addWidget(ImgSmiley_, 0, Qt::AlignVCenter); // hidden it takes no room
+    body->addLayout(lines, 1);
+    auto *column = new QVBoxLayout(picBackground_);
+    column->setContentsMargins(margin, 8, 8, margin);
+    column->setSpacing(lineGap);
+    column->addLayout(head);
+    column->addLayout(body);
+}
+
 void ReportWindow::setReport(const Report &report, const QPoint &foot)
 {
     foot_ = foot;
@@ -125,7 +137,7 @@ void ReportWindow::setReport(const Report &report, const QPoint &foot)
     word.setBold(report.boldLine2);
     Label2_->setFont(word);
     ImgSmiley_->setVisible(report.showSmiley);
-    const int beside = 2 * 14 + (report.showSmiley ? smileySize + 14 : 0);
+    const int beside = 2 * margin + (report.showSmiley ? smileySize + margin : 0);
     const int most = std::min(widest, parentWidget()->width() - foot.x() - 10 - 2 * frameWidth);
     const int wanted = Label2_->fontMetrics().horizontalAdvance(oneLine(report.line2).left(200)) + 2;
     const int width = std::clamp(wanted + beside, std::min(narrowest, most), most);

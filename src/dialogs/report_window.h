@@ -50,6 +50,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void layOutParts();
     void grow();
     void sink();
     void setTwips(int twips);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "dialogs/msn_style.h"
 #include "platform/modes.h"
+#include "support/columns.h"
 #include "support/registry.h"
 #include "support/test_ground.h"
 #include "widgets/gradient.h"
@@ -9,8 +10,11 @@
 #include "widgets/press_button.h"
 
 #include <QLabel>
+#include <QTimer>
 #include <QToolButton>
 #include <QtTest>
+
+#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -27,10 +31,10 @@ struct Desk
         form.show();
     }
 
-    void report(int seconds, const QString &word = u"\"Haus\""_s)
+    void report(int seconds, const QString &word = u"\"Haus\""_s, bool boldWord = true, bool smiley = true)
     {
-        popup->Display(u"Richtig !"_s, u"Das gesuchte Wort \n"_s, word, u"ist richtig."_s, seconds, 101, true,
-                       true);
+        popup->Display(u"Richtig !"_s, u"Das gesuchte Wort \n"_s, word, u"ist richtig."_s, seconds, 101,
+                       boldWord, smiley);
     }
     ReportWindow *row(int slot) const
     {
@@ -76,6 +80,54 @@ private slots:
         QCOMPARE(desk.popup->slot(), 0);
         QVERIFY(desk.modes.CheckButtonsAct);
         QVERIFY(desk.controls.Command2->isEnabled() && desk.controls.Command4->isEnabled());
+    }
+
+    void standsAsLongAsAsked_data()
+    {
+        columns<int, int>("seconds", "milliseconds");
+        QTest::newRow("none") << 0 << 0;
+        QTest::newRow("one") << 1 << 1000;
+        QTest::newRow("three") << 3 << 3000;
+        QTest::newRow("negative") << -5 << 0;
+        QTest::newRow("more than a timer holds") << std::numeric_limits<int>::max() << 86'400'000;
+    }
+    void standsAsLongAsAsked()
+    {
+        QFETCH(int, seconds);
+        Desk desk;
+        desk.report(seconds);
+        const auto *timer = desk.row(1)->findChild<QTimer *>(u"AlertTimer"_s);
+        QVERIFY(timer->isSingleShot());
+        QTEST(timer->interval(), "milliseconds");
+    }
+
+    void saysWhatItWasGiven_data()
+    {
+        columns<bool, bool, int>("bold", "smiley", "left"); // pixels from the edge to the lines
+        QTest::newRow("smiley") << true << true << 92;
+        QTest::newRow("no smiley") << true << false << 14;
+        QTest::newRow("plain word") << false << true << 92;
+    }
+    void saysWhatItWasGiven()
+    {
+        QFETCH(bool, bold);
+        QFETCH(bool, smiley);
+        QFETCH(int, left);
+        Desk desk;
+        desk.report(60, u"\"Haus\""_s, bold, smiley);
+        const auto line = [&](const char *name) {
+            return desk.row(1)->findChild<QLabel *>(QLatin1String(name));
+        };
+        QTRY_VERIFY(desk.isUp(1));
+        QCOMPARE(line("Label1")->text(), u"Richtig !"_s);
+        QCOMPARE(line("lblAlert")->text(), u"Das gesuchte Wort"_s);
+        QCOMPARE(line("Label2")->text(), u"\"Haus\""_s);
+        QCOMPARE(line("Label3")->text(), u"ist richtig."_s);
+        QCOMPARE(line("Label2")->font().bold(), bold);
+        QCOMPARE(line("ImgSmiley")->isVisible(), smiley);
+        QCOMPARE(line("Label1")->x(), 14);
+        for (const char *name : {"lblAlert", "Label2", "Label3"})
+            QCOMPARE(line(name)->x(), left);
     }
 
     void aRunningGameKeepsItsButtonsAndSilenceItsPeace()
