@@ -34,7 +34,7 @@ MsgScroller::MsgScroller(QWidget *parent)
     setAccessibleName(QStringLiteral("Laufschrift"));
     tmrScroll_.setSingleShot(true);
     tmrScroll_.setTimerType(Qt::PreciseTimer);
-    connect(&tmrScroll_, &QTimer::timeout, this, &MsgScroller::onFrame);
+    connect(&tmrScroll_, &QTimer::timeout, this, [this] { advance(clock_.elapsed()); });
     decideScroll();
 }
 
@@ -185,7 +185,9 @@ void MsgScroller::tick()
 void MsgScroller::startTimer()
 {
     timerOn_ = true;
-    scheduleFrame();
+    clock_.start();
+    due_ = frameTime();
+    scheduleFrame(0);
 }
 
 void MsgScroller::pauseTimer()
@@ -207,17 +209,32 @@ int MsgScroller::framesPerTick() const
     return isVisible() ? std::max(1, std::min(devicePixels, scrollInterval_ / shortestFrame)) : 1;
 }
 
-void MsgScroller::scheduleFrame()
+int MsgScroller::frameTime() const
 {
-    tmrScroll_.stop();
-    if (scrollInterval_ == 0)
-        return;
     // The frames of a tick share its time without a remainder.
     const int frames = framesPerTick();
-    tmrScroll_.start(scrollInterval_ * (frame_ + 1) / frames - scrollInterval_ * frame_ / frames);
+    return scrollInterval_ * (frame_ + 1) / frames - scrollInterval_ * frame_ / frames;
 }
 
-void MsgScroller::onFrame()
+void MsgScroller::scheduleFrame(qint64 now)
+{
+    tmrScroll_.stop();
+    if (timerOn_ && scrollInterval_ > 0)
+        tmrScroll_.start(static_cast<int>(std::max<qint64>(0, due_ - now)));
+}
+
+void MsgScroller::advance(qint64 now)
+{
+    if (now - due_ >= 2 * scrollInterval_)
+        due_ = now - scrollInterval_;
+    while (timerOn_ && scrollInterval_ > 0 && due_ <= now) {
+        nextFrame();
+        due_ += frameTime();
+    }
+    scheduleFrame(now);
+}
+
+void MsgScroller::nextFrame()
 {
     const int frames = framesPerTick();
     if (++frame_ >= frames) {
@@ -226,7 +243,6 @@ void MsgScroller::onFrame()
     } else {
         setGlide(static_cast<double>(scrollSpeed_) * frame_ / frames);
     }
-    scheduleFrame();
 }
 
 void MsgScroller::setGlide(double pixels)

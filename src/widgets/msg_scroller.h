@@ -5,6 +5,7 @@
 #include "widgets/scroller_strip.h"
 
 #include <QColor>
+#include <QElapsedTimer>
 #include <QTimer>
 #include <QWidget>
 
@@ -12,8 +13,9 @@
 /// ticker. A text under the pointer is a hot spot. The player can stop the run and pull the strip by hand.
 ///
 /// `Offset` moves once a tick. Between two ticks the picture glides by whole device pixels, so that the run
-/// is smooth and each letter stays sharp. A strip that stands has no timer and paints only when it is
-/// uncovered. Indexes are 1-based; one that is not there throws RuntimeError 9.
+/// is smooth and each letter stays sharp. The ticks keep to a clock, however late the timer is; a strip that
+/// was held up longer goes on from where it stood. A strip that stands has no timer and paints only when it
+/// is uncovered. Indexes are 1-based; one that is not there throws RuntimeError 9.
 class MsgScroller : public QWidget
 {
     Q_OBJECT
@@ -77,6 +79,9 @@ public:
 
     /// One step of the run, as the timer makes it.
     void tick();
+    /// Does what is due of the run at `now`, milliseconds since its timer was started; but after a pause of
+    /// the whole program two ticks at most.
+    void advance(qint64 now);
 
     QSize sizeHint() const override;
 
@@ -106,9 +111,10 @@ private:
     void pauseTimer();
     /// Puts the picture back to `Offset`, too.
     void stopTimer();
-    void scheduleFrame();
-    void onFrame();
+    void scheduleFrame(qint64 now);
+    void nextFrame();
     int framesPerTick() const;
+    int frameTime() const;
     void setGlide(double pixels);
     void startPan(int x);
     void endPan();
@@ -118,6 +124,8 @@ private:
 
     ScrollerStrip strip_;
     QTimer tmrScroll_;
+    QElapsedTimer clock_;
+    qint64 due_ = 0; ///< when the next frame is, on `clock_`
     QColor backColor_;
     QColor foreColor_;
     int borderStyle_ = 1;

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/columns.h"
 #include "support/registry.h"
 #include "widgets/msg_scroller.h"
 
@@ -62,6 +63,8 @@ class MsgScrollerTest : public QObject
 private slots:
     void runsWhileItIsAskedTo();
     void ticks();
+    void keepsToTheClock_data();
+    void keepsToTheClock();
     void glidesBetweenTicks();
     void pauses();
     void standsStill_data();
@@ -123,6 +126,35 @@ void MsgScrollerTest::ticks()
         strip.tick();
         QVERIFY(strip.Offset() >= 0 && strip.Offset() <= cycle);
     }
+}
+
+void MsgScrollerTest::keepsToTheClock_data()
+{
+    columns<QList<qint64>, QList<int>>("times", "ticks"); // of 100 ms; all ticks up to each time
+    QTest::newRow("punctual") << QList<qint64>{99, 100, 199, 200, 300} << QList{0, 1, 1, 2, 3};
+    QTest::newRow("always late") << QList<qint64>{107, 199, 200, 318, 400, 493, 500}
+                                 << QList{1, 1, 2, 3, 4, 4, 5};
+    QTest::newRow("a tick missed") << QList<qint64>{100, 320, 400} << QList{1, 3, 4};
+    QTest::newRow("asleep for an hour")
+        << QList<qint64>{100, 3'600'130, 3'600'229, 3'600'230} << QList{1, 3, 3, 4};
+}
+
+void MsgScrollerTest::keepsToTheClock()
+{
+    QFETCH(QList<qint64>, times);
+    MsgScroller strip;
+    fill(strip);
+    strip.setScrollInterval(100);
+    strip.setScroll(true);
+    QList<int> ticks;
+    for (const qint64 time : times) {
+        strip.advance(time);
+        ticks << (strip.Offset() + 250) / 3;
+    }
+    QTEST(ticks, "ticks");
+    strip.ToggleScroll();
+    strip.advance(times.last() + 1000);
+    QCOMPARE((strip.Offset() + 250) / 3, ticks.last());
 }
 
 void MsgScrollerTest::glidesBetweenTicks()
