@@ -100,10 +100,21 @@ void StoreList::refresh() const
     const int row = currentIndex().row();
     const int top = verticalScrollBar()->value();
     rows_->reload();
-    const bool stays = row >= 0 && row < rows_->rowCount();
-    selectionModel()->setCurrentIndex(stays ? rows_->index(row) : QModelIndex(),
-                                      QItemSelectionModel::ClearAndSelect);
+    selectionModel()->setCurrentIndex(rows_->index(rowOfSelected(row)), QItemSelectionModel::ClearAndSelect);
     verticalScrollBar()->setValue(top);
+}
+
+/// The row nearest to `row` that has the selected word, or `row` if there is none.
+int StoreList::rowOfSelected(int row) const
+{
+    const int count = rows_->rowCount();
+    if (row < 0 || store_ == nullptr)
+        return row;
+    for (int away = 0; row - away >= 0 || row + away < count; ++away)
+        for (const int candidate : {row + away, row - away})
+            if (candidate >= 0 && candidate < count && store_->at(candidate) == selected_)
+                return candidate;
+    return row;
 }
 
 int StoreList::ListIndex() const
@@ -138,6 +149,18 @@ void StoreList::mouseReleaseEvent(QMouseEvent *event)
     const QModelIndex index = indexAt(event->position().toPoint());
     if (event->button() == Qt::LeftButton && index.isValid())
         emit rowClicked(index.row());
+}
+
+void StoreList::keyPressEvent(QKeyEvent *event)
+{
+    refresh();
+    QListView::keyPressEvent(event);
+}
+
+void StoreList::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    selected_ = current.data().toString();
+    QListView::currentChanged(current, previous);
 }
 
 void StoreList::showEvent(QShowEvent *event)

@@ -8,7 +8,8 @@ class QTimer;
 class WordStore;
 
 /// A list box that shows a word store. It holds no words of its own: the store is the list, this is its
-/// picture, brought up to date when it is visible.
+/// picture, brought up to date when it is visible. The selection goes with its word when rows come or go
+/// above it; where the word itself has gone the row stays selected.
 class StoreList : public QListView
 {
     Q_OBJECT
@@ -35,14 +36,18 @@ signals:
 protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     void showEvent(QShowEvent *event) override;
 
 private:
     class Rows;
     void markStale();
     void refresh() const;
+    int rowOfSelected(int row) const;
 
     WordStore *store_ = nullptr;
     Rows *rows_;
     QTimer *later_;
+    QString selected_; ///< the selected word
 };

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/word_store.h"
+#include "support/columns.h"
 #include "support/registry.h"
 #include "widgets/store_list.h"
 
@@ -74,6 +75,32 @@ private slots:
         QCOMPARE(list.ListIndex(), -1);
         QCOMPARE(list.model()->rowCount(), 0);
         list.grab();
+    }
+
+    void selectionGoesWithItsWord_data()
+    {
+        columns<QStringList, int, int>("after", "row", "expected"); // before: a b b c
+        QTest::newRow("inserted above") << QStringList{u"neu"_s, u"a"_s, u"b"_s, u"b"_s, u"c"_s} << 3 << 4;
+        QTest::newRow("inserted below") << QStringList{u"a"_s, u"b"_s, u"b"_s, u"c"_s, u"neu"_s} << 0 << 0;
+        QTest::newRow("removed above") << QStringList{u"b"_s, u"b"_s, u"c"_s} << 3 << 2;
+        QTest::newRow("many inserted above") << words(100) + QStringList{u"a"_s, u"b"_s} << 0 << 100;
+        QTest::newRow("the nearest of two") << QStringList{u"b"_s, u"a"_s, u"a"_s, u"b"_s, u"c"_s} << 2 << 3;
+        QTest::newRow("overwritten") << QStringList{u"a"_s, u"neu"_s, u"neu"_s, u"c"_s} << 1 << 1;
+        QTest::newRow("all gone") << QStringList{} << 3 << -1;
+        QTest::newRow("none selected") << QStringList{QString(), u"a"_s} << -1 << -1;
+    }
+    void selectionGoesWithItsWord()
+    {
+        QFETCH(QStringList, after);
+        QFETCH(int, row);
+        WordStore store;
+        store.addAll({u"a"_s, u"b"_s, u"b"_s, u"c"_s});
+        StoreList list;
+        list.show(&store);
+        list.setListIndex(row);
+        store.clear();
+        store.addAll(after);
+        QTEST(list.ListIndex(), "expected");
     }
 
     void clicks()
