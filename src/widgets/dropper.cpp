@@ -90,7 +90,8 @@ bool Dropper::eventFilter(QObject *watched, QEvent *event)
             emit EnterPress();
             return true;
         }
-        if (!key->text().isEmpty())
+        const bool leaves = key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab;
+        if (!leaves && !key->text().isEmpty())
             emit keyTyped();
     }
     return QWidget::eventFilter(watched, event);

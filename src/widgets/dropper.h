@@ -6,8 +6,9 @@
 
 class QLineEdit;
 
-/// The word field: a control with one text box. A typed key that is not Enter is announced by `keyTyped`,
-/// Enter by `EnterPress`. `Highlight` and `UnHighlight` are the feedback while a tile is dragged over it.
+/// The word field: a control with one text box. A key that types (neither Enter nor Tab nor a key that
+/// gives no character) is announced by `keyTyped`, Enter by `EnterPress`. `Highlight` and `UnHighlight` are
+/// the feedback while a tile is dragged over it.
 class Dropper : public QWidget
 {
     Q_OBJECT

@@ -14,6 +14,7 @@
 #include "widgets/progress_bar.h"
 #include "widgets/store_list.h"
 
+#include <QButtonGroup>
 #include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
@@ -211,8 +212,12 @@ void makeWordPanel(C &c)
 void makeGamePanel(C &c)
 {
     c.Check3 = make<PressButton>(c.Picture3, "Check3");
-    for (std::size_t level = 0; level < c.Option2.size(); ++level)
-        c.Option2[level] = makeChoice(c.Picture3, "Option2");
+    auto *levels = new QButtonGroup(c.Picture3);
+    for (PressButton *&level : c.Option2) {
+        level = makeChoice(c.Picture3, "Option2");
+        levels->addButton(level);
+    }
+    c.Option2[0]->setChecked(true);
     c.Label1 = makeLabel(c.Picture3, "Label1");
     c.Label1->setAlignment(Qt::AlignCenter);
     c.Label1->hide();
@@ -242,9 +247,9 @@ void makeLists(C &c)
     const QString noteStyle =
         QStringLiteral("background: #ffffe8; color: #1b2a4a; border: 2px solid #1b2a4a; border-radius: 6px; "
                        "padding: 10px; font-size: 14px");
-    c.WortelList = makeList(c.form, "WortelList", 84, 300);
-    c.PrefixList = makeList(c.form, "PrefixList", 66, 300);
-    c.SuffixList = makeList(c.form, "SuffixList", 66, 300);
+    c.WortelList = makeList(c.form, "WortelList", 84, C::morphemeListHeight);
+    c.PrefixList = makeList(c.form, "PrefixList", 66, C::morphemeListHeight);
+    c.SuffixList = makeList(c.form, "SuffixList", 66, C::morphemeListHeight);
     c.LexiconList = makeList(c.form, "LexiconList", 190, 260);
     c.CorrectWordList = makeList(c.form, "CorrectWordList", 190, 260);
     c.LexiconList->setToolTip(QStringLiteral("Rechtsklick: Menü zeigen"));

@@ -22,6 +22,8 @@ class StoreList;
 /// one table, and no logic. Rooms get a reference to it. The window owns the controls.
 struct MainControls
 {
+    static constexpr int morphemeListHeight = 300; ///< pixels, as far as the window reaches
+
     QWidget *form = nullptr;
 
     PictureBox *picCanvas = nullptr;

@@ -7,6 +7,7 @@ wortel_test(board
         canvas/tst_placement.cpp
         hand/tst_commands.cpp
         hand/tst_menus.cpp
+        hand/tst_morpheme_lists.cpp
         hand/tst_pointer.cpp
         hand/tst_random_player.cpp
         tiles/tst_board_rules.cpp

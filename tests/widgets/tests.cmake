@@ -2,6 +2,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 wortel_test(widgets
     SOURCES
+        tst_main_controls.cpp
         tst_msg_scroller.cpp
         tst_press_button.cpp
         tst_scroller_strip.cpp

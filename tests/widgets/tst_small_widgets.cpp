@@ -110,6 +110,10 @@ private slots:
         QTest::keyClick(line, Qt::Key_Backspace);
         QTest::keyClick(line, Qt::Key_Left);
         QTest::keyClick(line, Qt::Key_Shift);
+        for (const Qt::Key leaving : {Qt::Key_Tab, Qt::Key_Backtab}) {
+            QKeyEvent key(QEvent::KeyPress, leaving, Qt::NoModifier, u"\t"_s);
+            QCoreApplication::sendEvent(line, &key);
+        }
         QCOMPARE(dropper.Caption(), u"Ha"_s);
         QCOMPARE(typed.count(), 4); // keys that type nothing are silent
         QCOMPARE(enter.count(), 0);

@@ -43,14 +43,20 @@ StoreList *MorphemeLists::list(int index) const
     return lists.at(static_cast<std::size_t>(index));
 }
 
-void MorphemeLists::place(int index)
+void MorphemeLists::placeOpen()
 {
-    StoreList &shown = *list(index);
-    const PressButton &button = *controls_.OptType.at(static_cast<std::size_t>(index));
-    const int left =
-        button.mapTo(controls_.form, QPoint()).x() + listShift.at(static_cast<std::size_t>(index));
-    shown.move(std::max(0, left), controls_.Picture1->y() - shown.height());
-    shown.raise();
+    const int band = controls_.Picture1->y();
+    int free = 0;                                 // of what is right of it
+    for (const std::size_t kind : {1U, 0U, 2U}) { // as the buttons stand
+        StoreList &shown = *list(static_cast<int>(kind));
+        if (shown.isHidden())
+            continue;
+        const int left = controls_.OptType.at(kind)->mapTo(controls_.form, QPoint()).x() + listShift.at(kind);
+        shown.resize(shown.width(), std::min(MainControls::morphemeListHeight, band));
+        shown.move(std::max(free, left), band - shown.height());
+        shown.raise();
+        free = shown.x() + shown.width();
+    }
 }
 
 void MorphemeLists::playOpened()
@@ -72,8 +78,8 @@ void MorphemeLists::OptType_MouseDown(int index, Qt::MouseButton button)
         step([&] { ToggleAllMorphemeLists(); });
     } else {
         step([&] {
-            place(index);
             list(index)->setVisible(list(index)->isHidden());
+            placeOpen();
             if (!list(index)->isHidden())
                 playOpened();
         });
@@ -85,12 +91,11 @@ void MorphemeLists::ToggleAllMorphemeLists()
     Procedure step{ground_.log, "ToggleAllMorphemeLists", "frmMain"};
     step([&] {
         bool anyOpen = false;
-        for (int i = 0; i < allLists; ++i) {
-            place(i);
+        for (int i = 0; i < allLists; ++i)
             anyOpen = anyOpen || !list(i)->isHidden();
-        }
         for (int i = 0; i < allLists; ++i)
             list(i)->setVisible(!anyOpen);
+        placeOpen();
         if (!anyOpen)
             playOpened();
     });

@@ -8,7 +8,8 @@ class StoreList;
 struct Ground;
 struct MainControls;
 
-/// The lists of prefixes, stems and suffixes that open above the filter buttons.
+/// The lists of prefixes, stems and suffixes that open above the filter buttons. Of lists that stand open
+/// together none covers another.
 class MorphemeLists : public QObject
 {
     Q_OBJECT
@@ -27,7 +28,7 @@ signals:
     void menuRestoreWanted();
 
 private:
-    void place(int index);
+    void placeOpen();
     StoreList *list(int index) const;
     void playOpened();
 
