@@ -3,6 +3,7 @@
 #pragma once
 
 #include "widgets/colour.h"
+#include "widgets/gradient.h"
 
 #include <QColor>
 #include <QString>
@@ -27,14 +28,13 @@ inline constexpr QColor red = toQColor(colours::wortelBack);
 inline constexpr QColor blue = toQColor(colours::suffixBack);
 inline constexpr QColor white = toQColor(colours::white);
 inline constexpr QColor black = toQColor(colours::black);
-inline constexpr QColor lightFace{0xF4, 0xF7, 0xFC};
 
-inline constexpr Colours plain{{0xF0, 0xF0, 0xF0}, black, {0x70, 0x70, 0x70}, lightFace, black};
-inline constexpr Colours prefix{yellow, blue, {0xC8, 0xA4, 0x00}, lightFace, blue};
-inline constexpr Colours wortel{red, white, {0x96, 0x00, 0x00}, lightFace, {0xB0, 0x00, 0x00}};
+inline constexpr Colours plain{{0xF0, 0xF0, 0xF0}, black, {0x70, 0x70, 0x70}, paint::face, black};
+inline constexpr Colours prefix{yellow, blue, {0xC8, 0xA4, 0x00}, paint::face, blue};
+inline constexpr Colours wortel{red, white, {0x96, 0x00, 0x00}, paint::face, {0xB0, 0x00, 0x00}};
 inline constexpr Colours suffix{blue, yellow, {0x00, 0x00, 0x8C}, yellow, blue};
-inline constexpr Colours notice{white, blue, {0x3D, 0x95, 0xFF}, lightFace, blue};
-inline constexpr Colours highScore{white, black, {0x40, 0x40, 0x40}, lightFace, black};
+inline constexpr Colours notice{white, blue, gradient::from, paint::face, blue};
+inline constexpr Colours highScore{white, black, {0x40, 0x40, 0x40}, paint::face, black};
 
 struct StyleRow
 {

@@ -14,8 +14,8 @@ namespace {
 constexpr int entrySize = 20;   ///< pixels, the letters
 constexpr int entryHeight = 40; ///< pixels
 constexpr int entryWidth = 300; ///< pixels, at least
-constexpr boxstyle::Colours wordList{
-    boxstyle::white, {0x08, 0x1C, 0x5C}, {0x1E, 0x5F, 0xD8}, boxstyle::lightFace, {0x08, 0x1C, 0x5C}};
+constexpr boxstyle::Colours wordList{boxstyle::white, paint::ink, paint::activeFrame, paint::face,
+                                     paint::ink};
 
 } // namespace
 

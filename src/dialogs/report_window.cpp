@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "dialogs/report_window.h"
 
+#include "widgets/colour.h"
 #include "widgets/gradient.h"
 
 #include <QBoxLayout>
@@ -27,8 +28,6 @@ constexpr int margin = 14;
 constexpr int lineGap = 5;
 constexpr int signSize = 20;
 constexpr int frameWidth = 2;
-constexpr QColor ink{0x08, 0x1C, 0x5C};
-constexpr QColor edge{0x1E, 0x5F, 0xD8};
 
 QLabel *makeLine(QWidget *parent, const char *name, int pixels)
 {
@@ -39,7 +38,7 @@ QLabel *makeLine(QWidget *parent, const char *name, int pixels)
     font.setPixelSize(pixels);
     label->setFont(font);
     QPalette palette = label->palette();
-    palette.setColor(QPalette::WindowText, ink);
+    palette.setColor(QPalette::WindowText, paint::ink);
     label->setPalette(palette);
     return label;
 }
@@ -195,4 +194,4 @@ void ReportWindow::sink()
     emit sunk();
 }
 
-void ReportWindow::paintEvent(QPaintEvent *) { QPainter(this).fillRect(rect(), edge); }
+void ReportWindow::paintEvent(QPaintEvent *) { QPainter(this).fillRect(rect(), paint::activeFrame); }

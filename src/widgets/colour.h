@@ -12,3 +12,11 @@ constexpr QColor toQColor(Colour colour)
     return QColor(static_cast<int>(colour & 0xFF), static_cast<int>(colour >> 8 & 0xFF),
                   static_cast<int>(colour >> 16 & 0xFF));
 }
+
+/// What controls and boxes of their own making share.
+namespace paint {
+inline constexpr QColor frame{0x5B, 0x6F, 0x91};       ///< of what takes or shows text
+inline constexpr QColor activeFrame{0x1E, 0x5F, 0xD8}; ///< of what is in use
+inline constexpr QColor face{0xF4, 0xF7, 0xFC};        ///< of a button
+inline constexpr QColor ink{0x08, 0x1C, 0x5C};         ///< on the blue gradient
+} // namespace paint

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "widgets/dropper.h"
 
+#include "widgets/colour.h"
+
 #include <QEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -11,8 +13,6 @@
 
 namespace {
 
-constexpr QColor restingFrame{0x5B, 0x6F, 0x91};
-constexpr QColor activeFrame{0x1E, 0x5F, 0xD8};
 constexpr QColor highlightFrame{0xE6, 0x7E, 0x00};
 constexpr QColor highlightFace{0xFF, 0xF3, 0xC4};
 constexpr QColor disabledFace{0xEC, 0xEE, 0xF2};
@@ -119,7 +119,7 @@ void Dropper::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const bool strong = highlighted_ || (isEnabled() && isActiveControl());
-    const QColor edge = highlighted_ ? highlightFrame : strong ? activeFrame : restingFrame;
+    const QColor edge = highlighted_ ? highlightFrame : strong ? paint::activeFrame : paint::frame;
     painter.setPen(QPen(isEnabled() ? edge : edge.lighter(150), strong ? 2 : 1));
     painter.setBrush(highlighted_ ? highlightFace : isEnabled() ? QColor(Qt::white) : disabledFace);
     painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), cornerRadius, cornerRadius);

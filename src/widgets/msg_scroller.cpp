@@ -18,7 +18,6 @@ namespace {
 
 constexpr int shortestFrame = 16; ///< milliseconds: no screen shows more
 constexpr int fadeWidth = 18;     ///< pixels in which words come up and fade at the edges of a running strip
-constexpr QColor frameColour{0x5B, 0x6F, 0x91};
 
 } // namespace
 
@@ -349,7 +348,7 @@ void MsgScroller::paintEvent(QPaintEvent *)
     QPainter painter(this);
     const QRect inner = inside();
     if (borderStyle_ != 0) {
-        painter.fillRect(rect(), frameColour);
+        painter.fillRect(rect(), paint::frame);
         painter.setClipRect(inner);
     }
     painter.fillRect(inner, backColor_);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "widgets/press_button.h"
 
+#include "widgets/colour.h"
 #include "widgets/finger.h"
 
 #include <QLinearGradient>
@@ -15,7 +16,6 @@
 
 namespace {
 
-constexpr QColor normalFace{0xF4, 0xF7, 0xFC};
 constexpr QColor checkedFace{0xFF, 0xDC, 0x73};
 constexpr QColor disabledFace{0xE2, 0xE7, 0xEF};
 constexpr QColor normalText{0x14, 0x23, 0x3E};
@@ -75,7 +75,7 @@ PressButton::Look PressButton::look() const
     look.face = QRectF(rect()).adjusted(margin - 0.5, margin - 1.5, 0.5 - margin, -margin - 0.5);
     if (look.pressed)
         look.face.translate(0, 1);
-    look.back = back_.isValid() ? back_ : look.checked ? checkedFace : normalFace;
+    look.back = back_.isValid() ? back_ : look.checked ? checkedFace : paint::face;
     look.text = text_.isValid() ? text_ : normalText;
     if (!isEnabled()) {
         // A coloured face keeps a trace of its colour, so that a disabled filter is still told from the

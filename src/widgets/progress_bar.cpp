@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "widgets/progress_bar.h"
 
+#include "widgets/colour.h"
+
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
@@ -10,7 +12,6 @@
 
 namespace {
 
-constexpr QColor frameColour{0x5B, 0x6F, 0x91};
 constexpr QColor barColour{0x5C, 0xC8, 0x5A};
 constexpr QColor textColour{0x10, 0x20, 0x38};
 constexpr double cornerRadius = 5;
@@ -72,7 +73,7 @@ void GameProgressBar::paintEvent(QPaintEvent *)
     painter.fillRect(QRectF(frame.topLeft(), QSizeF(frame.width() * value_ / maximum_, frame.height())),
                      shine);
     painter.restore();
-    painter.setPen(frameColour);
+    painter.setPen(paint::frame);
     painter.drawPath(outline);
     painter.setPen(textColour);
     const QRect inside = rect().adjusted(4, 0, -4, 0);
