@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bench.h"
 
-#include "board/tiles/colour.h"
 #include "board/tiles/places.h"
 #include "support/test_board.h"
+#include "widgets/colour.h"
 
 #include <QPainter>
 

@@ -5,6 +5,7 @@
 #include "platform/files.h"
 #include "platform/text.h"
 #include "platform/word_store.h"
+#include "widgets/store_list.h"
 
 #include <QFile>
 #include <QHash>
@@ -106,8 +107,28 @@ double growth()
     return bench::ratio([&] { large.find(); }, [&] { small.find(); }, 31);
 }
 
+/// Opens a list control that shows `store` and scrolls to its last row.
+void open(WordStore &store)
+{
+    StoreList list;
+    list.resize(150, 300);
+    list.show(&store);
+    list.setListIndex(store.count() - 1);
+    bench::keep(list.grab().width());
+}
+
+double opening()
+{
+    WordStore large;
+    large.addAll(germanWords(largeCount));
+    WordStore small;
+    small.addAll(germanWords(smallCount));
+    return bench::ratio([&] { open(large); }, [&] { open(small); });
+}
+
 const bench::Row loadRow{"lists: load 32,000 words / read and split", 4.0, loading};
 const bench::Row findRow{"lists: find in 32,000 words / bare hash look-up", 3.0, finding};
+const bench::Row openRow{"lists: open with 32,000 rows / with 1,000", 12.0, opening};
 const bench::Row growthRow{"lists: find in 32,000 words / in 1,000", 1.5, growth};
 
 } // namespace

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/columns.h"
 #include "support/error_of.h"
 #include "support/registry.h"
 #include "widgets/scroller_strip.h"
@@ -64,10 +65,7 @@ private slots:
 
 void ScrollerStripTest::itemsFollowEachOther_data()
 {
-    QTest::addColumn<QString>("separator");
-    QTest::addColumn<QStringList>("words");
-    QTest::addColumn<QStringList>("expected");
-    QTest::addColumn<int>("width");
+    columns<QString, QStringList, QStringList, int>("separator", "words", "expected", "width");
     QTest::newRow("last has no separator")
         << u"--"_s << QStringList{u"ab"_s, u"abc"_s, u"a"_s}
         << QStringList{u"ab:0+20>40"_s, u"abc:40+30>90"_s, u"a:90+10>100"_s} << 100;
@@ -131,10 +129,7 @@ void ScrollerStripTest::finds()
 
 void ScrollerStripTest::decides_data()
 {
-    QTest::addColumn<bool>("force");
-    QTest::addColumn<bool>("automatic");
-    QTest::addColumn<int>("width");
-    QTest::addColumn<bool>("runs");
+    columns<bool, bool, int, bool>("force", "automatic", "width", "runs");
     QTest::newRow("neither") << false << false << 10 << false;
     QTest::newRow("forced") << true << false << 1000 << true;
     QTest::newRow("fits") << false << true << 80 << false;
@@ -158,9 +153,7 @@ void ScrollerStripTest::decides()
 
 void ScrollerStripTest::drawsTheRing_data()
 {
-    QTest::addColumn<int>("offset");
-    QTest::addColumn<int>("inRange");
-    QTest::addColumn<QStringList>("expected");
+    columns<int, int, QStringList>("offset", "inRange", "expected");
     // The strip: aaaa 0 to 40, bb 60 to 80, the ring begins again at 100.
     QTest::newRow("enters") << -250 << -250 << QStringList{};
     QTest::newRow("on its way in") << -90 << -90 << QStringList{u"aaaa@90"_s};
@@ -204,8 +197,7 @@ void ScrollerStripTest::aStandingStripIsShownFromItsStart()
 
 void ScrollerStripTest::hotSpots_data()
 {
-    QTest::addColumn<int>("x");
-    QTest::addColumn<int>("item");
+    columns<int, int>("x", "item");
     // At offset 30: aaaa from -30 to 10, bb from 30 to 50, aaaa from 70 to 110.
     QTest::newRow("left edge") << 0 << 1;
     QTest::newRow("right end") << 10 << 1;
