@@ -2,9 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bench.h"
 
-#include "board/hand/menu_model.h"
 #include "persistence/backup.h"
-#include "persistence/undo_ring.h"
 #include "platform/files.h"
 #include "support/test_board.h"
 
@@ -23,36 +21,28 @@ struct KeptBoard : TestBoard
         for (int i = 0; i < tileCount; ++i)
             lay(tileKinds[static_cast<std::size_t>(i) % 3], i * 37 % 1800, i * 53 % 900, u"stem%1"_s.arg(i));
         t.store.SaveSetting(u"Settings"_s, u"UseBackup"_s, u"1"_s);
-        undo.ClearCollBuffer();
+        r.undo.ClearCollBuffer();
     }
-
-    MenuModel menus{[this] { return MenuFacts{modes, true, {}}; }};
-    UndoRing undo{t.ground, modes, menus, *canvas};
-    Backup backup{t.ground, modes, *canvas, *bulk};
 };
 
 double commitWithBackup()
 {
     KeptBoard board;
-    board.backup.saveIfWanted();
+    board.r.backup.saveIfWanted();
     const QByteArray bytes = ReadWholeFile(Backup::file(board.t.ground));
     const QString beside = board.t.AppFolder + u"same.bytes"_s;
-    return bench::ratio(
-        [&] {
-            board.undo.SetCollBuffer();
-            board.backup.saveIfWanted();
-        },
-        [&] { writeFileAtomically(beside, bytes); },
-        200); // many rounds: the disk is the noisiest thing of all
+    return bench::ratio([&] { board.r.news.Commit(); }, [&] { writeFileAtomically(beside, bytes); },
+                        200); // many rounds: the disk is the noisiest thing of all
 }
 
 double undo()
 {
     KeptBoard board;
+    board.t.store.SaveSetting(u"Settings"_s, u"UseBackup"_s, u"0"_s);
     for (int i = 0; i < 5; ++i)
-        board.undo.SetCollBuffer();
+        board.r.news.Commit();
     bool back = false;
-    return bench::ratio([&] { (back = !back) ? board.undo.UndoAction() : board.undo.RedoAction(); },
+    return bench::ratio([&] { (back = !back) ? board.r.undo.UndoAction() : board.r.undo.RedoAction(); },
                         [&] { board.canvas->CanvasRedrawAll(); }, 20);
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/box_kinds.h"
 #include "widgets/colour.h"
 #include "widgets/gradient.h"
 
@@ -11,7 +12,7 @@
 #include <array>
 #include <optional>
 
-/// How the boxes look, as tables: the colours of the kinds of tiles, the words and codes that callers pass.
+/// How the boxes look, as tables: the colours of the kinds of tiles, the kinds and codes that callers pass.
 namespace boxstyle {
 
 struct Colours
@@ -38,13 +39,13 @@ inline constexpr Colours highScore{white, black, {0x40, 0x40, 0x40}, paint::face
 
 struct StyleRow
 {
-    const char16_t *word;
+    BoxStyle style;
     Colours colours;
 };
 
 inline constexpr std::array styles{
-    StyleRow{u"PREFIX", prefix},     StyleRow{u"WORTEL", wortel}, StyleRow{u"SUFFIX", suffix},
-    StyleRow{u"HISCORE", highScore}, StyleRow{u"RETYPE", notice}, StyleRow{u"CONFIRM", notice},
+    StyleRow{BoxStyle::Prefix, prefix},     StyleRow{BoxStyle::Wortel, wortel}, StyleRow{BoxStyle::Suffix, suffix},
+    StyleRow{BoxStyle::HiScore, highScore}, StyleRow{BoxStyle::Retype, notice}, StyleRow{BoxStyle::Confirm, notice},
 };
 
 struct ButtonsRow
@@ -62,32 +63,24 @@ inline constexpr std::array buttons{
 
 struct SignRow
 {
-    const char16_t *word;
+    BoxSign sign;
     const char16_t *control;
     const char16_t *picture;
 };
 
 inline constexpr std::array signs{
-    SignRow{u"SMILEY", u"Image1", u":/icons/smiley.svg"},
-    SignRow{u"WRITE", u"Image2", u":/icons/write.svg"},
-    SignRow{u"INFO", u"Image3", u":/icons/information.svg"},
+    SignRow{BoxSign::Smiley, u"Image1", u":/icons/smiley.svg"},
+    SignRow{BoxSign::Write, u"Image2", u":/icons/write.svg"},
+    SignRow{BoxSign::Info, u"Image3", u":/icons/information.svg"},
 };
 
-/// The colours of a style word; an unknown word keeps the form's own.
-inline Colours coloursOf(const QString &style)
+/// The colours of a style; `Plain` keeps the form's own.
+inline Colours coloursOf(BoxStyle style)
 {
-    for (const StyleRow &row : styles) {
-        if (style == QStringView(row.word))
+    for (const StyleRow &row : styles)
+        if (row.style == style)
             return row.colours;
-    }
     return plain;
-}
-
-/// The colours of a kind code: 1 prefix, 2 Wortel, 3 suffix, else the form's own.
-inline Colours coloursOf(int kind)
-{
-    static constexpr std::array kinds{plain, prefix, wortel, suffix};
-    return kind >= 1 && kind <= 3 ? kinds[static_cast<std::size_t>(kind)] : plain;
 }
 
 /// The captions of a button code; an unknown code has the one button of code 0.
@@ -100,13 +93,12 @@ inline ButtonsRow buttonsOf(int code)
     return buttons.front();
 }
 
-/// The sign of a style word, if there is one.
-inline std::optional<SignRow> signOf(const QString &style)
+/// What shows the sign, if there is one.
+inline std::optional<SignRow> signOf(BoxSign sign)
 {
-    for (const SignRow &row : signs) {
-        if (style == QStringView(row.word))
+    for (const SignRow &row : signs)
+        if (row.sign == sign)
             return row;
-    }
     return std::nullopt;
 }
 

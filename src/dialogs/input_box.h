@@ -32,7 +32,7 @@ class IBox : public InputBox
     Q_OBJECT
 
 public:
-    IBox(const QString &prompt, int kind, const QString &defaultText, const QString &title, QWidget *owner);
+    IBox(const QString &prompt, BoxStyle kind, const QString &defaultText, const QString &title, QWidget *owner);
 };
 
 /// The word box of the word list, "Wörterliste", on the blue gradient.

@@ -12,7 +12,7 @@ constexpr int signSize = 56; ///< pixels
 
 } // namespace
 
-MBox::MBox(const QString &prompt, int buttons, const QString &title, const QString &style, QWidget *owner)
+MBox::MBox(const QString &prompt, int buttons, const QString &title, BoxStyle style, QWidget *owner)
     : BoxWindow(boxstyle::coloursOf(style), title, prompt, owner)
 {
     setObjectName(QStringLiteral("MBox"));
@@ -22,7 +22,7 @@ MBox::MBox(const QString &prompt, int buttons, const QString &title, const QStri
         addButton(QString::fromUtf16(row.second), 1);
 }
 
-frmMboxRetype::frmMboxRetype(const QString &prompt, const QString &style, const QString &title,
+frmMboxRetype::frmMboxRetype(const QString &prompt, BoxSign signKind, const QString &title,
                              QWidget *owner)
     : BoxWindow(boxstyle::notice, title, prompt, owner)
 {
@@ -38,7 +38,7 @@ frmMboxRetype::frmMboxRetype(const QString &prompt, const QString &style, const 
     bold.setPixelSize(15);
     bold.setBold(true);
     sign->setFont(bold);
-    if (const auto row = boxstyle::signOf(style)) {
+    if (const auto row = boxstyle::signOf(signKind)) {
         sign->setObjectName(QString::fromUtf16(row->control));
         sign->setIcon(QIcon(QString::fromUtf16(row->picture)));
     }

@@ -11,7 +11,7 @@ class MBox : public BoxWindow
     Q_OBJECT
 
 public:
-    MBox(const QString &prompt, int buttons, const QString &title, const QString &style, QWidget *owner);
+    MBox(const QString &prompt, int buttons, const QString &title, BoxStyle style, QWidget *owner);
 };
 
 /// The notice box: a white window with a sign whose press closes it, as Enter and Esc do.
@@ -20,5 +20,5 @@ class frmMboxRetype : public BoxWindow
     Q_OBJECT
 
 public:
-    frmMboxRetype(const QString &prompt, const QString &style, const QString &title, QWidget *owner);
+    frmMboxRetype(const QString &prompt, BoxSign signKind, const QString &title, QWidget *owner);
 };

@@ -3,9 +3,8 @@
 #include "dialogs/msn_style.h"
 
 #include "platform/ground.h"
-#include "platform/modes.h"
-#include "platform/options.h"
-#include "platform/sound.h"
+#include "platform/play_state.h"
+#include "widgets/control_sheet.h"
 #include "widgets/gradient.h"
 #include "widgets/main_controls.h"
 #include "widgets/msg_scroller.h"
@@ -17,13 +16,25 @@ constexpr int left = 31;  ///< pixels: 465 twips
 constexpr int below = 14; ///< pixels under the upper edge of the lower band
 constexpr int firstPixels = ReportWindow::firstHeight / 15;
 
+#define CONTROL(member) [](const MainControls &c) -> QWidget * { return c.member; }
+constexpr SheetRow reportSheet[] = {
+    {CONTROL(Command5), SheetRow::Disabled}, {CONTROL(Command2), SheetRow::Disabled},
+    {CONTROL(Check2), SheetRow::Resting},    {CONTROL(Check3), SheetRow::Resting},
+    {CONTROL(Check4), SheetRow::Resting},
+};
+/// Unless a game runs, which goes on.
+constexpr SheetRow listsSheet[] = {{CONTROL(Command3), SheetRow::Disabled},
+                                   {CONTROL(Command4), SheetRow::Disabled}};
+#undef CONTROL
+
 } // namespace
 
-frmMsnStyle::frmMsnStyle(Ground &ground, MainControls &controls, Modes &modes)
+frmMsnStyle::frmMsnStyle(Ground &ground, MainControls &controls, ControlSheet &sheet, const PlayState &play)
     : QObject(controls.form)
     , ground_(ground)
     , controls_(controls)
-    , modes_(modes)
+    , sheet_(sheet)
+    , play_(play)
 {}
 
 ReportWindow *frmMsnStyle::windowOf(int slot)
@@ -39,7 +50,7 @@ ReportWindow *frmMsnStyle::windowOf(int slot)
 }
 
 void frmMsnStyle::Display(const QString &title, const QString &line1, const QString &line2,
-                          const QString &line3, int seconds, int soundId, bool boldLine2, bool showSmiley)
+                          const QString &line3, int seconds, SoundId sound, bool boldLine2, bool showSmiley)
 {
     if (++slot_ > rows)
         slot_ = 1;
@@ -50,21 +61,16 @@ void frmMsnStyle::Display(const QString &title, const QString &line1, const QStr
     window->setReport(report, foot);
     foot.ry() -= (slot_ - 1) * window->fullHeight();
     window->setReport(report, foot);
-    if (ground_.options.isOn(Setting::UseSounds))
-        ground_.sound.PlayResourceSound(soundId);
+    playSound(ground_, sound);
     restButtons(true);
     window->slide(seconds);
 }
 
 void frmMsnStyle::restButtons(bool resting)
 {
-    modes_.CheckButtonsAct = !resting;
-    controls_.Command5->setEnabled(!resting);
-    controls_.Command2->setEnabled(!resting);
-    if (modes_.GameActive)
-        return;
-    controls_.Command4->setEnabled(!resting);
-    controls_.Command3->setEnabled(!resting);
+    sheet_.set(Reason::Report, reportSheet, resting);
+    if (resting && !play_.GameActive())
+        sheet_.lay(Reason::Report, listsSheet);
 }
 
 void frmMsnStyle::leave(int slot)
@@ -73,7 +79,7 @@ void frmMsnStyle::leave(int slot)
     if (slot_ == slot)
         slot_ = 0;
     restButtons(false);
-    if (controls_.Scroller != nullptr)
+    if (!controls_.Scroller->isHidden())
         controls_.Scroller->setEnabled(true);
     emit closed();
 }

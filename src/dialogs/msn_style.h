@@ -9,9 +9,10 @@
 
 #include <array>
 
+class ControlSheet;
+class PlayState;
 struct Ground;
 struct MainControls;
-struct Modes;
 
 /// The small popup that slides up at the lower left corner of the board to report a check. Reports that come
 /// before an earlier one has gone stack in up to four rows. While one stands, the buttons of the word check
@@ -23,12 +24,12 @@ class frmMsnStyle : public QObject, public ReportPopup
 public:
     static constexpr int rows = 4;
 
-    frmMsnStyle(Ground &ground, MainControls &controls, Modes &modes);
+    frmMsnStyle(Ground &ground, MainControls &controls, ControlSheet &sheet, const PlayState &play);
 
-    /// Shows a report for `seconds` after it has slid up, with the sound `soundId` if sounds are on. Returns
+    /// Shows a report for `seconds` after it has slid up, with the sound `sound` if sounds are on. Returns
     /// while it slides.
     void Display(const QString &title, const QString &line1, const QString &line2, const QString &line3,
-                 int seconds, int soundId, bool boldLine2, bool showSmiley) override;
+                 int seconds, SoundId sound, bool boldLine2, bool showSmiley) override;
     /// The slot of the last report, 1 to 4, or 0.
     int slot() const { return slot_; }
 
@@ -43,7 +44,8 @@ private:
 
     Ground &ground_;
     MainControls &controls_;
-    Modes &modes_;
+    ControlSheet &sheet_;
+    const PlayState &play_;
     std::array<ReportWindow *, rows> windows_{};
     int slot_ = 0;
 };

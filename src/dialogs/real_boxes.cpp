@@ -150,25 +150,25 @@ Boxes::Answer RealBoxes::plainBox(Icon icon, const QString &title, const QString
 }
 
 int RealBoxes::ShowMBox(const QString &prompt, bool show, int buttons, const QString &title,
-                        const QString &style)
+                 BoxStyle style)
 {
     if (!show)
         return 0;
     return MBox(prompt, buttons, titleOr(title), style, owner()).ask();
 }
 
-int RealBoxes::ShowInfoBox(const QString &prompt, const QString &style, const QString &title)
+int RealBoxes::ShowInfoBox(const QString &prompt, BoxSign sign, const QString &title)
 {
-    return frmMboxRetype(prompt, style, titleOr(title), owner()).ask();
+    return frmMboxRetype(prompt, sign, titleOr(title), owner()).ask();
 }
 
-QString RealBoxes::ShowIBox(const QString &prompt, int kind, const QString &defaultText, const QString &title,
+QString RealBoxes::ShowIBox(const QString &prompt, BoxStyle kind, const QString &defaultText, const QString &title,
                             int left, int top)
 {
     return IBox(prompt, kind, defaultText, titleOr(title), owner()).askText(cornerOf(left, top));
 }
 
-QString RealBoxes::ShowWordBox(const QString &prompt, int, const QString &defaultText, const QString &title,
+QString RealBoxes::ShowWordBox(const QString &prompt, BoxStyle, const QString &defaultText, const QString &title,
                                int left, int top)
 {
     return frmChgCorrectWords(prompt, defaultText, titleOr(title), owner()).askText(cornerOf(left, top));

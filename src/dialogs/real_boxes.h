@@ -20,11 +20,11 @@ public:
 
     Answer plainBox(Icon icon, const QString &title, const QString &text, Buttons buttons) override;
     int ShowMBox(const QString &prompt, bool show, int buttons, const QString &title,
-                 const QString &style) override;
-    int ShowInfoBox(const QString &prompt, const QString &style, const QString &title) override;
-    QString ShowIBox(const QString &prompt, int kind, const QString &defaultText, const QString &title,
+                 BoxStyle style) override;
+    int ShowInfoBox(const QString &prompt, BoxSign sign, const QString &title) override;
+    QString ShowIBox(const QString &prompt, BoxStyle kind, const QString &defaultText, const QString &title,
                      int left, int top) override;
-    QString ShowWordBox(const QString &prompt, int kind, const QString &defaultText, const QString &title,
+    QString ShowWordBox(const QString &prompt, BoxStyle kind, const QString &defaultText, const QString &title,
                         int left, int top) override;
 
 private:

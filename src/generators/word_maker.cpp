@@ -3,196 +3,115 @@
 #include "generators/word_maker.h"
 
 #include "board/tiles/tile_store.h"
+#include "generators/morphemes.h"
 #include "generators/nonsense_words.h"
 #include "generators/real_words.h"
 #include "language/word_tests.h"
-#include "platform/clock.h"
 #include "platform/files.h"
 #include "platform/ground.h"
-#include "platform/modes.h"
 #include "platform/options.h"
 #include "platform/procedure.h"
 #include "platform/word_lists.h"
-#include "widgets/click_label.h"
-#include "widgets/guards.h"
-#include "widgets/main_controls.h"
-#include "widgets/preparing.h"
-#include "widgets/press_button.h"
-#include "widgets/progress_bar.h"
+#include "platform/work.h"
 
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
 
-/// Where a run shows itself and which flag stops it.
-struct WordMaker::Stage
-{
-    const char *realWords; ///< procedure names
-    const char *nonsenseWords;
-    GameProgressBar *progress;
-    QWidget *cancelLabel;
-    bool Modes::*cancel;
-    bool isKernling;
-};
+namespace {
 
-WordMaker::WordMaker(Ground &ground, const MainControls &controls, WordLists &lists, Modes &modes,
-                     const WordTests &tests, const TileStore &tiles, QObject *parent)
+WorkPlan planFor(int wordCount)
+{
+    return {WorkPlan::Bar | WorkPlan::Cancel | WorkPlan::Words, std::max(1, wordCount)};
+}
+
+} // namespace
+
+WordMaker::WordMaker(Ground &ground, WordLists &lists, const WordTests &tests, const TileStore &tiles,
+                     QObject *parent)
     : QObject(parent)
     , ground_(ground)
-    , controls_(controls)
     , lists_(lists)
-    , modes_(modes)
     , tests_(tests)
     , tiles_(tiles)
 {}
 
-WordMaker::Stage WordMaker::mainStage() const
+bool WordMaker::MakeDummyWordsInDic(int WordCount)
 {
-    return {"MakeDummyWordsInDic", "MakePseudoWordsTorvin", controls_.GameProgress,
-            controls_.Label4,      &Modes::CancelPreparing, false};
-}
-
-WordMaker::Stage WordMaker::kernlingStage(const KernlingStage &stage) const
-{
-    return {"MakeWordsForKernling", "MakePseudoWordsForKernling", stage.FillProgress,
-            stage.Label9,           &Modes::KernlingCancel,       true};
-}
-
-void WordMaker::MakeDummyWordsInDic(int WordCount) { makeRealWords(WordCount, mainStage()); }
-void WordMaker::MakePseudoWordsTorvin(int WordCount) { makeNonsenseWords(WordCount, mainStage()); }
-
-void WordMaker::MakeWordsForKernling(int WordCount, const KernlingStage &stage)
-{
-    makeRealWords(WordCount, kernlingStage(stage));
-}
-
-void WordMaker::MakePseudoWordsForKernling(int WordCount, const KernlingStage &stage)
-{
-    makeNonsenseWords(WordCount, kernlingStage(stage));
-}
-
-void WordMaker::makeRealWords(int wordCount, const Stage &stage)
-{
-    Procedure step{ground_.log, stage.realWords, "frmMain"};
-    const Hourglass hourglass;
-    modes_.CancelPreparing = false;
-    if (!stage.isKernling)
-        ToggleButtonsOnPreparing(controls_, false);
-    step([&] { startProgress(wordCount, stage); });
+    Procedure step{ground_.log, "MakeDummyWordsInDic", "frmMain"};
+    Work work(ground_, planFor(WordCount));
     step([&] { lists_.CorrectWordList.clear(); });
-    if (!stage.isKernling)
-        step([&] { emit stripToClear(); });
-    step([&] { collectMorphemes(tiles_.tiles(), lists_); });
-    stage.cancelLabel->show();
-    step([&] { searchRealWords(wordCount, stage); });
-
-    // After the stem game's own cancel this flag is down, so that what was found is kept: required.
-    if (modes_.CancelPreparing) {
-        step([&] { abandonRealWords(stage); });
-        return;
-    }
-    modes_.*stage.cancel = false;
-    stage.cancelLabel->hide();
+    step([&] { emit stripToClear(); });
+    step([&] { searchRealWords(WordCount, work); });
+    if (work.isCancelled())
+        return false;
     step([&] { properCaseAll(lists_, tests_); });
-    if (stage.isKernling)
-        stage.progress->resetAndHide();
-    else
-        ToggleButtonsOnPreparing(controls_, true);
+    return true;
 }
 
-void WordMaker::searchRealWords(int wordCount, const Stage &stage)
+void WordMaker::MakeWordsForKernling(int WordCount, WorkView &view)
 {
+    Procedure step{ground_.log, "MakeWordsForKernling", "FrmKernling"};
+    Work work(ground_, planFor(WordCount), &view);
+    step([&] { lists_.CorrectWordList.clear(); });
+    step([&] { searchRealWords(WordCount, work); });
+    step([&] { properCaseAll(lists_, tests_); });
+}
+
+void WordMaker::searchRealWords(int wordCount, Work &work)
+{
+    collectMorphemes(tiles_.tiles(), lists_);
+    work.appear();
     int found = 0;
-    while (found != wordCount && !(modes_.*stage.cancel)) {
+    while (found != wordCount && !work.isCancelled()) {
         if (tryRealWord(lists_, tests_, ground_.rnd)) {
             ++found;
-            stage.progress->setCaption(QString::number(lists_.CorrectWordList.count()) +
-                                       u" Wörter vorbereitet"_s);
+            work.tell(QString::number(lists_.CorrectWordList.count()) + u" Wörter vorbereitet"_s);
         }
-        yieldToInput();
+        work.goesOn();
     }
 }
 
-void WordMaker::abandonRealWords(const Stage &stage)
+void WordMaker::MakePseudoWordsTorvin(int WordCount)
 {
-    freeGameTools();
-    stage.progress->resetAndHide();
-    ground_.pump.yield();
-    if (!stage.isKernling)
-        ToggleButtonsOnPreparing(controls_, true);
-    modes_.RetypeActive = false;
-    modes_.clearRetypeSources();
-    emit modesCleared();
+    Work work(ground_, planFor(WordCount));
+    makeNonsenseWords("MakePseudoWordsTorvin", WordCount, work);
 }
 
-void WordMaker::makeNonsenseWords(int wordCount, const Stage &stage)
+void WordMaker::MakePseudoWordsForKernling(int WordCount, WorkView &view)
 {
-    Procedure step{ground_.log, stage.nonsenseWords, "frmMain"};
-    const Hourglass hourglass;
-    modes_.*stage.cancel = false;
-    if (!stage.isKernling)
-        ToggleButtonsOnPreparing(controls_, false);
-    step([&] { startProgress(wordCount, stage); });
+    Work work(ground_, planFor(WordCount), &view);
+    makeNonsenseWords("MakePseudoWordsForKernling", WordCount, work);
+}
+
+void WordMaker::makeNonsenseWords(const char *procedure, int wordCount, Work &work)
+{
+    Procedure step{ground_.log, procedure, "frmMain"};
     step([&] { lists_.PseudoWordList.clear(); });
     step([&] { emit stripToClear(); });
     step([&] { collectNonsenseMorphemes(tiles_.tiles(), listBaseName(lists_.CurrentWortelFile), lists_); });
-    stage.cancelLabel->show();
-    step([&] { searchNonsenseWords(wordCount, stage); });
-
-    if (modes_.*stage.cancel)
-        freeGameTools();
-    modes_.*stage.cancel = false;
-    stage.cancelLabel->hide();
-    if (stage.isKernling) {
-        stage.progress->resetAndHide();
-        step([&] { ground_.pump.yield(); });
-    } else {
-        ToggleButtonsOnPreparing(controls_, true);
-    }
+    step([&] { searchNonsenseWords(wordCount, work); });
+    work.forgetCancel();
 }
 
-void WordMaker::searchNonsenseWords(int wordCount, const Stage &stage)
+void WordMaker::searchNonsenseWords(int wordCount, Work &work)
 {
     nonsense::Generator generator(lists_, tests_, ground_.rnd,
                                   ground_.options.box(Setting::InitCapPseudoSuffixes));
     const auto showCount = [&] {
-        stage.progress->setCaption(QString::number(lists_.PseudoWordList.count()) +
-                                   u" Unsinnswörter vorbereitet"_s);
+        work.tell(QString::number(lists_.PseudoWordList.count()) + u" Unsinnswörter vorbereitet"_s);
     };
+    work.appear();
     int found = 0;
-    while (found != wordCount && !(modes_.*stage.cancel)) {
+    while (found != wordCount && !work.isCancelled()) {
         if (generator.tryWord()) {
             ++found;
             showCount();
         }
-        yieldToInput();
+        work.goesOn();
         if (const int removed = generator.sweep(); removed > 0) {
             found -= removed;
             showCount();
         }
     }
-}
-
-void WordMaker::startProgress(int wordCount, const Stage &stage)
-{
-    stage.progress->setMaximum(std::max(1, wordCount));
-    stage.progress->setValue(0);
-    stage.progress->setCaption(u"Bitte warten..."_s);
-    stage.progress->show();
-    ground_.pump.yield();
-}
-
-void WordMaker::freeGameTools()
-{
-    controls_.Check3->setEnabled(true);
-    for (PressButton *level : controls_.Option2)
-        level->setEnabled(true);
-}
-
-/// A cheap question in each round keeps the search fast: the window is served only when it has something to
-/// do.
-void WordMaker::yieldToInput()
-{
-    if (ground_.pump.inputWaiting())
-        ground_.pump.yield();
 }

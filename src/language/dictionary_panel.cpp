@@ -2,10 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "language/dictionary_panel.h"
 
+#include "board/hand/command_router.h"
 #include "language/list_stand.h"
+#include "platform/gate.h"
 #include "platform/ground.h"
 #include "platform/procedure.h"
 #include "platform/word_lists.h"
+#include "widgets/control_sheet.h"
 #include "widgets/dropper.h"
 #include "widgets/main_controls.h"
 #include "widgets/opening_press.h"
@@ -17,53 +20,67 @@
 
 using namespace Qt::StringLiterals;
 
-DictionaryPanel::DictionaryPanel(Ground &ground, const MainControls &controls, WordLists &lists,
-                                 QObject *parent)
+namespace {
+
+#define CONTROL(member) [](const MainControls &c) -> QWidget * { return c.member; }
+/// No word is checked or dragged while the dictionary lies open.
+constexpr SheetRow openSheet[] = {{CONTROL(Command2), SheetRow::Disabled},
+                                  {CONTROL(Option1[0]), SheetRow::Disabled},
+                                  {CONTROL(Command3), SheetRow::None, u"Suchen"}};
+constexpr SheetRow searchSheet[] = {{CONTROL(Command2), SheetRow::Disabled},
+                                    {CONTROL(Option1[0]), SheetRow::Disabled},
+                                    {CONTROL(Command4), SheetRow::Disabled}};
+#undef CONTROL
+
+} // namespace
+
+DictionaryPanel::DictionaryPanel(Ground &ground, const MainControls &controls, ControlSheet &sheet,
+                                 WordLists &lists, QObject *parent)
     : QObject(parent)
     , ground_(ground)
     , controls_(controls)
+    , sheet_(sheet)
     , lists_(lists)
     , mnuLex_(makeMenu())
 {}
+
+void DictionaryPanel::registerCommands(CommandRouter &router)
+{
+    router.onMenu(401, [this] { toggle(); });
+}
 
 bool DictionaryPanel::isOpen() const { return !controls_.LexiconList->isHidden(); }
 
 void DictionaryPanel::toggle()
 {
     Procedure step{ground_.log, "Command3_MouseDown", "frmMain"};
-    step([&] { standOnBand(controls_, controls_.LexiconList); });
-    controls_.LexiconList->setVisible(!isOpen());
-    controls_.Command4->setEnabled(true);
     if (isOpen()) {
-        controls_.Command3->setToolTip(u"Suchen"_s);
-        step([&] { openList(); });
+        close();
+        sheet_.setToolTip(controls_.Command3, u"Wörterbuch"_s);
+        controls_.Dropper1->takeFocus();
         return;
     }
-    controls_.Command3->setToolTip(u"Wörterbuch"_s);
-    step([&] { closeList(); });
-    controls_.Dropper1->setEnabled(true);
-    controls_.Dropper1->show();
-    controls_.Dropper1->takeFocus();
+    sheet_.lay(Reason::Dictionary, openSheet);
+    step([&] { openList(); });
 }
 
 void DictionaryPanel::toggleForSearch()
 {
     Procedure step{ground_.log, "Command2_MouseDown", "frmMain"};
-    step([&] { standOnBand(controls_, controls_.LexiconList); });
-    controls_.LexiconList->setVisible(!isOpen());
-    controls_.Command4->setEnabled(!isOpen());
     if (isOpen()) {
-        step([&] { openList(); });
+        close();
         return;
     }
-    step([&] { closeList(); });
-    controls_.Command5->setEnabled(true);
+    sheet_.lay(Reason::Dictionary, searchSheet);
+    step([&] { openList(); });
 }
 
 /// The word in the entry field is dropped before it could be searched for: the search box starts empty, as
 /// required.
 void DictionaryPanel::openList()
 {
+    standOnBand(controls_, controls_.LexiconList);
+    controls_.LexiconList->show();
     controls_.CorrectWordList->hide();
     controls_.Dropper1->setCaption(QString());
     const QRect list = controls_.LexiconList->geometry();
@@ -75,25 +92,19 @@ void DictionaryPanel::openList()
     controls_.Text2->setFocus();
     if (controls_.form->focusWidget() == controls_.Text2)
         controls_.Text2->selectAll();
-    controls_.Command2->setEnabled(false);
-    controls_.Option1[0]->setEnabled(false);
 }
 
-void DictionaryPanel::closeList()
+void DictionaryPanel::close()
 {
+    controls_.LexiconList->hide();
     controls_.Text2->hide();
-    controls_.Command2->setEnabled(true);
-    controls_.Option1[0]->setEnabled(true);
+    sheet_.takeOff(Reason::Dictionary);
 }
 
 void DictionaryPanel::storeLoading(const WordStore *store)
 {
-    if (store != &lists_.LexiconList || !isOpen())
-        return;
-    controls_.LexiconList->hide();
-    controls_.Command3->setToolTip(u"Wörterbuch"_s);
-    controls_.Command4->setEnabled(true);
-    closeList();
+    if (store == &lists_.LexiconList && isOpen())
+        close();
 }
 
 void DictionaryPanel::Text2_Change()
@@ -101,6 +112,11 @@ void DictionaryPanel::Text2_Change()
     if (!isOpen())
         return;
     controls_.LexiconList->setListIndex(lists_.LexiconList.findPrefix(controls_.Text2->text(), 0));
+}
+
+template <typename Slot> auto DictionaryPanel::play(Slot slot)
+{
+    return throughGate(ground_.gate, Gate::Way::Play, [slot](auto &&...) { slot(); });
 }
 
 QMenu *DictionaryPanel::makeMenu()
@@ -113,19 +129,19 @@ QMenu *DictionaryPanel::makeMenu()
         return action;
     };
     connect(add(u"mnuShowTip"_s, u"Tipp zeigen"_s), &QAction::triggered, this,
-            &DictionaryPanel::tipRequested);
+            play([this] { emit tipRequested(); }));
     menu->addSeparator();
     connect(add(u"mnuAddToRetypeList"_s, u"Ausgewähltes Wort in Wörterliste hinzufügen"_s),
-            &QAction::triggered, this, &DictionaryPanel::mnuAddToRetypeList);
+            &QAction::triggered, this, play([this] { mnuAddToRetypeList(); }));
     connect(add(u"mnuClearRetypeList"_s, u"Alle Wörter in Wörterliste löschen"_s), &QAction::triggered, this,
-            &DictionaryPanel::mnuClearRetypeList);
+            play([this] { mnuClearRetypeList(); }));
     connect(add(u"mnuStartRetypeFromList"_s, u"Abschreiben der Wörterliste starten"_s), &QAction::triggered,
-            this, &DictionaryPanel::startRetypeFromList);
+            this, play([this] { emit startRetypeFromList(); }));
     menu->addSeparator();
     connect(add(u"mnuAddWortelToRetypeList"_s, u"Auswahlfenster"_s), &QAction::triggered, this,
-            &DictionaryPanel::chooserRequested);
+            play([this] { emit chooserRequested(); }));
     menu->addSeparator();
-    connect(add(u"mnuCloseLex"_s, u"Schließen"_s), &QAction::triggered, this, &DictionaryPanel::toggle);
+    connect(add(u"mnuCloseLex"_s, u"Schließen"_s), &QAction::triggered, this, play([this] { toggle(); }));
     return menu;
 }
 

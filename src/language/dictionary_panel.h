@@ -7,6 +7,8 @@
 class QMenu;
 class QPoint;
 class WordStore;
+class CommandRouter;
+class ControlSheet;
 struct Ground;
 struct MainControls;
 struct WordLists;
@@ -18,8 +20,9 @@ class DictionaryPanel : public QObject
     Q_OBJECT
 
 public:
-    DictionaryPanel(Ground &ground, const MainControls &controls, WordLists &lists,
+    DictionaryPanel(Ground &ground, const MainControls &controls, ControlSheet &sheet, WordLists &lists,
                     QObject *parent = nullptr);
+    void registerCommands(CommandRouter &router);
 
     bool isOpen() const;
     /// The left press on `Command3`: shows or hides the dictionary.
@@ -29,6 +32,8 @@ public:
     /// A list file is being loaded into `store`: if it is the dictionary, the open panel closes and stays
     /// closed.
     void storeLoading(const WordStore *store);
+    /// Closes it, if it is open, and leaves the focus alone.
+    void close();
     /// A new text in the search box: selects the first entry that begins with it.
     void Text2_Change();
     /// A right press on the list, at a point in its pixels: opens the menu, if there is a word.
@@ -41,13 +46,14 @@ signals:
 
 private:
     void openList();
-    void closeList();
+    template <typename Slot> auto play(Slot slot);
     QMenu *makeMenu();
     void mnuAddToRetypeList();
     void mnuClearRetypeList();
 
     Ground &ground_;
     const MainControls &controls_;
+    ControlSheet &sheet_;
     WordLists &lists_;
     QMenu *mnuLex_;
 };

@@ -2,17 +2,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "language/list_chooser.h"
 
+#include "board/hand/command_router.h"
+#include "board/tiles/board_news.h"
 #include "board/tiles/tile_store.h"
 #include "language/list_loader.h"
 #include "platform/clock.h"
 #include "platform/file_dialogs.h"
 #include "platform/files.h"
+#include "platform/gate.h"
 #include "platform/ground.h"
 #include "platform/procedure.h"
 #include "platform/text.h"
 #include "platform/word_lists.h"
+#include "platform/work.h"
 #include "widgets/alpha_panel.h"
-#include "widgets/dealing_tools.h"
 #include "widgets/guards.h"
 #include "widgets/main_controls.h"
 #include "widgets/plain_tool_tip.h"
@@ -32,21 +35,26 @@ QString inBrackets(qsizetype count) { return u'[' + QString::number(count) + u']
 } // namespace
 
 ListChooser::ListChooser(Ground &ground, const MainControls &controls, WordLists &lists, ListLoader &loader,
-                         TileStore &tiles, BoardCalls board, QObject *parent)
+                         TileStore &tiles, BoardNews &news, BoardCalls board, QObject *parent)
     : QObject(parent)
     , ground_(ground)
     , controls_(controls)
     , lists_(lists)
     , loader_(loader)
     , tiles_(tiles)
+    , news_(news)
     , board_(std::move(board))
 {}
+
+void ListChooser::registerCommands(CommandRouter &router)
+{
+    router.onMenu(201, [this] { chooseStemLists(); });
+    router.onMenu(402, [this] { chooseDictionaries(); });
+}
 
 void ListChooser::chooseStemLists()
 {
     Procedure step{ground_.log, "Check2_MouseDown", "frmMain"};
-    const DealingToolsRest rest(controls_);
-    const Hourglass hourglass;
     QStringList paths;
     step([&] {
         paths = ground_.fileDialogs.openFiles(u"Wortel laden (Multi)"_s, ground_.AppFolder + u"text"_s,
@@ -54,6 +62,8 @@ void ListChooser::chooseStemLists()
     });
     if (paths.isEmpty())
         return;
+    const Work work(ground_);
+    emit listsChosen();
     controls_.PicAlpha->hide();
     controls_.Label3->setText(inBrackets(paths.size()));
     step([&] { lists_.CorrectWordList.clear(); });
@@ -66,22 +76,23 @@ void ListChooser::chooseStemLists()
     for (QString path : paths)
         step([&] { loader_.FillWortelList(path); });
     controls_.Label3->setToolTip(plainToolTip(shownName));
-    step([&] { board_.Refill(); });
+    bool dealt = false;
+    step([&] { dealt = board_.Refill(); });
+    if (dealt)
+        step([&] { news_.Commit(); });
 }
 
 void ListChooser::chooseDictionaries()
 {
     Procedure step{ground_.log, "Command3_MouseDown", "frmMain"};
-    const Hourglass hourglass;
     QStringList paths;
     step([&] {
         paths = ground_.fileDialogs.openFiles(u"Wörterbuch laden (multi)"_s, ground_.AppFolder + u"facit"_s,
                                               u"Wörterbücher (*.lex)|*.lex"_s, true);
     });
-    if (paths.isEmpty()) {
-        controls_.Check2->setEnabled(true);
+    if (paths.isEmpty())
         return;
-    }
+    const Hourglass hourglass;
     controls_.Label3->setText(inBrackets(paths.size()));
     step([&] { lists_.CorrectWordList.clear(); });
     step([&] { lists_.LexiconList.clear(); });
@@ -89,9 +100,9 @@ void ListChooser::chooseDictionaries()
         step([&] { loader_.Fill_Lexicon(RTrimText(ListLoader::facitPath(path), u".txt"_s)); });
 }
 
-void ListChooser::WortelList_Click(int row) { layTile(*kindOfColour(colours::wortelBack), row); }
-void ListChooser::PrefixList_Click(int row) { layTile(*kindOfColour(colours::prefixBack), row); }
-void ListChooser::SuffixList_Click(int row) { layTile(*kindOfColour(colours::suffixBack), row); }
+void ListChooser::WortelList_Click(int row) { layTile(wortelKind, row); }
+void ListChooser::PrefixList_Click(int row) { layTile(prefixKind, row); }
+void ListChooser::SuffixList_Click(int row) { layTile(suffixKind, row); }
 
 void ListChooser::layTile(const TileKind &kind, int row)
 {
@@ -100,6 +111,9 @@ void ListChooser::layTile(const TileKind &kind, int row)
     const char *const names[] = {"WortelList_Click", "PrefixList_Click", "SuffixList_Click"};
     const auto index = static_cast<std::size_t>(kind.filterIndex);
 
+    const Gate::Passage passage = ground_.gate.enter(Gate::Way::Play);
+    if (!passage)
+        return;
     Procedure step{ground_.log, names[index], "frmMain"};
     if (row < 0 || row >= stores[index]->count())
         return;
@@ -109,6 +123,6 @@ void ListChooser::layTile(const TileKind &kind, int row)
                                 kind.back, kind.text);
     });
     step([&] { tiles_.counters().add(kind.filterIndex, 1); });
-    step([&] { ground_.pump.yield(); });
     step([&] { board_.DoOnDrop(); });
+    step([&] { news_.Commit(); });
 }

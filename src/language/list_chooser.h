@@ -6,6 +6,8 @@
 
 #include <functional>
 
+class BoardNews;
+class CommandRouter;
 class ListLoader;
 class TileStore;
 struct Ground;
@@ -23,12 +25,13 @@ public:
     /// What the board does for the gestures.
     struct BoardCalls
     {
-        std::function<void()> Refill;   ///< deals new tiles from the lists
+        std::function<bool()> Refill;   ///< deals new tiles from the lists
         std::function<void()> DoOnDrop; ///< takes a tile over as if it had been dropped
     };
 
     ListChooser(Ground &ground, const MainControls &controls, WordLists &lists, ListLoader &loader,
-                TileStore &tiles, BoardCalls board, QObject *parent = nullptr);
+                TileStore &tiles, BoardNews &news, BoardCalls board, QObject *parent = nullptr);
+    void registerCommands(CommandRouter &router);
 
     /// The right press on `Check2`: one or several stem lists with their dictionaries, and a new board.
     void chooseStemLists();
@@ -36,9 +39,14 @@ public:
     /// of the stem list.
     void chooseDictionaries();
 
+    // A click on a row: a new tile of that text. Each passes the gate.
     void WortelList_Click(int row);
     void PrefixList_Click(int row);
     void SuffixList_Click(int row);
+
+signals:
+    /// Stem lists were chosen: what was made of the old ones ends.
+    void listsChosen();
 
 private:
     void layTile(const TileKind &kind, int row);
@@ -48,5 +56,6 @@ private:
     WordLists &lists_;
     ListLoader &loader_;
     TileStore &tiles_;
+    BoardNews &news_;
     BoardCalls board_;
 };

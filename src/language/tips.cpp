@@ -2,19 +2,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "language/tips.h"
 
+#include "board/hand/command_router.h"
 #include "platform/boxes.h"
 #include "platform/files.h"
+#include "platform/gate.h"
 #include "platform/ground.h"
 #include "platform/ini_file.h"
-#include "platform/modes.h"
 #include "platform/options.h"
+#include "platform/play_state.h"
 #include "platform/procedure.h"
-#include "platform/sound.h"
+#include "platform/sounds.h"
 #include "platform/word_lists.h"
 #include "widgets/alpha_panel.h"
 #include "widgets/click_label.h"
+#include "widgets/dropper.h"
+#include "widgets/floating_tile.h"
 #include "widgets/gradient.h"
 #include "widgets/main_controls.h"
+#include "widgets/msg_scroller.h"
 #include "widgets/picture_box.h"
 
 #include <QApplication>
@@ -28,11 +33,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int valueLimit = 750; ///< characters of a tip
-constexpr int tipSound = 110;
+constexpr int valueLimit = 750;    ///< characters of a tip
 constexpr int largestLetters = 26; ///< pixels
 constexpr int smallestLetters = 12;
 constexpr int closeLetters = 16;
+constexpr int handsFreeLater = 2000; ///< milliseconds
 
 const QString section = u"Tipp"_s;
 
@@ -53,12 +58,12 @@ void startFor(QTimer *timer, double seconds)
 
 } // namespace
 
-Tips::Tips(Ground &ground, MainControls &controls, WordLists &lists, Modes &modes)
+Tips::Tips(Ground &ground, MainControls &controls, WordLists &lists, const PlayState &play)
     : QObject(controls.form)
     , ground_(ground)
     , controls_(controls)
     , lists_(lists)
-    , modes_(modes)
+    , play_(play)
     , TipTimer_(new QTimer(this))
     , GameTipTimer_(new QTimer(this))
     , VokalTipTimer_(new QTimer(this))
@@ -71,7 +76,13 @@ Tips::Tips(Ground &ground, MainControls &controls, WordLists &lists, Modes &mode
     connect(VokalTipTimer_, &QTimer::timeout, this, &Tips::VokalTipTimer_Tick);
     connect(controls_.PicAlpha, &AlphaPanel::clicked, this, &Tips::hideTip);
     connect(controls_.Label5, &ClickLabel::clicked, this, &Tips::hideTip);
-    connect(controls_.Image1, &ClickLabel::clicked, this, &Tips::Image1_Click);
+    // A press on the bulb has given the focus to the bare window before the tip opens.
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *old, QWidget *now) {
+        if (now != nullptr)
+            lostToWindow_ = now == controls_.form && controls_.form->isAncestorOf(old) ? old : nullptr;
+    });
+    connect(controls_.Image1, &ClickLabel::clicked, this,
+            throughGate(ground_.gate, Gate::Way::Look, [this] { Image1_Click(); }));
     controls_.AlphaText->setTextFormat(Qt::PlainText);
     controls_.AlphaText->setWordWrap(true);
     controls_.AlphaText->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -79,7 +90,14 @@ Tips::Tips(Ground &ground, MainControls &controls, WordLists &lists, Modes &mode
 
 bool Tips::isShown() const { return !controls_.PicAlpha->isHidden(); }
 
-void Tips::hideTip() { controls_.PicAlpha->hide(); }
+void Tips::hideTip()
+{
+    controls_.PicAlpha->hide();
+    // The click has taken the focus to the window; a word that was being typed goes on.
+    if (focusBefore_ != nullptr)
+        focusBefore_->setFocus(Qt::OtherFocusReason);
+    focusBefore_.clear();
+}
 
 QString Tips::readTip(const QString &file, const QString &key)
 {
@@ -113,7 +131,7 @@ void Tips::ShowLexiconTip2(const QString &lexiconPath, const QString &mode)
     step([&] { showTip(text, mode); });
 }
 
-void Tips::ShowVokalTip(const QString &kind, const QString &mode)
+void Tips::ShowVokalTip(Vowels group, const QString &mode)
 {
     Procedure step{ground_.log, "ShowVokalTip", "frmMain"};
     const QString file = ground_.AppFolder + u"vokaltip.ini"_s;
@@ -121,7 +139,7 @@ void Tips::ShowVokalTip(const QString &kind, const QString &mode)
         complain(u"Die Tipp-Datei (vokaltip.ini) fehlt"_s);
         return;
     }
-    const QString text = readTip(file, kind == u"KURZ"_s ? u"Kurzvokal"_s : u"Langvokal"_s);
+    const QString text = readTip(file, group == Vowels::Short ? u"Kurzvokal"_s : u"Langvokal"_s);
     if (text.isEmpty()) {
         complain(u"Die Tipp-Datei (vokaltip.ini) ist beschädigt oder unvollständig"_s);
         return;
@@ -135,10 +153,12 @@ void Tips::showTip(const QString &text, const QString &mode)
     if (std::find(modes.begin(), modes.end(), mode) != modes.end())
         controls_.AlphaText->setText(QString(text).replace(u"<BR>"_s, u"\n"_s));
     layOutPanel();
+    if (!isShown())
+        focusBefore_ = lostToWindow_ != nullptr ? lostToWindow_.get() : controls_.form->focusWidget();
     controls_.PicAlpha->show();
     controls_.PicAlpha->raise();
-    if (ground_.options.isOn(Setting::SoundOnActions))
-        ground_.sound.PlayResourceSound(tipSound);
+    controls_.Scroller->raise(); // the words to copy stay in sight
+    playSound(ground_, SoundId::TipShown);
 }
 
 void Tips::recompose()
@@ -209,8 +229,9 @@ void Tips::startVokalTipTimer()
         startFor(VokalTipTimer_, ground_.options.number(Setting::VokalTipTime));
 }
 
-void Tips::stopGameTimers()
+void Tips::stopTimers()
 {
+    TipTimer_->stop();
     GameTipTimer_->stop();
     VokalTipTimer_->stop();
 }
@@ -218,32 +239,55 @@ void Tips::stopGameTimers()
 void Tips::TipTimer_Tick()
 {
     TipTimer_->stop();
-    if (!IsSideWindowOpen() && !isShown())
-        ShowLexiconTip2(lists_.CurrentLexiconFile, u"WORTEL"_s);
+    showWhenFree([this] { ShowLexiconTip2(lists_.CurrentLexiconFile, u"WORTEL"_s); });
 }
 
 void Tips::GameTipTimer_Tick()
 {
     GameTipTimer_->stop();
-    if (!IsSideWindowOpen() && !isShown())
-        ShowLexiconTip2(lists_.CurrentLexiconFile, u"GAME"_s);
+    showWhenFree([this] { ShowLexiconTip2(lists_.CurrentLexiconFile, u"GAME"_s); });
 }
 
 void Tips::VokalTipTimer_Tick()
 {
     VokalTipTimer_->stop();
-    if (!IsSideWindowOpen() && !isShown())
-        ShowVokalTip(modes_.KurzVokalMode ? u"KURZ"_s : u"LANG"_s, u"GAME"_s);
+    showWhenFree([this] { ShowVokalTip(play_.checkedVowels(), u"GAME"_s); });
+}
+
+/// Never over the running strip, nor while a tile is in the hand.
+void Tips::showWhenFree(const std::function<void()> &show)
+{
+    ground_.gate.whenFree([this, show] {
+        if (IsSideWindowOpen() || isShown() || play_.RetypeActive())
+            return;
+        if (!controls_.BtnMove1->isHidden())
+            QTimer::singleShot(handsFreeLater, this, [this, show] { showWhenFree(show); });
+        else
+            show();
+    });
 }
 
 void Tips::Image1_Click()
 {
     if (isShown())
         return;
-    if (modes_.KurzVokalMode || modes_.LangVokalMode)
-        ShowVokalTip(modes_.KurzVokalMode ? u"KURZ"_s : u"LANG"_s, u"ONREQUEST"_s);
+    if (play_.checkedVowels() != Vowels::None)
+        ShowVokalTip(play_.checkedVowels(), u"ONREQUEST"_s);
     else
-        mnuShowTip_Click();
+        ShowLexiconTip2(lists_.CurrentLexiconFile, u"ONREQUEST"_s);
 }
 
-void Tips::mnuShowTip_Click() { ShowLexiconTip2(lists_.CurrentLexiconFile, u"ONREQUEST"_s); }
+void Tips::mnuShowTip_Click()
+{
+    if (!isShown())
+        ShowLexiconTip2(lists_.CurrentLexiconFile, u"ONREQUEST"_s);
+}
+
+void Tips::registerCommands(CommandRouter &router)
+{
+    router.onMenu(275, [this] { mnuShowTip_Click(); });
+    router.on(command::From::Key, {8}, [this](const command::Command &, const Press &) {
+        mnuShowTip_Click();
+        return Ending::Whole;
+    });
+}

@@ -3,12 +3,19 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <QString>
 
+#include <cstdint>
+#include <functional>
+
+class CommandRouter;
+class PlayState;
 class QTimer;
+class QWidget;
+enum class Vowels : std::uint8_t;
 struct Ground;
 struct MainControls;
-struct Modes;
 struct WordLists;
 
 /// The spelling tips: a tip of the dictionary in use, or of short and long vowels, lies as a translucent
@@ -18,14 +25,16 @@ class Tips : public QObject
     Q_OBJECT
 
 public:
-    /// Connects the panel's clicks and the bulb.
-    Tips(Ground &ground, MainControls &controls, WordLists &lists, Modes &modes);
+    /// Connects the panel's clicks and the bulb. Its timers pass the gate: a tip that falls due while
+    /// something runs comes afterwards.
+    Tips(Ground &ground, MainControls &controls, WordLists &lists, const PlayState &play);
 
     /// Shows the tip of a dictionary (stored path). `mode` is "WORTEL", "GAME" or "ONREQUEST"; with any other
     /// word the panel comes with the text it had.
     void ShowLexiconTip2(const QString &lexiconPath, const QString &mode);
-    /// Shows the tip of the short ("KURZ") or the long vowels ("LANG"), with the same modes.
-    void ShowVokalTip(const QString &kind, const QString &mode);
+    /// Shows the tip of one group of vowels, with the same modes.
+    void ShowVokalTip(Vowels group, const QString &mode);
+    void registerCommands(CommandRouter &router);
     bool isShown() const;
     void hideTip();
     /// Lays the panel over the board anew if it is shown: the board has another size.
@@ -35,7 +44,7 @@ public:
     void startTipTimer();
     void startGameTipTimer();
     void startVokalTipTimer();
-    void stopGameTimers();
+    void stopTimers();
 
     void TipTimer_Tick();
     void GameTipTimer_Tick();
@@ -48,6 +57,7 @@ public:
 
 private:
     void showTip(const QString &text, const QString &mode);
+    void showWhenFree(const std::function<void()> &show);
     void layOutPanel();
     /// The text of a key, or the empty string where there is none or the file cannot be read.
     QString readTip(const QString &file, const QString &key);
@@ -56,8 +66,10 @@ private:
     Ground &ground_;
     MainControls &controls_;
     WordLists &lists_;
-    Modes &modes_;
+    const PlayState &play_;
     QTimer *TipTimer_;
     QTimer *GameTipTimer_;
     QTimer *VokalTipTimer_;
+    QPointer<QWidget> lostToWindow_; ///< what had the focus before the window itself, while that has it
+    QPointer<QWidget> focusBefore_;  ///< the tip came
 };

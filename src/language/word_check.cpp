@@ -7,11 +7,9 @@
 #include "platform/boxes.h"
 #include "platform/clock.h"
 #include "platform/ground.h"
-#include "platform/modes.h"
 #include "platform/options.h"
 #include "platform/procedure.h"
 #include "platform/report_popup.h"
-#include "platform/sound.h"
 #include "platform/text.h"
 #include "platform/word_lists.h"
 #include "widgets/dropper.h"
@@ -27,36 +25,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int soundRight = 101;
-constexpr int soundNotFound = 102;
-constexpr int soundCleared = 105;
-constexpr int soundKey = 106;
-constexpr int soundCapitals = 111;
-constexpr int soundWrongVowel = 124;
-
 QString quoted(const QString &word) { return u'"' + word + u'"'; }
 
 } // namespace
 
-/// What tells the two vowel branches apart.
-struct WordCheck::VowelGroup
-{
-    const char16_t *kind;
-    const char16_t *otherKind;
-    const char16_t *stripKind;
-    bool speaksOnlyIfFilled; ///< missing from the short branch: the field is never empty there
-};
-
-const WordCheck::VowelGroup WordCheck::shortVowels{u"KURZ", u"LANG", u"KURZVOKAL", false};
-const WordCheck::VowelGroup WordCheck::longVowels{u"LANG", u"KURZ", u"LANGVOKAL", true};
-
-WordCheck::WordCheck(Ground &ground, const MainControls &controls, WordLists &lists, Modes &modes,
+WordCheck::WordCheck(Ground &ground, const MainControls &controls, WordLists &lists, PlayState &play,
                      const WordTests &tests, DictionaryPanel &dictionary, ReportPopup &popup, QObject *parent)
     : QObject(parent)
     , ground_(ground)
     , controls_(controls)
     , lists_(lists)
-    , modes_(modes)
+    , play_(play)
     , tests_(tests)
     , dictionary_(dictionary)
     , popup_(popup)
@@ -66,7 +45,7 @@ void WordCheck::Command2_MouseDown(Qt::MouseButton button)
 {
     Procedure step{ground_.log, "Command2_MouseDown", "frmMain"};
     if (button == Qt::RightButton) {
-        if (modes_.GameActive || modes_.RetypeActive)
+        if (play_.GameActive() || play_.RetypeActive())
             return;
         step([&] {
             if (takeEntry())
@@ -83,12 +62,10 @@ void WordCheck::Command2_MouseDown(Qt::MouseButton button)
         return;
     const QString word = controls_.Dropper1->Caption();
     step([&] {
-        if (modes_.RetypePseudoWords)
+        if (play_.RetypePseudoWords())
             checkNonsense(word);
-        else if (modes_.KurzVokalMode)
-            checkVowel(word, shortVowels);
-        else if (modes_.LangVokalMode)
-            checkVowel(word, longVowels);
+        else if (play_.checkedVowels() != Vowels::None)
+            checkVowel(word, play_.checkedVowels());
         else
             checkInDictionary(word);
     });
@@ -100,8 +77,7 @@ void WordCheck::readVowelBoxes()
     const bool longOn = controls_.ChkVokal[1]->isChecked();
     if (shortOn && longOn)
         return;
-    modes_.KurzVokalMode = shortOn;
-    modes_.LangVokalMode = longOn;
+    play_.setCheckedVowels(shortOn ? Vowels::Short : longOn ? Vowels::Long : Vowels::None);
 }
 
 /// False, with a notice, if nothing is entered; else the entry is trimmed by the option.
@@ -118,7 +94,7 @@ bool WordCheck::takeEntry()
 
 void WordCheck::askForWord()
 {
-    ground_.boxes.ShowInfoBox(u"Gib bitte ein Wort ein"_s, u"WRITE"_s, u"Wortel-Meister: Wortkontrolle"_s);
+    ground_.boxes.ShowInfoBox(u"Gib bitte ein Wort ein"_s, BoxSign::Write, u"Wortel-Meister: Wortkontrolle"_s);
 }
 
 int WordCheck::verifySeconds() const
@@ -131,16 +107,17 @@ void WordCheck::checkInDictionary(const QString &word)
 {
     if (!tests_.In_Lexicon(word)) {
         popup_.Display(u"Wort nicht gefunden"_s, u"Das gesuchte Wort \n"_s, quoted(word) + u'\n',
-                       u" steht nicht im Wörterbuch."_s, verifySeconds(), soundNotFound, false, false);
+                       u" steht nicht im Wörterbuch."_s, verifySeconds(), SoundId::WordNotFound, false,
+                       false);
         offerAgain();
         return;
     }
     // The dictionary's spelling is shown, so that a hit teaches the right capitals; the list keeps the
     // learner's.
     popup_.Display(u"Richtig !"_s, u"Das gesuchte Wort \n"_s, quoted(tests_.ProperCase(word)) + u'\n',
-                   u"ist richtig."_s, verifySeconds(), soundRight, true, true);
-    if (modes_.RetypeActive) {
-        emit retypeWordFound(word, u"CORRECT_WORDS"_s);
+                   u"ist richtig."_s, verifySeconds(), SoundId::WordRight, true, true);
+    if (play_.RetypeActive()) {
+        emit retypeWordFound(word);
         ground_.pump.yield();
     } else {
         keep(word);
@@ -153,35 +130,36 @@ void WordCheck::checkNonsense(const QString &word)
 {
     if (!tests_.In_PseudoWordsList(word)) {
         popup_.Display(u"Wort nicht gefunden"_s, u"Das Unsinnswort \n"_s, quoted(word),
-                       u" steht nicht in der Wörterliste."_s, verifySeconds(), soundNotFound, false, false);
+                       u" steht nicht in der Wörterliste."_s, verifySeconds(), SoundId::WordNotFound, false,
+                       false);
         offerAgain();
         return;
     }
     popup_.Display(u"Richtig !"_s, u"Das Unsinnswort \n"_s, quoted(word), u"ist richtig abgeschrieben."_s,
-                   verifySeconds(), soundRight, true, true);
-    if (modes_.RetypeActive)
-        emit retypeWordFound(word, u"PSEUDO_WORDS"_s);
+                   verifySeconds(), SoundId::WordRight, true, true);
+    if (play_.RetypeActive())
+        emit retypeWordFound(word);
     clearEntry();
 }
 
-void WordCheck::checkVowel(const QString &word, const VowelGroup &group)
+void WordCheck::checkVowel(const QString &word, Vowels group)
 {
-    if (tests_.InKurzLangVokalList(word, QString::fromUtf16(group.kind))) {
-        if (!group.speaksOnlyIfFilled || !controls_.Dropper1->Caption().isEmpty())
+    if (tests_.InKurzLangVokalList(word, group)) {
+        // The short branch speaks without this test, since the field is never empty there.
+        if (group == Vowels::Short || !controls_.Dropper1->Caption().isEmpty())
             emit vowelWordFound(word);
-        if (modes_.RetypeActive)
-            emit retypeWordFound(word, QString::fromUtf16(group.stripKind));
+        if (play_.RetypeActive())
+            emit retypeWordFound(word);
         else
             keep(word);
         collectForGame(word);
         clearEntry();
         return;
     }
-    if (tests_.InKurzLangVokalList(word, QString::fromUtf16(group.otherKind))) {
-        if (ground_.options.isOn(Setting::SoundOnActions))
-            ground_.sound.PlayResourceSound(soundWrongVowel);
+    if (tests_.InKurzLangVokalList(word, group == Vowels::Short ? Vowels::Long : Vowels::Short)) {
+        playSound(ground_, SoundId::WrongVowels);
     } else {
-        ground_.boxes.ShowInfoBox(u"Bitte schreibe einen Wortstamm"_s, u"WRITE"_s,
+        ground_.boxes.ShowInfoBox(u"Bitte schreibe einen Wortstamm"_s, BoxSign::Write,
                                   u"Wortel-Meister: Lang/Kurz-Vokale"_s);
     }
     offerAgain();
@@ -196,19 +174,14 @@ void WordCheck::keep(const QString &word)
 /// A game never blocks on a repeated word: it is found right and simply not counted.
 void WordCheck::collectForGame(const QString &word)
 {
-    if (!modes_.GameActive || tests_.GameChkCollectedDupl(word))
+    if (!play_.GameActive() || tests_.GameChkCollectedDupl(word))
         return;
     lists_.GameCollectedList.add(word);
     controls_.Label1->setText(QString::number(lists_.GameCollectedList.count()));
     emit gameWordCollected(word);
 }
 
-void WordCheck::showEntry()
-{
-    controls_.Dropper1->setEnabled(true);
-    controls_.Dropper1->show();
-    controls_.Dropper1->takeFocus();
-}
+void WordCheck::showEntry() { controls_.Dropper1->takeFocus(); }
 
 void WordCheck::clearEntry()
 {
@@ -228,7 +201,6 @@ void WordCheck::offerAgain()
 void WordCheck::Command5_MouseDown(Qt::MouseButton button)
 {
     Procedure step{ground_.log, "Command5_MouseDown", "frmMain"};
-    // Both sounds answer to boxes of another purpose, on purpose.
     if (button == Qt::LeftButton) {
         clearEntry();
         if (dictionary_.isOpen()) {
@@ -236,8 +208,7 @@ void WordCheck::Command5_MouseDown(Qt::MouseButton button)
             controls_.Text2->clear();
             controls_.Text2->setFocus();
         }
-        if (ground_.options.isOn(Setting::GameSoundOnTimeOut))
-            step([&] { ground_.sound.PlayResourceSound(soundCleared); });
+        step([&] { playSound(ground_, SoundId::EntryCleared); });
     } else if (button == Qt::RightButton) {
         const QString word = controls_.Dropper1->Caption();
         if (word.isEmpty()) {
@@ -247,8 +218,7 @@ void WordCheck::Command5_MouseDown(Qt::MouseButton button)
         }
         controls_.Dropper1->setCaption(InitCapWord(word));
         showEntry();
-        if (ground_.options.isOn(Setting::SoundOnAllReTyped))
-            step([&] { ground_.sound.PlayResourceSound(soundCapitals); });
+        step([&] { playSound(ground_, SoundId::Capitals); });
     }
 }
 
@@ -258,21 +228,17 @@ void WordCheck::Dropper1_EnterPress()
         Command2_MouseDown(Qt::LeftButton);
 }
 
-void WordCheck::Dropper1_KeyPress()
-{
-    if (ground_.options.isOn(Setting::UseSounds))
-        ground_.sound.PlayResourceSound(soundKey);
-}
+void WordCheck::Dropper1_KeyPress() { playSound(ground_, SoundId::KeyTyped); }
 
 void WordCheck::ChkVokal_Click()
 {
     Procedure step{ground_.log, "ChkVokal_Click", "frmMain"};
     readVowelBoxes();
     if (controls_.ChkVokal[0]->isChecked())
-        thinOut(u"KURZ"_s);
+        thinOut(Vowels::Short);
     if (controls_.ChkVokal[1]->isChecked())
-        thinOut(u"LANG"_s);
-    if (modes_.KurzVokalMode || modes_.LangVokalMode)
+        thinOut(Vowels::Long);
+    if (play_.checkedVowels() != Vowels::None)
         return;
     step([&] { lists_.CorrectWordList.clear(); });
     step([&] { emit vowelsSwitchedOff(); });
@@ -280,13 +246,13 @@ void WordCheck::ChkVokal_Click()
 
 /// The word behind a removed one slides into its place and is passed over, and the index runs off the
 /// shortened list: required, so of two rejected neighbours the second stays.
-void WordCheck::thinOut(const QString &kind)
+void WordCheck::thinOut(Vowels group)
 {
     Procedure step{ground_.log, "ChkVokal_Click", "frmMain", Procedure::Silent};
     const int count = lists_.CorrectWordList.count();
     for (int row = 0; row < count; ++row)
         step([&] {
-            if (!tests_.InKurzLangVokalList(lists_.CorrectWordList.at(row), kind))
+            if (!tests_.InKurzLangVokalList(lists_.CorrectWordList.at(row), group))
                 lists_.CorrectWordList.removeAt(row);
         });
 }

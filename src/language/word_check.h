@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/play_state.h"
+
 #include <QObject>
 #include <QString>
 
@@ -10,7 +12,6 @@ class ReportPopup;
 class WordTests;
 struct Ground;
 struct MainControls;
-struct Modes;
 struct WordLists;
 
 /// The word check: asks the list of the running mode whether the word in the entry field exists, reports it,
@@ -20,7 +21,7 @@ class WordCheck : public QObject
     Q_OBJECT
 
 public:
-    WordCheck(Ground &ground, const MainControls &controls, WordLists &lists, Modes &modes,
+    WordCheck(Ground &ground, const MainControls &controls, WordLists &lists, PlayState &play,
               const WordTests &tests, DictionaryPanel &dictionary, ReportPopup &popup,
               QObject *parent = nullptr);
 
@@ -40,9 +41,8 @@ public:
     void readVowelBoxes();
 
 signals:
-    /// In retype mode `word` was copied rightly. `kind` is "CORRECT_WORDS", "PSEUDO_WORDS", "KURZVOKAL" or
-    /// "LANGVOKAL".
-    void retypeWordFound(const QString &word, const QString &kind);
+    /// In retype mode `word` was copied rightly.
+    void retypeWordFound(const QString &word);
     /// In a game a word was collected for the first time.
     void gameWordCollected(const QString &word);
     /// A stem of the asked vowel group is to be said aloud.
@@ -51,17 +51,13 @@ signals:
     void vowelsSwitchedOff();
 
 private:
-    struct VowelGroup;
-    static const VowelGroup shortVowels;
-    static const VowelGroup longVowels;
-
     bool takeEntry();
     void checkInDictionary(const QString &word);
     void checkNonsense(const QString &word);
-    void checkVowel(const QString &word, const VowelGroup &group);
+    void checkVowel(const QString &word, Vowels group);
     void collectForGame(const QString &word);
     void keep(const QString &word);
-    void thinOut(const QString &kind);
+    void thinOut(Vowels group);
     void clearEntry();
     void showEntry();
     void offerAgain();
@@ -71,7 +67,7 @@ private:
     Ground &ground_;
     const MainControls &controls_;
     WordLists &lists_;
-    Modes &modes_;
+    PlayState &play_;
     const WordTests &tests_;
     DictionaryPanel &dictionary_;
     ReportPopup &popup_;

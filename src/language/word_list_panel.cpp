@@ -2,15 +2,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "language/word_list_panel.h"
 
+#include "board/hand/command_router.h"
 #include "language/dictionary_panel.h"
 #include "language/list_stand.h"
 #include "language/word_tests.h"
 #include "platform/boxes.h"
 #include "platform/file_dialogs.h"
 #include "platform/files.h"
+#include "platform/gate.h"
 #include "platform/ground.h"
-#include "platform/modes.h"
 #include "platform/options.h"
+#include "platform/play_state.h"
 #include "platform/procedure.h"
 #include "platform/settings_store.h"
 #include "platform/text_encoding.h"
@@ -32,50 +34,54 @@ namespace {
 
 const QString program = u"Wortel-Meister"_s;
 
-QAction *addTo(QMenu *menu, const QString &name, const QString &caption)
-{
-    QAction *action = menu->addAction(caption);
-    action->setObjectName(name);
-    return action;
-}
-
 } // namespace
 
-WordListPanel::WordListPanel(Ground &ground, const MainControls &controls, WordLists &lists, Modes &modes,
-                             const WordTests &tests, DictionaryPanel &dictionary, QObject *parent)
+WordListPanel::WordListPanel(Ground &ground, const MainControls &controls, WordLists &lists,
+                             const PlayState &play, const WordTests &tests, DictionaryPanel &dictionary,
+                             QObject *parent)
     : QObject(parent)
     , ground_(ground)
     , controls_(controls)
     , lists_(lists)
-    , modes_(modes)
+    , play_(play)
     , tests_(tests)
     , dictionary_(dictionary)
     , mnuTest_(makeFilledMenu())
     , mnuTest2_(makeEmptyMenu())
 {}
 
+void WordListPanel::registerCommands(CommandRouter &router)
+{
+    router.onMenu(501, [this] { Show_Result(); });
+    router.onMenu(502, [this] { CorrectWordsToClip(); });
+    router.onMenu(503, [this] { Save_Result(); });
+    router.onMenu(506, [this] { editByMenu(); });
+}
+
+void WordListPanel::addEntry(QMenu *menu, const char16_t *name, const char16_t *caption,
+                             void (WordListPanel::*act)())
+{
+    QAction *action = menu->addAction(QString::fromUtf16(caption));
+    action->setObjectName(QString::fromUtf16(name));
+    connect(action, &QAction::triggered, this,
+            throughGate(ground_.gate, Gate::Way::Play, [this, act](bool) { (this->*act)(); }));
+}
+
 QMenu *WordListPanel::makeFilledMenu()
 {
     auto *menu = new QMenu(controls_.form);
     menu->setObjectName(u"mnuTest"_s);
-    connect(addTo(menu, u"mnuEditWord"_s, u"Wort bearbeiten"_s), &QAction::triggered, this,
-            [this] { askWord(Entry::Edit); });
+    addEntry(menu, u"mnuEditWord", u"Wort bearbeiten", &WordListPanel::mnuEditWord);
     menu->addSeparator();
-    connect(addTo(menu, u"mnuDeleteWord"_s, u"Wort entfernen"_s), &QAction::triggered, this,
-            &WordListPanel::mnuDeleteWord);
-    connect(addTo(menu, u"mnuDeleteAllWords"_s, u"Alle Wörter entfernen"_s), &QAction::triggered, this,
-            &WordListPanel::mnuDeleteAllWords);
+    addEntry(menu, u"mnuDeleteWord", u"Wort entfernen", &WordListPanel::mnuDeleteWord);
+    addEntry(menu, u"mnuDeleteAllWords", u"Alle Wörter entfernen", &WordListPanel::mnuDeleteAllWords);
     menu->addSeparator();
-    connect(addTo(menu, u"mnuMoveUp"_s, u"Wort darüber markieren"_s), &QAction::triggered, this,
-            [this] { moveSelection(-1); });
-    connect(addTo(menu, u"mnuMoveDown"_s, u"Wort darunter markieren"_s), &QAction::triggered, this,
-            [this] { moveSelection(1); });
+    addEntry(menu, u"mnuMoveUp", u"Wort darüber markieren", &WordListPanel::mnuMoveUp);
+    addEntry(menu, u"mnuMoveDown", u"Wort darunter markieren", &WordListPanel::mnuMoveDown);
     menu->addSeparator();
-    connect(addTo(menu, u"mnuAddWord"_s, u"Wort hinzufügen"_s), &QAction::triggered, this,
-            [this] { askWord(Entry::Add); });
+    addEntry(menu, u"mnuAddWord", u"Wort hinzufügen", &WordListPanel::mnuAddWord);
     menu->addSeparator();
-    connect(addTo(menu, u"mnuCloseTheList"_s, u"Schließen"_s), &QAction::triggered, this,
-            &WordListPanel::Show_Result);
+    addEntry(menu, u"mnuCloseTheList", u"Schließen", &WordListPanel::Show_Result);
     return menu;
 }
 
@@ -83,8 +89,7 @@ QMenu *WordListPanel::makeEmptyMenu()
 {
     auto *menu = new QMenu(controls_.form);
     menu->setObjectName(u"mnuTest2"_s);
-    connect(addTo(menu, u"mnuAddWord2"_s, u"Wort hinzufügen"_s), &QAction::triggered, this,
-            [this] { askWord(Entry::Add); });
+    addEntry(menu, u"mnuAddWord2", u"Wort hinzufügen", &WordListPanel::mnuAddWord);
     return menu;
 }
 
@@ -119,7 +124,7 @@ void WordListPanel::Save_Result()
     Procedure step{ground_.log, "Save_Result", "frmMain"};
     if (lists_.CorrectWordList.isEmpty()) {
         step([&] {
-            ground_.boxes.ShowInfoBox(u"Es gibt noch keine richtigen Wörter zum Speichern !"_s, u"INFO"_s,
+            ground_.boxes.ShowInfoBox(u"Es gibt noch keine richtigen Wörter zum Speichern !"_s, BoxSign::Info,
                                       program);
         });
         return;
@@ -149,7 +154,7 @@ void WordListPanel::CorrectWordsToClip()
     Procedure step{ground_.log, "CorrectWordsToClip", "frmMain"};
     step([&] {
         if (lists_.CorrectWordList.isEmpty())
-            ground_.boxes.ShowInfoBox(u"Es gibt noch keine richtigen Wörter zum kopieren !"_s, u"INFO"_s,
+            ground_.boxes.ShowInfoBox(u"Es gibt noch keine richtigen Wörter zum kopieren !"_s, BoxSign::Info,
                                       program);
         else
             QGuiApplication::clipboard()->setText(lists_.CorrectWordList.rows().join(u"\r\n"_s) + u"\r\n"_s);
@@ -162,14 +167,14 @@ void WordListPanel::askWord(Entry entry)
     const bool adds = entry == Entry::Add;
     Procedure step{ground_.log, adds ? "mnuAddWord_Click" : "mnuEditWord_Click", "frmMain"};
     const StoreList *list = controls_.CorrectWordList;
-    if (!modes_.KurzVokalMode && !modes_.LangVokalMode) {
+    if (play_.checkedVowels() == Vowels::None) {
         const QPoint corner = list->mapToGlobal(QPoint(0, 0));
         const QString shown = adds ? QString() : lists_.CorrectWordList.at(list->ListIndex());
         step([&] {
             inputResult_ = ground_.boxes.ShowWordBox(
                 u"Bitte gib ein Wort ein.\nEs wird aber nur in deine Liste übernommen, wenn es auch im "
                 u"Wortel-Wörterbuch vorkommt!"_s,
-                2, shown, adds ? u"Wort hinzufügen"_s : u"Wort bearbeiten"_s, std::max(0, corner.x()),
+                BoxStyle::Wortel, shown, adds ? u"Wort hinzufügen"_s : u"Wort bearbeiten"_s, std::max(0, corner.x()),
                 std::max(0, corner.y()));
         });
     }
@@ -203,7 +208,7 @@ void WordListPanel::mnuDeleteAllWords()
     step([&] {
         answer = ground_.boxes.ShowMBox(u"Entfernen alle Wörter?"_s,
                                         ground_.options.isOn(Setting::ConfirmBeforeErase), 3,
-                                        u"Wortel - Bestätigen"_s, u"CONFIRM"_s);
+                                        u"Wortel - Bestätigen"_s, BoxStyle::Confirm);
     });
     if (answer == 1)
         return;

@@ -4,13 +4,14 @@
 
 #include <QObject>
 
+class CommandRouter;
 class DictionaryPanel;
 class QMenu;
 class QPoint;
+class PlayState;
 class WordTests;
 struct Ground;
 struct MainControls;
-struct Modes;
 struct WordLists;
 
 /// The list of right words as it opens over the board: its two menus, the dialog with which a word is added
@@ -20,9 +21,10 @@ class WordListPanel : public QObject
     Q_OBJECT
 
 public:
-    WordListPanel(Ground &ground, const MainControls &controls, WordLists &lists, Modes &modes,
+    WordListPanel(Ground &ground, const MainControls &controls, WordLists &lists, const PlayState &play,
                   const WordTests &tests, DictionaryPanel &dictionary, QObject *parent = nullptr);
 
+    void registerCommands(CommandRouter &router);
     /// Shows or hides the list (the left press on `Command4`); an open dictionary closes.
     void Show_Result();
     /// The menu command "Bearbeiten": flips the list, above the band, and opens its menu.
@@ -44,18 +46,23 @@ signals:
 private:
     enum class Entry { Add, Edit };
 
+    void addEntry(QMenu *menu, const char16_t *name, const char16_t *caption, void (WordListPanel::*act)());
     QMenu *makeFilledMenu();
     QMenu *makeEmptyMenu();
     void askWord(Entry entry);
     void takeWord(Entry entry);
+    void mnuAddWord() { askWord(Entry::Add); }
+    void mnuEditWord() { askWord(Entry::Edit); }
     void mnuDeleteWord();
     void mnuDeleteAllWords();
+    void mnuMoveUp() { moveSelection(-1); }
+    void mnuMoveDown() { moveSelection(1); }
     void moveSelection(int step);
 
     Ground &ground_;
     const MainControls &controls_;
     WordLists &lists_;
-    Modes &modes_;
+    const PlayState &play_;
     const WordTests &tests_;
     DictionaryPanel &dictionary_;
     QMenu *mnuTest_;

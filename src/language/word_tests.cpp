@@ -38,23 +38,16 @@ bool WordTests::In_PseudoWordsList(const QString &word) const
     return isIn(lists_.PseudoWordList, word, options_.box(Setting::UseCaseOnPseudo));
 }
 
-bool WordTests::InKurzLangVokalList(const QString &word, const QString &kind) const
+bool WordTests::InKurzLangVokalList(const QString &word, Vowels group) const
 {
-    if (kind == "KURZ"_L1)
+    switch (group) {
+    case Vowels::Short:
         return holds(lists_.kurzvokalList, word);
-    if (kind == "LANG"_L1)
+    case Vowels::Long:
         return holds(lists_.langvokalList, word);
-    return false;
-}
-
-bool WordTests::InPseudoMorphemeList(const QString &text, const QString &kind) const
-{
-    if (kind == "PREFIX"_L1)
-        return holds(lists_.PrefixReTypeList, text);
-    if (kind == "WORTEL"_L1)
-        return holds(lists_.WortelReTypeList, text);
-    if (kind == "SUFFIX"_L1)
-        return holds(lists_.SuffixReTypeList, text);
+    case Vowels::None:
+        break;
+    }
     return false;
 }
 
@@ -71,13 +64,11 @@ QString WordTests::ProperCase(const QString &word) const
     return lists_.LexiconList.at(lists_.LexiconList.findExact(word));
 }
 
-int WordTests::GetCorrectNumWords(const QString &kind) const
+int WordTests::GetCorrectNumWords(bool vowelGame) const
 {
     const auto counts = [&](const QString &word) {
-        if (kind == "WORTEL"_L1)
-            return In_Lexicon(word);
-        return kind == "VOKAL"_L1 &&
-               (InKurzLangVokalList(word, u"KURZ"_s) || InKurzLangVokalList(word, u"LANG"_s));
+        return vowelGame ? InKurzLangVokalList(word, Vowels::Short) || InKurzLangVokalList(word, Vowels::Long)
+                         : In_Lexicon(word);
     };
     const QStringList &rows = lists_.CorrectWordList.rows();
     return static_cast<int>(std::count_if(rows.cbegin(), rows.cend(), counts));

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/play_state.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -26,10 +28,8 @@ public:
     /// The same over the nonsense words with the rule `UseCaseOnPseudo`.
     bool In_PseudoWordsList(const QString &word) const;
 
-    /// `kind` is "KURZ" or "LANG"; any other kind, and the empty word, give False.
-    bool InKurzLangVokalList(const QString &word, const QString &kind) const;
-    /// `kind` is "PREFIX", "WORTEL" or "SUFFIX"; any other kind, and the empty text, give False.
-    bool InPseudoMorphemeList(const QString &text, const QString &kind) const;
+    /// Whether the stem stands in the list of that group. The empty word stands in none.
+    bool InKurzLangVokalList(const QString &word, Vowels group) const;
 
     /// In the word list, the dictionary, the nonsense words, the words collected in a game. The empty word is
     /// in none.
@@ -44,9 +44,9 @@ public:
     /// The same by the list's exact find; the empty word gives the empty string.
     QString ProperCase2(const QString &word) const { return ProperCase(word); }
 
-    /// The number of words in the word list that count for a score list: `kind` "WORTEL" those in the
-    /// dictionary, "VOKAL" those of a vowel list, any other kind none.
-    int GetCorrectNumWords(const QString &kind) const;
+    /// The number of words in the word list that count for a score list: those of a vowel list for the vowel
+    /// game, else those in the dictionary.
+    int GetCorrectNumWords(bool vowelGame) const;
 
 private:
     static bool isIn(const WordStore &store, const QString &word, int caseRule);

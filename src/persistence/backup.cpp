@@ -2,21 +2,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "persistence/backup.h"
 
-#include "board/canvas/bulk_tiles.h"
 #include "board/canvas/canvas.h"
+#include "board/tiles/board_news.h"
 #include "persistence/backup_file.h"
 #include "persistence/session_dialog.h"
 #include "platform/boxes.h"
-#include "platform/clock.h"
 #include "platform/files.h"
 #include "platform/ground.h"
-#include "platform/modes.h"
 #include "platform/options.h"
 #include "platform/procedure.h"
 #include "platform/product.h"
 #include "widgets/guards.h"
-
-#include <QScopedValueRollback>
 
 using namespace Qt::StringLiterals;
 
@@ -39,12 +35,11 @@ const TileKind *kindOfLetter(char letter)
 
 } // namespace
 
-Backup::Backup(Ground &ground, Modes &modes, Canvas &canvas, BulkTiles &bulk, QObject *parent)
+Backup::Backup(Ground &ground, Canvas &canvas, BoardNews &news, QObject *parent)
     : QObject(parent)
     , ground_(ground)
-    , modes_(modes)
     , canvas_(canvas)
-    , bulk_(bulk)
+    , news_(news)
 {}
 
 QString Backup::file(const Ground &ground) { return product::backupFile(ground.AppFolder); }
@@ -69,13 +64,10 @@ void Backup::SaveMyObjects(const QString &path)
     if (!step([&] { writeBoard(target); }))
         ground_.boxes.plainBox(Boxes::Icon::Warning, product::faultTitle,
                                u".BAK-Datei könnte nicht gespeichert werden"_s);
-    // Other events have their turn only now that the change is safe.
-    step([&] { ground_.pump.yield(); });
 }
 
 void Backup::writeBoard(const QString &path)
 {
-    const QScopedValueRollback busy(modes_.BackupBusy, true);
     MyObj array;
     array.addTiles(canvas_.store().tiles());
     writeFileAtomically(path, backup_file::encode(array));
@@ -90,30 +82,33 @@ void Backup::RestoreMyObjects(const QString &path)
         step([&] { source = chooseToOpen(ground_, ask); });
     if (source.isEmpty())
         return;
-    step([&] { bulk_.RefillWithSpecNum(0); });
     if (path.isEmpty())
         step([&] { rememberFolder(ground_, ask, source); });
     const Hourglass hourglass;
-    if (!step([&] { readBoard(source); }))
+    if (step([&] { readBoard(source); }))
+        step([&] { news_.open(); });
+    else
         ground_.boxes.plainBox(
             Boxes::Icon::Critical, product::faultTitle,
             u"Die BAK-Session konnte nicht eingelesen werden: "_s + source +
                 u"\n\nDie Datei enthält ungültige Daten.\n\nDas Laden wird abgebrochen..."_s);
-    step([&] { canvas_.store().counters().updateTotal(); });
 }
 
+/// What was read before a fault stays; if that is nothing, the board does.
 void Backup::readBoard(const QString &path)
 {
     TileStore &store = canvas_.store();
-    for (const TileKind &kind : tileKinds)
-        store.counters().set(kind.filterIndex, 0);
     const std::vector<BackupRecord> records = backup_file::decode(ReadWholeFile(path));
-    const CanvasSurface::Batch batch(canvas_.surface());
-    for (const BackupRecord &record : records) {
-        const TileKind *kind = kindOfLetter(record.type);
-        if (!kind)
-            continue;
-        store.CanvasDrawWortel(record.left, record.top, record.caption, kind->back, kind->text);
-        store.counters().add(kind->filterIndex, 1);
-    }
+    TileList tiles;
+    Procedure step{ground_.log, "RestoreMyObjects", form, Procedure::Silent};
+    const bool whole = step([&] {
+        for (const BackupRecord &record : records)
+            if (const TileKind *kind = kindOfLetter(record.type))
+                tiles.push_back(store.makeTile(record.left, record.top, record.caption, *kind));
+    });
+    store.replaceAll(std::move(tiles));
+    store.recount();
+    canvas_.repaint();
+    if (!whole)
+        throw RuntimeError::of(RuntimeError::Overflow);
 }

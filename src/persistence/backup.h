@@ -5,10 +5,9 @@
 #include <QObject>
 #include <QString>
 
-class BulkTiles;
+class BoardNews;
 class Canvas;
 struct Ground;
-struct Modes;
 
 /// The backup of the board: with the setting "UseBackup" every change is on disk before the next event is
 /// handled, so that a crash loses at most the last action. The file is there only while the program runs; a
@@ -18,14 +17,15 @@ class Backup : public QObject
     Q_OBJECT
 
 public:
-    Backup(Ground &ground, Modes &modes, Canvas &canvas, BulkTiles &bulk, QObject *parent = nullptr);
+    Backup(Ground &ground, Canvas &canvas, BoardNews &news, QObject *parent = nullptr);
 
     /// "WLXAutoSave.bak" in the program's folder, stored form.
     static QString file(const Ground &ground);
 
     /// Writes the board; an empty path asks for one.
     void SaveMyObjects(const QString &path = {});
-    /// Replaces the board by the file's; an empty path asks for one.
+    /// Replaces the board by the file's; an empty path asks for one. A file that cannot be read is told, and
+    /// the board stays.
     void RestoreMyObjects(const QString &path = {});
 
 public slots:
@@ -37,7 +37,6 @@ private:
     void readBoard(const QString &path);
 
     Ground &ground_;
-    Modes &modes_;
     Canvas &canvas_;
-    BulkTiles &bulk_;
+    BoardNews &news_;
 };

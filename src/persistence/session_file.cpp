@@ -44,7 +44,7 @@ void session_file::readTiles(const IniFile &file, const std::function<void(const
         tile.caption = file.read(section, u"Caption"_s);
         if (type.isEmpty() || left.isEmpty() || top.isEmpty() || tile.caption.isEmpty())
             continue;
-        if (const TileKind *kind = kindOfWord(UCase(type))) {
+        if (const TileKind *kind = kindOfWord(type)) {
             tile.back = kind->back;
             tile.text = kind->text;
         }

@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "persistence/sessions.h"
 
-#include "board/canvas/bulk_tiles.h"
 #include "board/canvas/canvas.h"
+#include "board/hand/command_router.h"
+#include "board/tiles/board_news.h"
 #include "language/list_loader.h"
 #include "persistence/file_type.h"
 #include "persistence/session_dialog.h"
 #include "persistence/session_file.h"
-#include "persistence/undo_ring.h"
 #include "platform/boxes.h"
 #include "platform/clock.h"
 #include "platform/files.h"
@@ -49,6 +49,12 @@ Sessions::Sessions(Ground &ground, const MainControls &controls, WordLists &list
     , lists_(lists)
     , rooms_(rooms)
 {}
+
+void Sessions::registerCommands(CommandRouter &router)
+{
+    router.onMenu(1901, [this] { RestoreObjects(); });
+    router.onMenu(1903, [this] { SaveObjects(); });
+}
 
 void Sessions::makeCurrent(const QString &path)
 {
@@ -103,44 +109,45 @@ void Sessions::RestoreObjects(const QString &path)
         step([&] { source = chooseToOpen(ground_, ask); });
     if (source.isEmpty())
         return;
-    step([&] { rooms_.bulk.RefillWithSpecNum(0); });
-    // A path from the command line leaves the undo ring as it is.
-    if (path.isEmpty()) {
+    if (path.isEmpty())
         step([&] { rememberFolder(ground_, ask, source); });
-        step([&] { rooms_.undo.ClearCollBuffer(); });
-    }
     const Hourglass hourglass;
-    const bool whole = step([&] { readSession(source); });
-    if (!whole)
+    bool whole = false;
+    step([&] { whole = readSession(source); });
+    step([&] { rooms_.canvas.RecallFilter(TileFilter::all); });
+    step([&] { path.isEmpty() ? rooms_.news.open() : rooms_.news.Commit(); });
+    if (!whole) {
         ground_.boxes.plainBox(
             Boxes::Icon::Critical, product::faultTitle,
             u"Die WXL-Sitzung konnte nicht eingelesen werden: "_s + source +
                 u"\n\nDie Datei enthält ungültige Daten.\n\nDas Laden wird abgebrochen..."_s);
-    step([&] { rooms_.canvas.store().counters().updateTotal(); });
-    step([&] { rooms_.canvas.RecallFilter(TileFilter::all); });
-    if (!whole)
         return;
+    }
     step([&] { AddToRecentDocs(source, FileType::mimeType); });
     step([&] { makeCurrent(source); });
 }
 
-void Sessions::readSession(const QString &path)
+/// The tiles that were read before a fault stay; then the session's stem list is left alone. True if there
+/// was none.
+bool Sessions::readSession(const QString &path)
 {
-    const IniFile file(path);
+    Procedure step{ground_.log, "RestoreObjects", form, Procedure::Silent};
     TileStore &store = rooms_.canvas.store();
-    for (const TileKind &kind : tileKinds)
-        store.counters().set(kind.filterIndex, 0);
-    {
-        const CanvasSurface::Batch batch(rooms_.canvas.surface());
+    TileList tiles;
+    QString lexicon;
+    const bool whole = step([&] {
+        const IniFile file(path);
         session_file::readTiles(file, [&](const session_file::Tile &tile) {
-            store.CanvasDrawWortel(tile.left, tile.top, tile.caption, tile.back, tile.text);
-            if (const TileKind *kind = kindOfColour(tile.back))
-                store.counters().add(kind->filterIndex, 1);
+            tiles.push_back(store.makeTile(tile.left, tile.top, tile.caption, tile.back, tile.text));
         });
-    }
-    ground_.pump.yield();
-    if (ground_.options.isOn(Setting::OpenWLXWithStoredLex))
-        loadLists(session_file::lexiconInUse(file));
+        lexicon = session_file::lexiconInUse(file);
+    });
+    store.replaceAll(std::move(tiles));
+    store.recount();
+    rooms_.canvas.repaint();
+    if (whole && ground_.options.isOn(Setting::OpenWLXWithStoredLex))
+        loadLists(lexicon);
+    return whole;
 }
 
 void Sessions::loadLists(const QString &name)
@@ -155,7 +162,10 @@ void Sessions::loadLists(const QString &name)
     }
     lists_.LexiconList.clear();
     lists_.WortelList.clear();
+    emit listsChosen();
     rooms_.loader.FillWortelList(path);
+    // The label names the dictionary, as at the start; its tool tip the list.
+    controls_.Label3->setText(name);
     controls_.Label3->setToolTip(plainToolTip(name));
     ground_.pump.yield();
 }

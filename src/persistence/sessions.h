@@ -5,10 +5,10 @@
 #include <QObject>
 #include <QString>
 
-class BulkTiles;
+class BoardNews;
 class Canvas;
+class CommandRouter;
 class ListLoader;
-class UndoRing;
 struct Ground;
 struct MainControls;
 struct WordLists;
@@ -23,15 +23,16 @@ public:
     struct Rooms
     {
         Canvas &canvas;
-        BulkTiles &bulk;
         ListLoader &loader;
-        UndoRing &undo;
+        BoardNews &news;
     };
 
     Sessions(Ground &ground, const MainControls &controls, WordLists &lists, const Rooms &rooms,
              QObject *parent = nullptr);
 
-    /// Both ask for a path where none (stored form) is given.
+    void registerCommands(CommandRouter &router);
+    /// Both ask for a path where none (stored form) is given. A session that was opened by the dialog has
+    /// nothing before it to undo; one that came by its path, from another start, is a step like any other.
     void SaveObjects(const QString &path = {});
     void RestoreObjects(const QString &path = {});
 
@@ -40,9 +41,13 @@ public:
     /// The name that its web page gets by default.
     QString WebExportName() const { return WebExportName_; }
 
+signals:
+    /// A session has brought its own stem list.
+    void listsChosen();
+
 private:
     void writeSession(const QString &path);
-    void readSession(const QString &path);
+    bool readSession(const QString &path);
     void loadLists(const QString &name);
     void makeCurrent(const QString &path);
 

@@ -35,6 +35,8 @@ public:
     void push(Snapshot state);
     /// Forgets everything but the present state.
     void restart(Snapshot state);
+    /// The present state has changed without a step.
+    void refresh(Snapshot state) { slot() = std::move(state); }
     const Snapshot &stepBack();
     const Snapshot &stepForward();
 

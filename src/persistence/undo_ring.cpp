@@ -3,27 +3,51 @@
 #include "persistence/undo_ring.h"
 
 #include "board/canvas/canvas.h"
-#include "board/hand/menu_model.h"
+#include "board/hand/command_router.h"
+#include "board/tiles/board_news.h"
 #include "platform/clock.h"
 #include "platform/ground.h"
-#include "platform/modes.h"
 #include "platform/options.h"
 #include "platform/procedure.h"
 #include "widgets/guards.h"
+
+#include <utility>
 
 namespace {
 constexpr auto form = "frmMain";
 }
 
-UndoRing::UndoRing(Ground &ground, Modes &modes, MenuModel &menus, Canvas &canvas, QObject *parent)
+UndoRing::UndoRing(Ground &ground, Canvas &canvas, BoardNews &news, QObject *parent)
     : QObject(parent)
     , ground_(ground)
-    , modes_(modes)
-    , menus_(menus)
     , canvas_(canvas)
+    , news_(news)
 {}
 
+void UndoRing::registerCommands(CommandRouter &router)
+{
+    using command::From;
+    const auto on = [this, &router](From from, int id, const bool &can, void (UndoRing::*act)()) {
+        router.on(from, {id}, [this, &can, act](const command::Command &, const Press &) {
+            if (can)
+                (this->*act)();
+            return Ending::Whole;
+        });
+    };
+    on(From::MainMenu, 2801, CanUndo_, &UndoRing::UndoAction);
+    on(From::MainMenu, 2802, CanRedo_, &UndoRing::RedoAction);
+    on(From::Key, 9, CanUndo_, &UndoRing::UndoAction);
+    on(From::Key, 10, CanRedo_, &UndoRing::RedoAction);
+}
+
 bool UndoRing::isOn() const { return ground_.options.storedIsOn(Setting::UseUndo); }
+
+void UndoRing::setSteps(bool canUndo, bool canRedo)
+{
+    CanUndo_ = canUndo;
+    CanRedo_ = canRedo;
+    emit changed();
+}
 
 void UndoRing::SetCollBuffer()
 {
@@ -32,19 +56,35 @@ void UndoRing::SetCollBuffer()
     Procedure step{ground_.log, "SetCollBuffer", form};
     const Hourglass hourglass;
     step([&] { ring_.push(copyOf(canvas_.store().tiles())); });
-    modes_.CanUndo = true;
-    modes_.CanRedo = false;
-    step([&] { menus_.CreateMenus(); });
+    setSteps(true, false);
 }
 
 void UndoRing::ClearCollBuffer()
 {
-    if (!isOn())
+    wasOn_ = isOn();
+    if (!wasOn_)
         return;
     Procedure step{ground_.log, "ClearCollBuffer", form};
     step([&] { ring_.restart(copyOf(canvas_.store().tiles())); });
-    modes_.CanUndo = false;
-    modes_.CanRedo = false;
+    setSteps(false, false);
+}
+
+void UndoRing::refreshPresent()
+{
+    if (isOn())
+        ring_.refresh(copyOf(canvas_.store().tiles()));
+}
+
+void UndoRing::takeSetting()
+{
+    if (isOn() == wasOn_)
+        return;
+    if (isOn()) {
+        ClearCollBuffer();
+        return;
+    }
+    wasOn_ = false;
+    setSteps(false, false);
 }
 
 void UndoRing::UndoAction()
@@ -54,9 +94,8 @@ void UndoRing::UndoAction()
     Procedure step{ground_.log, "UndoAction", form};
     const Hourglass hourglass;
     step([&] { putBack(ring_.stepBack()); });
-    modes_.CanUndo = modes_.CanUndo && !ring_.atOldest();
-    modes_.CanRedo = true;
-    step([&] { menus_.CreateMenus(); });
+    setSteps(CanUndo_ && !ring_.atOldest(), true);
+    step([&] { news_.stepTo(); });
 }
 
 void UndoRing::RedoAction()
@@ -66,19 +105,18 @@ void UndoRing::RedoAction()
     Procedure step{ground_.log, "RedoAction", form};
     const Hourglass hourglass;
     step([&] { putBack(ring_.stepForward()); });
-    modes_.CanUndo = true;
-    modes_.CanRedo = modes_.CanRedo && !ring_.atNewest();
-    step([&] { menus_.CreateMenus(); });
+    setSteps(true, CanRedo_ && !ring_.atNewest());
+    step([&] { news_.stepTo(); });
 }
 
+/// The filter stays as it is.
 void UndoRing::putBack(const Snapshot &state)
 {
     Procedure step{ground_.log, "putBack", form, Procedure::Silent};
     TileStore &store = canvas_.store();
-    const FrozenBoard frozen(canvas_.surface());
-    step([&] { store.takeAll(); });
     step([&] {
-        const CanvasSurface::Batch batch(canvas_.surface());
+        TileList tiles;
+        tiles.reserve(state.size());
         for (const TileCopy &copy : state) {
             auto tile = std::make_unique<cWortel>();
             tile->txt = copy.text;
@@ -86,12 +124,12 @@ void UndoRing::putBack(const Snapshot &state)
             tile->TxtColor = copy.textColour;
             tile->setXLeft(copy.left);
             tile->setYTop(copy.top);
-            store.redrawAndAppend(std::move(tile));
+            tile->setExtent(store.extentOf(copy.text));
+            tiles.push_back(std::move(tile));
         }
+        store.replaceAll(std::move(tiles));
     });
-    // The captions are true before anything can look at them in the yields of the redraw.
-    for (const TileKind &kind : tileKinds)
-        step([&] { store.counters().set(kind.filterIndex, store.countOf(kind.back)); });
+    step([&] { store.recount(); });
+    step([&] { canvas_.repaint(); });
     step([&] { ground_.pump.yield(); });
-    step([&] { canvas_.CanvasRedrawAll(); });
 }

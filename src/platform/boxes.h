@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/box_kinds.h"
+
 #include <QString>
 
 /// The seam of everything that asks or tells the user something in a box of its own. The program gives the
@@ -22,18 +24,16 @@ public:
 
     /// The question box `MBox`. Returns the index of the pressed button, 0 for the first, 1 for the second; 0
     /// at once if `show` is false. Callers treat anything but 1 as go on. `buttons` is a code: 0 OK, 3
-    /// OK/Abbrechen, 4 Yes/No, 6, 8, 9. `style` is "PREFIX", "WORTEL", "SUFFIX", "HISCORE", "RETYPE" or
-    /// "CONFIRM".
+    /// OK/Abbrechen, 4 Yes/No, 6, 8, 9.
     virtual int ShowMBox(const QString &prompt, bool show, int buttons, const QString &title,
-                         const QString &style) = 0;
-    /// The notice box `frmMboxRetype`. `style` is "SMILEY", "WRITE" or "INFO". Returns 0 if it was closed
-    /// with Enter or a click, 1 with Esc.
-    virtual int ShowInfoBox(const QString &prompt, const QString &style, const QString &title) = 0;
-    /// The input box `IBox`: what was typed, or the empty string. `kind` 1 prefix, 2 Wortel, 3 suffix.
+                         BoxStyle style) = 0;
+    /// The notice box `frmMboxRetype`. Returns 0 if it was closed with Enter or a click, 1 with Esc.
+    virtual int ShowInfoBox(const QString &prompt, BoxSign sign, const QString &title) = 0;
+    /// The input box `IBox`: what was typed, or the empty string.
     /// `left`, `top` in pixels of the screen, or negative for the middle of the screen.
-    virtual QString ShowIBox(const QString &prompt, int kind, const QString &defaultText,
+    virtual QString ShowIBox(const QString &prompt, BoxStyle kind, const QString &defaultText,
                              const QString &title, int left = -1, int top = -1) = 0;
     /// The word box `frmChgCorrectWords`, with the same arguments.
-    virtual QString ShowWordBox(const QString &prompt, int kind, const QString &defaultText,
+    virtual QString ShowWordBox(const QString &prompt, BoxStyle kind, const QString &defaultText,
                                 const QString &title, int left = -1, int top = -1) = 0;
 };

@@ -8,6 +8,7 @@ class Boxes;
 class Clock;
 class EventPump;
 class FileDialogs;
+class Gate;
 class Log;
 class Options;
 class Rnd;
@@ -28,4 +29,5 @@ struct Ground
     EventPump &pump;
     SettingsStore &store;
     Options &options;
+    Gate &gate;
 };

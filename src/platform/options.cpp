@@ -8,11 +8,12 @@
 #include "platform/text.h"
 #include "platform/text_masks.h"
 
+#include <QMap>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString section = u"Settings"_s;
 const QString on = u"True"_s;
 const QString off = u"False"_s;
 
@@ -114,10 +115,11 @@ bool Options::ApplySettings()
     Procedure step{log_, "ApplySettings", "frmOptions"};
     step([&] { FillBlankFields(); });
     const bool saved = step([&] {
-        QList<QPair<QString, QString>> all;
+        QMap<QString, QList<QPair<QString, QString>>> sections;
         for (const SettingRow &row : settingsTable())
-            all.append({QLatin1String(row.key), value(row.id)});
-        store_.SaveSettings(section, all);
+            sections[QLatin1String(row.section)].append({QLatin1String(row.key), value(row.id)});
+        for (auto section = sections.cbegin(); section != sections.cend(); ++section)
+            store_.SaveSettings(section.key(), section.value());
     });
     step([&] { emit applied(); });
     return saved;
@@ -133,7 +135,7 @@ void Options::FillBlankFields()
 QString Options::stored(Setting id) const
 {
     const SettingRow &row = settingRow(id);
-    return store_.GetSetting(section, QLatin1String(row.key), fallback(row));
+    return store_.GetSetting(QLatin1String(row.section), QLatin1String(row.key), fallback(row));
 }
 
 bool Options::storedIsOn(Setting id) const

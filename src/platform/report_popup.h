@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/sounds.h"
+
 #include <QString>
 
 /// The seam of the small popup that slides up and reports a word check. The program gives `frmMsnStyle`, a
@@ -11,7 +13,8 @@ class ReportPopup
 public:
     virtual ~ReportPopup() = default;
     /// Shows a title and three lines (each with the line end it wants, if any) for `seconds`, with sound
-    /// `soundId` if sounds are on.
+    /// `sound` if sounds are on.
     virtual void Display(const QString &title, const QString &line1, const QString &line2,
-                         const QString &line3, int seconds, int soundId, bool boldLine2, bool showSmiley) = 0;
+                         const QString &line3, int seconds, SoundId sound, bool boldLine2,
+                         bool showSmiley) = 0;
 };

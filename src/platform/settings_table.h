@@ -5,7 +5,7 @@
 #include <array>
 #include <cstddef>
 
-/// The settings of section `Settings`, in the order of their table.
+/// The settings that the options window edits, in the order of their table.
 enum class Setting : int {
     NumWortel,
     WortelFile,
@@ -89,6 +89,7 @@ struct SettingRow
     Setting beside;    ///< the setting on whose line the control stands; its own id: a line of its own
     const char16_t *caption;
     const char16_t *tip; ///< nullptr: none
+    const char *section = "Settings";
 };
 
 /// Settings of which one is on: the option buttons of one frame. `first` to `last` in the order of the table.

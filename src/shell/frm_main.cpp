@@ -6,11 +6,12 @@
 #include "platform/clock.h"
 #include "platform/desktop.h"
 #include "platform/files.h"
+#include "platform/gate.h"
 #include "platform/ground.h"
 #include "platform/log.h"
 #include "platform/options.h"
 #include "platform/procedure.h"
-#include "platform/sound.h"
+#include "platform/sounds.h"
 #include "platform/system_info.h"
 #include "platform/text.h"
 #include "shell/crash_filter.h"
@@ -24,6 +25,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDialog>
 #include <QDragEnterEvent>
 #include <QGuiApplication>
 #include <QLabel>
@@ -48,14 +50,13 @@ constexpr char16_t welcomeText[] = u"Hallo !\n\n"
                                    u"Rechtschreibmuster auswählen.\n\n"
                                    u"Viel Spaß !";
 
-QString backupFile(const Ground &ground) { return Backup::file(ground); }
-
 } // namespace
 
 frmMain::frmMain(Ground &ground, const StartFacts &facts)
     : ground_(ground)
     , facts_(facts)
     , controls_(makeMainControls(this))
+    , status_(controls_.GameProgress)
     , help_(ground.AppFolder, this)
 {
     setObjectName(u"frmMain"_s);
@@ -69,10 +70,11 @@ frmMain::frmMain(Ground &ground, const StartFacts &facts)
         size = size.boundedTo(screen->availableSize() - QSize(0, titleBarHeight));
     resize(size);
     layOutMainControls(controls_, width(), height());
-    rooms_ = std::make_unique<Rooms>(ground_, controls_, lists_, modes_);
+    rooms_ = std::make_unique<Rooms>(ground_, Rooms::Hall{controls_, sheet_, status_, lists_, play_});
+    ground_.gate.setView(&workView_);
 }
 
-frmMain::~frmMain() = default;
+frmMain::~frmMain() { ground_.gate.setView(nullptr); }
 
 bool frmMain::Form_Load()
 {
@@ -125,35 +127,51 @@ void frmMain::takeDifficulty()
         if (!ground_.options.isOn(levels[level]))
             continue;
         controls_.Option2[static_cast<std::size_t>(level)]->setChecked(true);
-        modes_.GameLevel = level + 1;
+        play_.setLevel(level + 1);
     }
 }
 
 void frmMain::resizeEvent(QResizeEvent *)
 {
     layOutMainControls(controls_, width(), height());
+    rooms_->canvas.repaint();
     rooms_->tips.recompose();
-    controls_.picCanvas->update();
 }
 
 void frmMain::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::ActivationChange && isActiveWindow() && !ended_)
-        Form_Activate();
+    if (event->type() != QEvent::ActivationChange || ended_)
+        return;
+    if (!isActiveWindow())
+        ground_.gate.whenFree([this] { rooms_->pointer.letGo(); });
+    else if (!std::exchange(activationWaits_, true))
+        ground_.gate.whenFree([this] { Form_Activate(); });
 }
 
 void frmMain::Form_Activate()
 {
+    activationWaits_ = false;
     Procedure step{ground_.log, "Form_Activate", "frmMain"};
-    step([&] { rooms_->canvas.CanvasRedrawAll(); });
+    step([&] { rooms_->canvas.repaint(); });
     step([&] { ground_.pump.yield(); });
-    if (activated_)
+    if (std::exchange(activated_, true))
         return;
-    activated_ = true;
     if (ground_.options.isOn(Setting::ShowWelcomeMsg))
         step([&] { showWelcome(); });
-    step([&] { startTips(); });
+    if (!play_.RetypeActive() && !play_.GameActive())
+        step([&] { rooms_->tips.startTipTimer(); });
+    step([&] { tellLeftOut(); });
+}
+
+/// Only now somebody sees the board on which some tiles found no room.
+void frmMain::tellLeftOut()
+{
+    const int left = rooms_->progInit.leftOut();
+    if (left > 0)
+        ground_.boxes.ShowInfoBox(
+            u"Auf dem Spielfeld war nicht genug Platz: %1 Wortele wurden nicht gelegt."_s.arg(left),
+            BoxSign::Info, u"Wortel-Meister"_s);
 }
 
 void frmMain::showWelcome()
@@ -165,17 +183,17 @@ void frmMain::showWelcome()
     label->show();
     label->raise();
     ground_.clock.wait(500);
-    if (ground_.options.isOn(Setting::SoundOnActions)) {
-        ground_.sound.PlayResourceSound(117);
+    if (playSound(ground_, SoundId::Welcome))
         ground_.pump.yield();
-    }
 }
 
 void frmMain::HiddenText_Change(const QString &text)
 {
-    hiddenText_ = text;
-    if (cmdLineReady_)
-        UpdateCaption();
+    ground_.gate.whenFree([this, text] {
+        hiddenText_ = text;
+        if (cmdLineReady_)
+            UpdateCaption();
+    });
 }
 
 void frmMain::UpdateCaption()
@@ -191,38 +209,57 @@ void frmMain::UpdateCaption()
 
 void frmMain::dragEnterEvent(QDragEnterEvent *event)
 {
-    if (event->mimeData()->hasUrls())
-        event->acceptProposedAction();
+    if (!event->mimeData()->hasUrls())
+        return;
+    event->setDropAction(Qt::CopyAction); // a source that moves would delete its file
+    event->accept();
 }
 
 void frmMain::dropEvent(QDropEvent *event)
 {
     const QList<QUrl> urls = event->mimeData()->urls();
-    if (!urls.isEmpty() && urls.first().isLocalFile())
-        rooms_->background.drop(urls.first().toLocalFile());
+    if (urls.isEmpty() || !urls.first().isLocalFile())
+        return;
+    const QString path = urls.first().toLocalFile();
+    event->setDropAction(Qt::CopyAction);
+    event->setAccepted(BackgroundPicture::isPicture(path));
+    ground_.gate.whenFree([this, path] { rooms_->background.drop(path); });
 }
 
 void frmMain::closeEvent(QCloseEvent *event)
 {
-    if (!ended_) {
-        ended_ = true;
-        // Long work that let this event in ends at its next look.
-        modes_.Closing = modes_.StopPlacing = modes_.CancelPreparing = true;
-        Form_QueryUnload();
-        Form_Unload();
-        emit unloaded();
-    }
-    event->accept();
+    event->setAccepted(ended_);
+    ground_.gate.requestClose();
+}
+
+/// Each question that is open is answered as if with Esc.
+void frmMain::closeBoxes()
+{
+    while (QWidget *popup = QApplication::activePopupWidget())
+        if (!popup->close())
+            break;
+    for (QWidget *window : QApplication::topLevelWidgets())
+        if (auto *dialog = qobject_cast<QDialog *>(window); dialog != nullptr && dialog->isVisible())
+            dialog->reject();
+}
+
+void frmMain::unload()
+{
+    ended_ = true;
+    Form_QueryUnload();
+    Form_Unload();
+    close();
+    emit unloaded();
 }
 
 void frmMain::Form_QueryUnload()
 {
     Procedure step{ground_.log, "Form_QueryUnload", "frmMain"};
-    if (ground_.options.isOn(Setting::SoundOnActions)) {
-        step([&] { ground_.sound.PlayResourceSound(118); });
+    bool played = false;
+    step([&] { played = playSound(ground_, SoundId::GoodBye); });
+    if (played)
         step([&] { ground_.clock.wait(1000); });
-    }
-    step([&] { stopTimers(); });
+    step([&] { rooms_->tips.stopTimers(); });
     step([&] { crash_filter::remove(); });
     step([&] {
         for (QWidget *window : QApplication::topLevelWidgets())
@@ -237,12 +274,11 @@ void frmMain::Form_Unload()
     step([&] { qApp->removeEventFilter(this); });
     step([&] { rooms_->store.takeAll(); });
     step([&] { rooms_->homes = {}; });
-    step([&] { rooms_->undo.ClearCollBuffer(); });
     step([&] { rooms_->background.remove(); });
     step([&] {
         if (!ground_.options.storedIsOn(Setting::UseBackup))
             return;
-        const QString path = backupFile(ground_);
+        const QString path = Backup::file(ground_);
         KillFile(path, &ground_.log);
         ground_.log.WriteLog(u"Event: Backup-file "_s + path + u" closed"_s);
         ground_.log.WriteLog(u"Event: Backup-file "_s + path + u" deleted"_s);
@@ -252,23 +288,16 @@ void frmMain::Form_Unload()
     step([] { ShowTaskBar(true); });
 }
 
+/// The board that was recovered or opened is the first state that undo knows.
 void frmMain::loadKept()
 {
     Rooms &r = *rooms_;
-    r.menus.CreateMenus();
-    r.undo.ClearCollBuffer();
     if (std::exchange(facts_.RecoverOnStart, false))
-        r.backup.RestoreMyObjects(backupFile(ground_));
+        r.backup.RestoreMyObjects(Backup::file(ground_));
     constexpr std::array<QStringView, 5> noSessions{u"", u" ", u"/L", u"/I", u"/?"};
     if (std::find(noSessions.begin(), noSessions.end(), facts_.CommandLine) == noSessions.end() &&
         !hiddenText_.isEmpty())
         UpdateCaption();
+    r.undo.ClearCollBuffer();
+    emit menusStale();
 }
-
-void frmMain::startTips()
-{
-    if (!modes_.RetypeActive && !modes_.GameActive)
-        rooms_->tips.startTipTimer();
-}
-
-void frmMain::stopTimers() { rooms_->tips.stopGameTimers(); }

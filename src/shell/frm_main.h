@@ -2,15 +2,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/modes.h"
+#include "platform/play_state.h"
 #include "platform/word_lists.h"
 #include "shell/handbook/help.h"
+#include "widgets/control_sheet.h"
 #include "widgets/main_controls.h"
+#include "widgets/main_work_view.h"
+#include "widgets/status_line.h"
 
 #include <QWidget>
 
 #include <memory>
 
+class PressButton;
 struct Ground;
 struct Rooms;
 
@@ -23,7 +27,8 @@ struct StartFacts
 };
 
 /// The main window and hub: it makes the controls, makes the rooms, wires them, and forwards events. What a
-/// procedure does stands in the room that owns it.
+/// procedure does stands in the room that owns it. What Qt calls from within its own walks (activation,
+/// resizing, closing, a drop) only asks the gate; what it starts comes from the event loop.
 class frmMain : public QWidget
 {
     Q_OBJECT
@@ -44,8 +49,11 @@ public:
     void HiddenText_Change(const QString &text);
 
     const MainControls &controls() const { return controls_; }
-    /// For whoever plays the program without a hand at the mouse.
+    // For whoever plays the program without a hand at the mouse.
     Rooms &rooms() { return *rooms_; }
+    PlayState &play() { return play_; }
+    WordLists &lists() { return lists_; }
+    ControlSheet &sheet() { return sheet_; }
 
     // What menus and tools of the window itself do.
     void showOptions();
@@ -54,6 +62,8 @@ public:
 
 signals:
     void unloaded();
+    /// Something that the menus' states hang on has changed.
+    void menusStale();
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
@@ -67,31 +77,38 @@ private:
     void makeReady();
     void Form_Activate();
     void showWelcome();
+    void tellLeftOut();
+    void unload();
     void Form_QueryUnload();
     void Form_Unload();
+    void closeBoxes();
     void UpdateCaption();
     void takeDifficulty();
     void loadKept();
-    void startTips();
-    void stopTimers();
     void wire();
     void wireBoard();
-    void wireLanguage();
-    void wireKeeping();
+    void wireWords();
+    void wireLists();
     void wireModes();
-    void carryOut(int id);
+    void wireKeeping();
+    void wireCommands();
+    template <typename Left, typename Right> void onPress(PressButton *tool, Left left, Right right);
     /// Tells in one sentence that a command belongs to a part of the game that is still to be built.
     void comesLater();
 
     Ground &ground_;
     StartFacts facts_;
-    Modes modes_;
+    PlayState play_;
     WordLists lists_;
     MainControls controls_;
+    ControlSheet sheet_{controls_};
+    StatusLine status_;
+    MainWorkView workView_{sheet_, status_};
     std::unique_ptr<Rooms> rooms_;
     Help help_;
     QString hiddenText_;
     bool cmdLineReady_ = false;
     bool activated_ = false;
+    bool activationWaits_ = false;
     bool ended_ = false;
 };

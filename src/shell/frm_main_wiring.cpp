@@ -1,8 +1,11 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The wiring plan: which control's press goes to which room, and which room's news to which other room.
+// The wiring plan: which control's press goes to which room, and which room's news to which other room. A
+// room connects itself only to controls that are its alone (the board's pointer, the strip, the filters and
+// lists, the tip's panel); everything else stands here.
 #include "shell/frm_main.h"
 
+#include "platform/gate.h"
 #include "platform/ground.h"
 #include "platform/options.h"
 #include "shell/about_window.h"
@@ -21,57 +24,77 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Connects a tool's left and right press.
-template <typename Left, typename Right>
-void onPress(PressButton *tool, QObject *context, Left left, Right right)
-{
-    QObject::connect(tool, &PressButton::mouseDown, context,
-                     [left, right](Qt::MouseButton button) { button == Qt::LeftButton ? left() : right(); });
-}
-
 constexpr auto nothing = [] {};
 
 } // namespace
 
+/// Connects a tool's left and right press. A tool acts if the gate lets it in and no reason lies on it.
+template <typename Left, typename Right> void frmMain::onPress(PressButton *tool, Left left, Right right)
+{
+    connect(tool, &PressButton::mouseDown, this, [this, tool, left, right](Qt::MouseButton button) {
+        const Gate::Passage passage = ground_.gate.enter(Gate::Way::Play);
+        if (passage && sheet_.acts(tool))
+            button == Qt::LeftButton ? left() : right();
+    });
+}
+
 void frmMain::wire()
 {
     wireBoard();
-    wireLanguage();
+    wireWords();
+    wireLists();
     wireModes();
     wireKeeping();
+    wireCommands();
 }
 
 void frmMain::wireBoard()
 {
     Rooms &r = *rooms_;
-    // The check buttons rest while a report stands over the board.
-    const auto whileTheyAct = [this](auto action) {
-        return [this, action] {
-            if (modes_.CheckButtonsAct)
-                action();
-        };
-    };
-    onPress(controls_.Check2, this, whileTheyAct([&r] { r.bulk.Check2_LeftPress(); }),
-            whileTheyAct([&r] { r.chooser.chooseStemLists(); }));
-    connect(&r.bulk, &BulkTiles::commitWanted, &r.commands, &BoardCommands::Commit);
-    connect(&r.commands, &BoardCommands::commandChosen, this, &frmMain::carryOut);
-    connect(&r.morphemeLists, &MorphemeLists::menuRestoreWanted, this, [&r] { r.menus.CreateMenus(); });
-    connect(controls_.Label4, &ClickLabel::clicked, this, [this] { modes_.CancelPreparing = true; });
-    connect(controls_.Label2, &ClickLabel::clicked, this, &frmMain::showAbout);
+    Gate &gate = ground_.gate;
     onPress(
-        controls_.Command6, this, [this] { showOptions(); }, nothing);
+        controls_.Check2, [&r] { r.bulk.Check2_LeftPress(); }, [&r] { r.chooser.chooseStemLists(); });
     onPress(
-        controls_.Command1, this, [this] { showHelp(); }, nothing);
+        controls_.Command6, [this] { showOptions(); }, nothing);
+    connect(controls_.Command1, &PressButton::mouseDown, this,
+            throughGate(gate, Gate::Way::Look, [this](Qt::MouseButton button, auto) {
+                if (button == Qt::LeftButton)
+                    showHelp();
+            }));
+    connect(controls_.Label4, &ClickLabel::clicked, &gate, &Gate::cancelWork);
+    connect(controls_.Label2, &ClickLabel::clicked, this,
+            throughGate(gate, Gate::Way::Play, [this] { showAbout(); }));
+
+    connect(&gate, &Gate::closeRequested, this, &frmMain::closeBoxes);
+    connect(&gate, &Gate::closeNow, this, &frmMain::unload);
 }
 
-void frmMain::wireLanguage()
+void frmMain::wireWords()
 {
     Rooms &r = *rooms_;
-    connect(&r.loader, &ListLoader::busy, this, [](bool on) {
-        on ? QGuiApplication::setOverrideCursor(Qt::WaitCursor) : QGuiApplication::restoreOverrideCursor();
-    });
-    connect(&r.loader, &ListLoader::loading, &r.dictionary, &DictionaryPanel::storeLoading);
+    const auto whenPlayed = [this](auto action) {
+        return throughGate(ground_.gate, Gate::Way::Play, action);
+    };
+    onPress(
+        controls_.Command2, [&r] { r.check.Command2_MouseDown(Qt::LeftButton); },
+        [&r] { r.check.Command2_MouseDown(Qt::RightButton); });
+    onPress(
+        controls_.Command5, [&r] { r.check.Command5_MouseDown(Qt::LeftButton); },
+        [&r] { r.check.Command5_MouseDown(Qt::RightButton); });
+    onPress(
+        controls_.Command3, [&r] { r.dictionary.toggle(); }, [&r] { r.chooser.chooseDictionaries(); });
+    onPress(
+        controls_.Command4, [&r] { r.wordList.Show_Result(); }, [&r] { r.wordList.Save_Result(); });
+    connect(controls_.Dropper1, &Dropper::EnterPress, this,
+            whenPlayed([&r] { r.check.Dropper1_EnterPress(); }));
+    connect(controls_.Dropper1, &Dropper::keyTyped, &r.check, &WordCheck::Dropper1_KeyPress);
+    for (PressButton *box : controls_.ChkVokal)
+        connect(box, &PressButton::toggled, &r.check, &WordCheck::ChkVokal_Click);
+}
 
+void frmMain::wireLists()
+{
+    Rooms &r = *rooms_;
     controls_.WortelList->show(&lists_.WortelList);
     controls_.PrefixList->show(&lists_.PrefixList);
     controls_.SuffixList->show(&lists_.SuffixList);
@@ -86,63 +109,72 @@ void frmMain::wireLanguage()
             &WordListPanel::CorrectWordList_MouseDown);
     connect(controls_.Text2, &QLineEdit::textChanged, &r.dictionary, &DictionaryPanel::Text2_Change);
 
+    connect(&r.loader, &ListLoader::busy, this, [](bool on) {
+        on ? QGuiApplication::setOverrideCursor(Qt::WaitCursor) : QGuiApplication::restoreOverrideCursor();
+    });
+    connect(&r.loader, &ListLoader::loading, &r.dictionary, &DictionaryPanel::storeLoading);
     connect(&r.dictionary, &DictionaryPanel::tipRequested, &r.tips, &Tips::mnuShowTip_Click);
-    connect(controls_.Dropper1, &Dropper::EnterPress, &r.check, &WordCheck::Dropper1_EnterPress);
-    connect(controls_.Dropper1, &Dropper::keyTyped, &r.check, &WordCheck::Dropper1_KeyPress);
-    for (PressButton *box : controls_.ChkVokal)
-        connect(box, &PressButton::toggled, &r.check, &WordCheck::ChkVokal_Click);
-    connect(controls_.Command2, &PressButton::mouseDown, &r.check, &WordCheck::Command2_MouseDown);
-    connect(controls_.Command5, &PressButton::mouseDown, &r.check, &WordCheck::Command5_MouseDown);
-    onPress(
-        controls_.Command3, this, [&r] { r.dictionary.toggle(); }, [&r] { r.chooser.chooseDictionaries(); });
-    onPress(
-        controls_.Command4, this, [&r] { r.wordList.Show_Result(); }, [&r] { r.wordList.Save_Result(); });
+    connect(&r.dictionary, &DictionaryPanel::chooserRequested, this, &frmMain::comesLater);
 }
 
 void frmMain::wireModes()
 {
     Rooms &r = *rooms_;
     connect(controls_.Check4, &PressButton::mouseDown, &r.retype, &RetypeMode::Check4_MouseDown);
+    onPress(
+        controls_.Check3, [this] { comesLater(); }, [this] { comesLater(); });
     connect(&r.check, &WordCheck::retypeWordFound, &r.retype, &RetypeMode::wordCopied);
-    connect(&r.wordList, &WordListPanel::wordsEdited, &r.strip, &StripControl::takeWords);
-    connect(&r.retype, &RetypeMode::menusChanged, this, [&r] { r.menus.CreateMenus(); });
+    connect(&r.wordList, &WordListPanel::wordsEdited, &r.retype, &RetypeMode::wordsEdited);
     connect(&r.dictionary, &DictionaryPanel::startRetypeFromList, &r.retype,
             &RetypeMode::mnuStartRetypeFromList);
+    connect(&r.chooser, &ListChooser::listsChosen, &r.retype, &RetypeMode::endRun);
+    connect(&r.sessions, &Sessions::listsChosen, &r.retype, &RetypeMode::endRun);
     connect(&r.retype, &RetypeMode::chooserWanted, this, &frmMain::comesLater);
-    connect(&r.dictionary, &DictionaryPanel::chooserRequested, this, &frmMain::comesLater);
-    connect(controls_.Check3, &PressButton::mouseDown, this, &frmMain::comesLater);
-    connect(&r.options, &frmOptions::resetScores, this, &frmMain::comesLater);
+
+    // The menus are built anew on one signal, whatever has changed.
+    connect(this, &frmMain::menusStale, this, [&r] { r.menus.CreateMenus(); });
+    connect(&play_, &PlayState::changed, this, &frmMain::menusStale);
+    connect(&r.undo, &UndoRing::changed, this, &frmMain::menusStale);
+    connect(&r.morphemeLists, &MorphemeLists::menuRestoreWanted, this, &frmMain::menusStale);
 }
 
 void frmMain::wireKeeping()
 {
     Rooms &r = *rooms_;
-    connect(&r.commands, &BoardCommands::committed, &r.undo, &UndoRing::SetCollBuffer);
-    connect(&r.commands, &BoardCommands::committed, &r.backup, &Backup::saveIfWanted);
-    connect(&r.commands, &BoardCommands::backupWanted, &r.backup, &Backup::saveIfWanted);
+    connect(&r.news, &BoardNews::committed, &r.undo, &UndoRing::SetCollBuffer);
+    connect(&r.news, &BoardNews::moved, &r.undo, &UndoRing::refreshPresent);
+    connect(&r.news, &BoardNews::opened, &r.undo, &UndoRing::ClearCollBuffer);
+    for (const auto news :
+         {&BoardNews::committed, &BoardNews::moved, &BoardNews::opened, &BoardNews::stepped})
+        connect(&r.news, news, &r.backup, &Backup::saveIfWanted);
+
     connect(&ground_.options, &Options::applied, this, [this, &r] {
         takeDifficulty();
+        r.placement.takeTryLimit();
         r.background.remove();
         r.background.loadFromSetting();
         r.strip.SetUpMsgScroller();
+        r.undo.takeSetting();
     });
     connect(&r.options, &frmOptions::registerFileType, this, [&r] { r.fileType.registerSessions(); });
     connect(&r.options, &frmOptions::removeFileType, this, [&r] { r.fileType.removeSessions(); });
-    connect(&r.options, &frmOptions::recallFilter, this,
-            [&r] { r.canvas.RecallFilter(r.optTypes.selected()); });
+    connect(&r.options, &frmOptions::resetScores, this, &frmMain::comesLater);
 }
 
 void frmMain::showOptions()
 {
     const int filter = rooms_->optTypes.selected();
     rooms_->options.edit();
-    rooms_->canvas.RecallFilter(filter);
+    if (!ground_.gate.isClosing())
+        rooms_->canvas.RecallFilter(filter);
 }
 
 void frmMain::showAbout()
 {
-    fAbout(this).exec();
-    rooms_->optTypes.select(TileFilter::all);
+    if (const Gate::Passage open = ground_.gate.openBox())
+        fAbout(this).exec();
+    if (!ground_.gate.isClosing())
+        rooms_->optTypes.select(TileFilter::all);
 }
 
 void frmMain::showHelp() { help_.open(); }

@@ -4,14 +4,16 @@
 
 #include "platform/int16.h"
 
+#include <vector>
+
+class BulkTiles;
 class Canvas;
 class ListLoader;
-class Placement;
-class Procedure;
+class WordStore;
+struct AffixHome;
 struct AffixHomes;
 struct Ground;
 struct MainControls;
-struct TileKind;
 struct WordLists;
 
 /// Fills the first board: the word lists, the Wortel tiles, the two affix rows. A second run reloads nothing
@@ -20,25 +22,28 @@ class ProgInit
 {
 public:
     ProgInit(Ground &ground, const MainControls &controls, WordLists &lists, ListLoader &loader,
-             Canvas &canvas, Placement &placement, AffixHomes &homes);
+             Canvas &canvas, BulkTiles &bulk, AffixHomes &homes);
 
     /// `count` Wortel tiles on a screen of that resolution code. False if a word file is missing: the user
     /// has been told, and the program has to end.
     bool run(Int16 count, int screenCode);
+    /// Wortel tiles of the first board that found no room.
+    int leftOut() const { return leftOut_; }
 
 private:
     void nameTheList();
-    void layWortelTiles(int count);
-    bool fillsAffixes() const;
-    void layAffixRows(Procedure &step, int screenCode);
-    void layAffixRow(const TileKind &kind, int top, int (*stepAfter)(int), int copies);
+    void findHomes(int screenCode);
+    static void findRow(std::vector<AffixHome> &homes, const WordStore &affixes, int top,
+                        int (*stepAfter)(int));
+    int expectedBandTop() const;
 
     Ground &ground_;
     const MainControls &controls_;
     WordLists &lists_;
     ListLoader &loader_;
     Canvas &canvas_;
-    Placement &placement_;
+    BulkTiles &bulk_;
     AffixHomes &homes_;
-    bool affixRowsLaid_ = false;
+    bool homesFound_ = false;
+    int leftOut_ = 0;
 };

@@ -3,6 +3,8 @@
 #pragma once
 
 #include "dialogs/real_boxes.h"
+#include "platform/gate.h"
+#include "platform/gated_boxes.h"
 #include "platform/ground.h"
 #include "platform/log.h"
 #include "platform/options.h"
@@ -24,12 +26,15 @@ public:
 
 private:
     Log log_;
+    Gate gate_;
     RealBoxes boxes_;
+    GatedBoxes gatedBoxes_{boxes_, gate_};
     WindowFileDialogs fileDialogs_;
+    GatedFileDialogs gatedDialogs_{fileDialogs_, gate_};
     Rnd rnd_;
     SoundPlayer sound_;
-    SystemClock clock_;
-    LoopPump pump_;
+    SystemClock clock_{gate_};
+    LoopPump pump_{gate_};
     SettingsFile store_;
     Options options_;
     Ground ground_;

@@ -2,50 +2,59 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/rooms.h"
 
+#include "platform/gate.h"
 #include "platform/ground.h"
-#include "platform/modes.h"
 #include "platform/options.h"
+#include "platform/play_state.h"
 #include "platform/word_lists.h"
+#include "widgets/control_sheet.h"
 #include "widgets/main_controls.h"
+#include "widgets/status_line.h"
 
 #include <QCoreApplication>
 
-Rooms::Rooms(Ground &ground, MainControls &controls, WordLists &lists, Modes &modes)
-    : popup(ground, controls, modes)
-    , optTypes(controls)
-    , measures(controls)
-    , surface(*controls.picCanvas)
+Rooms::Rooms(Ground &ground, const Hall &hall)
+    : popup(ground, hall.controls, hall.sheet, hall.play)
+    , news(ground.gate)
+    , optTypes(hall.controls)
+    , measures(hall.controls)
+    , surface(*hall.controls.picCanvas)
     , store(ground, optTypes, optTypes, surface, measures)
-    , canvas(ground, controls, modes, store, surface, optTypes)
-    , morphemeLists(ground, controls)
-    , background(ground, controls, canvas)
-    , placement(ground, controls, modes, lists, canvas)
-    , bulk(ground, controls, lists, homes, canvas, placement)
-    , arrangement(ground, controls, modes, canvas, placement)
-    , menus([&ground, &modes] {
-        return MenuFacts{.modes = modes, .useUndo = ground.options.storedIsOn(Setting::UseUndo)};
+    , canvas(ground, hall.controls, hall.sheet, store, surface, optTypes)
+    , morphemeLists(ground, hall.controls)
+    , background(ground, hall.controls, canvas)
+    , placement(ground, hall.controls, hall.lists, canvas)
+    , bulk(ground, hall.controls, hall.lists, homes, canvas, placement, news)
+    , arrangement(ground, canvas, placement)
+    , menus([this, &ground, &play = hall.play] {
+        return MenuFacts{.play = play,
+                         .useUndo = ground.options.storedIsOn(Setting::UseUndo),
+                         .canUndo = undo.CanUndo(),
+                         .canRedo = undo.CanRedo()};
     })
-    , cp(menus, controls.form)
-    , commands(ground, controls, lists, modes, {canvas, placement, bulk, arrangement, morphemeLists, menus})
-    , pointer(ground, controls, modes, canvas, commands, cp)
-    , keys(ground, controls, modes, commands, pointer, cp)
-    , loader(ground, lists)
-    , tests(lists, ground.options)
-    , dictionary(ground, controls, lists)
-    , wordList(ground, controls, lists, modes, tests, dictionary)
-    , check(ground, controls, lists, modes, tests, dictionary, popup)
-    , chooser(ground, controls, lists, loader, store,
-              {[this] { bulk.Refill(); }, [this] { pointer.DoOnDrop(); }})
-    , tips(ground, controls, lists, modes)
-    , maker(ground, controls, lists, modes, tests, store)
-    , strip(ground, controls)
-    , retype(ground, controls, lists, modes, {strip, maker, check, tests, dictionary, canvas})
-    , options(ground, controls.form)
-    , undo(ground, modes, menus, canvas)
-    , backup(ground, modes, canvas, bulk)
-    , sessions(ground, controls, lists, {canvas, bulk, loader, undo})
+    , cp(ground.gate, menus, hall.controls.form)
+    , router(ground, hall.play, canvas, news)
+    , commands(ground, hall.controls, router, news, {canvas, placement, bulk, arrangement, morphemeLists})
+    , pointer(ground, hall.controls, {canvas, router, commands, cp, news})
+    , keys(ground, hall.controls, router, pointer, cp)
+    , loader(ground, hall.lists)
+    , tests(hall.lists, ground.options)
+    , dictionary(ground, hall.controls, hall.sheet, hall.lists)
+    , wordList(ground, hall.controls, hall.lists, hall.play, tests, dictionary)
+    , check(ground, hall.controls, hall.lists, hall.play, tests, dictionary, popup)
+    , chooser(ground, hall.controls, hall.lists, loader, store, news,
+              {[this] { return bulk.Refill(); }, [this] { pointer.DoOnDrop(); }})
+    , tips(ground, hall.controls, hall.lists, hall.play)
+    , maker(ground, hall.lists, tests, store)
+    , options(ground, hall.controls.form)
+    , undo(ground, canvas, news)
+    , backup(ground, canvas, news)
+    , sessions(ground, hall.controls, hall.lists, {canvas, loader, news})
     , fileType(ground.log, QCoreApplication::applicationFilePath())
-    , progInit(ground, controls, lists, loader, canvas, placement, homes)
+    , strip(ground, hall.controls)
+    , retype(ground, hall.controls, hall.lists, hall.play,
+             {hall.sheet, hall.status, strip, maker, check, tests, dictionary, canvas, news})
+    , progInit(ground, hall.controls, hall.lists, loader, canvas, bulk, homes)
 {}
 
 Rooms::~Rooms() = default;

@@ -11,10 +11,12 @@
 #include "board/hand/board_commands.h"
 #include "board/hand/board_keys.h"
 #include "board/hand/board_pointer.h"
+#include "board/hand/command_router.h"
 #include "board/hand/menu_model.h"
 #include "board/hand/morpheme_lists.h"
 #include "board/hand/popup_menu.h"
 #include "board/tiles/affix_homes.h"
+#include "board/tiles/board_news.h"
 #include "dialogs/msn_style.h"
 #include "games/retype/retype_mode.h"
 #include "games/retype/strip_control.h"
@@ -33,21 +35,34 @@
 #include "persistence/undo_ring.h"
 #include "shell/prog_init.h"
 
+class ControlSheet;
+class PlayState;
+class StatusLine;
 struct Ground;
 struct MainControls;
-struct Modes;
 struct WordLists;
 
 /// All rooms of the house, made in the order in which they stand on each other.
 struct Rooms
 {
-    Rooms(Ground &ground, MainControls &controls, WordLists &lists, Modes &modes);
+    /// What the rooms stand on, beside the ground.
+    struct Hall
+    {
+        MainControls &controls;
+        ControlSheet &sheet;
+        StatusLine &status;
+        WordLists &lists;
+        PlayState &play;
+    };
+
+    Rooms(Ground &ground, const Hall &hall);
     ~Rooms();
 
     // dialogs
     frmMsnStyle popup;
 
     // board
+    BoardNews news;
     OptTypes optTypes;
     FormMeasures measures;
     CanvasSurface surface;
@@ -61,6 +76,7 @@ struct Rooms
     Arrangement arrangement;
     MenuModel menus;
     PopupMenu cp;
+    CommandRouter router;
     BoardCommands commands;
     BoardPointer pointer;
     BoardKeys keys;
@@ -77,16 +93,16 @@ struct Rooms
     // generators
     WordMaker maker;
 
-    // games
-    StripControl strip;
-    RetypeMode retype;
-
     // persistence
     frmOptions options;
     UndoRing undo;
     Backup backup;
     Sessions sessions;
     FileType fileType;
+
+    // games
+    StripControl strip;
+    RetypeMode retype;
 
     // shell
     ProgInit progInit;

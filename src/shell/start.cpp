@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/start.h"
 
+#include "board/tiles/affix_rows.h"
 #include "platform/desktop.h"
 #include "platform/files.h"
 #include "platform/instance_link.h"
 #include "platform/product.h"
 #include "platform/settings_file.h"
 #include "shell/about_window.h"
-#include "shell/affix_rows.h"
 #include "shell/application_folder.h"
 #include "shell/argument_handler.h"
 #include "shell/frm_main.h"

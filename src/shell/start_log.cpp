@@ -19,7 +19,7 @@ void startLog(Ground &ground, bool useBackup)
     const QString question =
         u"Möchten Sie erst die Fehleraufzeichnungsdatei\n\n"_s + file + u" (error.log) zurücksetzen?  "_s;
     const int answer =
-        ground.boxes.ShowMBox(question, true, 4, u"Wortel-Meister - Bestätigen"_s, u"CONFIRM"_s);
+        ground.boxes.ShowMBox(question, true, 4, u"Wortel-Meister - Bestätigen"_s, BoxStyle::Confirm);
     if (answer == 0)
         KillFile(file); // errors are of no interest here
 

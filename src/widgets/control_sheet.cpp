@@ -6,36 +6,85 @@
 
 #include <algorithm>
 
-void ControlSheet::remember(QWidget *control)
-{
-    const auto isIt = [control](const Covered &covered) { return covered.control == control; };
-    if (std::any_of(covered_.begin(), covered_.end(), isIt))
-        return;
-    // The control's own state counts, not what it inherits from a panel.
-    covered_.push_back(
-        {control, !control->testAttribute(Qt::WA_ForceDisabled), !control->isHidden(), control->toolTip()});
-}
-
-void ControlSheet::layOn(std::span<const SheetRow> rows)
+void ControlSheet::lay(Reason reason, std::span<const SheetRow> rows)
 {
     for (const SheetRow &row : rows) {
         QWidget *control = row.control(controls_);
-        remember(control);
-        if ((row.marks & (SheetRow::Disabled | SheetRow::Enabled)) != 0)
-            control->setEnabled((row.marks & SheetRow::Enabled) != 0);
-        if ((row.marks & (SheetRow::Hidden | SheetRow::Shown)) != 0)
-            control->setVisible((row.marks & SheetRow::Shown) != 0);
-        if (row.toolTip != nullptr)
-            control->setToolTip(QString::fromUtf16(row.toolTip));
+        if (!own_.contains(control))
+            own_.insert(control, {!control->isHidden(), {}});
+        laid_.push_back({reason, row, control});
+        apply(control);
     }
 }
 
-void ControlSheet::takeOff()
+void ControlSheet::takeOff(Reason reason)
 {
-    for (const Covered &covered : covered_) {
-        covered.control->setEnabled(covered.enabled);
-        covered.control->setVisible(covered.shown);
-        covered.control->setToolTip(covered.toolTip);
+    std::vector<QWidget *> freed;
+    for (const Laid &laid : laid_)
+        if (laid.reason == reason)
+            freed.push_back(laid.control);
+    std::erase_if(laid_, [reason](const Laid &laid) { return laid.reason == reason; });
+    for (QWidget *control : freed)
+        apply(control);
+}
+
+void ControlSheet::set(Reason reason, std::span<const SheetRow> rows, bool on)
+{
+    takeOff(reason);
+    if (on)
+        lay(reason, rows);
+}
+
+bool ControlSheet::lies(Reason reason) const
+{
+    return std::any_of(laid_.begin(), laid_.end(),
+                       [reason](const Laid &laid) { return laid.reason == reason; });
+}
+
+bool ControlSheet::acts(const QWidget *control) const
+{
+    constexpr unsigned restsBy = SheetRow::Disabled | SheetRow::Hidden | SheetRow::Resting;
+    return std::none_of(laid_.begin(), laid_.end(), [control](const Laid &laid) {
+        return laid.control == control && (laid.row.marks & restsBy) != 0;
+    });
+}
+
+void ControlSheet::setToolTip(QWidget *control, const QString &text)
+{
+    const auto own = own_.find(control);
+    if (own != own_.end() && own->toolTip)
+        own->toolTip = text;
+    else
+        control->setToolTip(text);
+}
+
+void ControlSheet::apply(QWidget *control)
+{
+    const auto own = own_.find(control);
+    if (own == own_.end())
+        return; // freed already
+    unsigned marks = SheetRow::None;
+    const char16_t *toolTip = nullptr;
+    bool lies = false;
+    for (const Laid &laid : laid_) {
+        if (laid.control != control)
+            continue;
+        lies = true;
+        marks |= laid.row.marks;
+        if (laid.row.toolTip != nullptr)
+            toolTip = laid.row.toolTip;
     }
-    covered_.clear();
+    const bool shown = own->shown || (marks & SheetRow::Shown) != 0;
+    control->setEnabled((marks & SheetRow::Disabled) == 0);
+    control->setVisible(shown && (marks & SheetRow::Hidden) == 0);
+    if (toolTip != nullptr) {
+        if (!own->toolTip)
+            own->toolTip = control->toolTip();
+        control->setToolTip(QString::fromUtf16(toolTip));
+    } else if (own->toolTip) {
+        control->setToolTip(*own->toolTip);
+        own->toolTip.reset();
+    }
+    if (!lies)
+        own_.erase(own);
 }

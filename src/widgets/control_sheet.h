@@ -2,27 +2,47 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QHash>
 #include <QString>
 
+#include <cstdint>
+#include <optional>
 #include <span>
 #include <vector>
 
 class QWidget;
 struct MainControls;
 
-/// What a mode does to one control. `Kept` rows are not changed by the sheet, but by the mode's own steps:
-/// they too come back when it is taken off.
+/// Why a tool rests, is hidden or shown.
+enum class Reason : std::uint8_t {
+    WholeList,  ///< "Alle" is checked: no number is needed
+    Dictionary, ///< the dictionary is open
+    Report,     ///< a report stands over the board
+    Preparing,  ///< words for it are searched on the board
+    Retype,     ///< retype mode, from its preparing on
+    Typing,     ///< the strip runs
+    Work,
+};
+
+/// What a reason does to one control.
 struct SheetRow
 {
-    enum Mark : unsigned { Kept = 0, Disabled = 1, Enabled = 2, Hidden = 4, Shown = 8 };
+    enum Mark : unsigned {
+        None = 0,
+        Disabled = 1,
+        Hidden = 2,
+        Shown = 4,   ///< for a control that is hidden otherwise
+        Resting = 8, ///< looks as ever but does not act: greyed for a moment it would only flicker
+    };
 
     QWidget *(*control)(const MainControls &);
     unsigned marks;
     const char16_t *toolTip = nullptr; ///< nullptr leaves the control's own
 };
 
-/// A sheet that a mode lays over the tools of the main window: some are hidden, some rest. Taken off, each
-/// control is again as it was before it was first covered.
+/// The only one that enables, disables, hides or shows a tool of the main window. Each mode, work, report or
+/// open list lays its sheet under its own reason and takes it off again, in any order: a tool acts when no
+/// reason lies on it, and then looks as it was made.
 class ControlSheet
 {
 public:
@@ -30,22 +50,33 @@ public:
         : controls_(controls)
     {}
 
-    /// May be called several times: the sheets lie on each other and are taken off together.
-    void layOn(std::span<const SheetRow> rows);
-    void takeOff();
-    bool isOn() const { return !covered_.empty(); }
+    /// Laid twice under one reason, both lie there and are taken off together.
+    void lay(Reason reason, std::span<const SheetRow> rows);
+    void takeOff(Reason reason);
+    void set(Reason reason, std::span<const SheetRow> rows, bool on);
+    bool lies(Reason reason) const;
+    /// Whether a press on the tool does something.
+    bool acts(const QWidget *control) const;
+    /// What the tool says while no sheet says something else.
+    void setToolTip(QWidget *control, const QString &text);
 
 private:
-    struct Covered
+    struct Laid
     {
+        Reason reason;
+        SheetRow row;
         QWidget *control;
-        bool enabled;
+    };
+    /// What a control is without the sheets that lie on it.
+    struct Own
+    {
         bool shown;
-        QString toolTip;
+        std::optional<QString> toolTip; ///< while a sheet says something else
     };
 
-    void remember(QWidget *control);
+    void apply(QWidget *control);
 
     const MainControls &controls_;
-    std::vector<Covered> covered_;
+    std::vector<Laid> laid_;
+    QHash<QWidget *, Own> own_;
 };

@@ -3,6 +3,11 @@
 #include "widgets/floating_tile.h"
 
 #include <QPainter>
+#include <QStaticText>
+
+namespace {
+constexpr QPoint textPlace{2, 5}; ///< from the corner of a tile to that of its text
+}
 
 FloatingTile::FloatingTile(QWidget *parent)
     : QWidget(parent)
@@ -27,7 +32,9 @@ void FloatingTile::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.fillRect(rect(), Qt::white);
     painter.fillRect(rect().adjusted(1, 1, -1, -1), back_);
+    // Laid out and placed as on the board, so that the letters stand still when the tile is picked up.
+    QStaticText laid(caption_);
+    laid.setTextFormat(Qt::PlainText);
     painter.setPen(text_);
-    painter.drawText(rect().adjusted(2, 0, -1, 0), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-                     caption_);
+    painter.drawStaticText(textPlace, laid);
 }

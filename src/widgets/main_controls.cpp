@@ -163,7 +163,7 @@ void makeBoard(C &c)
     c.picCanvas = make<PictureBox>(c.form, "picCanvas");
     c.picCanvas->setAccessibleName(QStringLiteral("Spielfeld"));
     c.picCanvas->setMouseTracking(true);
-    c.BtnMove1 = make<FloatingTile>(c.picCanvas, "BtnMove1");
+    c.BtnMove1 = make<FloatingTile>(c.form, "BtnMove1");
     c.BtnMove1->hide();
     c.lblMove = makeLabel(c.picCanvas, "lblMove");
     c.lblMove->hide();

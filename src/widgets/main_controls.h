@@ -27,7 +27,7 @@ struct MainControls
     QWidget *form = nullptr;
 
     PictureBox *picCanvas = nullptr;
-    FloatingTile *BtnMove1 = nullptr; ///< child of picCanvas
+    FloatingTile *BtnMove1 = nullptr; ///< over the lists, too; the board stands in the corner of the form
     QLabel *lblMove = nullptr;
     AlphaPanel *PicAlpha = nullptr; ///< the tip panel with its parts
     QLabel *AlphaText = nullptr;    ///< the tip's words

@@ -76,7 +76,7 @@ private slots:
     {
         Boxes &boxes = boxes_;
         QTimer::singleShot(modalWait, [] { QVERIFY(QApplication::activeModalWidget() == nullptr); });
-        QCOMPARE(boxes.ShowMBox(u"Wirklich?"_s, false, 3, u"Bestätigen"_s, u"CONFIRM"_s), 0);
+        QCOMPARE(boxes.ShowMBox(u"Wirklich?"_s, false, 3, u"Bestätigen"_s, BoxStyle::Confirm), 0);
         QTest::qWait(2 * modalWait);
     }
 
@@ -96,7 +96,7 @@ private slots:
         QFETCH(QStringList, captions);
         for (int index = 0; index < captions.size(); ++index) {
             const int answer =
-                answered([&] { return boxes_.ShowMBox(u"?"_s, true, code, {}, u"PREFIX"_s); },
+                answered([&] { return boxes_.ShowMBox(u"?"_s, true, code, {}, BoxStyle::Prefix); },
                          [&](QWidget *box) {
                              QStringList found;
                              for (const PressButton *button : box->findChildren<PressButton *>())
@@ -185,14 +185,14 @@ private slots:
 
     void noticeClosesByItsSign_data()
     {
-        columns<QString, QString, QString>("style", "sign", "picture");
-        QTest::newRow("SMILEY") << u"SMILEY"_s << u"Image1"_s << u":/icons/smiley.svg"_s;
-        QTest::newRow("WRITE") << u"WRITE"_s << u"Image2"_s << u":/icons/write.svg"_s;
-        QTest::newRow("INFO") << u"INFO"_s << u"Image3"_s << u":/icons/information.svg"_s;
+        columns<BoxSign, QString, QString>("style", "sign", "picture");
+        QTest::newRow("SMILEY") << BoxSign::Smiley << u"Image1"_s << u":/icons/smiley.svg"_s;
+        QTest::newRow("WRITE") << BoxSign::Write << u"Image2"_s << u":/icons/write.svg"_s;
+        QTest::newRow("INFO") << BoxSign::Info << u"Image3"_s << u":/icons/information.svg"_s;
     }
     void noticeClosesByItsSign()
     {
-        QFETCH(QString, style);
+        QFETCH(BoxSign, style);
         QFETCH(QString, sign);
         QFETCH(QString, picture);
         const auto press = [&](QWidget *box) {
@@ -216,41 +216,45 @@ private slots:
                 QTest::mouseClick(buttonOf(box, button), Qt::LeftButton);
             };
         };
-        QCOMPARE(answered([&] { return boxes.ShowIBox({}, 2, u"alt"_s, {}); }, typeInto(u"But1(0)"_s)),
+        QCOMPARE(answered([&] { return boxes.ShowIBox({}, BoxStyle::Wortel, u"alt"_s, {}); },
+                          typeInto(u"But1(0)"_s)),
                  u"fahr"_s);
-        QCOMPARE(answered([&] { return boxes.ShowIBox({}, 2, u"alt"_s, {}); }, typeInto(u"But1(1)"_s)),
+        QCOMPARE(answered([&] { return boxes.ShowIBox({}, BoxStyle::Wortel, u"alt"_s, {}); },
+                          typeInto(u"But1(1)"_s)),
                  QString());
-        QCOMPARE(answered([&] { return boxes.ShowWordBox({}, 2, u"alt"_s, {}); }, typeInto(u"Check1"_s)),
+        QCOMPARE(answered([&] { return boxes.ShowWordBox({}, BoxStyle::Wortel, u"alt"_s, {}); },
+                          typeInto(u"Check1"_s)),
                  u"fahr"_s);
     }
 
     void colours_data()
     {
-        columns<QString, QString, int, QColor, QColor>("box", "style", "kind", "window", "message");
+        columns<QString, BoxStyle, BoxSign, QColor, QColor>("box", "style", "sign", "window", "message");
         const QColor yellow(255, 255, 0);
         const QColor red(255, 0, 0);
         const QColor blue(0, 0, 255);
         const QColor grey(0xF0, 0xF0, 0xF0);
-        for (const auto &[style, window, message] :
-             {std::tuple{u"PREFIX"_s, yellow, blue}, std::tuple{u"WORTEL"_s, red, QColor(Qt::white)},
-              std::tuple{u"SUFFIX"_s, blue, yellow},
-              std::tuple{u"HISCORE"_s, QColor(Qt::white), QColor(Qt::black)},
-              std::tuple{u"RETYPE"_s, QColor(Qt::white), blue},
-              std::tuple{u"CONFIRM"_s, QColor(Qt::white), blue},
-              std::tuple{u"prefix"_s, grey, QColor(Qt::black)}})
-            QTest::addRow("question %s", qPrintable(style)) << u"MBox"_s << style << 0 << window << message;
-        for (const QString &style : {u"SMILEY"_s, u"WRITE"_s, u"INFO"_s})
-            QTest::addRow("notice %s", qPrintable(style))
-                << u"Info"_s << style << 0 << QColor(Qt::white) << blue;
-        QTest::newRow("input 1") << u"IBox"_s << QString() << 1 << yellow << blue;
-        QTest::newRow("input 2") << u"IBox"_s << QString() << 2 << red << QColor(Qt::white);
-        QTest::newRow("input 3") << u"IBox"_s << QString() << 3 << blue << yellow;
-        QTest::newRow("input 0") << u"IBox"_s << QString() << 0 << grey << QColor(Qt::black);
+        const auto row = [](const QString &box, BoxStyle style, const QColor &window, const QColor &message) {
+            QTest::addRow("%s %d", qPrintable(box), int(style))
+                << box << style << BoxSign::None << window << message;
+        };
+        for (const QString &box : {u"MBox"_s, u"IBox"_s}) {
+            row(box, BoxStyle::Prefix, yellow, blue);
+            row(box, BoxStyle::Wortel, red, Qt::white);
+            row(box, BoxStyle::Suffix, blue, yellow);
+            row(box, BoxStyle::Plain, grey, Qt::black);
+        }
+        row(u"MBox"_s, BoxStyle::HiScore, Qt::white, Qt::black);
+        row(u"MBox"_s, BoxStyle::Retype, Qt::white, blue);
+        row(u"MBox"_s, BoxStyle::Confirm, Qt::white, blue);
+        for (const BoxSign sign : {BoxSign::Smiley, BoxSign::Write, BoxSign::Info})
+            QTest::addRow("notice %d", int(sign))
+                << u"Info"_s << BoxStyle::Plain << sign << QColor(Qt::white) << blue;
     }
     void colours()
     {
-        QFETCH(QString, style);
-        QFETCH(int, kind);
+        QFETCH(BoxStyle, style);
+        QFETCH(BoxSign, sign);
         QFETCH(QColor, window);
         QFETCH(QColor, message);
         QFETCH(QString, box);
@@ -263,7 +267,7 @@ private slots:
             QCOMPARE(mainColours(picture.copy(words)), (std::pair{window, message}));
             pressKey(shown, Qt::Key_Escape);
         };
-        answered([&] { return answerOf(box, u"\u2588\u2588"_s, style, kind); }, look);
+        answered([&] { return answerOf(box, u"\u2588\u2588"_s, style, sign); }, look);
     }
 
     void aBoxWithoutACornerStandsInTheMiddleOfTheScreen_data()
@@ -366,16 +370,16 @@ private slots:
             box->grab();
             pressKey(box, Qt::Key_Escape);
         };
-        answered([&] { return boxes.ShowMBox(text, true, 3, text, u"PREFIX"_s); }, check);
-        answered([&] { return boxes.ShowInfoBox(text, u"WRITE"_s, text); }, check);
-        answered([&] { return boxes.ShowIBox(text, 2, text, text); }, check);
-        answered([&] { return boxes.ShowWordBox(text, 0, text, text, 5000, 5000); }, check);
+        answered([&] { return boxes.ShowMBox(text, true, 3, text, BoxStyle::Prefix); }, check);
+        answered([&] { return boxes.ShowInfoBox(text, BoxSign::Write, text); }, check);
+        answered([&] { return boxes.ShowIBox(text, BoxStyle::Wortel, text, text); }, check);
+        answered([&] { return boxes.ShowWordBox(text, BoxStyle::Plain, text, text, 5000, 5000); }, check);
         answered([&] { return int(boxes.plainBox(Boxes::Icon::Warning, text, text)); }, check);
     }
 
     void longTextScrollsByKeys()
     {
-        answered([&] { return boxes_.ShowMBox(u"Zeile\n"_s.repeated(200), true, 3, {}, u"CONFIRM"_s); },
+        answered([&] { return boxes_.ShowMBox(u"Zeile\n"_s.repeated(200), true, 3, {}, BoxStyle::Confirm); },
                  [](QWidget *box) {
                      QScrollBar *bar = box->findChild<QScrollArea *>()->verticalScrollBar();
                      QVERIFY(bar->maximum() > 0);
@@ -455,21 +459,21 @@ private slots:
 
 private:
     /// What the box of that name answers, as a text.
-    QString answerOf(const QString &box, const QString &text = u"?"_s, const QString &style = u"INFO"_s,
-                     int kind = 1)
+    QString answerOf(const QString &box, const QString &text = u"?"_s, BoxStyle style = BoxStyle::Prefix,
+                     BoxSign sign = BoxSign::Info)
     {
         Boxes &boxes = boxes_;
         if (box == u"MBox"_s)
             return QString::number(boxes.ShowMBox(text, true, 3, {}, style));
         if (box == u"Info"_s)
-            return QString::number(boxes.ShowInfoBox(text, style, {}));
-        return box == u"IBox"_s ? boxes.ShowIBox(text, kind, u"vor"_s, {})
-                                : boxes.ShowWordBox(text, kind, u"vor"_s, {});
+            return QString::number(boxes.ShowInfoBox(text, sign, {}));
+        return box == u"IBox"_s ? boxes.ShowIBox(text, style, u"vor"_s, {})
+                                : boxes.ShowWordBox(text, style, u"vor"_s, {});
     }
 
     /// Asks with two buttons and lets `act` answer.
     int question(const std::function<void(QWidget *)> &act, const QString &text = u"?"_s,
-                 const QString &style = u"CONFIRM"_s)
+                 BoxStyle style = BoxStyle::Confirm)
     {
         return answered([&] { return boxes_.ShowMBox(text, true, 3, {}, style); }, act);
     }

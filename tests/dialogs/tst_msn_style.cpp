@@ -1,13 +1,10 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "dialogs/msn_style.h"
-#include "platform/modes.h"
+#include "dialogs/report_window.h"
 #include "support/columns.h"
 #include "support/registry.h"
-#include "support/test_ground.h"
+#include "support/test_house.h"
 #include "widgets/gradient.h"
-#include "widgets/main_controls.h"
-#include "widgets/press_button.h"
 
 #include <QLabel>
 #include <QTimer>
@@ -20,36 +17,39 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Desk
+struct Desk : TestHouse
 {
+    frmMsnStyle *popup = &r.popup;
+
     Desk()
+        : TestHouse(1, {853, 480})
     {
-        form.resize(853, 480);
-        controls = makeMainControls(&form);
-        layOutMainControls(controls, form.width(), form.height());
-        popup = new frmMsnStyle(t.ground, controls, modes);
         form.show();
     }
 
     void report(int seconds, const QString &word = u"\"Haus\""_s, bool boldWord = true, bool smiley = true)
     {
-        popup->Display(u"Richtig !"_s, u"Das gesuchte Wort \n"_s, word, u"ist richtig."_s, seconds, 101,
+        popup->Display(u"Richtig !"_s, u"Das gesuchte Wort \n"_s, word, u"ist richtig."_s, seconds, SoundId::WordRight,
                        boldWord, smiley);
     }
     ReportWindow *row(int slot) const
     {
         return form.findChild<ReportWindow *>(u"frmMsnStyle(%1)"_s.arg(slot));
     }
+    QTimer *alert(int slot) const { return row(slot)->findChild<QTimer *>(u"AlertTimer"_s); }
     bool isUp(int slot) const
     {
         return row(slot)->isVisible() && row(slot)->height() == row(slot)->fullHeight();
     }
-
-    TestGround t;
-    Modes modes;
-    QWidget form;
-    MainControls controls;
-    frmMsnStyle *popup;
+    /// The tools that a report puts to rest, by their state.
+    QString tools()
+    {
+        QString states;
+        for (const QWidget *tool : std::initializer_list<const QWidget *>{
+                 controls.Command2, controls.Command5, controls.Command3, controls.Command4})
+            states += tool->isEnabled() ? u'+' : u'-';
+        return states + (form.sheet().acts(controls.Check4) ? u'+' : u'-');
+    }
 };
 
 } // namespace
@@ -63,6 +63,7 @@ private slots:
     {
         Desk desk;
         QSignalSpy closed(desk.popup, &frmMsnStyle::closed);
+        desk.t.sound.resources.clear();
         desk.report(1);
         ReportWindow *window = desk.row(1);
         const int foot = window->geometry().bottom();
@@ -70,35 +71,35 @@ private slots:
         QCOMPARE(window->y(), desk.controls.Picture1->y() + 14);
         QCOMPARE(window->height(), 6);
         QCOMPARE(desk.t.sound.resources, QList<int>{101});
-        QVERIFY(!desk.modes.CheckButtonsAct);
-        QVERIFY(!desk.controls.Command2->isEnabled() && !desk.controls.Command5->isEnabled());
-        QVERIFY(!desk.controls.Command3->isEnabled() && !desk.controls.Command4->isEnabled());
+        QCOMPARE(desk.tools(), u"-----"_s);
         QTRY_VERIFY(desk.isUp(1));
         QCOMPARE(window->geometry().bottom(), foot);
         QTRY_COMPARE(closed.count(), 1);
         QVERIFY(!window->isVisible());
         QCOMPARE(desk.popup->slot(), 0);
-        QVERIFY(desk.modes.CheckButtonsAct);
-        QVERIFY(desk.controls.Command2->isEnabled() && desk.controls.Command4->isEnabled());
+        QCOMPARE(desk.trouble(), QString());
     }
 
-    void standsAsLongAsAsked_data()
+    /// Its time begins when it has slid up.
+    void standsItsTime_data()
     {
-        columns<int, int>("seconds", "milliseconds");
+        columns<int, int>("seconds", "interval");
+        QTest::newRow("two seconds") << 2 << 2000;
         QTest::newRow("none") << 0 << 0;
-        QTest::newRow("one") << 1 << 1000;
-        QTest::newRow("three") << 3 << 3000;
-        QTest::newRow("negative") << -5 << 0;
-        QTest::newRow("more than a timer holds") << std::numeric_limits<int>::max() << 86'400'000;
+        QTest::newRow("below none") << -5 << 0;
+        QTest::newRow("a day at most") << 1000000 << 24 * 3600 * 1000;
     }
-    void standsAsLongAsAsked()
+    void standsItsTime()
     {
         QFETCH(int, seconds);
         Desk desk;
         desk.report(seconds);
-        const auto *timer = desk.row(1)->findChild<QTimer *>(u"AlertTimer"_s);
-        QVERIFY(timer->isSingleShot());
-        QTEST(timer->interval(), "milliseconds");
+        QTEST(desk.alert(1)->interval(), "interval");
+        QVERIFY(!desk.alert(1)->isActive());
+        if (desk.alert(1)->interval() == 0)
+            return;
+        QTRY_VERIFY(desk.alert(1)->isActive());
+        QVERIFY(desk.isUp(1));
     }
 
     void saysWhatItWasGiven_data()
@@ -133,16 +134,14 @@ private slots:
     void aRunningGameKeepsItsButtonsAndSilenceItsPeace()
     {
         Desk desk;
-        desk.modes.GameActive = true;
+        desk.play.startGame(PlayState::Phase::Playing, Vowels::None);
         desk.t.options.setBox(Setting::UseSounds, 0);
-        desk.controls.Command3->setEnabled(false);
-        desk.controls.Command4->setEnabled(true);
-        desk.report(0);
+        desk.t.sound.resources.clear();
+        desk.report(60);
         QVERIFY(desk.t.sound.resources.isEmpty());
-        QVERIFY(desk.controls.Command4->isEnabled());
-        QTRY_VERIFY(!desk.row(1)->isVisible());
-        QVERIFY(!desk.controls.Command3->isEnabled());
-        QVERIFY(desk.controls.Command2->isEnabled());
+        QCOMPARE(desk.tools(), u"--++-"_s);
+        emit desk.row(1)->closePressed();
+        QCOMPARE(desk.tools(), u"+++++"_s);
     }
 
     void fiveInARowReuseTheFirstSlot()
@@ -171,7 +170,7 @@ private slots:
         press(2);
         QCOMPARE(desk.popup->slot(), 0);
         QCOMPARE(closed.count(), 2);
-        QVERIFY(desk.controls.Command2->isEnabled());
+        QCOMPARE(desk.tools(), u"+++++"_s);
     }
 
     void textStaysInside_data()

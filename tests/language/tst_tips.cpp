@@ -1,16 +1,10 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "language/tips.h"
-#include "platform/modes.h"
-#include "platform/word_lists.h"
 #include "support/columns.h"
 #include "support/registry.h"
-#include "support/test_ground.h"
+#include "support/test_board.h"
 #include "widgets/alpha_panel.h"
-#include "widgets/click_label.h"
 #include "widgets/gradient.h"
-#include "widgets/main_controls.h"
-#include "widgets/picture_box.h"
 
 #include <QTimer>
 #include <QtTest>
@@ -27,27 +21,25 @@ const QString vokalFile =
     u"[Tipp]\r\nKurzvokal=Kurz klingt schnell.\r\nLangvokal=Lang kannst du ziehen.\r\n"_s;
 const QString damaged = u"Die Tipp-Datei (Lextip.ini) ist beschädigt oder unvollständig"_s;
 
-struct Desk
+/// The house with both tip files.
+struct Desk : TestHouse
 {
+    Tips *tips = &r.tips;
+
     Desk()
+        : TestHouse(1, {853, 480})
     {
-        form.resize(853, 480);
-        controls = makeMainControls(&form);
-        layOutMainControls(controls, form.width(), form.height());
+        t.writeFile(u"lextip.ini"_s, tipFile);
+        t.writeFile(u"vokaltip.ini"_s, vokalFile);
         lists.CurrentLexiconFile = t.AppFolder + u"facit\\IG ODER LICH.lex"_s;
-        tips = new Tips(t.ground, controls, lists, modes);
         form.show();
+        settle(); // activated
     }
 
     QString text() const { return controls.AlphaText->text(); }
-    QTimer *timer(const QString &name) const { return tips->findChild<QTimer *>(name); }
-
-    TestGround t;
-    Modes modes;
-    WordLists lists;
-    QWidget form;
-    MainControls controls;
-    Tips *tips;
+    QTimer *timer(const char *name) const { return tips->findChild<QTimer *>(QLatin1String(name)); }
+    /// Presses a widget of the window where it lies, as a hand does.
+    void pressOn(QWidget *widget) { QTest::mouseClick(widget, Qt::LeftButton); }
 };
 
 } // namespace
@@ -76,7 +68,6 @@ private slots:
         QFETCH(QString, lexicon);
         QFETCH(QString, text);
         Desk desk;
-        desk.t.writeFile(u"lextip.ini"_s, tipFile);
         if (text.isEmpty())
             desk.t.boxes.willAnswer(Boxes::Answer::Ok);
         desk.tips->ShowLexiconTip2(lexicon, u"ONREQUEST"_s);
@@ -110,38 +101,25 @@ private slots:
         QFETCH(QString, content);
         QFETCH(QString, complaint);
         Desk desk;
-        if (!content.isNull())
-            desk.t.writeFile(name, content);
+        content.isNull() ? QFile::remove(desk.t.folder.filePath(name))
+                         : !desk.t.writeFile(name, content).isEmpty();
         desk.t.boxes.willAnswer(Boxes::Answer::Ok);
         if (name == u"lextip.ini"_s)
             desk.tips->mnuShowTip_Click();
         else
-            desk.tips->ShowVokalTip(u"KURZ"_s, u"GAME"_s);
+            desk.tips->ShowVokalTip(Vowels::Short, u"GAME"_s);
         QVERIFY(!desk.tips->isShown());
         QCOMPARE(desk.t.boxes.asked.first().text, complaint);
         QVERIFY(desk.t.ok());
-    }
-
-    void anotherModeWordKeepsTheText()
-    {
-        Desk desk;
-        desk.t.writeFile(u"vokaltip.ini"_s, vokalFile);
-        for (const QString &mode : {u"wortel"_s, u"WORTEL"_s, u"GAME"_s, u"ONREQUEST"_s}) {
-            desk.controls.AlphaText->setText(u"vorher"_s);
-            desk.tips->ShowVokalTip(u"KURZ"_s, mode);
-            QCOMPARE(desk.text(), mode == u"wortel"_s ? u"vorher"_s : u"Kurz klingt schnell."_s);
-            QVERIFY(desk.tips->isShown());
-        }
     }
 
     void bulb()
     {
         for (const QString &start : {u"Verl"_s, u"Kurz"_s, u"Lang"_s}) {
             Desk desk;
-            desk.t.writeFile(u"lextip.ini"_s, tipFile);
-            desk.t.writeFile(u"vokaltip.ini"_s, vokalFile);
-            desk.modes.KurzVokalMode = start == u"Kurz"_s;
-            desk.modes.LangVokalMode = start == u"Lang"_s;
+            desk.play.setCheckedVowels(start == u"Kurz"_s   ? Vowels::Short
+                                       : start == u"Lang"_s ? Vowels::Long
+                                                            : Vowels::None);
             QTest::mouseClick(desk.controls.Image1, Qt::LeftButton);
             QVERIFY2(desk.text().startsWith(start), qPrintable(desk.text()));
             desk.controls.AlphaText->setText(u"steht"_s);
@@ -150,64 +128,137 @@ private slots:
         }
     }
 
-    void aClickHidesIt()
+    /// A word that is being typed goes on when the tip has been read, however it came and went.
+    void aClickHidesItAndGivesTheFocusBack()
     {
         Desk desk;
-        desk.t.writeFile(u"lextip.ini"_s, tipFile);
-        for (QWidget *target :
-             {static_cast<QWidget *>(desk.controls.Label5), static_cast<QWidget *>(desk.controls.PicAlpha)}) {
-            desk.tips->mnuShowTip_Click();
-            QVERIFY(desk.tips->isShown());
-            QTest::mouseClick(target, Qt::LeftButton);
-            QVERIFY(!desk.tips->isShown());
+        QVERIFY(QTest::qWaitForWindowActive(&desk.form));
+        for (const bool byBulb : {true, false}) {
+            for (QWidget *target : {static_cast<QWidget *>(desk.controls.Label5),
+                                    static_cast<QWidget *>(desk.controls.PicAlpha)}) {
+                desk.controls.Dropper1->takeFocus();
+                byBulb ? desk.pressOn(desk.controls.Image1) : desk.tips->TipTimer_Tick();
+                TestHouse::settle();
+                QVERIFY(desk.tips->isShown());
+                desk.pressOn(target);
+                QVERIFY(!desk.tips->isShown());
+                QVERIFY(desk.controls.Dropper1->isActiveControl());
+            }
+        }
+        desk.controls.picCanvas->setFocus();
+        desk.pressOn(desk.controls.Image1);
+        desk.pressOn(desk.controls.PicAlpha);
+        QVERIFY(desk.controls.picCanvas->hasFocus());
+    }
+
+    void timers_data()
+    {
+        // interval: of the timer that runs then, or -1
+        columns<Setting, int, Setting, QString, int>("box", "state", "time", "seconds", "interval");
+        QTest::newRow("on") << Setting::UseLexTip << 1 << Setting::TipTime << u"7"_s << 7000;
+        QTest::newRow("off") << Setting::UseLexTip << 0 << Setting::TipTime << u"7"_s << -1;
+        QTest::newRow("game on") << Setting::UseGameLexTip << 1 << Setting::GameTipTime << u"8"_s << 8000;
+        QTest::newRow("game off") << Setting::UseGameLexTip << 0 << Setting::GameTipTime << u"8"_s << -1;
+        QTest::newRow("vowels on") << Setting::VokalTipEnabled << 1 << Setting::VokalTipTime << u"9"_s
+                                   << 9000;
+        QTest::newRow("vowels off") << Setting::VokalTipEnabled << 0 << Setting::VokalTipTime << u"9"_s << -1;
+        QTest::newRow("no time") << Setting::VokalTipEnabled << 1 << Setting::VokalTipTime << u"0"_s << -1;
+        QTest::newRow("ages") << Setting::VokalTipEnabled << 1 << Setting::VokalTipTime << u"99999999999"_s
+                              << std::numeric_limits<int>::max();
+    }
+    void timers()
+    {
+        QFETCH(Setting, box);
+        QFETCH(int, state);
+        QFETCH(Setting, time);
+        QFETCH(QString, seconds);
+        Desk desk;
+        desk.tips->stopTimers();
+        desk.t.options.setBox(box, state);
+        desk.t.options.setText(time, seconds);
+        const char *name = "TipTimer";
+        if (box == Setting::UseLexTip) {
+            desk.tips->startTipTimer();
+        } else if (box == Setting::UseGameLexTip) {
+            desk.tips->startGameTipTimer();
+            name = "GameTipTimer";
+        } else {
+            desk.tips->startVokalTipTimer();
+            name = "VokalTipTimer";
+        }
+        QTEST(desk.timer(name)->isActive() ? desk.timer(name)->interval() : -1, "interval");
+        desk.tips->stopTimers();
+        QVERIFY(!desk.timer(name)->isActive());
+    }
+
+    void aTickShowsItsTip()
+    {
+        struct Tick
+        {
+            void (Tips::*tick)();
+            Vowels vowels;
+            const char16_t *text;
+        };
+        for (const Tick &due : {Tick{&Tips::TipTimer_Tick, Vowels::Short, u"Verl"},
+                                {&Tips::GameTipTimer_Tick, Vowels::Short, u"Verl"},
+                                {&Tips::VokalTipTimer_Tick, Vowels::Short, u"Kurz"},
+                                {&Tips::VokalTipTimer_Tick, Vowels::Long, u"Lang"}}) {
+            Desk desk;
+            desk.play.setCheckedVowels(due.vowels);
+            (desk.tips->*due.tick)();
+            TestHouse::settle();
+            QVERIFY2(desk.text().startsWith(QString::fromUtf16(due.text)), qPrintable(desk.text()));
         }
     }
 
-    void timers()
+    void aTickStaysQuiet_data()
     {
-        Desk desk;
-        desk.t.options.setText(Setting::TipTime, u"7"_s);
-        desk.t.options.setBox(Setting::UseLexTip, 1);
-        desk.tips->startTipTimer();
-        QCOMPARE(desk.timer(u"TipTimer"_s)->interval(), 7000);
-        QVERIFY(desk.timer(u"TipTimer"_s)->isActive());
-        desk.t.options.setBox(Setting::UseGameLexTip, 0);
-        desk.tips->startGameTipTimer();
-        QVERIFY(!desk.timer(u"GameTipTimer"_s)->isActive());
-        desk.t.options.setBox(Setting::VokalTipEnabled, 1);
-        desk.t.options.setText(Setting::VokalTipTime, u"0"_s);
-        desk.tips->startVokalTipTimer();
-        QVERIFY(!desk.timer(u"VokalTipTimer"_s)->isActive());
-        desk.t.options.setText(Setting::VokalTipTime, u"99999999999"_s);
-        desk.tips->startVokalTipTimer();
-        QVERIFY(desk.timer(u"VokalTipTimer"_s)->isActive());
-        desk.tips->stopGameTimers();
-        QVERIFY(!desk.timer(u"VokalTipTimer"_s)->isActive());
+        columns<QString, bool>("meanwhile", "comesLater");
+        QTest::newRow("a side window") << u"window"_s << false;
+        QTest::newRow("words run") << u"strip"_s << false;
+        QTest::newRow("a tip lies there") << u"tip"_s << false;
+        QTest::newRow("a tile is held") << u"tile"_s << true;
+        QTest::newRow("a work runs") << u"work"_s << true;
     }
-
-    void aTickShowsTheTipOnce()
+    void aTickStaysQuiet()
     {
+        QFETCH(QString, meanwhile);
+        QFETCH(bool, comesLater);
         Desk desk;
-        desk.t.writeFile(u"lextip.ini"_s, tipFile);
-        desk.tips->startTipTimer();
         QWidget side;
         side.setObjectName(u"frmMemory"_s);
-        side.show();
-        QVERIFY(Tips::IsSideWindowOpen());
+        std::optional<Work> work;
+        desk.lay(wortelKind, 100, 100, u"haus"_s);
+        if (meanwhile == u"window"_s)
+            side.show();
+        if (meanwhile == u"tile"_s)
+            desk.press({105, 105});
+        if (meanwhile == u"tip"_s)
+            desk.pressOn(desk.controls.Image1);
+        if (meanwhile == u"work"_s)
+            work.emplace(desk.t.ground);
+        if (meanwhile == u"strip"_s) {
+            desk.lists.CorrectWordList.add(u"Haus"_s);
+            desk.tool(desk.controls.Check4);
+        }
+        desk.t.sound.resources.clear();
+        desk.controls.AlphaText->clear();
+        desk.tips->startTipTimer();
         desk.tips->TipTimer_Tick();
-        QVERIFY(!desk.tips->isShown());
-        QVERIFY(!desk.timer(u"TipTimer"_s)->isActive());
-        side.hide();
-        desk.tips->TipTimer_Tick();
-        QVERIFY(desk.tips->isShown());
-        desk.tips->GameTipTimer_Tick();
-        QCOMPARE(desk.t.sound.resources.size(), 1);
+        TestHouse::settle();
+        QCOMPARE(desk.text(), QString());
+        QVERIFY(desk.t.sound.resources.isEmpty() && !desk.timer("TipTimer")->isActive());
+        work.reset();
+        desk.release({105, 105});
+        desk.t.sound.resources.clear();
+        if (comesLater)
+            QTRY_COMPARE(desk.t.sound.resources, QList<int>{110});
+        QCOMPARE(desk.text().isEmpty(), !comesLater);
     }
 
     void theLayerShowsTheBoardFaintly()
     {
         Desk desk;
-        desk.t.writeFile(u"lextip.ini"_s, tipFile);
         desk.controls.picCanvas->image().fill(Qt::black);
         desk.tips->mnuShowTip_Click();
         const AlphaPanel *panel = desk.controls.PicAlpha;
@@ -216,8 +267,6 @@ private slots:
         QCOMPARE(panel->face().pixelColor(50, 50), QColor(223, 223, 223));
         QVERIFY(panel->rect().contains(desk.controls.Label5->geometry()));
         desk.form.resize(1024, 700);
-        layOutMainControls(desk.controls, 1024, 700);
-        desk.tips->recompose();
         QCOMPARE(panel->width(), desk.controls.picCanvas->width());
     }
 

@@ -3,12 +3,12 @@
 #include "language/word_window.h"
 #include "support/columns.h"
 #include "support/registry.h"
+#include "support/test_board.h"
+#include "widgets/control_sheet.h"
 
 #include <QLabel>
 #include <QSignalSpy>
 #include <QtTest>
-
-using namespace Qt::StringLiterals;
 
 /// The check of the entered word in all its branches.
 class WordCheckTest : public QObject
@@ -21,12 +21,13 @@ private slots:
         WordWindow w;
         w.t.options.setBox(Setting::CaseCheck, 0);
         w.enter(u" haus "_s);
-        QCOMPARE(w.popup.shown,
-                 QStringList(u"Richtig !|Das gesuchte Wort \n\"Haus\"\nist richtig.|1s 101 bold smiley"_s));
+        QCOMPARE(w.reports,
+                 QStringList(u"Richtig !|Das gesuchte Wort|\"Haus\"|ist richtig.|1 bold smiley"_s));
+        QCOMPARE(w.t.sound.resources, QList<int>{101});
         QCOMPARE(w.lists.CorrectWordList.rows(), QStringList(u"haus"_s)); // the learner's spelling
         QCOMPARE(w.entry(), QString());
         w.enter(u"HAUS"_s);
-        QCOMPARE(w.popup.shown.size(), 2);
+        QCOMPARE(w.reports.size(), 2);
         QCOMPARE(w.lists.CorrectWordList.count(), 1);
         QVERIFY(w.lists.GameCollectedList.isEmpty());
         QVERIFY(w.t.ok());
@@ -41,7 +42,6 @@ private slots:
         QTest::newRow("only the ends are trimmed") << u" Ha us "_s << 0 << 1 << u"Ha us"_s;
         QTest::newRow("third state") << u"Haus"_s << 2 << 1 << u"Haus"_s;
         QTest::newRow("markup") << u"<b>Haus</b>"_s << 0 << 1 << u"<b>Haus</b>"_s;
-        QTest::newRow("500 letters") << QString(500, u'x') << 0 << 1 << QString(500, u'x');
     }
     void wrongWord()
     {
@@ -54,8 +54,9 @@ private slots:
         w.t.options.setBox(Setting::TrimEnteredWords, trims);
         w.t.store.SaveSetting(u"Settings"_s, u"VerifyWinTime"_s, u"2.9"_s);
         w.enter(typed);
-        QCOMPARE(w.popup.shown, QStringList(u"Wort nicht gefunden|Das gesuchte Wort \n\""_s + asked +
-                                            u"\"\n steht nicht im Wörterbuch.|2s 102"_s));
+        QCOMPARE(w.reports, QStringList(u"Wort nicht gefunden|Das gesuchte Wort|\""_s + asked +
+                                        u"\"|steht nicht im Wörterbuch.|2"_s));
+        QCOMPARE(w.t.sound.resources, QList<int>{102});
         QCOMPARE(w.entry(), asked);
         QVERIFY(w.entrySelected());
         QVERIFY(w.lists.CorrectWordList.isEmpty());
@@ -67,11 +68,11 @@ private slots:
         for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
             WordWindow w;
             w.t.boxes.willBeRead();
-            w.check.Command2_MouseDown(button);
+            w.tool(w.c.Command2, button);
             QCOMPARE(w.t.boxes.asked.first().title, u"Wortel-Meister: Wortkontrolle"_s);
             QCOMPARE(w.t.boxes.asked.first().text, u"Gib bitte ein Wort ein"_s);
             QCOMPARE(w.t.boxes.asked.first().style, u"WRITE"_s);
-            QVERIFY(!w.dictionary.isOpen());
+            QVERIFY(!w.r.dictionary.isOpen());
             QVERIFY(w.t.ok());
         }
     }
@@ -80,63 +81,49 @@ private slots:
     {
         WordWindow w;
         w.t.options.setBox(Setting::CaseCheck, 0);
-        w.modes.GameActive = true;
-        QSignalSpy collected(&w.check, &WordCheck::gameWordCollected);
+        w.play.startGame(PlayState::Phase::Playing, Vowels::None);
+        QSignalSpy collected(&w.r.check, &WordCheck::gameWordCollected);
         for (const QString &word : {u"Haus"_s, u"haus"_s, u"laufen"_s})
             w.enter(word);
-        QCOMPARE(w.popup.shown.size(), 3);
+        QCOMPARE(w.reports.size(), 3);
         QCOMPARE(w.lists.GameCollectedList.rows(), QStringList({u"Haus"_s, u"laufen"_s}));
         QCOMPARE(w.c.Label1->text(), u"2"_s);
         QCOMPARE(collected.size(), 2);
     }
 
-    void retypeModeTakesTheWord_data()
+    void nonsenseWords_data()
     {
-        columns<QString, QString, QString>("word", "mode", "popup");
-        QTest::newRow("dictionary")
-            << u"Haus"_s << u"CORRECT_WORDS"_s
-            << u"Richtig !|Das gesuchte Wort \n\"Haus\"\nist richtig.|1s 101 bold smiley"_s;
-        QTest::newRow("nonsense")
-            << u"behausung"_s << u"PSEUDO_WORDS"_s
-            << u"Richtig !|Das Unsinnswort \n\"behausung\"ist richtig abgeschrieben.|1s 101 "
-               u"bold smiley"_s;
-        QTest::newRow("short") << u"ball"_s << u"KURZVOKAL"_s << QString();
-        QTest::newRow("long") << u"bahn"_s << u"LANGVOKAL"_s << QString();
+        columns<QString, QString, int>("word", "report", "left");
+        QTest::newRow("right")
+            << u"behausung"_s
+            << u"Richtig !|Das Unsinnswort|\"behausung\"|ist richtig abgeschrieben.|1 bold "
+               u"smiley"_s
+            << 1;
+        QTest::newRow("a real word")
+            << u"Haus"_s
+            << u"Wort nicht gefunden|Das Unsinnswort|\"Haus\"|steht nicht in der Wörterliste.|1"_s << 2;
     }
-    void retypeModeTakesTheWord()
+    void nonsenseWords()
     {
         QFETCH(QString, word);
-        QFETCH(QString, mode);
-        QFETCH(QString, popup);
+        QFETCH(int, left);
         WordWindow w;
-        w.modes.RetypeActive = true;
-        w.modes.RetypePseudoWords = mode == u"PSEUDO_WORDS"_s;
-        w.lists.PseudoWordList.add(u"behausung"_s);
-        w.c.ChkVokal[0]->setChecked(mode == u"KURZVOKAL"_s);
-        w.c.ChkVokal[1]->setChecked(mode == u"LANGVOKAL"_s);
-        QSignalSpy found(&w.check, &WordCheck::retypeWordFound);
-        QSignalSpy spoken(&w.check, &WordCheck::vowelWordFound);
+        for (const char *stem : {"haus", "halt"})
+            w.lay(wortelKind, 10, 10, QLatin1String(stem));
+        w.lay(prefixKind, 10, 50, u"be"_s);
+        w.lay(suffixKind, 10, 90, u"ung"_s);
+        w.t.options.setText(Setting::NumPseudoReTypeWords, u"2"_s);
+        w.r.retype.StartTheRetyping(WordSource::PseudoWords);
+        w.lists.PseudoWordList.clear();
+        w.lists.PseudoWordList.addAll({u"behausung"_s, u"behaltung"_s});
+        w.play.setCheckedVowels(Vowels::Short); // nonsense wins
         w.enter(word);
-        QCOMPARE(found.size(), 1);
-        QCOMPARE(found.first(), QVariantList({word, mode}));
-        QCOMPARE(w.popup.shown.join(u"\n"_s), popup);
-        QCOMPARE(spoken.size(), popup.isEmpty() ? 1 : 0);
+        QCOMPARE(w.reports.size(), 1);
+        QTEST(w.reports.first(), "report");
+        QCOMPARE(w.lists.PseudoWordList.count(), left);
+        QCOMPARE(w.entrySelected(), left == 2);
         QVERIFY(w.lists.CorrectWordList.isEmpty());
-        QCOMPARE(w.entry(), QString());
         QVERIFY(w.t.ok());
-    }
-
-    void nonsenseWinsOverTheVowels()
-    {
-        WordWindow w;
-        w.modes.RetypePseudoWords = true;
-        w.c.ChkVokal[0]->setChecked(true);
-        w.enter(u"Haus"_s);
-        QCOMPARE(
-            w.popup.shown,
-            QStringList(
-                u"Wort nicht gefunden|Das Unsinnswort \n\"Haus\" steht nicht in der Wörterliste.|1s 102"_s));
-        QVERIFY(w.entrySelected());
     }
 
     void vowelModes_data()
@@ -159,8 +146,10 @@ private slots:
         w.c.ChkVokal[static_cast<std::size_t>(box)]->setChecked(true);
         if (asksForAStem)
             w.t.boxes.willBeRead();
+        QSignalSpy spoken(&w.r.check, &WordCheck::vowelWordFound);
         w.enter(word);
-        QVERIFY(w.popup.shown.isEmpty());
+        QVERIFY(w.reports.isEmpty());
+        QCOMPARE(spoken.size(), right ? 1 : 0);
         QCOMPARE(w.t.sound.resources, sounds);
         QCOMPARE(w.lists.CorrectWordList.count(), right ? 1 : 0);
         QCOMPARE(w.entrySelected(), !right);
@@ -175,42 +164,40 @@ private slots:
         w.lists.kurzvokalList.add(u"fall"_s);
         w.lists.CorrectWordList.addAll({u"bahn"_s, u"ball"_s, u"fall"_s, u"tal"_s, u"tor"_s});
         w.c.ChkVokal[0]->setChecked(true);
-        w.check.ChkVokal_Click();
-        QVERIFY(w.modes.KurzVokalMode);
+        QVERIFY(w.play.KurzVokalMode());
         // "bahn" goes, "ball" is passed over, and of the rejected neighbours "tal", "tor" the second stays.
         QCOMPARE(w.lists.CorrectWordList.rows(), QStringList({u"ball"_s, u"fall"_s, u"tor"_s}));
 
-        QSignalSpy off(&w.check, &WordCheck::vowelsSwitchedOff);
+        QSignalSpy off(&w.r.check, &WordCheck::vowelsSwitchedOff);
         w.c.ChkVokal[0]->setChecked(false);
-        w.check.ChkVokal_Click();
-        QVERIFY(!w.modes.KurzVokalMode);
+        QVERIFY(!w.play.KurzVokalMode());
         QVERIFY(w.lists.CorrectWordList.isEmpty());
         QCOMPARE(off.size(), 1);
 
-        w.modes.LangVokalMode = true;
-        for (PressButton *both : w.c.ChkVokal)
-            both->setChecked(true);
-        w.check.readVowelBoxes();
-        QVERIFY2(w.modes.LangVokalMode && !w.modes.KurzVokalMode, "both leave the flags");
+        w.c.ChkVokal[1]->setChecked(true);
+        const QSignalBlocker unseen(w.c.ChkVokal[0]);
+        w.c.ChkVokal[0]->setChecked(true);
+        w.r.check.readVowelBoxes();
+        QVERIFY2(w.play.LangVokalMode(), "both leave the flags");
     }
 
     void clearingAndCapitals()
     {
         WordWindow w;
         w.c.Dropper1->setCaption(u"übERMUT"_s);
-        w.check.Command5_MouseDown(Qt::RightButton);
+        w.tool(w.c.Command5, Qt::RightButton);
         QCOMPARE(w.entry(), u"Übermut"_s);
-        w.check.Command5_MouseDown(Qt::LeftButton);
+        w.tool(w.c.Command5, Qt::LeftButton);
         QCOMPARE(w.entry(), QString());
         QCOMPARE(w.t.sound.resources, QList<int>({111, 105}));
         w.t.options.setBox(Setting::SoundOnAllReTyped, 0); // the boxes of another purpose that they answer to
         w.t.options.setBox(Setting::GameSoundOnTimeOut, 0);
         w.c.Dropper1->setCaption(u"mut"_s);
-        w.check.Command5_MouseDown(Qt::RightButton);
-        w.check.Command5_MouseDown(Qt::LeftButton);
+        w.tool(w.c.Command5, Qt::RightButton);
+        w.tool(w.c.Command5, Qt::LeftButton);
         QCOMPARE(w.t.sound.resources.size(), 2);
         w.t.boxes.willBeRead();
-        w.check.Command5_MouseDown(Qt::RightButton);
+        w.tool(w.c.Command5, Qt::RightButton);
         QCOMPARE(w.t.boxes.asked.last().text, u"Gib bitte ein Wort ein"_s);
         QVERIFY(w.t.ok());
     }
@@ -220,24 +207,56 @@ private slots:
         WordWindow w;
         w.form.show();
         QVERIFY(QTest::qWaitForWindowActive(&w.form));
-        connect(w.c.Dropper1, &Dropper::EnterPress, &w.check, &WordCheck::Dropper1_EnterPress);
-        connect(w.c.Dropper1, &Dropper::keyTyped, &w.check, &WordCheck::Dropper1_KeyPress);
+        w.t.sound.resources.clear();
+        w.tool(w.c.Option1[0]); // dragging to the field leaves typing alone
         w.c.Dropper1->takeFocus();
         auto *field = w.c.Dropper1->findChild<QLineEdit *>(u"lblprefix"_s);
         QTest::keyClicks(field, u"Haus"_s);
         QCOMPARE(w.t.sound.resources, QList<int>({106, 106, 106, 106}));
-        w.c.Command5->setEnabled(false);
         QTest::keyClick(field, Qt::Key_Return);
-        QVERIFY(w.popup.shown.isEmpty());
-        w.c.Command5->setEnabled(true);
-        QTest::keyClick(field, Qt::Key_Return);
-        QCOMPARE(w.popup.shown.size(), 1);
-        QCOMPARE(w.t.sound.resources.size(), 4); // Enter plays nothing
+        QCOMPARE(w.t.sound.resources, QList<int>({106, 106, 106, 106, 101})); // Enter itself plays nothing
         w.c.Dropper1->setCaption(u"Haus"_s);
+        QTest::keyClick(field, Qt::Key_Return); // the report stands: "Command5" rests
+        QCOMPARE(takeReports(w).size(), 1);
         w.c.Text1->setFocus();
-        w.check.Dropper1_EnterPress();
-        QCOMPARE(w.popup.shown.size(), 1);
+        emit w.c.Dropper1->EnterPress();
+        QCOMPARE(takeReports(w).size(), 0);
+        w.c.Dropper1->takeFocus();
+        QTest::keyClick(field, Qt::Key_Return);
+        QCOMPARE(takeReports(w).size(), 1);
+        QVERIFY(w.c.Option1[0]->isChecked());
     }
+
+    void aLockedFieldTakesNoTile_data()
+    {
+        columns<bool, QString, QString>("locked", "entry", "tiles");
+        QTest::newRow("open") << false << u"haus"_s << u"100,100 haus"_s;
+        QTest::newRow("locked") << true << QString() << u"100,100 haus"_s;
+    }
+    void aLockedFieldTakesNoTile()
+    {
+        QFETCH(bool, locked);
+        WordWindow w;
+        w.form.show();
+        w.lay(wortelKind, 100, 100, u"haus"_s);
+        w.tool(w.c.Option1[0]);
+        const QPoint field =
+            w.c.picCanvas->mapFromGlobal(w.c.Dropper1->mapToGlobal(w.c.Dropper1->rect().center()));
+        w.press({105, 105});
+        if (locked)
+            w.form.sheet().lay(Reason::Work, lockedField);
+        w.drag(field);
+        QCOMPARE(w.c.Dropper1->isHighlighted(), !locked);
+        w.release(field);
+        w.form.sheet().takeOff(Reason::Work);
+        QTEST(w.entry(), "entry");
+        QTEST(w.described().join(u'|'), "tiles");
+        QCOMPARE(w.trouble(), QString());
+    }
+
+private:
+    static constexpr SheetRow lockedField[] = {
+        {[](const MainControls &c) -> QWidget * { return c.Dropper1; }, SheetRow::Disabled}};
 };
 
 WORTEL_TEST(WordCheckTest)

@@ -11,8 +11,6 @@
 #include <QSignalSpy>
 #include <QtTest>
 
-using namespace Qt::StringLiterals;
-
 /// The dictionary and the word list as they open over the board.
 class WordPanelsTest : public QObject
 {
@@ -54,15 +52,15 @@ private slots:
         WordWindow w;
         w.c.Dropper1->setCaption(u"Haus"_s);
         w.c.CorrectWordList->setVisible(true);
-        w.dictionary.toggle();
-        QVERIFY(w.dictionary.isOpen());
+        w.r.dictionary.toggle();
+        QVERIFY(w.r.dictionary.isOpen());
         QVERIFY(w.c.CorrectWordList->isHidden());
         QVERIFY(!w.c.Text2->isHidden());
         QVERIFY(!w.c.Command2->isEnabled() && !w.c.Option1[0]->isEnabled() && w.c.Command4->isEnabled());
         QCOMPARE(w.entry(), QString());
         QCOMPARE(w.c.Command3->toolTip(), u"Suchen"_s);
-        w.words.Show_Result(); // closes the dictionary
-        QVERIFY(!w.dictionary.isOpen() && !w.c.CorrectWordList->isHidden());
+        w.tool(w.c.Command4); // closes the dictionary
+        QVERIFY(!w.r.dictionary.isOpen() && !w.c.CorrectWordList->isHidden());
         choose(w, u"mnuCloseTheList"_s);
         QVERIFY(w.c.CorrectWordList->isHidden());
         QVERIFY(w.c.Text2->isHidden());
@@ -74,22 +72,22 @@ private slots:
     {
         WordWindow w;
         w.c.Dropper1->setCaption(u"Haus"_s);
-        w.modes.GameActive = true;
-        w.check.Command2_MouseDown(Qt::RightButton);
-        QVERIFY(!w.dictionary.isOpen());
-        w.modes.GameActive = false;
-        w.check.Command2_MouseDown(Qt::RightButton);
-        QVERIFY(w.dictionary.isOpen());
+        w.play.startGame(PlayState::Phase::Playing, Vowels::None);
+        w.tool(w.c.Command2, Qt::RightButton);
+        QVERIFY(!w.r.dictionary.isOpen());
+        w.play.stop();
+        w.tool(w.c.Command2, Qt::RightButton);
+        QVERIFY(w.r.dictionary.isOpen());
         QVERIFY(!w.c.Command4->isEnabled());
         QCOMPARE(w.c.Text2->text(), QString()); // the word is dropped, as required
         QCOMPARE(w.entry(), QString());
-        w.dictionary.toggle();
+        w.r.dictionary.toggle();
         QVERIFY(w.c.Command4->isEnabled());
-        w.dictionary.toggleForSearch();
-        w.dictionary.storeLoading(&w.lists.WortelList);
-        QVERIFY(w.dictionary.isOpen());
-        w.dictionary.storeLoading(&w.lists.LexiconList);
-        QVERIFY(!w.dictionary.isOpen());
+        w.r.dictionary.toggleForSearch();
+        w.r.dictionary.storeLoading(&w.lists.WortelList);
+        QVERIFY(w.r.dictionary.isOpen());
+        w.r.dictionary.storeLoading(&w.lists.LexiconList);
+        QVERIFY(!w.r.dictionary.isOpen());
         QVERIFY(w.c.Command2->isEnabled() && w.c.Command4->isEnabled() && w.c.Text2->isHidden());
     }
 
@@ -106,8 +104,7 @@ private slots:
         QFETCH(QString, typed);
         WordWindow w;
         w.lists.LexiconList.add(u"Hof"_s);
-        connect(w.c.Text2, &QLineEdit::textChanged, &w.dictionary, &DictionaryPanel::Text2_Change);
-        w.dictionary.toggle();
+        w.r.dictionary.toggle();
         w.c.Text2->setText(typed);
         QTEST(w.c.LexiconList->ListIndex(), "row");
     }
@@ -115,7 +112,7 @@ private slots:
     void dictionaryMenuFeedsTheWordList()
     {
         WordWindow w;
-        w.dictionary.toggle();
+        w.r.dictionary.toggle();
         choose(w, u"mnuAddToRetypeList"_s); // nothing is selected
         QVERIFY(w.lists.CorrectWordList.isEmpty());
         w.c.LexiconList->setListIndex(1);
@@ -135,10 +132,8 @@ private slots:
     void listsStayInTheWindowAndOffTheirTools()
     {
         QFETCH(QSize, window);
-        WordWindow w;
-        w.form.resize(window);
-        layOutMainControls(w.c, window.width(), window.height());
-        w.dictionary.toggle();
+        WordWindow w(window);
+        w.r.dictionary.toggle();
         const QRect list = w.c.LexiconList->geometry();
         const QRect search = w.c.Text2->geometry();
         QVERIFY(QRect(QPoint(), window).contains(list));
@@ -162,7 +157,7 @@ private slots:
         QFETCH(QStringList, rows);
         WordWindow w;
         w.lists.CorrectWordList.add(u"Haus"_s);
-        QSignalSpy edited(&w.words, &WordListPanel::wordsEdited);
+        QSignalSpy edited(&w.r.wordList, &WordListPanel::wordsEdited);
         w.t.boxes.willTypeWord(typed);
         choose(w, u"mnuAddWord"_s);
         QCOMPARE(w.lists.CorrectWordList.rows(), rows);
@@ -186,7 +181,7 @@ private slots:
         w.t.boxes.willTypeWord(u"laufen"_s);
         choose(w, u"mnuEditWord"_s); // nothing is selected: nothing happens
         QCOMPARE(w.lists.CorrectWordList.count(), 2);
-        w.modes.KurzVokalMode = true; // asks for no word; the last one is used as it stands
+        w.play.setCheckedVowels(Vowels::Short); // asks for no word; the last one is used as it stands
         choose(w, u"mnuAddWord2"_s);
         QCOMPARE(w.lists.CorrectWordList.rows(), QStringList({u"Haus"_s, u"Affe"_s, u"laufen"_s}));
         QVERIFY(w.t.ok());
@@ -196,7 +191,7 @@ private slots:
     {
         WordWindow w;
         w.lists.CorrectWordList.addAll({u"a"_s, u"b"_s, u"c"_s});
-        QSignalSpy edited(&w.words, &WordListPanel::wordsEdited);
+        QSignalSpy edited(&w.r.wordList, &WordListPanel::wordsEdited);
         choose(w, u"mnuDeleteWord"_s); // nothing is selected
         QCOMPARE(w.lists.CorrectWordList.count(), 3);
         w.c.CorrectWordList->setListIndex(1);
@@ -239,17 +234,17 @@ private slots:
     {
         WordWindow w;
         w.t.boxes.willBeRead();
-        w.words.Save_Result();
+        w.r.wordList.Save_Result();
         QCOMPARE(w.t.boxes.asked.last().text, u"Es gibt noch keine richtigen Wörter zum Speichern !"_s);
 
         w.lists.CorrectWordList.addAll({u"Läufer"_s, u"Haus"_s});
         w.t.fileDialogs.willSave(QString());
-        w.words.Save_Result();
+        w.r.wordList.Save_Result();
         const QString path = w.t.AppFolder + u"wörter.txt"_s;
-        QSignalSpy saved(&w.words, &WordListPanel::wordListSaved);
+        QSignalSpy saved(&w.r.wordList, &WordListPanel::wordListSaved);
         w.t.fileDialogs.willSave(w.t.AppFolder + u"fort\\wörter.txt"_s);
         w.t.boxes.willAnswer(Boxes::Answer::Ok);
-        w.words.Save_Result();
+        w.r.wordList.Save_Result();
         QCOMPARE(w.t.boxes.asked.last().title, u"Wortel - Fehler"_s);
         QCOMPARE(w.t.boxes.asked.last().text,
                  u"Die richtigen Wörter konnten nicht in die Datei geschrieben werden"_s);
@@ -257,7 +252,7 @@ private slots:
         QCOMPARE(w.t.store.GetSetting(u"Path"_s, u"Export"_s, u"none"_s), u"none"_s);
         QVERIFY(saved.isEmpty());
         w.t.fileDialogs.willSave(path);
-        w.words.Save_Result();
+        w.r.wordList.Save_Result();
         QCOMPARE(ReadWholeFile(path), QByteArray("Haus\r\nL\xE4ufer\r\n"));
         QCOMPARE(saved.size(), 1);
         QCOMPARE(w.t.store.GetSetting(u"Path"_s, u"Export"_s, {}) + u'\\', w.t.AppFolder);
@@ -270,11 +265,11 @@ private slots:
         WordWindow w;
         QGuiApplication::clipboard()->setText(u"before"_s);
         w.t.boxes.willBeRead();
-        w.words.CorrectWordsToClip();
+        w.r.wordList.CorrectWordsToClip();
         QCOMPARE(w.t.boxes.asked.last().text, u"Es gibt noch keine richtigen Wörter zum kopieren !"_s);
         QCOMPARE(QGuiApplication::clipboard()->text(), u"before"_s);
         w.lists.CorrectWordList.addAll({u"Läufer"_s, u"Haus"_s});
-        w.words.CorrectWordsToClip();
+        w.r.wordList.CorrectWordsToClip();
         QCOMPARE(QGuiApplication::clipboard()->text(), u"Haus\r\nLäufer\r\n"_s);
     }
 };

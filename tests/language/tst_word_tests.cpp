@@ -61,25 +61,17 @@ private slots:
         QVERIFY(tests.In_PseudoWordsList(u"VERHAUSUNG"_s));
     }
 
-    void listsByTheirKind()
+    void vowelsIgnoreTheCaseRule()
     {
         WordLists l;
         WordTests of(l, t.options);
         l.kurzvokalList.addAll({u"ball"_s, QString()});
         l.langvokalList.add(u"bahn"_s);
-        l.PrefixReTypeList.add(u"ver"_s);
-        l.WortelReTypeList.add(u"haus"_s);
-        l.SuffixReTypeList.add(u"ung"_s);
-        t.options.setBox(Setting::CaseCheck, 2); // these finds never ask it
-        QVERIFY(of.InKurzLangVokalList(u"BALL"_s, u"KURZ"_s));
-        QVERIFY(!of.InKurzLangVokalList(u"ball"_s, u"LANG"_s));
-        QVERIFY(!of.InKurzLangVokalList(u"ball"_s, u"kurz"_s));
-        QVERIFY(!of.InKurzLangVokalList(QString(), u"KURZ"_s)); // though an empty entry stands there
-        QVERIFY(of.InPseudoMorphemeList(u"VER"_s, u"PREFIX"_s));
-        QVERIFY(of.InPseudoMorphemeList(u"Haus"_s, u"WORTEL"_s));
-        QVERIFY(of.InPseudoMorphemeList(u"ung"_s, u"SUFFIX"_s));
-        QVERIFY(!of.InPseudoMorphemeList(u"ung"_s, u"PREFIX"_s));
-        QVERIFY(!of.InPseudoMorphemeList(u"ung"_s, u"Suffix"_s));
+        t.options.setBox(Setting::CaseCheck, 2);
+        QVERIFY(of.InKurzLangVokalList(u"BALL"_s, Vowels::Short));
+        QVERIFY(!of.InKurzLangVokalList(u"ball"_s, Vowels::Long));
+        QVERIFY(!of.InKurzLangVokalList(u"ball"_s, Vowels::None));
+        QVERIFY(!of.InKurzLangVokalList(QString(), Vowels::Short)); // though an empty entry stands there
     }
 
     void properCaseGivesTheFirstSpelling()
@@ -88,36 +80,6 @@ private slots:
         QCOMPARE(tests.ProperCase(u"äpfeL"_s), u"ÄPFEL"_s);
         QCOMPARE(tests.ProperCase(u"Maus"_s), QString());
         QCOMPARE(tests.ProperCase2(QString()), QString());
-    }
-
-    void correctWordsAreCountedByKind()
-    {
-        t.options.setBox(Setting::CaseCheck, 1);
-        lists.CorrectWordList.addAll({u"Haus"_s, u"HAUS"_s, u"ball"_s, u"bahn"_s});
-        lists.kurzvokalList.add(u"Ball"_s);
-        lists.langvokalList.add(u"bahn"_s);
-        QCOMPARE(tests.GetCorrectNumWords(u"WORTEL"_s), 1);
-        QCOMPARE(tests.GetCorrectNumWords(u"VOKAL"_s), 2);
-        QCOMPARE(tests.GetCorrectNumWords(u"KURZ"_s), 0);
-    }
-
-    void sortsStable_data()
-    {
-        columns<bool, bool, QStringList>("ascending", "caseSensitive", "sorted");
-        QTest::newRow("collated") << true << false
-                                  << QStringList({u"ab"_s, u"Äpfel"_s, u"b"_s, u"B"_s, u"Zebra"_s});
-        QTest::newRow("collated, down")
-            << false << false << QStringList({u"Zebra"_s, u"b"_s, u"B"_s, u"Äpfel"_s, u"ab"_s});
-        QTest::newRow("binary") << true << true
-                                << QStringList({u"B"_s, u"Zebra"_s, u"ab"_s, u"b"_s, u"Äpfel"_s});
-    }
-    void sortsStable()
-    {
-        QFETCH(bool, ascending);
-        QFETCH(bool, caseSensitive);
-        QStringList items{u"b"_s, u"Zebra"_s, u"B"_s, u"Äpfel"_s, u"ab"_s};
-        InsertSortStrings(items, ascending, caseSensitive);
-        QTEST(items, "sorted");
     }
 };
 

@@ -5,6 +5,7 @@ wortel_test(persistence
         settings/tst_frm_options.cpp
         tst_backup.cpp
         tst_file_type.cpp
+        tst_keeping.cpp
         tst_sessions.cpp
         tst_undo_ring.cpp
 )

@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "board/hand/menu_model.h"
 #include "persistence/undo_ring.h"
 #include "support/columns.h"
 #include "support/registry.h"
@@ -17,8 +16,7 @@ class UndoRingTest : public QObject
 private:
     struct Rig : TestBoard
     {
-        MenuModel menus{[this] { return MenuFacts{modes, t.options.storedIsOn(Setting::UseUndo), {}}; }};
-        UndoRing undo{t.ground, modes, menus, *canvas};
+        UndoRing &undo = r.undo;
 
         void change(int number)
         {
@@ -61,8 +59,8 @@ private slots:
                 rig.undo.ClearCollBuffer();
         }
         QTEST(rig.store->count(), "count");
-        QTEST(rig.modes.CanUndo, "canUndo");
-        QTEST(rig.modes.CanRedo, "canRedo");
+        QTEST(rig.undo.CanUndo(), "canUndo");
+        QTEST(rig.undo.CanRedo(), "canRedo");
         QCOMPARE(rig.counters().first(), QString::number(rig.store->count()));
         QCOMPARE(rig.counters().last(), QString::number(rig.store->count()));
     }
@@ -90,38 +88,6 @@ private slots:
         rig.undo.RedoAction();
         rig.undo.UndoAction();
         QCOMPARE(rig.described(), tiles);
-    }
-
-    void offMeansOff()
-    {
-        Rig rig;
-        rig.t.store.SaveSetting(u"Settings"_s, u"UseUndo"_s, u"0"_s);
-        rig.change(1);
-        rig.undo.UndoAction();
-        rig.undo.RedoAction();
-        QCOMPARE(rig.store->count(), 1);
-        QVERIFY(!rig.modes.CanUndo && !rig.modes.CanRedo);
-    }
-
-    void menusFollow()
-    {
-        Rig rig;
-        rig.undo.ClearCollBuffer();
-        rig.change(1);
-        rig.undo.UndoAction();
-        const MenuTree &tree = rig.menus.Restore(MenuName::MainMenu);
-        const std::function<const MenuItem *(const std::vector<MenuItem> &, int)> byId =
-            [&](const std::vector<MenuItem> &items, int id) -> const MenuItem * {
-            for (const MenuItem &item : items) {
-                if (item.id == id)
-                    return &item;
-                if (const MenuItem *found = byId(item.children, id))
-                    return found;
-            }
-            return nullptr;
-        };
-        QVERIFY(!byId(tree, 2801)->enabled);
-        QVERIFY(byId(tree, 2802)->enabled);
     }
 };
 

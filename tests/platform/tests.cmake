@@ -4,6 +4,7 @@ wortel_test(platform
     SOURCES
         tst_desktop.cpp
         tst_files.cpp
+        tst_gate.cpp
         tst_ini_file.cpp
         tst_instance_link.cpp
         tst_options.cpp

@@ -148,10 +148,7 @@ private slots:
 
     void neitherNobodyNorAMissingFolderStopsTheStart()
     {
-        QElapsedTimer timer;
-        timer.start();
         QVERIFY(!InstanceLink(address_).send(u"x"_s, 200));
-        QVERIFY(timer.elapsed() < 2000);
         QVERIFY(InstanceLink(u"/proc/wortel/link"_s).isFirst());
     }
 };

@@ -3,6 +3,10 @@
 wortel_test(shell
     SOURCES
         handbook/tst_help.cpp
+        tst_main_window.cpp
+        tst_one_work.cpp
+        tst_sheets.cpp
         tst_start_rules.cpp
         tst_start_steps.cpp
+        tst_wiring.cpp
 )

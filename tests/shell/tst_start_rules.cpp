@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "board/tiles/affix_rows.h"
 #include "platform/files.h"
 #include "platform/runtime_error.h"
-#include "shell/affix_rows.h"
 #include "shell/application_folder.h"
 #include "shell/argument_handler.h"
 #include "shell/crash_filter.h"

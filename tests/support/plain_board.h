@@ -39,4 +39,5 @@ struct PlainBoard : TileCounters, TileFilter, TileSurface, BoardMeasures
     int textWidth(const QString &text) const override { return 7 * static_cast<int>(text.size()); }
     int ScaleWidth() const override { return 1280; }
     int ScaleHeight() const override { return 800; }
+    int BandTop() const override { return 712; }
 };

@@ -4,6 +4,7 @@
 
 #include "platform/files.h"
 #include "platform/text_encoding.h"
+#include "support/watchful_application.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -12,6 +13,18 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+QString wordOf(BoxStyle style)
+{
+    static const QStringList words{{},           u"PREFIX"_s, u"WORTEL"_s, u"SUFFIX"_s,
+                                   u"HISCORE"_s, u"RETYPE"_s, u"CONFIRM"_s};
+    return words.at(static_cast<int>(style));
+}
+
+QString wordOf(BoxSign sign)
+{
+    return QStringList{{}, u"SMILEY"_s, u"WRITE"_s, u"INFO"_s}.at(static_cast<int>(sign));
+}
 
 void failUnexpected(const Question &question)
 {
@@ -22,8 +35,44 @@ void failUnexpected(const Question &question)
 
 } // namespace
 
+/// Nothing may let events run, or open a box, from within one of Qt's own walks.
+static void failInWalk(const char *what)
+{
+    if (const QString walk = WatchfulApplication::walk(); !walk.isEmpty())
+        QTest::qFail(qPrintable(u"%1 within %2"_s.arg(QLatin1String(what), walk)), __FILE__, __LINE__);
+}
+
+void TestClock::wait(int milliseconds)
+{
+    failInWalk("a wait");
+    const Gate::Passage passage = gate_.stay();
+    waited += milliseconds;
+    moment = moment.addMSecs(milliseconds);
+}
+
+void TestPump::yield()
+{
+    failInWalk("a yield");
+    ++yields;
+    const Gate::Passage passage = gate_.stay();
+    if (onYield)
+        onYield();
+}
+
+void TestPump::serve()
+{
+    failInWalk("a yield");
+    ++yields;
+    const Gate::Passage passage = gate_.stay();
+    if (onYield)
+        onYield();
+    if (onServe)
+        onServe();
+}
+
 template <typename A> A QueuedBoxes::answer(const Question &question, Answers<A> &answers, const A &otherwise)
 {
+    failInWalk("a box");
     asked.append(question);
     const std::optional<A> given = answers.take();
     if (!given) {
@@ -49,26 +98,26 @@ Boxes::Answer QueuedBoxes::plainBox(Icon icon, const QString &title, const QStri
 }
 
 int QueuedBoxes::ShowMBox(const QString &prompt, bool show, int buttons, const QString &title,
-                          const QString &style)
+                 BoxStyle style)
 {
-    return show ? answer({u"ShowMBox"_s, title, prompt, style, buttons}, pressed_, 1) : 0;
+    return show ? answer({u"ShowMBox"_s, title, prompt, wordOf(style), buttons}, pressed_, 1) : 0;
 }
 
-int QueuedBoxes::ShowInfoBox(const QString &prompt, const QString &style, const QString &title)
+int QueuedBoxes::ShowInfoBox(const QString &prompt, BoxSign sign, const QString &title)
 {
-    return answer({u"ShowInfoBox"_s, title, prompt, style, 0}, notices_, 0);
+    return answer({u"ShowInfoBox"_s, title, prompt, wordOf(sign), 0}, notices_, 0);
 }
 
-QString QueuedBoxes::ShowIBox(const QString &prompt, int kind, const QString &defaultText,
+QString QueuedBoxes::ShowIBox(const QString &prompt, BoxStyle kind, const QString &defaultText,
                               const QString &title, int, int)
 {
-    return answer({u"ShowIBox"_s, title, prompt, defaultText, kind}, typed_, QString());
+    return answer({u"ShowIBox"_s, title, prompt, defaultText, static_cast<int>(kind)}, typed_, QString());
 }
 
-QString QueuedBoxes::ShowWordBox(const QString &prompt, int kind, const QString &defaultText,
+QString QueuedBoxes::ShowWordBox(const QString &prompt, BoxStyle kind, const QString &defaultText,
                                  const QString &title, int, int)
 {
-    return answer({u"ShowWordBox"_s, title, prompt, defaultText, kind}, words_, QString());
+    return answer({u"ShowWordBox"_s, title, prompt, defaultText, static_cast<int>(kind)}, words_, QString());
 }
 
 QStringList QueuedFileDialogs::openFiles(const QString &title, const QString &folder, const QString &filter,
@@ -97,7 +146,7 @@ TestGround::TestGround(quint64 seed)
     : AppFolder(storedPath(folder.path()) + u'\\')
     , rnd(seed)
     , options(store, AppFolder, log)
-    , ground{AppFolder, log, boxes, fileDialogs, rnd, sound, clock, pump, store, options}
+    , ground{AppFolder, log, gatedBoxes, gatedDialogs, rnd, sound, clock, pump, store, options, gate}
 {}
 
 bool TestGround::ok() const

@@ -5,6 +5,8 @@
 #include "platform/boxes.h"
 #include "platform/clock.h"
 #include "platform/file_dialogs.h"
+#include "platform/gate.h"
+#include "platform/gated_boxes.h"
 #include "platform/ground.h"
 #include "platform/log.h"
 #include "platform/options.h"
@@ -67,11 +69,11 @@ public:
 
     Answer plainBox(Icon icon, const QString &title, const QString &text, Buttons buttons) override;
     int ShowMBox(const QString &prompt, bool show, int buttons, const QString &title,
-                 const QString &style) override;
-    int ShowInfoBox(const QString &prompt, const QString &style, const QString &title) override;
-    QString ShowIBox(const QString &prompt, int kind, const QString &defaultText, const QString &title,
+                 BoxStyle style) override;
+    int ShowInfoBox(const QString &prompt, BoxSign sign, const QString &title) override;
+    QString ShowIBox(const QString &prompt, BoxStyle kind, const QString &defaultText, const QString &title,
                      int left, int top) override;
-    QString ShowWordBox(const QString &prompt, int kind, const QString &defaultText, const QString &title,
+    QString ShowWordBox(const QString &prompt, BoxStyle kind, const QString &defaultText, const QString &title,
                         int left, int top) override;
 
 private:
@@ -126,32 +128,41 @@ public:
 class TestClock : public Clock
 {
 public:
+    explicit TestClock(Gate &gate)
+        : gate_(gate)
+    {}
+
     QDateTime moment{QDate(2026, 3, 14), QTime(9, 26, 53)};
     int waited = 0; ///< milliseconds, all waits together
 
     QDateTime now() const override { return moment; }
-    void wait(int milliseconds) override
-    {
-        waited += milliseconds;
-        moment = moment.addMSecs(milliseconds);
-    }
+    qint64 elapsed() const override { return moment.toMSecsSinceEpoch(); }
+    void wait(int milliseconds) override;
+
+private:
+    Gate &gate_;
 };
 
-/// Counts yields, and lets a test act in them as a user would.
+/// Counts yields, and lets a test act in them as a user would. A yield in the middle of one of Qt's own walks
+/// fails the test.
 class TestPump : public EventPump
 {
 public:
-    int yields = 0;
-    bool waiting = false;
-    std::function<void()> onYield;
+    explicit TestPump(Gate &gate)
+        : gate_(gate)
+    {}
 
-    void yield() override
-    {
-        ++yields;
-        if (onYield)
-            onYield();
-    }
+    int yields = 0; ///< of both kinds
+    bool waiting = false;
+    std::function<void()> onYield; ///< in both kinds
+    std::function<void()> onServe; ///< only where a hand's input is let in
+
+    void yield() override;
+    void serve() override;
     bool inputWaiting() override { return waiting; }
+
+private:
+    Gate &gate_;
 };
 
 /// Settings in memory.
@@ -181,14 +192,17 @@ struct TestGround
     QTemporaryDir folder;
     QString AppFolder; ///< stored form
     Log log;
+    Gate gate;
     QueuedBoxes boxes;
     QueuedFileDialogs fileDialogs;
     Rnd rnd;
     RecordedSound sound;
-    TestClock clock;
-    TestPump pump;
+    TestClock clock{gate};
+    TestPump pump{gate};
     MemoryStore store;
     Options options;
+    GatedBoxes gatedBoxes{boxes, gate};
+    GatedFileDialogs gatedDialogs{fileDialogs, gate};
     Ground ground;
 
     /// No question was unexpected and no answer is left.

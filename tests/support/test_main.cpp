@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/registry.h"
+#include "support/watchful_application.h"
 
 #include "widgets/resources.h"
 
-#include <QApplication>
 #include <QFont>
 #include <QStyleFactory>
 #include <QtTest>
@@ -17,7 +17,7 @@ std::vector<testing::Entry> &testing::registry()
 
 int main(int argc, char *argv[])
 {
-    QApplication application(argc, argv);
+    WatchfulApplication application(argc, argv);
     initResources();
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QFont font(QStringLiteral("Liberation Sans"));

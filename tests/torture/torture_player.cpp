@@ -11,14 +11,22 @@
 //   D            it has been
 //   E TEXT       a box has told a fault
 #include "board/hand/commands.h"
+#include "board/tiles/affix_rows.h"
+#include "platform/boxes.h"
+#include "platform/file_dialogs.h"
 #include "platform/files.h"
+#include "platform/gate.h"
+#include "platform/gated_boxes.h"
+#include "platform/ground.h"
+#include "platform/log.h"
+#include "platform/options.h"
+#include "platform/rnd.h"
 #include "platform/settings_file.h"
+#include "platform/sound.h"
 #include "platform/system_clock.h"
-#include "shell/affix_rows.h"
 #include "shell/frm_main.h"
 #include "shell/rooms.h"
 #include "shell/start_steps.h"
-#include "support/test_ground.h"
 #include "widgets/picture_box.h"
 #include "widgets/resources.h"
 
@@ -72,17 +80,17 @@ public:
         journal_.note('E', text);
         return Answer::Ok;
     }
-    int ShowMBox(const QString &, bool, int, const QString &, const QString &) override
+    int ShowMBox(const QString &, bool, int, const QString &, BoxStyle) override
     {
         return below(random_, 8) == 0 ? 1 : 0;
     }
-    int ShowInfoBox(const QString &, const QString &, const QString &) override { return 0; }
-    QString ShowIBox(const QString &, int, const QString &, const QString &, int, int) override
+    int ShowInfoBox(const QString &, BoxSign, const QString &) override { return 0; }
+    QString ShowIBox(const QString &, BoxStyle, const QString &, const QString &, int, int) override
     {
         const QStringList words{{}, u"neu"_s, u"Ä"_s, u"zwei Wörter"_s, u"Größe\""_s, QString(2000, u'w')};
         return words.at(below(random_, static_cast<std::size_t>(words.size())));
     }
-    QString ShowWordBox(const QString &prompt, int kind, const QString &text, const QString &title, int left,
+    QString ShowWordBox(const QString &prompt, BoxStyle kind, const QString &text, const QString &title, int left,
                         int top) override
     {
         return ShowIBox(prompt, kind, text, title, left, top);
@@ -114,6 +122,22 @@ private:
     QString path_;
 };
 
+/// A clock that never waits.
+class QuickClock : public Clock
+{
+public:
+    QDateTime now() const override { return QDateTime::currentDateTime(); }
+    qint64 elapsed() const override { return now().toMSecsSinceEpoch(); }
+    void wait(int) override {}
+};
+
+class NoSound : public Sound
+{
+public:
+    void PlayResourceSound(int) override {}
+    bool playFile(const QString &) override { return true; }
+};
+
 /// The program's ground with quick seams over real files.
 struct QuickGround
 {
@@ -128,15 +152,18 @@ struct QuickGround
 
     QString AppFolder;
     Log log;
+    Gate gate;
     QuickBoxes boxes;
     QuickDialogs dialogs;
     Rnd rnd;
-    RecordedSound sound;
-    TestClock clock;
-    LoopPump pump;
+    NoSound sound;
+    QuickClock clock;
+    LoopPump pump{gate};
     SettingsFile store;
     Options options;
-    Ground ground{AppFolder, log, boxes, dialogs, rnd, sound, clock, pump, store, options};
+    GatedBoxes gatedBoxes{boxes, gate};
+    GatedFileDialogs gatedDialogs{dialogs, gate};
+    Ground ground{AppFolder, log, gatedBoxes, gatedDialogs, rnd, sound, clock, pump, store, options, gate};
 };
 
 /// The tiles in their order, in a form that has nothing to do with the backup's.
@@ -151,15 +178,16 @@ QString boardOf(const Rooms &rooms)
 class Player
 {
 public:
-    Player(frmMain &form, Random &random)
+    Player(frmMain &form, Gate &gate, Random &random)
         : form_(form)
+        , gate_(gate)
         , rooms_(form.rooms())
         , random_(random)
     {
-        // Of what other rooms do, only that which comes back without anybody at the screen.
-        constexpr std::array others{401, 501, 601, 1901, 1903, 2801, 2802};
+        // Whatever comes back without anybody at the screen. The lists stay, and nobody stops a search for words.
+        constexpr std::array leftOut{201, 402, 901, 1001, 1003, 1601, 1607, 1906};
         for (const command::Command &row : command::table())
-            if (row.does != command::Does::OtherRoom || std::ranges::find(others, row.id) != others.end())
+            if (std::ranges::find(leftOut, row.id) == leftOut.end())
                 choices_.push_back(&row);
     }
 
@@ -167,7 +195,7 @@ public:
     {
         constexpr int mostTiles = 90; // on a fuller board placing takes long
         if (rooms_.store.count() > mostTiles)
-            rooms_.commands.run(command::From::MainMenu, 1503, {});
+            choose(command::From::MainMenu, 1503, {});
         if (below(random_, 4) == 0)
             dragTile();
         else
@@ -189,10 +217,14 @@ private:
     void chooseCommand()
     {
         const command::Command &row = *choices_[static_cast<std::size_t>(below(random_, choices_.size()))];
-        if (row.from == command::From::Key)
-            rooms_.commands.runKey(row.id);
-        else
-            rooms_.commands.run(row.from, row.id, rooms_.commands.pressAt(pointOnTile()));
+        choose(row.from, row.id,
+               row.from == command::From::Key ? Press{} : rooms_.router.pressAt(pointOnTile()));
+    }
+
+    void choose(command::From from, int id, const Press &press)
+    {
+        if (const Gate::Passage passage = gate_.enter(Gate::Way::Play))
+            rooms_.router.run(from, id, press);
     }
 
     void dragTile()
@@ -213,6 +245,7 @@ private:
     }
 
     frmMain &form_;
+    Gate &gate_;
     Rooms &rooms_;
     Random &random_;
     std::vector<const command::Command *> choices_;
@@ -244,21 +277,28 @@ int main(int argc, char *argv[])
     frmMain form(quick.ground, facts);
     Rooms &rooms = form.rooms();
     // Connected before the window wires itself, so that the journal knows of a change before the backup does.
-    const auto intend = [&] { journal.note('I', boardOf(rooms)); };
-    QObject::connect(&rooms.commands, &BoardCommands::committed, &form, intend);
-    QObject::connect(&rooms.commands, &BoardCommands::backupWanted, &form, intend);
+    bool playing = false; // what the start itself keeps is noted once it is over
+    const auto intend = [&] {
+        if (playing)
+            journal.note('I', boardOf(rooms));
+    };
+    constexpr std::array news{&BoardNews::committed, &BoardNews::moved, &BoardNews::opened,
+                              &BoardNews::stepped};
+    for (const auto told : news)
+        QObject::connect(&rooms.news, told, &form, intend);
     if (!form.Form_Load())
         return 4;
+    playing = true;
     const auto done = [&] { journal.note('D'); };
-    QObject::connect(&rooms.commands, &BoardCommands::committed, &form, done);
-    QObject::connect(&rooms.commands, &BoardCommands::backupWanted, &form, done);
+    for (const auto told : news)
+        QObject::connect(&rooms.news, told, &form, done);
     form.show();
     if (facts.RecoverOnStart)
         journal.note('R', boardOf(rooms));
     else
         journal.note('N');
 
-    Player player(form, random);
+    Player player(form, quick.gate, random);
     for (;;)
         player.step();
 }

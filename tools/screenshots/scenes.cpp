@@ -66,8 +66,8 @@ void layTiles(Stage &stage)
         qFatal("The session could not be written.");
     file.close();
     stage.form().HiddenText_Change(path);
-    file.remove();
     Stage::play(400);
+    file.remove();
 }
 
 } // namespace

@@ -2,6 +2,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "stage.h"
 
+#include "dialogs/real_boxes.h"
+#include "platform/gate.h"
+#include "platform/gated_boxes.h"
+#include "platform/ground.h"
+#include "platform/log.h"
+#include "platform/options.h"
+#include "platform/sound.h"
+#include "platform/system_clock.h"
+#include "platform/window_file_dialogs.h"
 #include "shell/application_folder.h"
 #include "shell/frm_main.h"
 
@@ -24,50 +33,78 @@ bool isSeen(const QWidget &form)
     return form.isActiveWindow() && pixel.pixelColor(0, 0) == form.palette().color(QPalette::Window);
 }
 
+/// Nothing is heard.
+class Silence : public Sound
+{
+public:
+    void PlayResourceSound(int) override {}
+    bool playFile(const QString &) override { return true; }
+};
+
 } // namespace
 
+/// One run of the program: what begins and ends with its window.
+struct Stage::Run
+{
+    Run(const QString &appFolder, Rnd &rnd, SettingsStore &store)
+        : options(store, appFolder, log)
+        , ground{appFolder, log, gatedBoxes, gatedDialogs, rnd, sound, clock, pump, store, options, gate}
+        , form(ground, StartFacts{})
+    {
+        boxes.setMainWindow(&form);
+    }
+
+    Log log;
+    Gate gate;
+    RealBoxes boxes;
+    GatedBoxes gatedBoxes{boxes, gate};
+    WindowFileDialogs fileDialogs;
+    GatedFileDialogs gatedDialogs{fileDialogs, gate};
+    Silence sound;
+    SystemClock clock{gate};
+    LoopPump pump{gate};
+    Options options;
+    Ground ground;
+    frmMain form;
+};
+
 Stage::Stage(const QString &data, const QString &folder)
-    : folder_(folder)
+    : data_(application_folder::withTrailingBackslash(data))
+    , folder_(folder)
     , rnd_(seed)
-    , options_(store_, application_folder::withTrailingBackslash(data), log_)
-    , ground_{application_folder::withTrailingBackslash(data),
-              log_,
-              boxes_,
-              fileDialogs_,
-              rnd_,
-              sound_,
-              clock_,
-              pump_,
-              store_,
-              options_}
 {
     set(QStringLiteral("ShowWelcomeMsg"), QStringLiteral("0"));
 }
 
 Stage::~Stage() { close(); }
 
+frmMain &Stage::form() { return run_->form; }
+
 void Stage::open(const QSize &size)
 {
-    form_ = std::make_unique<frmMain>(ground_, StartFacts{});
-    boxes_.setMainWindow(form_.get());
-    if (!form_->Form_Load())
+    run_ = std::make_unique<Run>(data_, rnd_, store_);
+    frmMain &window = form();
+    if (!window.Form_Load())
         qFatal("The program does not start with these data.");
     if (size.isEmpty()) {
-        form_->showMaximized();
+        window.showMaximized();
     } else {
-        form_->show();
-        form_->resize(size);
+        window.show();
+        window.resize(size);
     }
-    for (int waited = 0; !isSeen(*form_) && waited < untilSeen; waited += untilOpen)
+    for (int waited = 0; !isSeen(window) && waited < untilSeen; waited += untilOpen)
         play(untilOpen);
     play(untilOpen);
 }
 
 void Stage::close()
 {
-    if (form_)
-        form_->close();
-    form_.reset();
+    if (!run_)
+        return;
+    form().close();
+    while (form().isVisible())
+        play(100);
+    run_.reset();
 }
 
 void Stage::play(int milliseconds)

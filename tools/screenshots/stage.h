@@ -2,15 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "dialogs/real_boxes.h"
-#include "platform/ground.h"
-#include "platform/log.h"
-#include "platform/options.h"
 #include "platform/rnd.h"
 #include "platform/settings_store.h"
-#include "platform/sound.h"
-#include "platform/system_clock.h"
-#include "platform/window_file_dialogs.h"
 
 #include <QHash>
 #include <QRect>
@@ -39,13 +32,6 @@ private:
     QHash<QString, QString> values_;
 };
 
-class Silence : public Sound
-{
-public:
-    void PlayResourceSound(int) override {}
-    bool playFile(const QString &) override { return true; }
-};
-
 /// The program on a stage: the real main window with real rooms, boxes and data, but settings in memory, no
 /// sound, and a fixed seed, so that the same pictures come out of each run.
 class Stage
@@ -62,7 +48,7 @@ public:
     /// Opens the main window. `size` in pixels, maximised without one.
     void open(const QSize &size = {});
     void close();
-    frmMain &form() { return *form_; }
+    frmMain &form();
     /// A place for files that a scene needs.
     const QString &folder() const { return folder_; }
 
@@ -77,18 +63,13 @@ public:
     void keep(const QString &name, const QWidget &widget, int width = 0) const;
 
 private:
+    struct Run;
+
+    QString data_;
     QString folder_;
-    Log log_;
-    RealBoxes boxes_;
-    WindowFileDialogs fileDialogs_;
     Rnd rnd_;
-    Silence sound_;
-    SystemClock clock_;
-    LoopPump pump_;
     RunSettings store_;
-    Options options_;
-    Ground ground_;
-    std::unique_ptr<frmMain> form_;
+    std::unique_ptr<Run> run_;
 };
 
 /// The place of a widget on the screen.

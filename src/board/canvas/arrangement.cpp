@@ -8,16 +8,12 @@
 #include "board/tiles/tile_sort.h"
 #include "platform/clock.h"
 #include "platform/ground.h"
-#include "platform/modes.h"
 #include "platform/options.h"
 #include "platform/procedure.h"
 #include "platform/text.h"
-#include "widgets/click_label.h"
-#include "widgets/guards.h"
-#include "widgets/main_controls.h"
-#include "widgets/preparing.h"
-#include "widgets/press_button.h"
-#include "widgets/progress_bar.h"
+#include "platform/work.h"
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -25,45 +21,17 @@ namespace {
 
 constexpr auto form = "frmMain";
 
+constexpr int progressMaximum = 10; // the bar is a status line here: only its caption moves
+
 bool isWortel(const cWortel &tile) { return tile.BGColor == colours::wortelBack; }
 bool isAny(const cWortel &) { return true; }
 
 int settingNumber(const Options &options, Setting id) { return CInt(options.number(id)); }
 
-/// What the controls show while all tiles are placed anew: a status line and the "X", with the tools at rest.
-class PlacingSheet
-{
-public:
-    explicit PlacingSheet(const MainControls &controls)
-        : controls_(controls)
-    {
-        controls_.Label4->show();
-        ToggleButtonsOnPreparing(controls_, false);
-        controls_.Check3->hide();
-        controls_.Check4->hide();
-    }
-    ~PlacingSheet()
-    {
-        controls_.Label4->hide();
-        ToggleButtonsOnPreparing(controls_, true);
-        controls_.Check3->show();
-        controls_.Check4->show();
-        controls_.GameProgress->resetAndHide();
-    }
-    PlacingSheet(const PlacingSheet &) = delete;
-    PlacingSheet &operator=(const PlacingSheet &) = delete;
-
-private:
-    const MainControls &controls_;
-};
-
 } // namespace
 
-Arrangement::Arrangement(Ground &ground, const MainControls &controls, Modes &modes, Canvas &canvas,
-                         Placement &placement)
+Arrangement::Arrangement(Ground &ground, Canvas &canvas, Placement &placement)
     : ground_(ground)
-    , controls_(controls)
-    , modes_(modes)
     , canvas_(canvas)
     , placement_(placement)
     , store_(canvas.store())
@@ -77,10 +45,9 @@ void Arrangement::sortTiles(const char *procedure, What what, bool removeDuplica
     step([&] {
         TileList tiles = store_.takeAll();
         tile_sort::sortTexts(tiles, what == What::Wortel ? isWortel : isAny, removeDuplicates);
-        for (auto &tile : tiles)
-            store_.append(std::move(tile));
+        store_.replaceAll(std::move(tiles));
     });
-    rebuildBoard(ground_, canvas_, step, [](TilePointer &) {});
+    rebuildBoard(ground_, canvas_, step, [](TilePointer &, TileList &) {});
 }
 
 void Arrangement::SortWortelAscending(bool removeDuplicates)
@@ -98,64 +65,53 @@ void Arrangement::SortMorphemeAscending(bool removeDuplicates)
 void Arrangement::SpreadAllMorpheme(bool sorted)
 {
     Procedure step{ground_.log, "SpreadAllMorpheme", form};
-    if (modes_.PlacingBusy)
-        return; // a second placement must not start: its tiles would find no place
-    const Hourglass hourglass;
     const int filter = store_.filter().selected();
-    step([&] {
-        controls_.GameProgress->setMaximum(10);
-        controls_.GameProgress->setValue(0);
-        controls_.GameProgress->setCaption(u"Bitte warten..."_s);
-        controls_.GameProgress->show();
-        ground_.pump.yield();
-    });
-    if (sorted)
-        step([&] { SortMorphemeAscending(true); });
     {
-        const PlacingSheet sheet(controls_);
+        Work work(ground_, {WorkPlan::Bar | WorkPlan::Cancel | WorkPlan::HidesModes, progressMaximum});
         const FrozenBoard frozen(canvas_.surface());
-        step([&] { spreadTiles(); });
-        step([&] { ground_.pump.yield(); });
+        step([&] { work.appear(); });
+        TileList tiles = store_.copies();
+        if (sorted)
+            step([&] { tile_sort::sortTexts(tiles, isAny, true); });
+        TileList laid;
+        step([&] { spreadTiles(tiles, laid, work); });
+        if (ground_.gate.isClosing())
+            return;
+        store_.replaceAll(std::move(laid));
+        step([&] { store_.recount(); });
         step([&] { canvas_.CanvasRedrawAll(); });
     }
-    modes_.StopPlacing = false; // a pressed "X" must not outlive the placement it was meant for
     step([&] { canvas_.RecallFilter(filter); });
-    step([&] { ground_.pump.yield(); });
 }
 
-void Arrangement::spreadTiles()
+void Arrangement::spreadTiles(const TileList &tiles, TileList &laid, Work &work)
 {
-    const TileList scratch = store_.takeAll();
     for (int kind = 0; kind < TileFilter::all; ++kind)
         store_.counters().set(kind, 0);
-    modes_.StopPlacing = false;
-    const QString ending = u" ...Morpheme platziert ("_s + QString::number(scratch.size()) + u')';
+    const QString ending = u" ...Morpheme platziert ("_s + QString::number(tiles.size()) + u')';
     int i = 0;
-    for (const auto &tile : scratch) {
+    for (const auto &tile : tiles) {
         const TileKind *kind = kindOfColour(tile->BGColor);
         if (!kind)
             continue;
-        if (modes_.StopPlacing || placement_.MorphemeCollision(1, tile->txt, kind->back, kind->text))
+        if (placement_.MorphemeCollision(tile->txt, *kind, laid, work))
             break;
         store_.counters().add(kind->filterIndex, 1);
-        controls_.GameProgress->setCaption(QString::number(++i) + ending);
-        if (ground_.pump.inputWaiting())
-            ground_.pump.yield();
+        work.tell(QString::number(++i) + ending);
+        if (!work.goesOn())
+            break;
     }
 }
 
 void Arrangement::SpreadMorpheme(Colour colour)
 {
     Procedure step{ground_.log, "SpreadMorpheme", form};
-    if (modes_.PlacingBusy)
-        return;
+    Work work(ground_);
     step([&] { store_.counters().set(0, 0); });
-    rebuildBoard(ground_, canvas_, step, [&](TilePointer &tile) {
+    rebuildBoard(ground_, canvas_, step, [&](TilePointer &tile, TileList &laid) {
         if (tile->BGColor != colour)
             return;
-        const QString text = tile->txt;
-        tile.reset();
-        placement_.NoWortelCollision2(1, text);
+        placement_.NoWortelCollision2(1, std::exchange(tile, nullptr)->txt, laid, work);
         store_.counters().add(0, 1);
     });
 }
@@ -169,12 +125,10 @@ void Arrangement::LineUpWorteles(bool sort, bool removeDuplicates)
         step([&] { SortWortelAscending(removeDuplicates); });
     step([&] { store_.counters().set(0, 0); });
     int i = 0;
-    rebuildBoard(ground_, canvas_, step, [&](TilePointer &tile) {
+    rebuildBoard(ground_, canvas_, step, [&](TilePointer &tile, TileList &rebuilt) {
         if (!isWortel(*tile))
             return;
-        const QString text = tile->txt;
-        tile.reset();
-        GetLineUpPos(i, text);
+        GetLineUpPos(i, std::exchange(tile, nullptr)->txt, rebuilt);
         store_.counters().add(0, 1);
         ++i;
     });
@@ -188,7 +142,7 @@ int Arrangement::lineUpNumber(const char *procedure, int (*number)(int, int, int
     return result;
 }
 
-void Arrangement::GetLineUpPos(int i, const QString &text)
+void Arrangement::GetLineUpPos(int i, const QString &text, TileList &rebuilt)
 {
     Procedure step{ground_.log, "GetLineUpPos", form, Procedure::Silent};
     int across = 0;
@@ -200,5 +154,5 @@ void Arrangement::GetLineUpPos(int i, const QString &text)
     const int x = lineUpNumber("GetLeft", places::GetLeft, i, across);
     Int16 y = lineUpNumber("GetTop", places::GetTop, i, down);
     step([&] { y += start; });
-    step([&] { store_.CanvasDrawWortel(x, y, text, colours::wortelBack, colours::wortelText); });
+    step([&] { rebuilt.push_back(store_.makeTile(x, y, text, wortelKind)); });
 }

@@ -2,17 +2,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "board/tiles/tile_kind.h"
+#include "board/tiles/tile_store.h"
 
 #include <QObject>
 #include <QString>
 
 class Canvas;
 class Placement;
-class TileStore;
+class Work;
 struct Ground;
-struct MainControls;
-struct Modes;
 
 /// The commands that put order on the board: sorting, lining up in columns, spreading without overlap.
 class Arrangement : public QObject
@@ -20,8 +18,7 @@ class Arrangement : public QObject
     Q_OBJECT
 
 public:
-    Arrangement(Ground &ground, const MainControls &controls, Modes &modes, Canvas &canvas,
-                Placement &placement);
+    Arrangement(Ground &ground, Canvas &canvas, Placement &placement);
 
     /// Sorts the texts of the Wortel tiles over their tiles in store order; places stay.
     void SortWortelAscending(bool removeDuplicates);
@@ -36,18 +33,16 @@ public:
 
     /// Lays the Wortel tiles out in rows of `ColumnsOnLineUp` columns.
     void LineUpWorteles(bool sort, bool removeDuplicates);
-    /// One tile of a line-up. Nothing checks the board's edge.
-    void GetLineUpPos(int i, const QString &text);
+    /// Tile `i` of a line-up, appended to the new tiles. Nothing checks the board's edge.
+    void GetLineUpPos(int i, const QString &text, TileList &rebuilt);
 
 private:
     enum class What { Wortel, Everything };
     void sortTiles(const char *procedure, What what, bool removeDuplicates);
     int lineUpNumber(const char *procedure, int (*number)(int, int, int), int i, int space) const;
-    void spreadTiles();
+    void spreadTiles(const TileList &tiles, TileList &laid, Work &work);
 
     Ground &ground_;
-    const MainControls &controls_;
-    Modes &modes_;
     Canvas &canvas_;
     Placement &placement_;
     TileStore &store_;

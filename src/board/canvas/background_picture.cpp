@@ -82,11 +82,17 @@ QString BackgroundPicture::extension(const QString &path)
     return UCase(name.mid(name.lastIndexOf(u'.') + 1));
 }
 
+bool BackgroundPicture::isPicture(const QString &path)
+{
+    const QString format = extension(path);
+    return format == "JPG"_L1 || format == "GIF"_L1 || format == "BMP"_L1;
+}
+
 void BackgroundPicture::show(const QString &path)
 {
     const QImage picture = readPicture(path);
     controls_.picCanvas->setPicture(picture);
-    canvas_.redrawFiltered();
+    canvas_.repaint();
 }
 
 void BackgroundPicture::loadFromSetting()
@@ -104,20 +110,19 @@ void BackgroundPicture::loadFromSetting()
 void BackgroundPicture::remove()
 {
     controls_.picCanvas->setPicture({});
-    canvas_.redrawFiltered();
+    canvas_.repaint();
 }
 
 void BackgroundPicture::drop(const QString &nativePath)
 {
     Procedure step{ground_.log, "Form_OLEDragDrop", "frmMain"};
-    const QString format = extension(nativePath);
-    if (format != "JPG"_L1 && format != "GIF"_L1 && format != "BMP"_L1) {
+    if (!isPicture(nativePath)) {
         step([&] {
             ground_.boxes.plainBox(
                 Boxes::Icon::Warning, u"Wortel-Meister - Fehler: Format"_s,
                 u"Bitte ein Bild im Format Gif, JPG oder BMP auswählen!\n\nDieses Bild hat das "
                 "Format: "_s +
-                    format);
+                    extension(nativePath));
         });
         step([&] { ground_.pump.yield(); });
         return;

@@ -25,6 +25,8 @@ public:
 
     /// The text behind the last "." of the path's name in upper case; the whole name if it has none.
     static QString extension(const QString &path);
+    /// Whether that is one of the formats that may be dropped: JPG, GIF or BMP.
+    static bool isPicture(const QString &path);
 
 private:
     void show(const QString &nativePath);

@@ -6,6 +6,7 @@
 #include "board/canvas/placement.h"
 #include "board/canvas/rebuild.h"
 #include "board/tiles/affix_homes.h"
+#include "board/tiles/board_news.h"
 #include "board/tiles/random_array.h"
 #include "platform/boxes.h"
 #include "platform/clock.h"
@@ -13,10 +14,10 @@
 #include "platform/options.h"
 #include "platform/procedure.h"
 #include "platform/rnd.h"
-#include "platform/sound.h"
+#include "platform/sounds.h"
 #include "platform/text.h"
 #include "platform/word_lists.h"
-#include "widgets/dealing_tools.h"
+#include "platform/work.h"
 #include "widgets/guards.h"
 #include "widgets/main_controls.h"
 #include "widgets/press_button.h"
@@ -32,12 +33,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto form = "frmMain";
-constexpr int shuffleSound = 109;
 constexpr int largestCount = 32767;
-
-constexpr const TileKind &wortelKind = tileKinds[0];
-constexpr const TileKind &prefixKind = tileKinds[1];
-constexpr const TileKind &suffixKind = tileKinds[2];
 
 std::vector<int> countingFromOne(std::size_t count)
 {
@@ -59,33 +55,29 @@ std::optional<double> typedNumber(const QString &text)
 } // namespace
 
 BulkTiles::BulkTiles(Ground &ground, const MainControls &controls, const WordLists &lists,
-                     const AffixHomes &homes, Canvas &canvas, Placement &placement)
+                     const AffixHomes &homes, Canvas &canvas, Placement &placement, BoardNews &news)
     : ground_(ground)
     , controls_(controls)
     , lists_(lists)
     , homes_(homes)
     , canvas_(canvas)
     , placement_(placement)
+    , news_(news)
     , store_(canvas.store())
 {}
 
-std::optional<int> BulkTiles::countInText1()
+std::optional<int> BulkTiles::countInText1(const TileKind &kind)
 {
     const std::optional<double> number = typedNumber(controls_.Text1->text());
     const double count = Round(std::fabs(number.value_or(0)));
     if (number && count <= largestCount)
         return static_cast<int>(count);
     ground_.boxes.ShowInfoBox(
-        number ? u"Diese Anzahl ist zu groß. Es dürfen höchstens %1 Wortel sein."_s.arg(largestCount)
+        number ? u"Diese Anzahl ist zu groß. Es dürfen höchstens %1 %2 sein."_s.arg(
+                     QString::number(largestCount), QString::fromUtf16(kind.plural))
                : u"Bitte schreibe eine Zahl in das Feld \"Anzahl Wortel\""_s,
-        u"INFO"_s, u"Wortel-Meister"_s);
+        BoxSign::Info, u"Wortel-Meister"_s);
     return std::nullopt;
-}
-
-void BulkTiles::yieldIfInput()
-{
-    if (ground_.pump.inputWaiting())
-        ground_.pump.yield();
 }
 
 QString BulkTiles::randomStem()
@@ -94,9 +86,12 @@ QString BulkTiles::randomStem()
     return lists_.WortelList.at(ground_.rnd.absInt(lists_.WortelList.count()));
 }
 
-void BulkTiles::drawWortel(const QString &text, int x, int y)
+std::unique_ptr<cWortel> BulkTiles::randomTile(DrawPlace draw, const QString &text) const
 {
-    store_.CanvasDrawWortel(x, y, text, wortelKind.back, wortelKind.text);
+    const BoardMeasures &window = store_.measures();
+    const places::Place drawn = draw(ground_.rnd, window.ScaleWidth(), window.ScaleHeight());
+    const places::Place place = places::onBoard(drawn, window, store_.extentOf(text));
+    return store_.makeTile(place.x, place.y, text, wortelKind);
 }
 
 // Filling ------------------------------------------------------------------------------------------
@@ -106,63 +101,77 @@ void BulkTiles::AddRandomWortel(int count)
     Procedure step{ground_.log, "AddRandomWortel", form};
     const int filter = store_.filter().selected();
     step([&] {
-        const CanvasSurface::Batch batch(canvas_.surface());
-        const BoardMeasures &measures = store_.measures();
+        TileList added;
         for (int i = 1; i <= count; ++i) {
             const QString stem = randomStem();
             ground_.rnd.Randomize();
-            const auto [x, y] =
-                places::addedWortel(ground_.rnd, measures.ScaleWidth(), measures.ScaleHeight());
-            drawWortel(stem, x, y);
-            store_.counters().add(0, 1);
+            added.push_back(randomTile(places::addedWortel, stem));
         }
+        const CanvasSurface::Batch batch(canvas_.surface());
+        store_.appendAll(std::move(added));
+        store_.counters().add(0, count);
     });
     step([&] { canvas_.RecallFilter(filter); });
 }
 
-void BulkTiles::Refill()
+void BulkTiles::addOneWortel()
+{
+    const QString stem = lists_.WortelList.at(ground_.rnd.absInt(lists_.WortelList.count()));
+    TileList added;
+    added.push_back(randomTile(places::addedWortel, stem));
+    store_.appendAll(std::move(added));
+    store_.counters().add(0, 1);
+    store_.counters().updateTotal();
+}
+
+int BulkTiles::layFirstBoard(int count, int bandTop)
+{
+    Procedure step{ground_.log, "ProgInit", form, Procedure::Silent};
+    Work work(ground_);
+    TileList fresh;
+    step([&] { layWortels(count, false, fresh, work, Placement::startBound); });
+    const auto laid = static_cast<int>(fresh.size());
+    step([&] { layAffixRows(fresh, bandTop); });
+    store_.replaceAll(std::move(fresh));
+    store_.counters().set(0, laid);
+    step([&] { store_.counters().updateTotal(); });
+    step([&] { canvas_.repaint(); });
+    return laid;
+}
+
+bool BulkTiles::Refill()
 {
     Procedure step{ground_.log, "Refill", form};
     const bool wholeList = controls_.Check1->isChecked();
     const std::optional<int> wanted =
         wholeList ? std::optional<int>(lists_.WortelList.count()) : countInText1();
     if (!wanted)
-        return;
-    step([&] { store_.ClearCanvas(); });
+        return false;
     const int filter = store_.filter().selected();
-    {
+    Work work(ground_);
+    TileList fresh;
+    if (typedNumber(controls_.Text1->text()) != 0.0) {
         const FrozenBoard frozen(canvas_.surface());
-        if (typedNumber(controls_.Text1->text()) != 0.0) {
-            step([&] { store_.counters().set(0, 0); });
-            step([&] {
-                if (ground_.options.isOn(Setting::NoOverlapOnStart))
-                    placement_.PlaceWortelFree(*wanted);
-                else
-                    refillWortel(*wanted, wholeList);
-            });
-            step([&] { drawAffixRows(); });
-        } else {
-            step([&] { store_.ClearCanvas(); });
-            for (const TileKind &kind : tileKinds)
-                step([&] { store_.counters().set(kind.filterIndex, 0); });
-        }
-        step([&] { selectTwice(filter); });
+        step([&] { layWortels(*wanted, wholeList, fresh, work, Placement::noBound); });
+        step([&] { layAffixRows(fresh, store_.measures().BandTop()); });
     }
-    step([&] { store_.counters().set(0, *wanted); });
-    step([&] { store_.counters().updateTotal(); });
+    step([&] { showFresh(std::move(fresh), filter); });
+    return true;
 }
 
-void BulkTiles::refillWortel(int n, bool inListOrder)
+/// By the setting without overlap or anywhere, in list order or at random.
+void BulkTiles::layWortels(int n, bool wholeList, TileList &fresh, Work &work, int bound)
 {
-    const BoardMeasures &measures = store_.measures();
-    int row = 0;
-    while (store_.count() < n) {
+    store_.counters().set(0, 0);
+    if (ground_.options.isOn(Setting::NoOverlapOnStart)) {
+        placement_.layWortelFree(n, fresh, bound);
+        return;
+    }
+    for (int row = 0; row < n && work.goesOn(); ++row) {
         ground_.rnd.Randomize();
-        const auto [x, y] =
-            places::refilledWortel(ground_.rnd, measures.ScaleWidth(), measures.ScaleHeight());
-        drawWortel(inListOrder ? lists_.WortelList.at(row++) : randomStem(), x, y);
-        store_.counters().set(0, n);
-        yieldIfInput();
+        fresh.push_back(wholeList ? randomTile(places::refilledWortel, lists_.WortelList.at(row))
+                                  : randomTile(places::refilledWortel, randomStem()));
+        store_.counters().set(0, static_cast<int>(fresh.size()));
     }
 }
 
@@ -174,75 +183,73 @@ void BulkTiles::RefillWithSpecNum(int n)
         step([&] { canvas_.RecallFilter(filter); });
         return;
     }
-    step([&] { store_.ClearCanvas(); });
-    {
+    Work work(ground_);
+    TileList fresh;
+    if (n > 0) {
         const FrozenBoard frozen(canvas_.surface());
-        if (n > 0) {
-            step([&] {
-                const BoardMeasures &measures = store_.measures();
-                while (store_.count() < n) {
-                    ground_.rnd.Randomize();
-                    const auto [x, y] =
-                        places::addedWortel(ground_.rnd, measures.ScaleWidth(), measures.ScaleHeight());
-                    drawWortel(randomStem(), x, y);
-                    yieldIfInput();
-                }
-            });
-            step([&] { drawAffixRows(); });
-        } else {
-            for (const TileKind &kind : tileKinds)
-                step([&] { store_.counters().set(kind.filterIndex, 0); });
-        }
-        step([&] { selectTwice(filter); });
+        step([&] {
+            while (static_cast<int>(fresh.size()) < n && work.goesOn()) {
+                ground_.rnd.Randomize();
+                fresh.push_back(randomTile(places::addedWortel, randomStem()));
+            }
+        });
+        step([&] { layAffixRows(fresh, store_.measures().BandTop()); });
     }
-    step([&] { store_.counters().set(0, n); });
-    step([&] { store_.counters().updateTotal(); });
+    step([&] { showFresh(std::move(fresh), filter); });
 }
 
-void BulkTiles::drawAffixRows()
+/// The rows at their homes, or above the band where it would hide them. The counters tell the whole lists,
+/// though only the first entries have a home: the rows are made so.
+void BulkTiles::layAffixRows(TileList &fresh, int bandTop)
 {
-    Procedure step{ground_.log, "drawAffixRows", form, Procedure::Silent};
-    int copies = 0;
+    Procedure step{ground_.log, "layAffixRows", form, Procedure::Silent};
+    int copies = 0; // a number past 16 bits leaves rows without copies
     step([&] {
         const Options &options = ground_.options;
         if (options.isOn(Setting::FillAffix) && !options.text(Setting::NumAffixToFill).isEmpty())
             copies = std::max(0, CInt(options.number(Setting::NumAffixToFill)));
     });
-    const auto drawRow = [&](const std::vector<AffixHome> &homes, const TileKind &kind) {
+    const auto layRow = [&](const std::vector<AffixHome> &homes, const TileKind &kind) {
         for (const AffixHome &home : homes) {
+            const int top = std::min(home.y, std::max(0, bandTop - cWortel::height - 1));
             for (int copy = 0; copy <= copies; ++copy)
-                store_.CanvasDrawWortel(home.x, home.y, home.text, kind.back, kind.text);
-            yieldIfInput();
+                fresh.push_back(store_.makeTile(home.x, top, home.text, kind));
         }
     };
-    // The counters tell the whole lists, though only the first entries have a home: the rows are made so.
     const auto count = [&](const WordStore &list, const TileKind &kind) {
         store_.counters().set(kind.filterIndex, Int16(static_cast<long long>(list.count()) * (1 + copies)));
     };
-    step([&] { drawRow(homes_.prefixes, prefixKind); });
+    step([&] { layRow(homes_.prefixes, prefixKind); });
     step([&] { count(lists_.PrefixList, prefixKind); });
-    step([&] { drawRow(homes_.suffixes, suffixKind); });
+    step([&] { layRow(homes_.suffixes, suffixKind); });
     step([&] { count(lists_.SuffixList, suffixKind); });
 }
 
-void BulkTiles::selectTwice(int filter)
+/// The fresh tiles take the board; an empty board has no affixes either. After an early end the counter says
+/// what lies there.
+void BulkTiles::showFresh(TileList fresh, int filter)
 {
-    store_.filter().select(TileFilter::all);
-    store_.filter().select(filter);
+    Procedure step{ground_.log, "showFresh", form, Procedure::Silent};
+    if (ground_.gate.isClosing())
+        return;
+    if (fresh.empty())
+        for (const TileKind &kind : tileKinds)
+            store_.counters().set(kind.filterIndex, 0);
+    store_.replaceAll(std::move(fresh));
+    store_.counters().set(0, store_.countOf(wortelKind.back));
+    step([&] { store_.counters().updateTotal(); });
+    step([&] { canvas_.RecallFilter(filter); });
 }
 
 void BulkTiles::Check2_LeftPress()
 {
     Procedure step{ground_.log, "Check2_MouseDown", form};
-    const DealingToolsRest rest(controls_);
-    const Hourglass hourglass;
-    step([&] { ground_.pump.yield(); });
-    if (ground_.options.isOn(Setting::SoundOnActions))
-        step([&] { ground_.sound.PlayResourceSound(shuffleSound); });
-    step([&] { Refill(); });
-    step([&] { ground_.pump.yield(); });
-    step([&] { emit commitWanted(); });
-    step([&] { ground_.pump.yield(); });
+    const Work work(ground_);
+    step([&] { playSound(ground_, SoundId::TilesShuffled); });
+    bool dealt = false;
+    step([&] { dealt = Refill(); });
+    if (dealt)
+        step([&] { news_.Commit(); });
 }
 
 // Changing texts -----------------------------------------------------------------------------------
@@ -250,7 +257,7 @@ void BulkTiles::Check2_LeftPress()
 void BulkTiles::ReplaceAllWortel()
 {
     Procedure step{ground_.log, "ReplaceAllWortel", form};
-    rebuildBoard(ground_, canvas_, step, [&](TilePointer &tile) {
+    rebuildBoard(ground_, canvas_, step, [&](TilePointer &tile, TileList &) {
         if (tile->BGColor == wortelKind.back)
             tile->txt = randomStem();
     });
@@ -277,7 +284,7 @@ void BulkTiles::shuffleKind(const char *procedure, const TileKind &kind, bool lo
     std::vector<int> out;
     step([&] { RandomArray(countingFromOne(static_cast<std::size_t>(texts.size())), out, ground_.rnd); });
     std::size_t k = 0;
-    rebuildBoard(ground_, canvas_, step, [&](TilePointer &tile) {
+    rebuildBoard(ground_, canvas_, step, [&](TilePointer &tile, TileList &) {
         if (tile->BGColor != kind.back || k >= out.size())
             return;
         const QString text = texts.at(out[k++] - 1);
@@ -304,20 +311,18 @@ void BulkTiles::ShuffleAllMorpheme()
             for (std::size_t k = 0; k < out.size(); ++k)
                 tiles[k]->txt = texts.at(out[k] - 1);
         });
-    rebuildBoard(ground_, canvas_, step, [](TilePointer &) {});
+    rebuildBoard(ground_, canvas_, step, [](TilePointer &, TileList &) {});
 }
 
 void BulkTiles::InitCapAffix(Colour colour)
 {
     Procedure step{ground_.log, "InitCapAffix", form};
-    rebuildBoard(ground_, canvas_, step, [&](TilePointer &tile) {
+    rebuildBoard(ground_, canvas_, step, [&](TilePointer &tile, TileList &rebuilt) {
         if (tile->BGColor != colour)
             return;
-        const Int16 x(tile->xLeft());
-        const Int16 y(tile->yTop());
         const TilePointer old = std::move(tile);
         const TileKind *kind = kindOfColour(colour);
         if (kind && kind->filterIndex != suffixKind.filterIndex)
-            store_.MyGetWortel(x, y, InitCapWord(old->txt), kind->back, kind->text);
+            rebuilt.push_back(store_.makeTile(old->xLeft(), old->yTop(), InitCapWord(old->txt), *kind));
     });
 }

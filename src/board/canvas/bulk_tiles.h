@@ -2,15 +2,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "board/tiles/tile_kind.h"
+#include "board/tiles/places.h"
 
 #include <QObject>
 
 #include <optional>
 
+class BoardNews;
 class Canvas;
 class Placement;
+class Rnd;
 class TileStore;
+class Work;
 struct AffixHomes;
 struct Ground;
 struct MainControls;
@@ -24,21 +27,26 @@ class BulkTiles : public QObject
 
 public:
     BulkTiles(Ground &ground, const MainControls &controls, const WordLists &lists, const AffixHomes &homes,
-              Canvas &canvas, Placement &placement);
+              Canvas &canvas, Placement &placement, BoardNews &news);
 
-    /// The absolute value of `Text1`, rounded. What is no number, or one above 16 bits, is told to the user
-    /// and gives nothing.
-    std::optional<int> countInText1();
+    /// The absolute value of `Text1`, rounded, for tiles of that kind. What is no number, or one above 16
+    /// bits, is told to the user and gives nothing.
+    std::optional<int> countInText1(const TileKind &kind = wortelKind);
 
+    /// The first board: `count` Wortel tiles and, above `bandTop` (pixels), the affix rows. The window is
+    /// still hidden, so that nobody could stop it: it ends by itself, and returns how many Wortel tiles found
+    /// room.
+    int layFirstBoard(int count, int bandTop);
     /// Adds random Wortel tiles, with no test for overlap.
     void AddRandomWortel(int count);
-    /// The fresh board, from the current lists.
-    void Refill();
+    /// One of them.
+    void addOneWortel();
+    /// The fresh board, from the current lists. False, with a notice, if the number is none.
+    bool Refill();
     /// The same with `n` Wortel tiles at random places. 0 empties the board, affix rows too; a negative `n`
     /// only refreshes the filter.
     void RefillWithSpecNum(int n);
-    /// A left press on the button "Wortel": `Refill` with its sound and the commit, the button's group
-    /// disabled meanwhile.
+    /// A left press on the button "Wortel": `Refill` with its sound and the commit.
     void Check2_LeftPress();
 
     /// New random texts for all Wortel tiles; places and count stay.
@@ -54,18 +62,14 @@ public:
     /// why no menu offers it for them.
     void InitCapAffix(Colour colour);
 
-signals:
-    /// The button "Wortel" has refilled the board: undo and backup take their snapshot now.
-    void commitWanted();
-
 private:
     void shuffleKind(const char *procedure, const TileKind &kind, bool lowerCase);
-    void refillWortel(int n, bool inListOrder);
-    void drawWortel(const QString &text, int x, int y);
-    void drawAffixRows();
-    void selectTwice(int filter);
+    using DrawPlace = places::Place (*)(Rnd &, int, int);
+    std::unique_ptr<cWortel> randomTile(DrawPlace draw, const QString &text) const;
+    void layWortels(int n, bool wholeList, TileList &fresh, Work &work, int bound);
+    void layAffixRows(TileList &fresh, int bandTop);
+    void showFresh(TileList fresh, int filter);
     QString randomStem();
-    void yieldIfInput();
 
     Ground &ground_;
     const MainControls &controls_;
@@ -73,5 +77,6 @@ private:
     const AffixHomes &homes_;
     Canvas &canvas_;
     Placement &placement_;
+    BoardNews &news_;
     TileStore &store_;
 };

@@ -5,10 +5,10 @@
 #include "board/canvas/opt_types.h"
 #include "platform/clock.h"
 #include "platform/ground.h"
-#include "platform/modes.h"
 #include "platform/procedure.h"
 #include "platform/text.h"
 #include "widgets/colour.h"
+#include "widgets/control_sheet.h"
 #include "widgets/floating_tile.h"
 #include "widgets/main_controls.h"
 #include "widgets/picture_box.h"
@@ -40,11 +40,11 @@ QCursor squarePointer()
 }
 } // namespace
 
-Canvas::Canvas(Ground &ground, const MainControls &controls, Modes &modes, TileStore &store,
+Canvas::Canvas(Ground &ground, const MainControls &controls, ControlSheet &sheet, TileStore &store,
                CanvasSurface &surface, OptTypes &optTypes)
     : ground_(ground)
     , controls_(controls)
-    , modes_(modes)
+    , sheet_(sheet)
     , store_(store)
     , surface_(surface)
     , optTypes_(optTypes)
@@ -65,11 +65,11 @@ Canvas::Canvas(Ground &ground, const MainControls &controls, Modes &modes, TileS
 
 // Drawing ------------------------------------------------------------------------------------------
 
-void Canvas::draw(bool everyKind)
+void Canvas::draw(const TileList &tiles, bool everyKind)
 {
     surface_.clear();
     const CanvasSurface::Batch batch(surface_);
-    for (const auto &tile : store_.tiles())
+    for (const auto &tile : tiles)
         if (everyKind || optTypes_.shows(tile->BGColor))
             tile->Draw(surface_);
 }
@@ -77,7 +77,7 @@ void Canvas::draw(bool everyKind)
 void Canvas::CanvasRedrawAll()
 {
     Procedure step{ground_.log, "CanvasRedrawAll", form};
-    step([&] { draw(true); });
+    step([&] { draw(store_.tiles(), true); });
     step([&] { ground_.pump.yield(); });
     step([&] { optTypes_.updateTotal(); });
 }
@@ -89,17 +89,18 @@ void Canvas::CanvasFilterAndDraw()
         if (optTypes_.selected() == TileFilter::all)
             surface_.clear();
         else
-            draw(false);
+            draw(store_.tiles(), false);
     });
 }
 
-void Canvas::redrawFiltered()
+void Canvas::repaint()
 {
-    if (optTypes_.selected() == TileFilter::all)
-        CanvasRedrawAll();
-    else
-        CanvasFilterAndDraw();
+    Procedure step{ground_.log, "repaint", form, Procedure::Silent};
+    step([&] { draw(store_.tiles(), false); });
+    step([&] { optTypes_.updateTotal(); });
 }
+
+void Canvas::drawTiles(const TileList &tiles) { draw(tiles, false); }
 
 void Canvas::DrawMonoChrome()
 {
@@ -144,11 +145,8 @@ void Canvas::OptType_Click(int index)
 void Canvas::eraseTile(Procedure &step, int index)
 {
     step([&] { store_.removeAt(index); });
-    step([&] { optTypes_.updateTotal(); });
-    const int filter = optTypes_.selected();
-    step([&] { CanvasRedrawAll(); });
-    step([&] { optTypes_.select(TileFilter::all); });
-    step([&] { optTypes_.select(filter); });
+    step([&] { repaint(); });
+    step([&] { ground_.pump.yield(); });
 }
 
 void Canvas::CanvasEraseWortel(int x, int y, std::optional<Colour> kind)
@@ -166,46 +164,39 @@ void Canvas::CanvasEraseAllAffix(Colour colour)
 {
     Procedure step{ground_.log, "CanvasEraseAllAffix", form};
     const int filter = optTypes_.selected();
-    step([&] { surface_.clear(); });
     step([&] {
-        TileList scratch = store_.takeAll();
+        TileList others = store_.takeAll();
+        std::erase_if(others, [colour](const auto &tile) { return tile->BGColor == colour; });
+        store_.replaceAll(std::move(others));
         if (const TileKind *kind = kindOfColour(colour))
             optTypes_.set(kind->filterIndex, 0);
-        const CanvasSurface::Batch batch(surface_);
-        for (auto &tile : scratch)
-            if (tile->BGColor != colour) {
-                tile->Draw(surface_);
-                store_.append(std::move(tile));
-            }
     });
+    step([&] { repaint(); });
     step([&] { ground_.pump.yield(); });
-    step([&] { optTypes_.updateTotal(); });
     step([&] { RecallFilter(filter); });
 }
 
-void Canvas::EditObject(const QString &pos, const QString &text, Colour kind)
+void Canvas::EditObject(QPoint place, const QString &text, Colour kind)
 {
     Procedure step{ground_.log, "EditObject", form};
     const TileKind *row = kindOfColour(kind);
     if (!row)
         return;
     step([&] {
-        const Int16 x(CInt(CDbl(pos.section(u',', 0, 0))));
-        const Int16 y(CInt(CDbl(pos.section(u',', 1, 1))));
         // The corner itself is not inside a tile, and another tile may lie over the pixel next to it: the
         // tile is known by its place and kind.
-        const TileList &tiles = store_.tiles();
-        for (int i = 0; i < store_.count(); ++i) {
-            const cWortel &tile = *tiles[static_cast<std::size_t>(i)];
-            if (tile.xLeft() == x && tile.yTop() == y && tile.BGColor == kind) {
-                eraseTile(step, i);
-                break;
-            }
+        TileList tiles = store_.takeAll();
+        const auto old = std::find_if(tiles.begin(), tiles.end(), [&](const auto &tile) {
+            return tile->xLeft() == place.x() && tile->yTop() == place.y() && tile->BGColor == kind;
+        });
+        if (old != tiles.end()) {
+            tiles.erase(old);
+            tiles.push_back(store_.makeTile(place.x(), place.y(), text, *row));
         }
-        optTypes_.add(row->filterIndex, -1, true);
-        store_.CanvasDrawWortel(x, y, text, row->back, row->text);
-        optTypes_.add(row->filterIndex, 1);
+        store_.replaceAll(std::move(tiles));
     });
+    step([&] { repaint(); });
+    step([&] { ground_.pump.yield(); });
 }
 
 // Holding ------------------------------------------------------------------------------------------
@@ -227,7 +218,7 @@ bool Canvas::CanvasSelectWortel(int x, int y)
             break;
         }
     });
-    if (picked && modes_.WordCheckDrag && modes_.MoveAllowed)
+    if (picked && WordCheckDrag_)
         emit wordCheckDragBegins();
     return picked;
 }
@@ -250,7 +241,8 @@ void Canvas::CanvasUnSelectAllWortel()
         for (const auto &tile : store_.tiles())
             if (tile->Selected) {
                 tile->Selected = false;
-                tile->Draw(surface_);
+                if (optTypes_.shows(tile->BGColor))
+                    tile->Draw(surface_);
             }
     });
     step([&] { ground_.pump.yield(); });
@@ -262,7 +254,7 @@ void Canvas::CanvasUnSelectAllWortel()
 void Canvas::Option1_Click(int index)
 {
     Procedure step{ground_.log, "Option1_Click", form};
-    modes_.WordCheckDrag = index == 0;
+    WordCheckDrag_ = index == 0;
     step([&] { controls_.BtnMove1->hide(); });
     if (index == 0) {
         step([&] { controls_.picCanvas->setCursor(squarePointer()); });
@@ -278,6 +270,8 @@ void Canvas::Option1_Click(int index)
 
 void Canvas::Check1_Click()
 {
+    static constexpr SheetRow number[] = {
+        {[](const MainControls &c) -> QWidget * { return c.Text1; }, SheetRow::Disabled}};
     Procedure step{ground_.log, "Check1_Click", form};
-    step([&] { controls_.Text1->setEnabled(!controls_.Check1->isChecked()); });
+    step([&] { sheet_.set(Reason::WholeList, number, controls_.Check1->isChecked()); });
 }

@@ -6,14 +6,15 @@
 #include "board/tiles/tile_store.h"
 
 #include <QObject>
+#include <QPoint>
 
 #include <optional>
 
+class ControlSheet;
 class OptTypes;
 class Procedure;
 struct Ground;
 struct MainControls;
-struct Modes;
 
 /// Keeps the board's picture true to the tile store: redraws, filters, removes tiles, picks a tile up with
 /// its floating copy. There is no partial repainting: what removes or reorders something clears the surface
@@ -25,7 +26,7 @@ class Canvas : public QObject
 public:
     static constexpr int heldHeight = 26; ///< pixels: a held tile looks lifted
 
-    Canvas(Ground &ground, const MainControls &controls, Modes &modes, TileStore &store,
+    Canvas(Ground &ground, const MainControls &controls, ControlSheet &sheet, TileStore &store,
            CanvasSurface &surface, OptTypes &optTypes);
 
     TileStore &store() const { return store_; }
@@ -34,8 +35,11 @@ public:
     void CanvasRedrawAll();
     /// Draws only the tiles of the selected kind; nothing while "Alle" is selected.
     void CanvasFilterAndDraw();
-    /// One of the two, by the filter.
-    void redrawFiltered();
+    /// Draws what the filter shows, and lets nothing run: for what Qt calls from within its own walks, and
+    /// for every change while a filter is on, so that nothing hidden flashes.
+    void repaint();
+    /// Draws other tiles than those of the store, over nothing: what a work has laid so far.
+    void drawTiles(const TileList &tiles);
     /// Black on white, for printing.
     void DrawMonoChrome();
     /// Removes the first tile with `Inside(x, y)`, or the first of the kind with that back colour. The kind's
@@ -43,15 +47,19 @@ public:
     void CanvasEraseWortel(int x, int y, std::optional<Colour> kind = {});
     /// Removes all tiles of that back colour; serves all three kinds despite its name.
     void CanvasEraseAllAffix(Colour colour);
-    /// Gives the tile of that kind whose place is `pos` ("x,y", as `PosOfSelectedWortel` tells it) a new
-    /// text. It moves to the top of the drawing order. Nothing for a colour that no kind has.
-    void EditObject(const QString &pos, const QString &text, Colour kind);
+    /// Gives the tile of that kind whose corner lies at `place` a new text. It moves to the top of the
+    /// drawing order. Nothing for a colour that no kind has, or if no tile lies there.
+    void EditObject(QPoint place, const QString &text, Colour kind);
 
     /// Picks up the first tile under the point that the filter shows, and shows its floating copy.
     bool CanvasSelectWortel(int x, int y);
     void CanvasUnSelectAllWortel();
     /// Restores filter `index` and repaints the board without flicker.
     void RecallFilter(int index);
+
+    /// True in the mode "Ziehmodus Wortkontrolle", but for the time of a drop.
+    bool WordCheckDrag() const { return WordCheckDrag_; }
+    void setWordCheckDrag(bool on) { WordCheckDrag_ = on; }
 
 public slots:
     void OptType_Click(int index);
@@ -63,14 +71,15 @@ signals:
     void wordCheckDragBegins();
 
 private:
-    void draw(bool everyKind);
+    void draw(const TileList &tiles, bool everyKind);
     void showHeld(const cWortel &tile);
     void eraseTile(Procedure &step, int index);
 
     Ground &ground_;
     const MainControls &controls_;
-    Modes &modes_;
+    ControlSheet &sheet_;
     TileStore &store_;
     CanvasSurface &surface_;
     OptTypes &optTypes_;
+    bool WordCheckDrag_ = false;
 };

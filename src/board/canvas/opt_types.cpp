@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "board/canvas/opt_types.h"
 
+#include "widgets/gradient.h"
 #include "widgets/main_controls.h"
 #include "widgets/press_button.h"
 
@@ -61,3 +62,5 @@ int FormMeasures::textWidth(const QString &text) const
 int FormMeasures::ScaleWidth() const { return controls_.form->width(); }
 
 int FormMeasures::ScaleHeight() const { return controls_.form->height(); }
+
+int FormMeasures::BandTop() const { return controls_.Picture1->y(); }

@@ -41,6 +41,7 @@ public:
     int textWidth(const QString &text) const override;
     int ScaleWidth() const override;
     int ScaleHeight() const override;
+    int BandTop() const override;
 
 private:
     const MainControls &controls_;

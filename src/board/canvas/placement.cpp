@@ -6,18 +6,16 @@
 #include "platform/boxes.h"
 #include "platform/clock.h"
 #include "platform/ground.h"
-#include "platform/modes.h"
 #include "platform/options.h"
 #include "platform/procedure.h"
 #include "platform/rnd.h"
 #include "platform/text.h"
 #include "platform/word_lists.h"
-#include "widgets/click_label.h"
+#include "platform/work.h"
 #include "widgets/gradient.h"
 #include "widgets/main_controls.h"
 #include "widgets/press_button.h"
 
-#include <memory>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -28,22 +26,10 @@ namespace {
 constexpr auto form = "frmMain";
 constexpr long long triesBeforeCancelIsOffered = 50'000;
 
-/// `PlacingBusy` for the time of one search.
-class Busy
+bool overlaps(const TileList &tiles, const Place &place, int width = places::boxWidth)
 {
-public:
-    explicit Busy(Modes &modes)
-        : modes_(modes)
-    {
-        modes_.PlacingBusy = true;
-    }
-    ~Busy() { modes_.PlacingBusy = false; }
-    Busy(const Busy &) = delete;
-    Busy &operator=(const Busy &) = delete;
-
-private:
-    Modes &modes_;
-};
+    return places::checkOverlapInList(tiles, place.x, place.y, place.x + width, place.y + places::boxHeight);
+}
 
 } // namespace
 
@@ -68,18 +54,14 @@ private:
     int laid_ = 0;
 };
 
-Placement::Placement(Ground &ground, const MainControls &controls, Modes &modes, const WordLists &lists,
-                     Canvas &canvas)
+Placement::Placement(Ground &ground, const MainControls &controls, const WordLists &lists, Canvas &canvas)
     : ground_(ground)
     , controls_(controls)
-    , modes_(modes)
     , lists_(lists)
     , canvas_(canvas)
     , store_(canvas.store())
 {
     takeTryLimit();
-    connect(&ground.options, &Options::applied, this, &Placement::takeTryLimit);
-    connect(controls.Label4, &ClickLabel::clicked, this, &Placement::stop);
 }
 
 void Placement::takeTryLimit()
@@ -88,158 +70,130 @@ void Placement::takeTryLimit()
     step([&] { tryLimit_ = CLng(ground_.options.number(Setting::MaxTriesToPlace) * 1000); });
 }
 
-void Placement::stop() { modes_.StopPlacing = true; }
-
 // At the start and for one more tile ---------------------------------------------------------------
 
-Placement::Found Placement::searchWortel(Place &place, long long &tries, Tally &tally)
+int Placement::PlaceWortelFree(int count, int bound)
 {
-    const BoardMeasures &measures = store_.measures();
-    for (;;) {
-        place = places::freeWortel(ground_.rnd, measures.ScaleWidth(), measures.ScaleHeight());
-        const bool taken = places::checkOverlapInList(
-            store_.tiles(), place.x, place.y, place.x + places::boxWidth, place.y + places::boxHeight);
-        if (++tries == tryLimit_) // a try that finds a place counts as well
-            return Found::Limit;
-        if (!taken)
-            return Found::Place;
-        if (tries == triesBeforeCancelIsOffered)
-            controls_.Label4->show();
-        if (ground_.pump.inputWaiting()) {
-            tally.write();
-            ground_.pump.yield();
-        }
-        if (modes_.StopPlacing || modes_.Closing)
-            return Found::Stopped;
-    }
+    TileList laid;
+    searchWortels(
+        count, bound,
+        [&](const Place &place) { return overlaps(store_.tiles(), place) || overlaps(laid, place); }, laid);
+    const auto result = static_cast<int>(laid.size());
+    if (!ground_.gate.isClosing())
+        store_.appendAll(std::move(laid));
+    return result;
 }
 
-void Placement::PlaceWortelFree(int count)
+void Placement::layWortelFree(int count, TileList &laid, int bound)
+{
+    searchWortels(
+        count, bound, [&](const Place &place) { return overlaps(laid, place); }, laid);
+}
+
+void Placement::searchWortels(int count, int bound, const IsTaken &isTaken, TileList &laid)
 {
     Procedure step{ground_.log, "PlaceWortelFree", form};
-    if (modes_.PlacingBusy)
-        return;
-    const Busy busy(modes_);
-    const bool cancelWasShown = !controls_.Label4->isHidden();
-    modes_.StopPlacing = false;
+    Work work(ground_);
     Tally tally(store_.counters());
     step([&] {
+        const BoardMeasures &window = store_.measures();
         long long tries = 0;
-        int listIndex = 0;
         for (int n = 1; n <= count; ++n) {
+            const QString stem = nextStem(n - 1);
+            const int extent = store_.extentOf(stem);
             Place place;
-            if (searchWortel(place, tries, tally) != Found::Place)
-                break;
-            int index = 0;
-            if (controls_.Check1->isChecked()) {
-                index = listIndex++;
-            } else {
-                ground_.rnd.Randomize();
-                index = ground_.rnd.absInt(lists_.WortelList.count());
+            for (bool taken = true; taken;) {
+                place = places::freeWortel(ground_.rnd, window.ScaleWidth(), window.ScaleHeight());
+                place = places::onBoard(place, window, extent);
+                taken = isTaken(place);
+                if (++tries == tryLimit_ || tries >= bound) // a try that finds a place counts as well
+                    return;
+                if (tries == triesBeforeCancelIsOffered)
+                    work.offerCancel();
+                if (work.inputWaits())
+                    tally.write();
+                if (!work.goesOn())
+                    return;
             }
             tally.add();
-            store_.CanvasDrawWortel(place.x, place.y, lists_.WortelList.at(index), colours::wortelBack,
-                                    colours::wortelText);
+            laid.push_back(store_.makeTile(place.x, place.y, stem, wortelKind));
         }
     });
     step([&] { tally.write(); });
-    modes_.StopPlacing = false;
-    controls_.Label4->setVisible(cancelWasShown);
+}
+
+/// By its row with "Alle" checked, else at random.
+QString Placement::nextStem(int row)
+{
+    if (controls_.Check1->isChecked())
+        return lists_.WortelList.at(row);
+    ground_.rnd.Randomize();
+    return lists_.WortelList.at(ground_.rnd.absInt(lists_.WortelList.count()));
 }
 
 // One kind anew ------------------------------------------------------------------------------------
 
-void Placement::NoWortelCollision2(int count, const QString &text)
+void Placement::NoWortelCollision2(int count, const QString &text, TileList &laid, Work &work)
 {
     Procedure step{ground_.log, "NoWortelCollision2", form};
-    if (modes_.PlacingBusy)
-        return;
-    const Busy busy(modes_);
     step([&] {
-        const BoardMeasures &measures = store_.measures();
-        for (int n = 1; n <= count && !modes_.Closing; ++n) {
+        const BoardMeasures &window = store_.measures();
+        for (int n = 1; n <= count; ++n) {
             Place place;
+            long long tries = 0;
             do {
-                place = places::spreadWortel(ground_.rnd, measures.ScaleWidth(), measures.ScaleHeight());
-                if (ground_.pump.inputWaiting())
-                    ground_.pump.yield();
-            } while (!modes_.Closing &&
-                     places::checkOverlapInList(store_.tiles(), place.x, place.y, place.x + places::boxWidth,
-                                                place.y + places::boxHeight));
-            store_.CanvasDrawWortel(place.x, place.y, text, colours::wortelBack, colours::wortelText);
+                place = places::spreadWortel(ground_.rnd, window.ScaleWidth(), window.ScaleHeight());
+                place = places::onBoard(place, window, store_.extentOf(text));
+                if (++tries == triesBeforeCancelIsOffered)
+                    work.offerCancel();
+            } while (work.goesOn() && overlaps(laid, place));
+            laid.push_back(store_.makeTile(place.x, place.y, text, wortelKind));
         }
     });
 }
 
 // All kinds anew -----------------------------------------------------------------------------------
 
-bool Placement::MorphemeCollision(int count, const QString &text, Colour back, Colour textColour)
+bool Placement::MorphemeCollision(const QString &text, const TileKind &kind, TileList &laid, Work &work)
 {
     Procedure step{ground_.log, "MorphemeCollision", form};
-    if (modes_.PlacingBusy)
-        return false;
-    const Busy busy(modes_);
-    modes_.StopPlacing = false;
     bool givenUp = false;
     step([&] {
-        const BoardMeasures &measures = store_.measures();
-        const int width = places::probeWidth(back, text);
-        for (int n = 1; n <= count && !givenUp; ++n) {
-            Place place = places::firstMorpheme(ground_.rnd, measures.ScaleWidth(), measures.ScaleHeight());
-            TriedAgain_ = false;
-            long long tries = 0;
-            for (;;) {
-                if (modes_.StopPlacing || modes_.Closing) {
-                    givenUp = true;
-                    break;
-                }
-                place = places::spreadMorpheme(ground_.rnd, measures.ScaleWidth(), measures.ScaleHeight());
-                if (!places::checkOverlapInList(store_.tiles(), place.x, place.y, place.x + width,
-                                                place.y + places::boxHeight))
-                    break;
-                // After a Yes the count has passed the limit, so this tile is asked for once only.
-                if (++tries == tryLimit_ && !askToGoOn(tryLimit_)) {
-                    givenUp = true;
-                    break;
-                }
-                if (ground_.pump.inputWaiting())
-                    ground_.pump.yield();
-            }
-            if (givenUp)
+        const BoardMeasures &window = store_.measures();
+        const int width = places::probeWidth(kind.back, text);
+        const int extent = store_.extentOf(text);
+        Place place = places::firstMorpheme(ground_.rnd, window.ScaleWidth(), window.ScaleHeight());
+        TriedAgain_ = false;
+        for (long long tries = 0;;) {
+            place = places::spreadMorpheme(ground_.rnd, window.ScaleWidth(), window.ScaleHeight());
+            place = places::onBoard(place, window, extent);
+            if (!overlaps(laid, place, width))
                 break;
-            store_.CanvasDrawWortel(place.x, place.y, text, back, textColour);
-            store_.counters().set(TileFilter::all, store_.counters().sum() + 1);
+            // After a Yes the count has passed the limit, so this tile is asked for once only.
+            givenUp = (++tries == tryLimit_ && !askToGoOn(laid)) || !work.goesOn();
+            if (givenUp)
+                return;
         }
+        laid.push_back(store_.makeTile(place.x, place.y, text, kind));
+        store_.counters().set(TileFilter::all, store_.counters().sum() + 1);
     });
-    if (givenUp)
-        step([&] { giveUp(); });
     return givenUp;
 }
 
-void Placement::giveUp()
+/// The board shows what has been laid so far; the store keeps all tiles until the question is answered.
+bool Placement::askToGoOn(const TileList &laid)
 {
-    controls_.Label4->hide();
-    store_.counters().updateTotal();
-}
-
-bool Placement::askToGoOn(long long limit)
-{
-    canvas_.CanvasRedrawAll();
+    canvas_.drawTiles(laid);
     canvas_.surface().LockWindow(false);
     store_.counters().updateTotal();
     const QString question =
-        places::limitQuestion(TriedAgain_, store_.counters().value(TileFilter::all), static_cast<int>(limit));
+        places::limitQuestion(TriedAgain_, store_.counters().value(TileFilter::all), tryLimit_);
     TriedAgain_ = true;
     const Boxes::Answer answer = ground_.boxes.plainBox(Boxes::Icon::Question, u"Wortel-Meister"_s, question,
                                                         Boxes::Buttons::YesNoCancel);
     ground_.pump.yield();
-    modes_.PlacingBusy = false;
-    modes_.StopPlacing = false;
-    if (answer != Boxes::Answer::Yes)
-        return false;
     canvas_.surface().LockWindow(true);
-    controls_.Label4->show();
-    return true;
+    return answer == Boxes::Answer::Yes;
 }
 
 void Placement::CenterOnFreeSpace(const MainControls &controls, QWidget &control)

@@ -2,193 +2,239 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "board/hand/board_commands.h"
 
+#include "board/canvas/arrangement.h"
+#include "board/canvas/bulk_tiles.h"
 #include "board/canvas/canvas.h"
-#include "board/hand/menu_model.h"
+#include "board/canvas/placement.h"
+#include "board/hand/morpheme_lists.h"
+#include "board/tiles/board_news.h"
 #include "platform/boxes.h"
+#include "platform/clock.h"
 #include "platform/ground.h"
-#include "platform/modes.h"
 #include "platform/options.h"
 #include "platform/procedure.h"
-#include "platform/sound.h"
+#include "platform/text.h"
+#include "widgets/main_controls.h"
+#include "widgets/picture_box.h"
+
+#include <QLineEdit>
 
 #include <array>
 
-using command::Asks;
-using command::Command;
-using command::Does;
 using command::From;
-using command::Needs;
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr auto form = "frmMain";
-constexpr auto mouseDown = "picCanvas_MouseDown";
-
-const TileKind &kindAt(int index) { return tileKinds.at(static_cast<std::size_t>(index)); }
+constexpr int insertOffset = 20; ///< pixels right of and below the press
+constexpr int removeCommand = 105;
+constexpr std::array insertCommands{204, 103, 303}; ///< by the index of the kind
 
 QString text(const char16_t *words) { return QString::fromUtf16(words); }
 
 } // namespace
 
-BoardCommands::BoardCommands(Ground &ground, const MainControls &controls, const WordLists &lists,
-                             Modes &modes, const Rooms &rooms)
+BoardCommands::BoardCommands(Ground &ground, const MainControls &controls, CommandRouter &router,
+                             BoardNews &news, const Rooms &rooms)
     : ground_(ground)
     , controls_(controls)
-    , lists_(lists)
-    , modes_(modes)
+    , router_(router)
+    , news_(news)
     , rooms_(rooms)
     , store_(rooms.canvas.store())
-{}
-
-Press BoardCommands::pressAt(const QPoint &point)
 {
-    Press press{point, store_.filter().selected(), nullptr, {}, u"0,0"_s};
-    press.kind = kindOfColour(store_.TypeOfSelectedWortel(point.x(), point.y()));
-    // Text and place are those of the tile that the filter shows: another kind may lie under it in the store.
-    if (const cWortel *tile = press.kind != nullptr ? store_.current() : nullptr) {
-        press.text = tile->txt;
-        press.place = u"%1,%2"_s.arg(tile->xLeft()).arg(tile->yTop());
+    registerTileCommands();
+    registerKindCommands();
+    registerBoardCommands();
+}
+
+// The tile under the pointer
+// ---------------------------------------------------------------------------------------
+
+void BoardCommands::registerTileCommands()
+{
+    using Act = Ending (BoardCommands::*)(const Press &);
+    constexpr std::pair<int, Act> acts[] = {{104, &BoardCommands::editTile},
+                                            {105, &BoardCommands::removeTile},
+                                            {106, &BoardCommands::toggleCapitals}};
+    for (const auto &[id, act] : acts)
+        router_.on(From::TileMenu, {id}, [this, act](const Command &, const Press &press) {
+            return press.kind == nullptr ? Ending::None : (this->*act)(press);
+        });
+    router_.on(From::TileMenu, {116, 117, 118, 119, 120, 121, 122, 123},
+               [this](const Command &command, const Press &press) {
+                   return press.kind == nullptr ? Ending::None : copyTile(command, press);
+               });
+}
+
+Ending BoardCommands::editTile(const Press &press)
+{
+    const command::KindWords &words = command::words(press.kind->filterIndex);
+    const QPoint corner = controls_.picCanvas->mapToGlobal(press.point);
+    const QString typed = ground_.boxes.ShowIBox(text(words.prompt), press.kind->box, press.text,
+                                                 text(words.editTitle), corner.x(), corner.y());
+    if (typed.isEmpty())
+        return Ending::RecallOnly;
+    rooms_.canvas.EditObject(press.place, typed, press.kind->back);
+    return Ending::Whole;
+}
+
+Ending BoardCommands::removeTile(const Press &press)
+{
+    if (!router_.ask(command::words(press.kind->filterIndex).removeQuestion,
+                     ground_.options.isOn(Setting::ConfirmBeforeErase), u"Entfernen"_s,
+                     press.kind->box))
+        return Ending::RecallOnly;
+    store_.counters().add(press.kind->filterIndex, -1, true);
+    rooms_.canvas.CanvasEraseWortel(press.point.x(), press.point.y(), press.kind->back);
+    return Ending::Whole;
+}
+
+Ending BoardCommands::toggleCapitals(const Press &press)
+{
+    rooms_.canvas.EditObject(press.place, ToggleInitChar(press.text), press.kind->back);
+    return Ending::Whole;
+}
+
+Ending BoardCommands::copyTile(const Command &command, const Press &press)
+{
+    const std::optional<int> copies = number(command, *press.kind);
+    if (!copies)
+        return Ending::None;
+    store_.DuplicateObject2(press.kind->back, press.text, *copies, press.point.x(), press.point.y());
+    store_.counters().updateTotal();
+    return Ending::Whole;
+}
+
+void BoardCommands::duplicateAt(const Press &press)
+{
+    Procedure step{ground_.log, "picCanvas_MouseDown", form, Procedure::Silent};
+    if (press.kind != nullptr) {
+        step([&] { store_.DuplicateObject(press.kind->back, press.text, press.point.x(), press.point.y()); });
+        step([&] { store_.counters().updateTotal(); });
     }
-    return press;
+    step([&] { news_.Commit(); });
 }
 
-// Dispatch
-// ---------------------------------------------------------------------------------------------------------
-
-void BoardCommands::run(From from, int id, const Press &press, int itemIndex)
+void BoardCommands::removeAt(const Press &press)
 {
-    if (const Command *found = command::find(from, id))
-        carryOut(*found, press, from == From::Key ? "Form_KeyPress" : mouseDown, itemIndex);
+    if (press.kind != nullptr)
+        router_.run(From::TileMenu, removeCommand, press);
 }
 
-bool BoardCommands::runKey(int code)
+// One tile more
+// -----------------------------------------------------------------------------------------------------
+
+Ending BoardCommands::insert(const Command &command, const Press &press)
 {
-    const Command *found = command::find(From::Key, code);
-    if (found == nullptr)
-        return false;
-    Press press;
-    press.filter = store_.filter().selected();
-    carryOut(*found, press, "Form_KeyPress", 0);
-    return true;
+    const TileKind &kind = kindAt(command.argument);
+    if (!store_.filter().shows(kind.back))
+        return Ending::None;
+    const command::KindWords &words = command::words(command.argument);
+    const QPoint corner = controls_.picCanvas->mapToGlobal(press.point);
+    const QString typed = ground_.boxes.ShowIBox(text(words.prompt), kind.box, {},
+                                                 text(words.insertTitle), corner.x(), corner.y());
+    if (typed.isEmpty())
+        return Ending::RecallOnly;
+    const places::Place place =
+        places::onBoard({press.point.x() + insertOffset, press.point.y() + insertOffset}, store_.measures(),
+                        store_.extentOf(typed));
+    store_.CanvasDrawWortel(place.x, place.y, typed, kind.back, kind.text);
+    store_.counters().add(kind.filterIndex, 1);
+    return Ending::Whole;
 }
 
-void BoardCommands::carryOut(const Command &command, const Press &press, const char *procedure, int itemIndex)
+void BoardCommands::insertAt(const Press &press, int kindIndex)
 {
-    if (!isAllowed(command))
-        return;
-    Procedure step{ground_.log, procedure, form, Procedure::Silent};
-    if (itemIndex > 0)
-        step.setErrorSuffix(u". Index: %1"_s.arg(itemIndex));
-
-    step([&] { log(command, procedure); });
-    bool goesOn = false;
-    step([&] { goesOn = hasWhatItNeeds(command) && isAgreed(command); });
-    if (!goesOn)
-        return;
-
-    const bool soundFirst = (command.flags & command::SoundFirst) != 0;
-    if (soundFirst)
-        step([&] { play(command.sound); });
-    Ending ending = Ending::Whole; // a step that fails is no reason to leave out the rest
-    step([&] { ending = (this->*action(command.does))(command, press); });
-    if (ending == Ending::None)
-        return;
-    const bool whole = ending == Ending::Whole;
-    if (whole && (command.flags & command::Commits) != 0)
-        step([&] { Commit(); });
-    if (whole && (command.flags & command::BacksUp) != 0)
-        step([&] { backUp(); });
-    if ((command.flags & command::Recalls) != 0)
-        step([&] { Recall(press.filter); });
-    if (whole && !soundFirst)
-        step([&] { play(command.sound); });
-    if ((command.flags & command::SelectsAll) != 0)
-        step([&] { store_.filter().select(TileFilter::all); });
-    if ((command.flags & command::RebuildsMenus) != 0)
-        step([&] { rooms_.menus.CreateMenus(); });
+    router_.run(From::Pointer, insertCommands.at(static_cast<std::size_t>(kindIndex)), press);
 }
 
-bool BoardCommands::isAllowed(const Command &command)
+Ending BoardCommands::addWortelFree()
 {
-    if ((command.flags & command::NotInGame) != 0 && modes_.GameActive)
-        return false;
-    if ((command.flags & command::StepBack) != 0 && !modes_.CanUndo)
-        return false;
-    return (command.flags & command::StepForward) == 0 || modes_.CanRedo;
+    if (!ground_.options.isOn(Setting::NoOverlapOnStart))
+        rooms_.bulk.addOneWortel();
+    else
+        rooms_.placement.PlaceWortelFree(1);
+    return Ending::Whole;
 }
 
-bool BoardCommands::hasWhatItNeeds(const Command &command)
+// Many tiles
+// --------------------------------------------------------------------------------------------------------
+
+std::optional<int> BoardCommands::number(const Command &command, const TileKind &kind)
 {
-    const TileCounters &counters = store_.counters();
-    bool has = true;
-    if (command.needs == Needs::AnyTile)
-        has = counters.value(0) > 0 || counters.value(1) > 0 || counters.value(2) > 0;
-    else if (command.needs != Needs::Nothing)
-        has = counters.value(static_cast<int>(command.needs)) > 0;
-    if (!has)
-        tell(text(command.missing));
-    return has;
+    if (command.argument != command::presetNumber)
+        return command.argument;
+    const std::optional<int> count = rooms_.bulk.countInText1(kind);
+    const bool isNone = command.from == From::TileMenu && Val(controls_.Text1->text()) < 0;
+    return count && isNone ? 0 : count;
 }
 
-bool BoardCommands::isAgreed(const Command &command)
+void BoardCommands::registerKindCommands()
 {
-    if (command.asks == Asks::Nothing)
-        return true;
-    const bool removal = command.asks == Asks::Removal;
-    const bool show = command.asks == Asks::Always || ground_.options.isOn(Setting::ConfirmBeforeErase);
-    return ask(command.question, show, removal ? u"Entfernen"_s : u"Bestätigen"_s,
-               removal ? text(kindAt(command.argument).styleWord) : u"CONFIRM"_s);
-}
-
-bool BoardCommands::ask(const char16_t *question, bool show, const QString &title, const QString &style)
-{
-    constexpr int okAndCancel = 3;
-    constexpr int refused = 1;
-    return ground_.boxes.ShowMBox(text(question), show, okAndCancel, title, style) != refused;
-}
-
-void BoardCommands::tell(const QString &notice)
-{
-    ground_.boxes.ShowInfoBox(notice, u"INFO"_s, u"Wortel-Meister"_s);
-}
-
-void BoardCommands::log(const Command &command, const char *procedure)
-{
-    if (command.logWord == nullptr)
-        return;
-    ground_.log.WriteLog(u"Event: In procedure "_s + QLatin1String(procedure) + u" of Form frmMain "_s +
-                         (command.from == From::MainMenu ? u"Main-menu: "_s : QString()) +
-                         text(command.logWord));
-}
-
-void BoardCommands::play(int sound)
-{
-    if (sound != 0 && ground_.options.isOn(Setting::SoundOnActions))
-        ground_.sound.PlayResourceSound(sound);
-}
-
-void BoardCommands::Commit() { emit committed(); }
-
-void BoardCommands::Recall(int filter) { rooms_.canvas.RecallFilter(filter); }
-
-void BoardCommands::backUp()
-{
-    if (ground_.options.storedIsOn(Setting::UseBackup))
-        emit backupWanted();
-}
-
-BoardCommands::Action BoardCommands::action(Does does)
-{
-    static constexpr std::array<Action, static_cast<std::size_t>(Does::Count)> actions{
-        &BoardCommands::otherRoom,   &BoardCommands::showTip,          &BoardCommands::editTile,
-        &BoardCommands::removeTile,  &BoardCommands::toggleCapitals,   &BoardCommands::copyTile,
-        &BoardCommands::showList,    &BoardCommands::selectFilter,     &BoardCommands::insert,
-        &BoardCommands::refill,      &BoardCommands::addOneWortel,     &BoardCommands::addWortelFree,
-        &BoardCommands::addRandom,   &BoardCommands::eraseKind,        &BoardCommands::capitalsOfKind,
-        &BoardCommands::shuffleKind, &BoardCommands::replaceAllWortel, &BoardCommands::spreadWortel,
-        &BoardCommands::lineUp,      &BoardCommands::toggleLists,      &BoardCommands::eraseAll,
-        &BoardCommands::shuffleAll,  &BoardCommands::spreadAll,
+    const auto onKind = [this](From from, std::initializer_list<int> ids, auto act) {
+        router_.on(from, ids, [act](const Command &command, const Press &) {
+            act(kindAt(command.argument));
+            return Ending::Whole;
+        });
     };
-    return actions.at(static_cast<std::size_t>(does));
+    const auto shuffle = [this](const TileKind &kind) {
+        constexpr std::array<void (BulkTiles::*)(), 3> shuffles{
+            &BulkTiles::ShuffleAllWortel, &BulkTiles::ShuffleAllPrefix, &BulkTiles::ShuffleAllSuffix};
+        (rooms_.bulk.*shuffles.at(static_cast<std::size_t>(kind.filterIndex)))();
+    };
+    for (const From from : {From::MainMenu, From::Pointer})
+        router_.on(from, {103, 204, 303},
+                   [this](const Command &command, const Press &press) { return insert(command, press); });
+    onKind(From::MainMenu, {104, 234, 304},
+           [this](const TileKind &kind) { rooms_.canvas.CanvasEraseAllAffix(kind.back); });
+    onKind(From::MainMenu, {105, 235}, [this](const TileKind &kind) { rooms_.bulk.InitCapAffix(kind.back); });
+    onKind(From::MainMenu, {108, 236, 308}, shuffle);
+    onKind(From::Key, {6}, shuffle);
+    onKind(From::MainMenu, {101, 202, 301}, [this](const TileKind &kind) {
+        rooms_.morphemeLists.OptType_MouseDown(kind.filterIndex, Qt::RightButton);
+    });
+}
+
+void BoardCommands::registerBoardCommands()
+{
+    const auto on = [this](From from, std::initializer_list<int> ids, auto act) {
+        router_.on(from, ids, [act](const Command &command, const Press &) {
+            act(command);
+            return Ending::Whole;
+        });
+    };
+    const auto onNumber = [this](std::initializer_list<int> ids, void (BulkTiles::*act)(int)) {
+        router_.on(From::MainMenu, ids, [this, act](const Command &command, const Press &) {
+            const std::optional<int> count = number(command, wortelKind);
+            if (count)
+                (rooms_.bulk.*act)(*count);
+            return count ? Ending::Whole : Ending::None;
+        });
+    };
+    onNumber({206, 207, 208, 209, 210, 211, 212, 213}, &BulkTiles::RefillWithSpecNum);
+    onNumber({217, 218, 219, 220, 221, 222, 223}, &BulkTiles::AddRandomWortel);
+    on(From::MainMenu, {216}, [this](const Command &) { rooms_.bulk.addOneWortel(); });
+    router_.on(From::Key, {1}, [this](const Command &, const Press &) { return addWortelFree(); });
+
+    const auto replace = [this](const Command &) { rooms_.bulk.ReplaceAllWortel(); };
+    on(From::MainMenu, {240}, replace);
+    on(From::Key, {5}, replace);
+    const auto spread = [this](const Command &) { rooms_.arrangement.SpreadMorpheme(wortelKind.back); };
+    on(From::MainMenu, {241}, spread);
+    on(From::Key, {4}, spread);
+    const auto lineUp = [this](const Command &command) {
+        rooms_.arrangement.LineUpWorteles(command.argument > 0, command.argument == 2);
+    };
+    on(From::MainMenu, {260, 261, 264}, lineUp);
+    on(From::Key, {2}, lineUp);
+    on(From::MainMenu, {1503}, [this](const Command &) { rooms_.bulk.RefillWithSpecNum(0); });
+    on(From::MainMenu, {1504}, [this](const Command &) { rooms_.bulk.ShuffleAllMorpheme(); });
+    on(From::MainMenu, {1505, 1522},
+       [this](const Command &command) { rooms_.arrangement.SpreadAllMorpheme(command.argument == 1); });
+
+    on(From::MainMenu, {102, 203, 302, 1502},
+       [this](const Command &command) { store_.filter().select(command.argument); });
+    on(From::MainMenu, {1501}, [this](const Command &) { rooms_.morphemeLists.ToggleAllMorphemeLists(); });
 }

@@ -2,14 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "board/hand/board_keys.h"
 
-#include "board/hand/board_commands.h"
 #include "board/hand/board_pointer.h"
+#include "board/hand/command_router.h"
 #include "board/hand/popup_menu.h"
 #include "platform/boxes.h"
 #include "platform/ground.h"
-#include "platform/modes.h"
 #include "platform/options.h"
 #include "platform/procedure.h"
+#include "platform/work.h"
 #include "widgets/dropper.h"
 #include "widgets/main_controls.h"
 #include "widgets/picture_box.h"
@@ -33,12 +33,11 @@ constexpr int okAndCancel = 3;
 constexpr int refused = 1;
 } // namespace
 
-BoardKeys::BoardKeys(Ground &ground, const MainControls &controls, Modes &modes, BoardCommands &commands,
+BoardKeys::BoardKeys(Ground &ground, const MainControls &controls, CommandRouter &router,
                      BoardPointer &pointer, PopupMenu &popup)
     : ground_(ground)
     , controls_(controls)
-    , modes_(modes)
-    , commands_(commands)
+    , router_(router)
     , pointer_(pointer)
     , popup_(popup)
 {
@@ -80,38 +79,62 @@ bool BoardKeys::isTyping() const
     return button != nullptr && button->isCheckable();
 }
 
-bool BoardKeys::Form_KeyPress(int code) { return !isTyping() && commands_.runKey(code); }
+bool BoardKeys::Form_KeyPress(int code)
+{
+    const command::Command *row = command::find(From::Key, code);
+    if (row == nullptr || isTyping())
+        return false;
+    const auto way = (row->flags & command::Looks) != 0 ? Gate::Way::Look : Gate::Way::Play;
+    if (const Gate::Passage passage = ground_.gate.enter(way)) {
+        pointer_.letGo();
+        Press press;
+        press.filter = router_.selectedFilter();
+        router_.run(From::Key, code, press);
+    }
+    return true;
+}
 
 bool BoardKeys::Form_KeyDown(int key)
 {
     if (key == Qt::Key_F1) {
-        commands_.run(From::MainMenu, helpCommand, {});
+        if (const Gate::Passage passage = ground_.gate.enter(Gate::Way::Look))
+            router_.run(From::MainMenu, helpCommand, {});
         return true;
     }
     if (key != Qt::Key_Escape)
         return false;
-    if (pointer_.isDragging()) {
-        pointer_.cancelDrag();
+    if (pointer_.isHolding()) {
+        pointer_.letGo();
         return true;
     }
-    if (controls_.Dropper1->isActiveControl() || !modes_.RetypeActive)
+    if (ground_.gate.work() == nullptr)
         return false;
+    stopWork();
+    return true;
+}
+
+/// While words are prepared it is asked first, by the option; any other work just ends.
+void BoardKeys::stopWork()
+{
     Procedure step{ground_.log, "Form_KeyDown", form};
     step([&] {
+        const bool asks =
+            ground_.gate.work()->preparesWords() && ground_.options.isOn(Setting::ConfirmBeforeErase);
         const int answer = ground_.boxes.ShowMBox(u"Es werden gerade noch einige Wörter vorbereitet...\n\n"
                                                   "Willst du wirklich aufhören?"_s,
-                                                  ground_.options.isOn(Setting::ConfirmBeforeErase),
-                                                  okAndCancel, u"Bestätigen"_s, u"CONFIRM"_s);
+                                                  asks, okAndCancel, u"Bestätigen"_s, BoxStyle::Confirm);
         if (answer != refused)
-            modes_.StopPlacing = modes_.CancelPreparing = true;
+            ground_.gate.cancelWork();
     });
-    return true;
 }
 
 bool BoardKeys::picCanvas_KeyDown(int key)
 {
     if (key != Qt::Key_Menu || isTyping())
         return false;
+    const Gate::Passage passage = ground_.gate.enter(Gate::Way::Play);
+    if (!passage)
+        return true;
     const QSize screen = controls_.form->screen()->size();
     const QSize rest = (screen - controls_.picCanvas->size()) / 2;
     // What is chosen here has never been acted on.

@@ -4,13 +4,12 @@
 
 #include <QObject>
 
-class BoardCommands;
 class BoardPointer;
+class CommandRouter;
 class PopupMenu;
 class QKeyEvent;
 struct Ground;
 struct MainControls;
-struct Modes;
 
 /// The keys of the board. The window sees them before its controls do, so this room looks at every key that
 /// goes to the window, and takes those that are its own.
@@ -20,8 +19,8 @@ class BoardKeys : public QObject
 
 public:
     /// Listens to the application's key presses from now on.
-    BoardKeys(Ground &ground, const MainControls &controls, Modes &modes, BoardCommands &commands,
-              BoardPointer &pointer, PopupMenu &popup);
+    BoardKeys(Ground &ground, const MainControls &controls, CommandRouter &router, BoardPointer &pointer,
+              PopupMenu &popup);
 
     /// A control character, 1 for Ctrl+A to 26. Returns true if it was a key of the board.
     bool Form_KeyPress(int code);
@@ -37,11 +36,11 @@ private:
     bool goesToForm(const QObject *watched) const;
     bool handle(const QKeyEvent &event);
     bool isTyping() const;
+    void stopWork();
 
     Ground &ground_;
     const MainControls &controls_;
-    Modes &modes_;
-    BoardCommands &commands_;
+    CommandRouter &router_;
     BoardPointer &pointer_;
     PopupMenu &popup_;
 };

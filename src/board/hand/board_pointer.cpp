@@ -4,13 +4,15 @@
 
 #include "board/canvas/canvas.h"
 #include "board/hand/board_commands.h"
+#include "board/hand/command_router.h"
 #include "board/hand/popup_menu.h"
+#include "board/tiles/board_news.h"
 #include "platform/clock.h"
+#include "platform/gate.h"
 #include "platform/ground.h"
-#include "platform/modes.h"
 #include "platform/options.h"
 #include "platform/procedure.h"
-#include "platform/sound.h"
+#include "platform/sounds.h"
 #include "platform/text.h"
 #include "widgets/dropper.h"
 #include "widgets/finger.h"
@@ -24,13 +26,13 @@
 #include <QMouseEvent>
 
 #include <algorithm>
+#include <utility>
 
 using command::From;
 
 namespace {
 
 constexpr auto form = "frmMain";
-constexpr int dropSound = 107;
 constexpr int trembling = 12; ///< pixels a resting finger may wander
 
 constexpr int wortel = 0;
@@ -55,15 +57,11 @@ MenuName menuOf(const TileKind *kind)
 
 } // namespace
 
-BoardPointer::BoardPointer(Ground &ground, const MainControls &controls, Modes &modes, Canvas &canvas,
-                           BoardCommands &commands, PopupMenu &popup)
+BoardPointer::BoardPointer(Ground &ground, const MainControls &controls, const Rooms &rooms)
     : ground_(ground)
     , controls_(controls)
-    , modes_(modes)
-    , canvas_(canvas)
-    , store_(canvas.store())
-    , commands_(commands)
-    , popup_(popup)
+    , rooms_(rooms)
+    , store_(rooms.canvas.store())
     , drag_(controls)
     , longPress_(this)
 {
@@ -76,8 +74,9 @@ BoardPointer::BoardPointer(Ground &ground, const MainControls &controls, Modes &
         longPress_.stop();
         picCanvas_MouseUp(event->button(), event->position().toPoint());
     });
-    connect(&canvas, &Canvas::wordCheckDragBegins, this,
+    connect(&rooms.canvas, &Canvas::wordCheckDragBegins, this,
             [this] { drag_.begin(controls_.picCanvas->mapToGlobal(pressed_)); });
+    connect(&ground.gate, &Gate::boxOpens, this, &BoardPointer::letGo);
 }
 
 // From events to handlers
@@ -116,14 +115,12 @@ void BoardPointer::onLongPress()
 void BoardPointer::picCanvas_MouseDown(Qt::MouseButton button, Qt::KeyboardModifiers shift,
                                        const QPoint &point)
 {
-    if (!modes_.MoveAllowed)
+    const Gate::Passage passage = ground_.gate.enter(Gate::Way::Play);
+    if (!passage)
         return;
     Procedure step{ground_.log, "picCanvas_MouseDown", form};
     pressed_ = point;
-    if (!modes_.PlacingBusy)
-        modes_.StopPlacing =
-            false; // what it should have stopped is over; left on it would disable the release
-    if (drag_.isActive() || store_.current() != nullptr)
+    if (isHolding())
         step([&] { letGo(); });
     if (button == Qt::LeftButton)
         step([&] { leftPress(shift & shiftKeys, point); });
@@ -133,17 +130,12 @@ void BoardPointer::picCanvas_MouseDown(Qt::MouseButton button, Qt::KeyboardModif
 
 void BoardPointer::leftPress(Qt::KeyboardModifiers shift, const QPoint &point)
 {
-    tileMoved_ = canvas_.CanvasSelectWortel(point.x(), point.y());
+    tileMoved_ = rooms_.canvas.CanvasSelectWortel(point.x(), point.y());
     if (tileMoved_)
         return;
     store_.setCurrent(nullptr);
-    if (shift != Qt::NoModifier) {
+    if (shift != Qt::NoModifier)
         insertByShift(shift, point);
-        return;
-    }
-    controls_.lblMove->hide();
-    controls_.BtnMove1->hide();
-    drag_.cancel();
 }
 
 void BoardPointer::insertByShift(Qt::KeyboardModifiers shift, const QPoint &point)
@@ -156,34 +148,32 @@ void BoardPointer::insertByShift(Qt::KeyboardModifiers shift, const QPoint &poin
     else if (!shift.testFlag(Qt::AltModifier))
         return;
     longPress_.stop();
-    const int filter = store_.filter().selected();
-    if (filter == kind || filter == TileFilter::all)
-        commands_.insertAt(Press{point, filter, nullptr, {}, {}}, kind);
+    rooms_.commands.insertAt(Press{point, store_.filter().selected(), nullptr, {}, {}}, kind);
+    ground_.pump.yield();
 }
 
 void BoardPointer::rightPress(Qt::KeyboardModifiers shift, const QPoint &point)
 {
-    const Press press = commands_.pressAt(point);
-    store_.setCurrent(nullptr);
+    const Press press = rooms_.router.pressAt(point);
     if (shift == Qt::NoModifier) {
         showMenu(press);
     } else if (shift == Qt::ShiftModifier) {
         ground_.log.WriteLog(QStringLiteral("Rightclick + shift: Duplicate object"));
-        commands_.duplicateAt(press);
+        rooms_.commands.duplicateAt(press);
     } else if (shift == Qt::ControlModifier) {
         ground_.log.WriteLog(QStringLiteral("Rightclick + ctrl: Remove object"));
-        commands_.removeAt(press);
+        rooms_.commands.removeAt(press);
     }
 }
 
 void BoardPointer::showMenu(const Press &press)
 {
     const MenuName name = menuOf(press.kind);
-    const int index = popup_.ShowPopupMenu(name, controls_.picCanvas->mapToGlobal(press.point));
-    if (index <= 0)
+    const int index = rooms_.popup.ShowPopupMenu(name, controls_.picCanvas->mapToGlobal(press.point));
+    if (index <= 0 || ground_.gate.isClosing())
         return;
-    const int id = popup_.model().ItemKey(name, index);
-    commands_.run(name == MenuName::MainMenu ? From::MainMenu : From::TileMenu, id, press, index);
+    const int id = rooms_.popup.model().ItemKey(name, index);
+    rooms_.router.run(name == MenuName::MainMenu ? From::MainMenu : From::TileMenu, id, press, index);
 }
 
 // Moving
@@ -191,7 +181,7 @@ void BoardPointer::showMenu(const Press &press)
 
 void BoardPointer::picCanvas_MouseMove(Qt::MouseButtons buttons, const QPoint &point)
 {
-    if (!buttons.testFlag(Qt::LeftButton))
+    if (!buttons.testFlag(Qt::LeftButton) || !ground_.gate.letsIn(Gate::Way::Play))
         return;
     if (drag_.isActive()) {
         drag_.moveTo(controls_.picCanvas->mapToGlobal(point));
@@ -202,11 +192,9 @@ void BoardPointer::picCanvas_MouseMove(Qt::MouseButtons buttons, const QPoint &p
     const BoardMeasures &window = store_.measures();
     FloatingTile &held = *controls_.BtnMove1;
     // Under the band a tile could never be taken again, so it ends above it, however high the band is.
-    const int lowest = std::min(window.ScaleHeight() - lowerMargin, controls_.Picture1->y() - held.height());
-    if (x > window.ScaleWidth() - rightMargin || y > lowest)
-        return;
+    const int lowest = std::min(window.ScaleHeight() - lowerMargin, window.BandTop() - held.height());
     cWortel *tile = store_.current();
-    if (tile == nullptr || !modes_.MoveAllowed)
+    if (tile == nullptr || x > window.ScaleWidth() - rightMargin || y > lowest)
         return;
     if (ground_.options.isOn(Setting::MoveableInFilter) && !store_.filter().shows(tile->BGColor))
         return;
@@ -220,7 +208,10 @@ void BoardPointer::picCanvas_MouseMove(Qt::MouseButtons buttons, const QPoint &p
 
 void BoardPointer::picCanvas_MouseUp(Qt::MouseButton button, const QPoint &point)
 {
-    if (button != Qt::LeftButton)
+    if (button != Qt::LeftButton || !isHolding())
+        return;
+    const Gate::Passage passage = ground_.gate.enter(Gate::Way::Play);
+    if (!passage)
         return;
     Procedure step{ground_.log, "picCanvas_MouseUp", form};
     if (drag_.isActive()) {
@@ -230,37 +221,29 @@ void BoardPointer::picCanvas_MouseUp(Qt::MouseButton button, const QPoint &point
                 Dropper1_DragDrop();
         });
     }
-    if (modes_.StopPlacing)
-        return;
     step([&] { letGo(); });
-    step([&] {
-        if (tileMoved_ && ground_.options.storedIsOn(Setting::UseBackup)) {
-            tileMoved_ = false;
-            commands_.backUp();
-        }
-    });
+    step([&] { ground_.pump.yield(); });
+}
+
+bool BoardPointer::isHolding() const
+{
+    return drag_.isActive() || store_.current() != nullptr || !controls_.BtnMove1->isHidden();
 }
 
 void BoardPointer::letGo()
 {
-    Procedure step{ground_.log, "picCanvas_MouseUp", form, Procedure::Silent};
-    step([&] { drag_.cancel(); });
-    step([&] { canvas_.redrawFiltered(); });
-    step([&] {
-        store_.setCurrent(nullptr);
-        controls_.lblMove->hide();
-        controls_.BtnMove1->hide();
-    });
-    step([&] { canvas_.CanvasUnSelectAllWortel(); });
-    step([&] { ground_.pump.yield(); });
-}
-
-void BoardPointer::cancelDrag()
-{
-    if (!drag_.isActive())
+    if (!isHolding())
         return;
-    tileMoved_ = false;
-    letGo();
+    Procedure step{ground_.log, "letGo", form, Procedure::Silent};
+    step([&] { drag_.cancel(); });
+    if (cWortel *tile = store_.current())
+        tile->Selected = false;
+    store_.setCurrent(nullptr);
+    controls_.lblMove->hide();
+    controls_.BtnMove1->hide();
+    step([&] { rooms_.canvas.repaint(); });
+    if (std::exchange(tileMoved_, false))
+        step([&] { rooms_.news.move(); });
 }
 
 void BoardPointer::Dropper1_DragDrop()
@@ -269,14 +252,11 @@ void BoardPointer::Dropper1_DragDrop()
     Dropper &field = *controls_.Dropper1;
     step([&] { field.UnHighlight(); });
     step([&] { field.setCaption(Trim(field.Caption()) + Trim(controls_.BtnMove1->Caption())); });
-    modes_.WordCheckDrag = false;
+    rooms_.canvas.setWordCheckDrag(false);
     step([&] { ground_.pump.yield(); });
-    // The drop sound hangs on the setting of another sound; it has always been so.
-    if (ground_.options.box(Setting::GameSoundOnTimeOut) == 1) {
-        step([&] { ground_.sound.PlayResourceSound(dropSound); });
-        step([&] { ground_.pump.yield(); });
-    }
-    modes_.WordCheckDrag = controls_.Option1[0]->isChecked();
+    step([&] { playSound(ground_, SoundId::TileDropped); });
+    step([&] { ground_.pump.yield(); });
+    rooms_.canvas.setWordCheckDrag(controls_.Option1[0]->isChecked());
     step([&] { DoOnDrop(); });
 }
 
@@ -285,8 +265,6 @@ void BoardPointer::DoOnDrop()
     Procedure step{ground_.log, "DoOnDrop", form};
     if (store_.isEmpty())
         return;
-    const int filter = store_.filter().selected();
-    step([&] { canvas_.CanvasRedrawAll(); });
-    step([&] { store_.filter().select(TileFilter::all); });
-    step([&] { store_.filter().select(filter); });
+    step([&] { rooms_.canvas.repaint(); });
+    step([&] { ground_.pump.yield(); });
 }

@@ -10,13 +10,14 @@
 #include <QTimer>
 
 class BoardCommands;
+class BoardNews;
 class Canvas;
+class CommandRouter;
 class PopupMenu;
 class QMouseEvent;
 class TileStore;
 struct Ground;
 struct MainControls;
-struct Modes;
 struct Press;
 
 /// What the pointer does on the board: it picks tiles up, moves and drops them, inserts, copies and removes
@@ -31,11 +32,20 @@ public:
     static constexpr int rightMargin = 30;
     static constexpr int lowerMargin = 80;
 
-    /// Listens to `picCanvas` from now on.
-    BoardPointer(Ground &ground, const MainControls &controls, Modes &modes, Canvas &canvas,
-                 BoardCommands &commands, PopupMenu &popup);
+    /// What the pointer calls.
+    struct Rooms
+    {
+        Canvas &canvas;
+        CommandRouter &router;
+        BoardCommands &commands;
+        PopupMenu &popup;
+        BoardNews &news;
+    };
 
-    // The handlers of the board; points are pixels of `picCanvas`
+    /// Listens to `picCanvas` from now on.
+    BoardPointer(Ground &ground, const MainControls &controls, const Rooms &rooms);
+
+    // The handlers of the board; points are pixels of `picCanvas`. Each passes the gate.
     void picCanvas_MouseDown(Qt::MouseButton button, Qt::KeyboardModifiers shift, const QPoint &point);
     void picCanvas_MouseMove(Qt::MouseButtons buttons, const QPoint &point);
     void picCanvas_MouseUp(Qt::MouseButton button, const QPoint &point);
@@ -46,9 +56,12 @@ public:
     void DoOnDrop();
 
     bool isDragging() const { return drag_.isActive(); }
+    /// A tile is in the hand.
+    bool isHolding() const;
     bool TileMoved() const { return tileMoved_; }
-    /// The tile falls back to its place and nothing is dropped.
-    void cancelDrag();
+    /// A tile that is held is let go where it is; one that is dragged to the word field falls back to its
+    /// place, and nothing is dropped. Lets nothing run: a box, a menu or another window takes the hand.
+    void letGo();
 
 private:
     void onMouseDown(QMouseEvent *event);
@@ -59,17 +72,13 @@ private:
     void rightPress(Qt::KeyboardModifiers shift, const QPoint &point);
     void insertByShift(Qt::KeyboardModifiers shift, const QPoint &point);
     void showMenu(const Press &press);
-    void letGo();
 
     Ground &ground_;
     const MainControls &controls_;
-    Modes &modes_;
-    Canvas &canvas_;
+    Rooms rooms_;
     TileStore &store_;
-    BoardCommands &commands_;
-    PopupMenu &popup_;
     TileDrag drag_;
     QTimer longPress_;
     QPoint pressed_;
-    bool tileMoved_ = false;
+    bool tileMoved_ = false; ///< the last press took a tile
 };

@@ -2,46 +2,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/sounds.h"
+
 #include <cstdint>
 #include <span>
 
-/// The one table of what can be commanded on the board by menu or key: what a command does, what it needs,
-/// what it asks first, and how it ends. The numbers 104 and 105 occur twice, because they mean something else
-/// on a tile and on an empty spot.
+/// The one table of what can be commanded on the board by menu or key: what a command needs, what it asks
+/// first, and how it ends. What it does is registered by the room that does it (`CommandRouter`). The numbers
+/// 104 and 105 occur twice, because they mean something else on a tile and on an empty spot.
 namespace command {
 
-/// Where a command comes from. The id of a key is its control character: Ctrl+A is 1.
-enum class From : std::uint8_t { TileMenu, MainMenu, Key };
-
-enum class Does : std::uint8_t {
-    OtherRoom, ///< announced by its number; `argument` is the number if it differs from the id
-    ShowTip,   ///< the same, unless a tip is showing
-    EditTile,
-    RemoveTile,
-    ToggleCapitals,
-    CopyTile, ///< `argument` copies
-    ShowList, ///< `argument`: index of the kind, here and below
-    SelectFilter,
-    Insert,
-    Refill, ///< with `argument` Wortel tiles
-    AddOneWortel,
-    AddWortelFree, ///< one, by the setting without overlap
-    AddRandom,
-    EraseKind,
-    CapitalsOfKind,
-    ShuffleKind,
-    ReplaceAllWortel,
-    SpreadWortel,
-    LineUp, ///< `argument` 0 as they are, 1 sorted, 2 sorted and without duplicates
-    ToggleLists,
-    EraseAll,
-    ShuffleAll,
-    SpreadAll, ///< `argument` 1 sorts and drops duplicates first
-    Count
-};
+/// Where a command comes from. The id of a key is its control character: Ctrl+A is 1. The pointer's are those
+/// that it gives with a shift key, without a menu; their numbers are those of the menu.
+enum class From : std::uint8_t { TileMenu, MainMenu, Pointer, Key };
 
 /// For a number of tiles: the one in the box "Anzahl Wortel".
 inline constexpr std::int16_t presetNumber = -1;
+inline constexpr std::int16_t allKinds = 3;
 
 /// The counter that must be above 0; otherwise a notice says what is missing.
 enum class Needs : std::int8_t { Wortel, Prefix, Suffix, AnyTile, Nothing };
@@ -53,29 +30,25 @@ enum class Asks : std::uint8_t {
     Always
 };
 
-enum Flag : std::uint16_t {
+enum Flag : std::uint8_t {
     None = 0,
     NotInGame = 1, ///< nothing happens while the word game runs
     SoundFirst = 2,
     // Endings, in this order:
-    Commits = 4,  ///< undo snapshot and backup
-    BacksUp = 8,  ///< backup only
-    Recalls = 16, ///< the filter of before
-    SelectsAll = 32,
-    RebuildsMenus = 64,
-    // Keys only:
-    StepBack = 128, ///< only if a step can be undone
-    StepForward = 256,
+    Commits = 4, ///< tiles have changed: undo snapshot and backup
+    Recalls = 8, ///< the filter of before
+    SelectsAll = 16,
+    Looks = 32, ///< changes nothing: allowed while a work runs
 };
 
 struct Command
 {
     From from;
     std::int16_t id;
-    Does does;
-    std::int16_t argument;
-    std::uint16_t flags;
-    std::int8_t sound;       ///< resource number, 0 for none
+    std::int16_t
+        argument; ///< index of a kind, a number of tiles, or what else the command's room makes of it
+    std::uint8_t flags;
+    SoundId sound;
     const char16_t *logWord; ///< nullptr: not logged
     Needs needs = Needs::Nothing;
     const char16_t *missing = nullptr;

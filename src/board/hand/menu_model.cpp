@@ -3,6 +3,7 @@
 #include "board/hand/menu_model.h"
 
 #include "board/hand/menu_table.h"
+#include "platform/play_state.h"
 
 #include <algorithm>
 #include <span>
@@ -14,57 +15,56 @@ using Rows = std::span<const Row>;
 
 namespace {
 
-/// The source of the words that are being retyped. The mode "dictionary" has the flag of the chosen words on
-/// as well, so the order counts.
-Rule runningRetype(const Modes &modes)
+/// The source of the words that are being retyped; `Always` if none are.
+Rule runningRetype(const PlayState &play)
 {
-    if (modes.RetypeUserWords)
+    if (play.RetypeUserWords())
         return Rule::RetypeUser;
-    if (modes.RetypeRandomWords)
+    if (play.RetypeRandomWords())
         return Rule::RetypeRandom;
-    if (modes.RetypePseudoWords)
+    if (play.RetypePseudoWords())
         return Rule::RetypePseudo;
-    return modes.RetypeChosenWords ? Rule::RetypeChosen : Rule::Always;
+    return play.RetypeChosenWords() ? Rule::RetypeChosen : Rule::Always;
 }
 
 bool isEnabled(Rule rule, const MenuFacts &facts)
 {
-    const Modes &modes = facts.modes;
+    const PlayState &play = facts.play;
     switch (rule) {
     case Rule::Always:
     case Rule::Klotar:
         return true;
     case Rule::NoGame:
-        return !modes.GameActive;
+        return !play.GameActive();
     case Rule::NoRetype:
-        return !modes.RetypeActive;
+        return !play.RetypeActive();
     case Rule::NoGameNoRetype:
-        return !modes.GameActive && !modes.RetypeActive;
+        return !play.GameActive() && !play.RetypeActive();
     case Rule::Undo:
         return facts.useUndo;
     case Rule::StepBack:
-        return modes.CanUndo;
+        return facts.canUndo;
     case Rule::StepForward:
-        return modes.CanRedo;
+        return facts.canRedo;
     case Rule::RetypeUser:
     case Rule::RetypeRandom:
     case Rule::RetypePseudo:
     case Rule::RetypeChosen:
-        return !modes.RetypeActive || rule == runningRetype(modes);
+        return !play.RetypeActive() || rule == runningRetype(play);
     }
     return true;
 }
 
-bool isChecked(Rule rule, const Modes &modes)
+bool isChecked(Rule rule, const PlayState &play)
 {
     switch (rule) {
     case Rule::Klotar:
-        return modes.GameActive && modes.GameLevel > 0 && !modes.GameShortVowels && !modes.GameLongVowels;
+        return play.GameActive() && !play.GameShortVowels() && !play.GameLongVowels();
     case Rule::RetypeUser:
     case Rule::RetypeRandom:
     case Rule::RetypePseudo:
     case Rule::RetypeChosen:
-        return modes.RetypeActive && rule == runningRetype(modes);
+        return play.RetypeActive() && rule == runningRetype(play);
     default:
         return false;
     }
@@ -84,7 +84,7 @@ MenuItem makeItem(const Row &row, bool parentEnabled, const MenuFacts &facts)
     item.hint = QString::fromUtf16(row.hint).replace(u'%', facts.dictionaryButton);
     item.icon = row.icon;
     item.enabled = parentEnabled && isEnabled(row.rule, facts);
-    item.checked = isChecked(row.rule, facts.modes);
+    item.checked = isChecked(row.rule, facts.play);
     if (row.effect.opens == Opens::FreshSubmenu || row.effect.opens == Opens::RetypeSources)
         item.onOpening = &row;
     return item;

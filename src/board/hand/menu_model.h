@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/modes.h"
-
 #include <QString>
 
 #include <array>
@@ -12,6 +10,7 @@
 #include <utility>
 #include <vector>
 
+class PlayState;
 namespace menu {
 struct Row;
 }
@@ -23,8 +22,10 @@ inline constexpr int menuCount = 4;
 /// All that the state of a menu item depends on.
 struct MenuFacts
 {
-    Modes modes;
+    const PlayState &play;
     bool useUndo = true;
+    bool canUndo = false;
+    bool canRedo = false;
     /// The caption of the dictionary's button, which two hints name.
     QString dictionaryButton = QStringLiteral("Wörterbuch");
 };

@@ -3,10 +3,10 @@
 #include "board/hand/morpheme_lists.h"
 
 #include "platform/clock.h"
+#include "platform/gate.h"
 #include "platform/ground.h"
-#include "platform/options.h"
 #include "platform/procedure.h"
-#include "platform/sound.h"
+#include "platform/sounds.h"
 #include "widgets/gradient.h"
 #include "widgets/main_controls.h"
 #include "widgets/press_button.h"
@@ -19,7 +19,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int listOpened = 121; // sound
 constexpr int allLists = 3;
 
 /// Pixels from a filter button's left edge to that of its list.
@@ -34,7 +33,9 @@ MorphemeLists::MorphemeLists(Ground &ground, const MainControls &controls, QObje
 {
     for (std::size_t i = 0; i < controls.OptType.size(); ++i)
         connect(controls.OptType[i], &PressButton::mouseDown, this,
-                [this, i](Qt::MouseButton button) { OptType_MouseDown(static_cast<int>(i), button); });
+                throughGate(ground.gate, Gate::Way::Look, [this, i](Qt::MouseButton button, auto) {
+                    OptType_MouseDown(static_cast<int>(i), button);
+                }));
 }
 
 StoreList *MorphemeLists::list(int index) const
@@ -61,10 +62,8 @@ void MorphemeLists::placeOpen()
 
 void MorphemeLists::playOpened()
 {
-    if (!ground_.options.isOn(Setting::SoundOnActions))
-        return;
-    ground_.sound.PlayResourceSound(listOpened);
-    ground_.pump.yield();
+    if (playSound(ground_, SoundId::ListOpened))
+        ground_.pump.yield();
 }
 
 void MorphemeLists::OptType_MouseDown(int index, Qt::MouseButton button)

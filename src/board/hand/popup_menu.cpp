@@ -3,6 +3,7 @@
 #include "board/hand/popup_menu.h"
 
 #include "board/hand/menu_style.h"
+#include "platform/gate.h"
 #include "widgets/opening_press.h"
 
 #include <QIcon>
@@ -31,8 +32,9 @@ QString menuText(const MenuItem &item)
 
 } // namespace
 
-PopupMenu::PopupMenu(MenuModel &model, QWidget *owner)
-    : model_(model)
+PopupMenu::PopupMenu(Gate &gate, MenuModel &model, QWidget *owner)
+    : gate_(gate)
+    , model_(model)
     , owner_(owner)
     , style_(std::make_unique<MenuStyle>())
 {}
@@ -41,6 +43,11 @@ PopupMenu::~PopupMenu() = default;
 
 int PopupMenu::ShowPopupMenu(MenuName name, const QPoint &position)
 {
+    const Gate::Passage open = gate_.openBox();
+    if (!open)
+        return 0;
+    if (chooser_)
+        return chooser_(name, position);
     fitRows(position, model_.Restore(name).size());
     const std::unique_ptr<QMenu> menu = makeMenu(name);
     const QAction *chosen = menu->exec(OpeningPress::placeFor(*menu, position));

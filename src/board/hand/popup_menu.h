@@ -4,8 +4,10 @@
 
 #include "board/hand/menu_model.h"
 
+#include <functional>
 #include <memory>
 
+class Gate;
 class MenuStyle;
 class QMenu;
 class QPoint;
@@ -17,14 +19,17 @@ class QWidget;
 class PopupMenu
 {
 public:
-    PopupMenu(MenuModel &model, QWidget *owner);
-    virtual ~PopupMenu();
+    PopupMenu(Gate &gate, MenuModel &model, QWidget *owner);
+    ~PopupMenu();
 
     MenuModel &model() { return model_; }
 
     /// Shows the menu modally with its corner at `position` (pixels of the screen), or as near to it as the
     /// screen lets it lie, and returns the index of the chosen item, 0 for none.
-    virtual int ShowPopupMenu(MenuName name, const QPoint &position);
+    int ShowPopupMenu(MenuName name, const QPoint &position);
+    using Chooser = std::function<int(MenuName, const QPoint &)>;
+    /// Chooses in place of a hand, without showing a menu.
+    void chooseBy(Chooser chooser) { chooser_ = std::move(chooser); }
 
     /// The menu as a window that is not yet shown, for whoever wants to show it in another way.
     std::unique_ptr<QMenu> makeMenu(MenuName name);
@@ -34,7 +39,9 @@ private:
     void addSubmenu(QMenu &menu, MenuName name, const MenuItem &item);
     void fitRows(const QPoint &position, std::size_t rows);
 
+    Gate &gate_;
     MenuModel &model_;
     QWidget *owner_;
+    Chooser chooser_;
     std::unique_ptr<MenuStyle> style_;
 };

@@ -70,6 +70,12 @@ Place addedWortel(Rnd &rnd, int scaleWidth, int scaleHeight)
     return {place.x, place.y + 80};
 }
 
+Place onBoard(Place place, const BoardMeasures &window, int width)
+{
+    return {std::min(place.x, std::max(0, window.ScaleWidth() - width - 1)),
+            std::min(place.y, std::max(0, window.BandTop() - boxHeight - 1))};
+}
+
 int probeWidth(Colour kind, const QString &text)
 {
     if (kind == colours::prefixBack && text.size() <= 2)

@@ -35,6 +35,10 @@ Place spreadMorpheme(Rnd &rnd, int scaleWidth, int scaleHeight); ///< its furthe
 Place refilledWortel(Rnd &rnd, int scaleWidth, int scaleHeight); ///< `Refill`
 Place addedWortel(Rnd &rnd, int scaleWidth, int scaleHeight); ///< leaves a band of 80 pixels free at the top
 
+/// The place moved up and to the left as far as needed, so that a tile of that width lies above the lower
+/// band and within the right edge, with its outline.
+Place onBoard(Place place, const BoardMeasures &window, int width);
+
 /// The width of the probe in `MorphemeCollision`, by kind and length of the text.
 int probeWidth(Colour kind, const QString &text);
 

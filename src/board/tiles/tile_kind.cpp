@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "board/tiles/tile_kind.h"
 
-const TileKind *kindOfWord(const QString &styleWord)
+#include "platform/text.h"
+
+const TileKind *kindOfWord(const QString &sessionWord)
 {
     for (const TileKind &kind : tileKinds)
-        if (styleWord == QStringView(kind.styleWord))
+        if (equalsIgnoreCase(sessionWord, QString::fromUtf16(kind.sessionWord)))
             return &kind;
     return nullptr;
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/box_kinds.h"
 #include "platform/colours.h"
 
 #include <QString>
@@ -14,17 +15,17 @@ struct TileKind
 {
     Colour back;
     Colour text;
-    const char16_t *styleWord;   ///< "PREFIX", "WORTEL", "SUFFIX": boxes and lists
+    const char16_t *plural;      ///< "Wortele", "Präfixe", "Suffixe": what is told
     const char16_t *sessionWord; ///< "Prefix", "Wortel", "Suffix": session files
     char backupLetter;           ///< 'P', 'M', 'S': the backup file
     int filterIndex;
-    int boxCode; ///< kind code of the input box
+    BoxStyle box; ///< colours of its boxes
 };
 
 inline constexpr std::array<TileKind, 3> tileKinds{{
-    {colours::wortelBack, colours::wortelText, u"WORTEL", u"Wortel", 'M', 0, 2},
-    {colours::prefixBack, colours::prefixText, u"PREFIX", u"Prefix", 'P', 1, 1},
-    {colours::suffixBack, colours::suffixText, u"SUFFIX", u"Suffix", 'S', 2, 3},
+    {colours::wortelBack, colours::wortelText, u"Wortele", u"Wortel", 'M', 0, BoxStyle::Wortel},
+    {colours::prefixBack, colours::prefixText, u"Präfixe", u"Prefix", 'P', 1, BoxStyle::Prefix},
+    {colours::suffixBack, colours::suffixText, u"Suffixe", u"Suffix", 'S', 2, BoxStyle::Suffix},
 }};
 
 /// The kind of a back colour, or nullptr for a colour that no kind has.
@@ -36,5 +37,15 @@ constexpr const TileKind *kindOfColour(Colour back)
     return nullptr;
 }
 
-/// The kind of a style word, compared exactly, or nullptr.
-const TileKind *kindOfWord(const QString &styleWord);
+/// The kind whose filter and counter has that index, 0 to 2.
+constexpr const TileKind &kindAt(int filterIndex)
+{
+    return tileKinds.at(static_cast<std::size_t>(filterIndex));
+}
+
+inline constexpr const TileKind &wortelKind = tileKinds[0];
+inline constexpr const TileKind &prefixKind = tileKinds[1];
+inline constexpr const TileKind &suffixKind = tileKinds[2];
+
+/// The kind of the word that session files have for it, case ignored, or nullptr.
+const TileKind *kindOfWord(const QString &sessionWord);

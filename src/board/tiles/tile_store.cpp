@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "board/tiles/tile_store.h"
 
+#include "board/tiles/places.h"
 #include "platform/clock.h"
 #include "platform/ground.h"
 #include "platform/procedure.h"
@@ -90,6 +91,32 @@ TileList TileStore::takeAll()
     return std::exchange(tiles_, {});
 }
 
+void TileStore::appendAll(TileList tiles)
+{
+    for (auto &tile : tiles) {
+        if (filter_.shows(tile->BGColor))
+            tile->Draw(surface_);
+        append(std::move(tile));
+    }
+}
+
+void TileStore::replaceAll(TileList tiles)
+{
+    current_ = nullptr;
+    tiles_ = std::move(tiles);
+}
+
+TileList TileStore::copies() const
+{
+    TileList result;
+    result.reserve(tiles_.size());
+    for (const auto &tile : tiles_)
+        result.push_back(std::make_unique<cWortel>(*tile));
+    for (const auto &copy : result)
+        copy->Selected = false;
+    return result;
+}
+
 void TileStore::removeAt(int index)
 {
     if (index < 0 || index >= count())
@@ -117,14 +144,8 @@ int TileStore::extentOf(const QString &text) const
     return measures_.textWidth(tileText(text)) + cWortel::textMargin;
 }
 
-void TileStore::redrawAndAppend(std::unique_ptr<cWortel> tile)
-{
-    tile->setExtent(extentOf(tile->txt));
-    tile->Draw(surface_);
-    append(std::move(tile));
-}
-
-void TileStore::CanvasDrawWortel(Int16 x, Int16 y, const QString &text, Colour back, Colour textColour)
+std::unique_ptr<cWortel> TileStore::makeTile(Int16 x, Int16 y, const QString &text, Colour back,
+                                             Colour textColour) const
 {
     auto tile = std::make_unique<cWortel>();
     tile->setXLeft(x);
@@ -132,33 +153,23 @@ void TileStore::CanvasDrawWortel(Int16 x, Int16 y, const QString &text, Colour b
     tile->txt = text;
     tile->BGColor = back;
     tile->TxtColor = textColour;
-    redrawAndAppend(std::move(tile));
+    tile->setExtent(extentOf(text));
+    return tile;
 }
 
-void TileStore::MyGetWortel(Int16 x, Int16 y, const QString &text, Colour back, Colour textColour)
+void TileStore::recount()
 {
-    Procedure step{ground_.log, "MyGetWortel", "frmMain"};
-    step([&] { CanvasDrawWortel(x, y, text, back, textColour); });
+    for (const TileKind &kind : tileKinds)
+        counters_.set(kind.filterIndex, countOf(kind.back));
+    counters_.updateTotal();
 }
 
-QString TileStore::CaptionOfSelectedWortel(int x, int y)
+void TileStore::CanvasDrawWortel(Int16 x, Int16 y, const QString &text, Colour back, Colour textColour)
 {
-    Procedure step{ground_.log, "CaptionOfSelectedWortel", "frmMain"};
-    const int index = indexAt(x, y);
-    if (index < 0)
-        return {};
-    current_ = tiles_[static_cast<std::size_t>(index)].get();
-    return current_->txt;
-}
-
-QString TileStore::PosOfSelectedWortel(int x, int y) const
-{
-    Procedure step{ground_.log, "PosOfSelectedWortel", "frmMain"};
-    const int index = indexAt(x, y);
-    if (index < 0)
-        return u"0,0"_s;
-    const cWortel &tile = *tiles_[static_cast<std::size_t>(index)];
-    return QString::number(tile.xLeft()) + u',' + QString::number(tile.yTop());
+    auto tile = makeTile(x, y, text, back, textColour);
+    if (filter_.shows(back))
+        tile->Draw(surface_);
+    append(std::move(tile));
 }
 
 Colour TileStore::TypeOfSelectedWortel(int x, int y)
@@ -170,14 +181,6 @@ Colour TileStore::TypeOfSelectedWortel(int x, int y)
             return tile->BGColor;
         }
     return colours::board;
-}
-
-void TileStore::ClearCanvas()
-{
-    Procedure step{ground_.log, "ClearCanvas", "frmMain"};
-    step([&] { takeAll(); });
-    step([&] { surface_.clear(); });
-    step([&] { counters_.set(0, count()); });
 }
 
 void TileStore::EraseSpecifiedWortel(const QString &text)
@@ -200,7 +203,8 @@ void TileStore::DuplicateObject(Colour kind, const QString &text, int x, int y)
     if (!row)
         return;
     step([&] {
-        CanvasDrawWortel(x + copyOffset, y, text, row->back, row->text);
+        const places::Place place = places::onBoard({x + copyOffset, y}, measures_, extentOf(text));
+        CanvasDrawWortel(place.x, place.y, text, row->back, row->text);
         counters_.add(row->filterIndex, 1);
     });
 }
@@ -214,12 +218,13 @@ void TileStore::DuplicateObject2(Colour kind, const QString &text, int count, in
     step([&] {
         const int edge = measures_.ScaleWidth() - rightMargin;
         for (int i = 1; i <= count; ++i) {
-            const int place = x + copyStep * i;
-            if (edge < place)
+            const int left = x + copyStep * i;
+            if (edge < left)
                 break;
-            CanvasDrawWortel(place, y, text, row->back, row->text);
-            ground_.pump.yield();
+            const int top = places::onBoard({left, y}, measures_, 0).y;
+            CanvasDrawWortel(left, top, text, row->back, row->text);
             counters_.add(row->filterIndex, 1);
+            ground_.pump.yield();
         }
     });
 }

@@ -62,6 +62,8 @@ public:
     /// Size of the whole window, lower band included.
     virtual int ScaleWidth() const = 0;
     virtual int ScaleHeight() const = 0;
+    /// Where the lower band begins, under which a tile could not be taken.
+    virtual int BandTop() const = 0;
 };
 
 /// The text as a tile shows and measures it: one line, so that line ends, tabs and other control characters
@@ -69,8 +71,9 @@ public:
 QString tileText(const QString &text);
 
 /// The tiles on the board and the small queries and edits that all board commands are made of. Nothing here
-/// redraws the board: a new tile draws itself, everything that removes or reorders tiles is followed by the
-/// canvas.
+/// redraws the board: a new tile that the filter shows draws itself, everything that removes or reorders
+/// tiles is followed by the canvas. The store is whole whenever events can run: who makes the board anew
+/// makes the new tiles beside it and swaps them in.
 class TileStore
 {
 public:
@@ -84,8 +87,15 @@ public:
     /// Tiles of one kind on the board, counted anew (the counters are captions and may be stale).
     int countOf(Colour back) const;
     void append(std::unique_ptr<cWortel> tile);
-    /// Empties the store into a scratch collection, in store order.
+    /// Empties the store into a scratch collection, in store order. Nothing may yield until the tiles are
+    /// back.
     TileList takeAll();
+    /// Appends the tiles and draws those that the filter shows.
+    void appendAll(TileList tiles);
+    /// Puts other tiles in the place of all that there are.
+    void replaceAll(TileList tiles);
+    /// Copies of all tiles, in store order.
+    TileList copies() const;
     /// Removes one tile. Throws RuntimeError 9 for an index that is not there.
     void removeAt(int index);
     /// Index of the first tile with `Inside(x, y)`, or -1.
@@ -97,33 +107,31 @@ public:
     void setCurrent(cWortel *tile) { current_ = tile; }
 
     // The operations of the board ------------------------------------------------------------------
+    /// A tile that is in no store yet, with its width.
+    std::unique_ptr<cWortel> makeTile(Int16 x, Int16 y, const QString &text, Colour back,
+                                      Colour textColour) const;
+    std::unique_ptr<cWortel> makeTile(Int16 x, Int16 y, const QString &text, const TileKind &kind) const
+    {
+        return makeTile(x, y, text, kind.back, kind.text);
+    }
     /// Appends a new tile and draws it.
     void CanvasDrawWortel(Int16 x, Int16 y, const QString &text, Colour back, Colour textColour);
-    /// The same with a trace line: the public entry for other windows.
-    void MyGetWortel(Int16 x, Int16 y, const QString &text, Colour back, Colour textColour);
-    /// The text of the first tile with `Inside`, which becomes the current one, or the empty string. The
-    /// filter is not asked.
-    QString CaptionOfSelectedWortel(int x, int y);
-    /// "xLeft,yTop" of the first tile with `Inside`. "0,0" if there is none, which a tile at 0, 0 gives too.
-    QString PosOfSelectedWortel(int x, int y) const;
     /// The kind of the first tile with `Inside` that the filter shows, which becomes the current one, or the
     /// board's back colour, which no tile has.
     Colour TypeOfSelectedWortel(int x, int y);
-    /// Empties the store and the surface. Only counter 0 is written; the others stay stale until the next
-    /// redraw.
-    void ClearCanvas();
     /// Removes the first tile of that text, case ignored, as a Wortel tile: counter 0 falls.
     void EraseSpecifiedWortel(const QString &text);
-    /// One copy of a tile at x + 20, y. Nothing for a colour that no kind has.
+    /// One copy of a tile at x + 20, y, or as near as the board allows. Nothing for a colour that no kind
+    /// has.
     void DuplicateObject(Colour kind, const QString &text, int x, int y);
-    /// Up to `count` copies that run out to the right in steps of 42 pixels and stop short of the edge.
+    /// Up to `count` copies that run out to the right in steps of 42 pixels and stop short of the edge, above
+    /// the band.
     void DuplicateObject2(Colour kind, const QString &text, int count, int x, int y);
 
     /// `Extent` of a tile with that text.
     int extentOf(const QString &text) const;
-    /// Recomputes the width from the text, draws the tile and appends it: what a rebuild does with a tile
-    /// that it keeps.
-    void redrawAndAppend(std::unique_ptr<cWortel> tile);
+    /// Sets each counter to what lies there.
+    void recount();
 
     TileCounters &counters() const { return counters_; }
     TileFilter &filter() const { return filter_; }

@@ -3,6 +3,7 @@
 #include "games/retype/scroller_place.h"
 
 #include "board/canvas/placement.h"
+#include "language/list_stand.h"
 #include "platform/options.h"
 #include "platform/rnd.h"
 #include "widgets/gradient.h"
@@ -27,12 +28,14 @@ QPoint anywhere(Rnd &rnd, QSize window, QSize size)
 
 void placeOverBoard(const MainControls &controls, const Options &options, Rnd &rnd, QWidget &child)
 {
-    if (options.isOn(Setting::ScrollerRndPos))
+    if (options.isOn(Setting::ScrollerRndPos)) {
         child.move(anywhere(rnd, controls.form->size(), child.size()));
-    else if (options.isOn(Setting::ScrollerLeftDownPos))
+    } else if (options.isOn(Setting::ScrollerLeftDownPos)) {
+        standOnBand(controls, controls.CorrectWordList); // where it stands when it is shown
         child.move(controls.CorrectWordList->x(), controls.Picture1->y() - child.height());
-    else if (options.isOn(Setting::ScrollerMiddlePos))
+    } else if (options.isOn(Setting::ScrollerMiddlePos)) {
         Placement::CenterOnFreeSpace(controls, child);
-    else
+    } else {
         child.move(0, 0);
+    }
 }

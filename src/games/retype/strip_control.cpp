@@ -29,8 +29,6 @@ StripControl::StripControl(Ground &ground, const MainControls &controls, QObject
     connect(strip, &MsgScroller::mouseDown, this, &StripControl::MsgScroller_MouseDown);
     connect(strip, &MsgScroller::mouseMoved, this, &StripControl::MsgScroller_MouseMove);
     connect(strip, &MsgScroller::mouseUp, this, &StripControl::MsgScroller_MouseUp);
-    connect(&ground_.options, &Options::applied, this, &StripControl::SetUpMsgScroller);
-    SetUpMsgScroller();
 }
 
 void StripControl::SetUpMsgScroller()

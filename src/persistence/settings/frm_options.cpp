@@ -7,6 +7,7 @@
 #include "platform/clock.h"
 #include "platform/file_dialogs.h"
 #include "platform/files.h"
+#include "platform/gate.h"
 #include "platform/ground.h"
 #include "platform/options.h"
 #include "platform/procedure.h"
@@ -75,7 +76,12 @@ void frmOptions::edit()
     Procedure step{ground_.log, "Command6_Click", "frmMain"};
     step([&] { ground_.options.GetSettings(); });
     step([&] { ground_.options.subSnapShot(); });
-    step([&] { exec(); });
+    step([&] {
+        if (const Gate::Passage open = ground_.gate.openBox()) {
+            fitToScreen();
+            exec();
+        }
+    });
     step([&] { ground_.pump.yield(); });
 }
 
@@ -89,7 +95,7 @@ void frmOptions::cmdOK_Click()
         if (ground_.options.IsChanged())
             answer = ground_.boxes.ShowMBox(
                 u"Es wurden Änderungen gemacht.\n\nWillst du die Änderungen bestätigen?"_s, true, yesNo,
-                programTitle + u" - Bestätigen"_s, u"CONFIRM"_s);
+                programTitle + u" - Bestätigen"_s, BoxStyle::Confirm);
     });
     step([&] {
         if (answer != answerNo) {
@@ -100,7 +106,6 @@ void frmOptions::cmdOK_Click()
         ground_.pump.yield();
     });
     step([&] { done(QDialog::Accepted); });
-    step([&] { emit recallFilter(); });
 }
 
 // Only hides: the edits stay in force until the settings are loaded again.
@@ -160,6 +165,8 @@ void frmOptions::Command6_Click() { ground_.options.setText(Setting::WortelFile,
 
 void frmOptions::Text2_OLEDragDrop(const QString &path)
 {
+    if (!isVisible())
+        return;
     const QString ending = path.mid(path.lastIndexOf(u'.') + 1).right(3);
     if (UCase(ending) == u"TXT"_s)
         ground_.options.setText(Setting::WortelFile, path);
@@ -176,25 +183,27 @@ bool frmOptions::eventFilter(QObject *watched, QEvent *event)
     auto *drop = static_cast<QDropEvent *>(event);
     if (!drop->mimeData()->hasUrls())
         return QDialog::eventFilter(watched, event);
-    drop->acceptProposedAction();
+    drop->setDropAction(Qt::CopyAction); // a source that moves would delete its file
+    drop->accept();
     const QUrl url = drop->mimeData()->urls().value(0);
+    // From the event loop: whoever drops waits until the drop has come back.
     if (event->type() == QEvent::Drop && url.isLocalFile())
-        Text2_OLEDragDrop(storedPath(url.toLocalFile()));
+        QMetaObject::invokeMethod(
+            this, [this, path = storedPath(url.toLocalFile())] { Text2_OLEDragDrop(path); },
+            Qt::QueuedConnection);
     return true;
-}
-
-void frmOptions::showEvent(QShowEvent *event)
-{
-    fitToScreen();
-    QDialog::showEvent(event);
 }
 
 void frmOptions::fitToScreen()
 {
     // The frame that a window manager draws round the window needs room too.
     const QRect room = screen()->availableGeometry().adjusted(8, 16, -8, -16);
-    resize(wishedSize.boundedTo(room.size()));
-    move(room.center() - rect().center());
+    const bool fits = testAttribute(Qt::WA_Resized) && room.size().boundedTo(size()) == size();
+    if (!fits)
+        resize(wishedSize.boundedTo(room.size()));
+    // A place that is given anew each time counts with the frame or without it, and the window wanders.
+    if (!fits || !room.contains(geometry()))
+        move(room.center() - rect().center());
 }
 
 void frmOptions::closeEvent(QCloseEvent *event) { event->ignore(); }

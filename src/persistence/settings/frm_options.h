@@ -25,14 +25,11 @@ public:
     void ShowProperFrame(const QString &name);
 
 signals:
-    /// The window was closed with "OK": the board is to be painted anew.
-    void recallFilter();
     void resetScores(frmOptions::Scores table);
     void registerFileType();
     void removeFileType();
 
 protected:
-    void showEvent(QShowEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
     /// The Escape key is the button "Abbrechen".

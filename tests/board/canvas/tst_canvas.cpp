@@ -1,27 +1,20 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "board/canvas/background_picture.h"
-#include "board/hand/morpheme_lists.h"
 #include "platform/files.h"
 #include "support/columns.h"
 #include "support/registry.h"
-#include "support/test_board.h"
+#include "support/test_hand.h"
 #include "widgets/colour.h"
-#include "widgets/floating_tile.h"
 #include "widgets/gradient.h"
-#include "widgets/store_list.h"
 
+#include <QMimeData>
 #include <QSignalSpy>
-#include <QtTest>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 const QColor boardColour = toQColor(colours::board);
-
-/// A point of a tile at (x, y) that neither outline nor text covers.
-QPoint plainPoint(int x, int y) { return {x + 3, y + 22}; }
 
 void layThree(TestBoard &b)
 {
@@ -36,12 +29,21 @@ QString seen(const TestBoard &b)
     QString kinds;
     int x = 20;
     for (const TileKind &kind : tileKinds) {
-        const QPoint point = plainPoint(x, 100);
-        if (b.pixel(point.x(), point.y()) == toQColor(kind.back))
+        if (b.pixel(x + 3, 122) == toQColor(kind.back)) // neither outline nor text lies there
             kinds += QLatin1Char(kind.backupLetter);
         x += 100;
     }
     return kinds;
+}
+
+bool holds(const QImage &image, QRgb colour)
+{
+    for (int y = 0; y < image.height(); ++y) {
+        const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
+        if (std::find(line, line + image.width(), colour) != line + image.width())
+            return true;
+    }
+    return false;
 }
 
 } // namespace
@@ -51,42 +53,104 @@ class CanvasTest : public QObject
     Q_OBJECT
 
 private slots:
-    void filterShowsItsKindOnly_data()
-    {
-        columns<int, QString>("index", "kinds");
-        QTest::newRow("Wortel") << 0 << u"M"_s;
-        QTest::newRow("prefix") << 1 << u"P"_s;
-        QTest::newRow("suffix") << 2 << u"S"_s;
-        QTest::newRow("all") << 3 << u"MPS"_s;
-        QTest::newRow("no filter of that number leaves all") << 7 << u"MPS"_s;
-    }
     void filterShowsItsKindOnly()
     {
-        QFETCH(int, index);
-        TestBoard b;
-        layThree(b);
-        b.optTypes->select(index);
-        QTEST(seen(b), "kinds");
-        b.canvas->RecallFilter(index);
-        QTEST(seen(b), "kinds");
-        QCOMPARE(b.optTypes->selected(), index > 3 ? 3 : index);
-        QVERIFY(!b.surface->isLocked());
-        QCOMPARE(b.counters(), (QStringList{u"1"_s, u"1"_s, u"1"_s, u"3"_s}));
+        for (const auto &[index, kinds] :
+             {std::pair{0, u"M"_s}, {1, u"P"_s}, {2, u"S"_s}, {3, u"MPS"_s}, {7, u"MPS"_s}}) {
+            TestBoard b;
+            layThree(b);
+            b.optTypes->select(index);
+            QCOMPARE(seen(b), kinds);
+            b.canvas->RecallFilter(index);
+            QCOMPARE(seen(b), kinds);
+            QCOMPARE(b.optTypes->selected(), std::min(index, 3)); // no filter of that number leaves all
+            QCOMPARE(b.trouble(), QString());
+        }
     }
 
-    void frozenStepsArePaintedAtTheEnd()
+    void nothingHiddenFlashes_data()
     {
-        TestBoard b;
-        layThree(b);
-        {
-            const FrozenBoard frozen(*b.surface);
-            b.store->ClearCanvas();
-            b.lay(suffix, 20, 100, u"en"_s);
-            QCOMPARE(seen(b), u"MPS"_s);
+        using Act = std::function<void(TestHand &)>;
+        QTest::addColumn<Act>("act");
+        const QPoint onTile(125, 110);
+        const auto row = [](const char *name, const Act &act) { QTest::newRow(name) << act; };
+        const auto onBoard = [&](const char *name, int id) {
+            row(name, [id](TestHand &h) { h.run(command::From::MainMenu, id, {300, 300}); });
+        };
+        row("remove", [=](TestHand &h) { h.click(onTile, Qt::RightButton, Qt::ControlModifier); });
+        row("copy", [=](TestHand &h) { h.click(onTile, Qt::RightButton, Qt::ShiftModifier); });
+        for (const int id : {104, 105, 106, 117})
+            row(qPrintable(u"tile %1"_s.arg(id)), [=](TestHand &h) {
+                h.popup.choose = id;
+                h.click(onTile, Qt::RightButton);
+            });
+        row("insert", [](TestHand &h) { h.click({300, 300}, Qt::LeftButton, Qt::ShiftModifier); });
+        onBoard("insert by menu", 103);
+        onBoard("fill", 209);
+        onBoard("add", 220);
+        onBoard("remove Wortel", 234);
+        onBoard("remove prefixes", 104);
+        onBoard("shuffle", 1504);
+        onBoard("replace", 240);
+        onBoard("line up", 260);
+        onBoard("spread", 1505);
+        onBoard("spread Wortel", 241);
+        row("undo", [](TestHand &h) {
+            h.run(command::From::MainMenu, 217);
+            h.run(command::From::MainMenu, 2801);
+        });
+        row("move", [=](TestHand &h) {
+            h.press(onTile);
+            h.drag({300, 300});
+            h.release({300, 300});
+        });
+        row("drop on the word", [=](TestHand &h) {
+            h.controls.Option1[0]->setChecked(true);
+            h.press(onTile);
+            h.release(h.controls.picCanvas->mapFromGlobal(h.controls.Dropper1->mapToGlobal(QPoint(20, 10))));
+            QCOMPARE(h.controls.Dropper1->Caption(), u"ver"_s);
+        });
+        row("activation", [](TestHand &h) {
+            QWidget other;
+            other.show();
+            other.activateWindow();
+            h.settle();
+            h.form.activateWindow();
+            h.settle();
+        });
+        row("another size", [](TestHand &h) { h.form.resize(700, 600); });
+        row("a new picture", [](TestHand &h) { h.r.background.remove(); });
+    }
+    void nothingHiddenFlashes()
+    {
+        QFETCH(std::function<void(TestHand &)>, act);
+        TestHand h;
+        h.form.show();
+        layThree(h);
+        h.r.undo.ClearCollBuffer();
+        h.optTypes->select(1);
+        h.settle();
+        h.t.options.setBox(Setting::ConfirmBeforeErase, 0);
+        for (int i = 0; i < 2; ++i) {
+            h.t.boxes.willType(u"be"_s);
+            h.t.boxes.willPress(0);
         }
-        QCOMPARE(seen(b), QString());
-        QCOMPARE(b.pixel(23, 122), toQColor(suffix.back));
-        QVERIFY(!b.surface->isLocked());
+        int paints = 0;
+        int flashes = 0;
+        const PaintWatch watch(h.controls.picCanvas, [&] {
+            ++paints;
+            flashes += holds(h.controls.picCanvas->image(), QColor(Qt::red).rgb()) ? 1 : 0;
+        });
+        h.t.pump.onYield = [] { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); };
+        act(h);
+        h.settle();
+        QVERIFY(paints > 0);
+        QCOMPARE(flashes, 0);
+        QCOMPARE(h.optTypes->selected(), 1);
+        QCOMPARE(h.trouble(), QString());
+        h.optTypes->select(3);
+        h.settle();
+        QVERIFY(flashes > 0 || h.store->countOf(wortel.back) == 0); // it does see them
     }
 
     void imageIsSharpAndBoxesAreWhole()
@@ -102,141 +166,145 @@ private slots:
         QCOMPARE(b.pixel(tile.right() + 1, 110), boardColour);
     }
 
-    void eraseTakesTheFirstTileAndKeepsFilterAndItsCounter()
+    void aGrownWindowShowsWhatLayBeyondIt()
+    {
+        TestBoard b;
+        b.form.show();
+        b.lay(wortel, 700, 500, u"halt"_s);
+        b.form.resize(1000, 720);
+        QCOMPARE(b.pixel(703, 522), toQColor(wortel.back));
+    }
+
+    void eraseTakesTheFirstTileAndKeepsItsCounter()
     {
         TestBoard b;
         layThree(b);
         b.lay(wortel, 22, 102, u"fahr"_s);
-        b.optTypes->select(0);
         b.canvas->CanvasEraseWortel(30, 110);
         QCOMPARE(b.texts(), (QStringList{u"ver"_s, u"ung"_s, u"fahr"_s}));
-        QCOMPARE(b.optTypes->selected(), 0);
         QCOMPARE(b.optTypes->value(0), 2);
-        QCOMPARE(seen(b), u"M"_s);
+        b.canvas->CanvasEraseWortel(30, 110, prefix.back);
         b.canvas->CanvasEraseWortel(400, 300);
         QCOMPARE(b.store->count(), 3);
     }
 
-    void editing_data()
-    {
-        columns<QString, int, QStringList>("pos", "kind", "tiles");
-        const QStringList old{u"20,100 halt"_s, u"120,100 ver"_s, u"220,100 ung"_s};
-        QTest::newRow("goes to the top") << u"20,100"_s << 0 << QStringList{old[1], old[2], u"20,100 neu"_s};
-        QTest::newRow("the kind decides")
-            << u"120,100"_s << 1 << QStringList{old[0], old[2], u"120,100 neu"_s};
-        QTest::newRow("a bad place") << u"abc"_s << 0 << old;
-        QTest::newRow("a place beyond 16 bits") << u"99999,1"_s << 0 << old;
-        QTest::newRow("no kind") << u"20,100"_s << -1 << old;
-    }
     void editing()
     {
-        QFETCH(QString, pos);
-        QFETCH(int, kind);
-        TestBoard b;
-        layThree(b);
-        b.canvas->EditObject(pos, u"neu"_s,
-                             kind < 0 ? colours::board : tileKinds.at(static_cast<std::size_t>(kind)).back);
-        QTEST(b.described(), "tiles");
-        QCOMPARE(b.counters(), (QStringList{u"1"_s, u"1"_s, u"1"_s, u"3"_s}));
-    }
-    void editingFindsItsTileUnderAnOlderOne()
-    {
-        TestBoard b;
-        b.lay(wortel, 10, 95, u"oldest"_s);
-        b.lay(prefix, 20, 100, u"ver"_s);
-        b.canvas->EditObject(u"20,100"_s, u"be"_s, prefix.back);
-        QCOMPARE(b.texts(), (QStringList{u"oldest"_s, u"be"_s}));
+        const QStringList old{u"20,100 halt"_s, u"120,100 ver"_s, u"220,100 ung"_s, u"21,101 fahr"_s};
+        const QStringList first{old[1], old[2], old[3], u"20,100 neu"_s};
+        const QStringList second{old[0], old[2], old[3], u"120,100 neu"_s};
+        for (const auto &[place, kind, tiles] : {std::tuple{QPoint(20, 100), wortel.back, first},
+                                                 {QPoint(120, 100), prefix.back, second},
+                                                 {QPoint(20, 100), prefix.back, old},
+                                                 {QPoint(22, 102), wortel.back, old},
+                                                 {QPoint(20, 100), colours::board, old}}) {
+            TestBoard b;
+            layThree(b);
+            b.lay(wortel, 21, 101, u"fahr"_s);
+            b.canvas->EditObject(place, u"neu"_s, kind); // goes to the top of the drawing order
+            QCOMPARE(b.described(), tiles);
+            QCOMPARE(b.trouble(), QString());
+        }
     }
 
-    void theFloatingCopyLooksLifted()
+    /// The floating copy has the tile's pixels, letters and all, and stands over open lists.
+    void theFloatingCopyIsTheTileLifted()
     {
-        TestBoard b;
-        b.lay(wortel, 25, 105, u"halt"_s);
-        QVERIFY(b.canvas->CanvasSelectWortel(30, 110));
-        const cWortel &held = *b.store->current();
-        QCOMPARE(b.controls.BtnMove1->geometry().topLeft(), QPoint(25, 105));
-        QCOMPARE(b.controls.BtnMove1->height(), 26);
-        QCOMPARE(b.controls.BtnMove1->Caption(), u"halt "_s);
-        QVERIFY(held.Selected && b.controls.BtnMove1->width() > held.Extent());
-        b.optTypes->select(0);
+        TestHand b;
+        b.form.show();
+        for (const auto &[kind, text] :
+             {std::pair{wortel, u"Fähre"_s}, {prefix, u"ver"_s}, {suffix, u"igung"_s}}) {
+            b.lay(kind, 25, 105, text);
+            const cWortel &tile = *b.store->tiles().back();
+            b.optTypes->select(kind.filterIndex);
+            const QRect inside(26, 106, tile.Extent() - 1, 24); // the outline goes round the wider copy
+            const QImage lying = b.form.grab(inside).toImage();
+            b.press({30, 110});
+            QCOMPARE(b.controls.BtnMove1->pos(), QPoint(25, 105));
+            QCOMPARE(b.controls.BtnMove1->height(), 26);
+            QVERIFY(b.controls.BtnMove1->width() > tile.Extent() + 1);
+            QCOMPARE(b.form.grab(inside).toImage(), lying);
+            b.release({30, 110});
+        }
+        b.optTypes->select(2);
+        b.morphemeLists.OptType_MouseDown(3, Qt::RightButton);
+        b.press({30, 110});
+        const QPoint overList = b.controls.PrefixList->geometry().center();
+        b.drag(overList);
+        QCOMPARE(b.form.grab().toImage().pixelColor(overList + QPoint(3, 22)), toQColor(suffix.back));
+        b.release(overList);
         b.controls.Option1[0]->setChecked(true);
+        b.press(overList + QPoint(3, 3));
         b.controls.Option1[1]->setChecked(true);
-        QVERIFY(!b.modes.WordCheckDrag && !held.Selected);
+        QVERIFY(!b.canvas->WordCheckDrag() && !b.store->tiles().back()->Selected);
         QVERIFY(b.controls.BtnMove1->isHidden());
-        QCOMPARE(b.optTypes->selected(), 0);
-    }
-
-    void allTakesTheNumberAway()
-    {
-        TestBoard b;
-        b.controls.Check1->setChecked(true);
-        QVERIFY(!b.controls.Text1->isEnabled());
-        b.controls.Check1->setChecked(false);
-        QVERIFY(b.controls.Text1->isEnabled());
     }
 
     void listsOpenAboveTheirButtons()
     {
         TestBoard b;
-        MorphemeLists lists(b.t.ground, b.controls);
+        MorphemeLists &lists = b.r.morphemeLists;
         QSignalSpy menus(&lists, &MorphemeLists::menuRestoreWanted);
-        lists.OptType_MouseDown(0, Qt::RightButton);
+        const std::array shown{b.controls.WortelList, b.controls.PrefixList, b.controls.SuffixList};
+        const auto open = [&shown] {
+            return std::count_if(shown.begin(), shown.end(), [](auto *list) { return !list->isHidden(); });
+        };
+        b.tool(b.controls.OptType[0], Qt::RightButton);
         QVERIFY(!b.controls.WortelList->isHidden());
         QCOMPARE(b.controls.WortelList->geometry().bottom() + 1, b.controls.Picture1->y());
         QCOMPARE(b.t.sound.resources, QList<int>{121});
-        lists.OptType_MouseDown(3, Qt::RightButton);
-        QVERIFY(b.controls.WortelList->isHidden());
-        lists.OptType_MouseDown(3, Qt::RightButton);
-        QVERIFY(!b.controls.WortelList->isHidden() && !b.controls.PrefixList->isHidden() &&
-                !b.controls.SuffixList->isHidden());
+        b.tool(b.controls.OptType[3], Qt::RightButton);
+        QCOMPARE(open(), 0);
+        b.tool(b.controls.OptType[3], Qt::RightButton);
+        QCOMPARE(open(), 3);
         QCOMPARE(b.t.sound.resources.size(), 2);
-        lists.OptType_MouseDown(1, Qt::LeftButton);
-        QVERIFY(b.controls.WortelList->isHidden() && b.controls.PrefixList->isHidden() &&
-                b.controls.SuffixList->isHidden());
+        b.tool(b.controls.OptType[1]);
+        QCOMPARE(open(), 0);
         QCOMPARE(menus.count(), 1);
     }
 
     void droppedFiles_data()
     {
         // format: what is written: a picture format, "text" or nothing at all
-        columns<QString, QByteArray, QSize, QString, bool>("name", "format", "size", "complaint", "shown");
-        const QSize small(40, 30);
-        QTest::newRow("bmp") << u"bild.bmp"_s << QByteArray("bmp") << small << QString() << true;
-        QTest::newRow("jpg in capitals") << u"Bild.JPG"_s << QByteArray("jpg") << small << QString() << true;
-        QTest::newRow("misnamed: png as jpg")
-            << u"bild.jpg"_s << QByteArray("png") << small << QString() << true;
-        QTest::newRow("huge jpg is read smaller")
-            << u"gross.jpg"_s << QByteArray("jpg") << QSize(9000, 6000) << QString() << true;
-        QTest::newRow("huge bmp is refused")
-            << u"gross.bmp"_s << QByteArray("bmp header") << QSize(20000, 20000) << u"zu groß"_s << false;
-        QTest::newRow("another format")
-            << u"bild.png"_s << QByteArray("png") << small << u"Dieses Bild hat das Format: PNG"_s << false;
-        QTest::newRow("no extension")
-            << u"bild"_s << QByteArray("png") << small << u"Dieses Bild hat das Format: BILD"_s << false;
-        QTest::newRow("no picture") << u"bild.gif"_s << QByteArray("text") << small << u"kein Bild"_s
-                                    << false;
-        QTest::newRow("an empty file")
-            << u"leer.jpg"_s << QByteArray("empty") << small << u"kein Bild"_s << false;
-        QTest::newRow("no file") << u"fehlt.bmp"_s << QByteArray() << small << u"gibt es nicht"_s << false;
-        QTest::newRow("cut off") << u"kurz.jpg"_s << QByteArray("cut") << small << u"beschädigt"_s << false;
+        columns<QByteArray, QString>("format", "complaint");
+        using Row = std::tuple<const char *, const char *, const char *>;
+        for (const auto &[name, format, complaint] :
+             std::initializer_list<Row>{{"bild.bmp", "bmp", ""},
+                                        {"Bild.JPG", "jpg", ""},
+                                        {"bild.jpg", "png", ""},
+                                        {"gross.jpg", "jpg", ""}, // read smaller
+                                        {"gross.bmp", "bmp header", "zu groß"},
+                                        {"bild.png", "png", "Dieses Bild hat das Format: PNG"},
+                                        {"bild", "png", "Dieses Bild hat das Format: BILD"},
+                                        {"bild.gif", "text", "kein Bild"},
+                                        {"fehlt.bmp", "", "gibt es nicht"},
+                                        {"kurz.jpg", "cut", "beschädigt"}})
+            QTest::newRow(name) << QByteArray(format) << QString::fromUtf8(complaint);
     }
+    /// A drop that the source means as a move is a copy: else the source would delete its file.
     void droppedFiles()
     {
-        QFETCH(QString, name);
         QFETCH(QByteArray, format);
-        QFETCH(QSize, size);
         QFETCH(QString, complaint);
-        QFETCH(bool, shown);
         TestBoard b;
         layThree(b);
-        BackgroundPicture background(b.t.ground, b.controls, *b.canvas);
+        const QString name = QString::fromLatin1(QTest::currentDataTag());
         const QString path = b.t.folder.filePath(name);
-        writePicture(path, format, size);
+        writePicture(path, format, name.startsWith(u"gross"_s) ? QSize(9000, 6000) : QSize(40, 30));
         if (!complaint.isEmpty())
             b.t.boxes.willAnswer(Boxes::Answer::Ok);
-        background.drop(path);
+        QMimeData files;
+        files.setUrls({QUrl::fromLocalFile(path)});
+        QDragEnterEvent enter({50, 50}, Qt::MoveAction | Qt::CopyAction, &files, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(&b.form, &enter);
+        QDropEvent drop({50, 50}, Qt::MoveAction | Qt::CopyAction, &files, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(&b.form, &drop);
+        b.settle();
+        QCOMPARE(drop.dropAction(), Qt::CopyAction);
+        QCOMPARE(drop.isAccepted(), !complaint.contains(u"Format"_s));
         QVERIFY(b.t.ok());
-        if (!complaint.isEmpty())
+        const bool shown = complaint.isEmpty();
+        if (!shown)
             QVERIFY2(b.t.boxes.asked.first().text.contains(complaint),
                      qPrintable(b.t.boxes.asked.first().text));
         const QImage picture = b.controls.picCanvas->picture();
@@ -249,18 +317,13 @@ private slots:
     void pictureOfTheSettingIsQuiet()
     {
         TestBoard b;
-        BackgroundPicture background(b.t.ground, b.controls, *b.canvas);
-        background.loadFromSetting();
-        b.t.options.setText(Setting::BackgroundPicture, b.t.AppFolder + u"fehlt.jpg"_s);
-        background.loadFromSetting();
-        QVERIFY(b.controls.picCanvas->picture().isNull());
-        b.t.options.setText(Setting::BackgroundPicture, b.t.writeFile(u"kaputt.jpg"_s, u"kein Bild"_s));
-        background.loadFromSetting();
-        QVERIFY(b.controls.picCanvas->picture().isNull());
         writePicture(b.t.folder.filePath(u"da.bmp"_s), "bmp", QSize(20, 20));
-        b.t.options.setText(Setting::BackgroundPicture, b.t.AppFolder + u"DA.bmp"_s);
-        background.loadFromSetting();
-        QCOMPARE(b.controls.picCanvas->picture().size(), QSize(20, 20));
+        b.t.writeFile(u"kaputt.jpg"_s, u"kein Bild"_s);
+        for (const QString &name : {u"fehlt.jpg"_s, u"kaputt.jpg"_s, u"DA.bmp"_s}) {
+            b.t.options.setText(Setting::BackgroundPicture, b.t.AppFolder + name);
+            b.r.background.loadFromSetting();
+            QCOMPARE(b.controls.picCanvas->picture().isNull(), name != u"DA.bmp"_s);
+        }
         QVERIFY(b.t.ok());
     }
 
@@ -269,29 +332,19 @@ private:
     {
         if (format.isEmpty())
             return;
-        if (format == "text" || format == "empty") {
-            writeFileAtomically(path, format == "text" ? "das ist nur ein Text" : QByteArray());
-            return;
-        }
+        if (format == "text")
+            return writeFileAtomically(path, "das ist nur ein Text");
         if (format == "cut") {
             writePicture(path, "png", size);
             QFile file(path);
             QVERIFY(file.resize(file.size() / 2));
             return;
         }
-        if (format == "bmp header") {
-            // A header that promises more than follows.
-            QByteArray bytes("BM\x36\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0", 18);
-            const auto number = [&bytes](qint32 value, int width) {
-                for (int i = 0; i < width; ++i)
-                    bytes.append(static_cast<char>(value >> (8 * i) & 0xFF));
-            };
-            number(size.width(), 4);
-            number(size.height(), 4);
-            number(1, 2);
-            number(24, 2);
-            bytes.append(QByteArray(24, '\0')).append(QByteArray(12, '\x55'));
-            writeFileAtomically(path, bytes);
+        if (format == "bmp header") { // it promises 20,000 by 20,000 points
+            writeFileAtomically(path,
+                                QByteArray::fromHex("424d36000000000000003600000028000000204e0000204e0000"
+                                                    "010018") +
+                                    QByteArray(24, '\0') + QByteArray(12, 'U'));
             return;
         }
         QImage picture(size, QImage::Format_RGB32);

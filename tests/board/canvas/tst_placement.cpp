@@ -1,17 +1,20 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "board/tiles/places.h"
+#include "persistence/backup.h"
+#include "platform/files.h"
+#include "platform/work.h"
 #include "support/columns.h"
 #include "support/registry.h"
-#include "support/test_board.h"
-#include "widgets/click_label.h"
-#include "widgets/progress_bar.h"
+#include "support/test_hand.h"
+#include "widgets/gradient.h"
 
-#include <QtTest>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+using Act = std::function<void(TestHand &)>;
 
 bool anyTwoOverlap(const TileStore &store)
 {
@@ -22,6 +25,40 @@ bool anyTwoOverlap(const TileStore &store)
     return false;
 }
 
+/// Every work of the board, on a board of twenty tiles.
+void addWorks()
+{
+    QTest::addColumn<Act>("act");
+    const auto menu = [](const char *name, int id) {
+        QTest::newRow(name) << Act([id](TestHand &h) { h.run(command::From::MainMenu, id); });
+    };
+    const auto refill = [](const char *name, bool overlaps) {
+        QTest::newRow(name) << Act([overlaps](TestHand &h) {
+            h.t.options.setBox(Setting::NoOverlapOnStart, overlaps ? 0 : 1);
+            h.controls.Text1->setText(u"30"_s);
+            h.tool(h.controls.Check2);
+        });
+    };
+    refill("refill", false);
+    refill("refill, overlapping", true);
+    menu("fill", 212);
+    menu("spread all", 1505);
+    menu("spread all, sorted", 1522);
+    menu("spread Wortel", 241);
+    QTest::newRow("one more") << Act([](TestHand &h) { h.run(command::From::Key, 1); });
+}
+
+std::unique_ptr<TestHand> twentyTiles(const QSize &size = {800, 600})
+{
+    auto hand = std::make_unique<TestHand>(1, size);
+    for (int i = 0; i < 20; ++i)
+        hand->lay(kindAt(i % 3), 3 * i, 0, u"t%1"_s.arg(i));
+    hand->t.options.setBox(Setting::FillAffix, 0);
+    hand->t.pump.waiting = true;
+    hand->t.boxes.willPress(0);
+    return hand;
+}
+
 } // namespace
 
 class PlacementTest : public QObject
@@ -29,23 +66,18 @@ class PlacementTest : public QObject
     Q_OBJECT
 
 private slots:
-    void limitFollowsTheSetting_data()
-    {
-        columns<QString, int>("setting", "limit");
-        QTest::newRow("3") << u"3"_s << 3000;
-        QTest::newRow("0") << u"0"_s << 0;
-        QTest::newRow("no number is repaired") << u"abc"_s << 1000000;
-        QTest::newRow("beyond 32 bits keeps the old limit") << u"99999999"_s << 1000;
-    }
     void limitFollowsTheSetting()
     {
-        QFETCH(QString, setting);
-        TestBoard b;
-        QCOMPARE(b.placement->tryLimit(), 1000);
-        b.t.options.setText(Setting::MaxTriesToPlace, setting);
-        QCOMPARE(b.placement->tryLimit(), 1000);
-        b.t.options.ApplySettings();
-        QTEST(b.placement->tryLimit(), "limit");
+        for (const auto &[setting, limit] : {std::pair{u"3"_s, 3000},
+                                             {u"0"_s, 0},
+                                             {u"abc"_s, 1000000},
+                                             {u"99999999"_s, 1000}}) { // beyond 32 bits: the old limit
+            TestBoard b;
+            b.t.options.setText(Setting::MaxTriesToPlace, setting);
+            QCOMPARE(b.placement->tryLimit(), 1000);
+            b.t.options.ApplySettings();
+            QCOMPARE(b.placement->tryLimit(), limit);
+        }
     }
 
     void listOrderAndItsEnd()
@@ -57,165 +89,214 @@ private slots:
         QCOMPARE(b.store->tiles().back()->Extent(), 10);
     }
 
+    /// It is bounded by the tries, or by the "X" that is offered if they have no bound.
     void aFullBoardEndsInSilence()
     {
-        TestBoard b(1, {200, 300});
-        b.placement->PlaceWortelFree(500);
-        QVERIFY(b.store->count() > 3 && b.store->count() < 60);
-        QVERIFY(!anyTwoOverlap(*b.store));
-        QCOMPARE(b.optTypes->value(0), b.store->count());
-        QVERIFY(!b.modes.PlacingBusy && b.controls.Label4->isHidden());
+        for (const int limit : {1000, 0}) {
+            TestBoard b(1, {200, 300});
+            b.placement->setTryLimit(limit);
+            b.t.pump.waiting = true;
+            bool offered = false;
+            b.t.pump.onServe = [&] {
+                offered = offered || !b.controls.Label4->isHidden();
+                if (offered)
+                    QTest::mouseClick(b.controls.Label4, Qt::LeftButton);
+            };
+            b.placement->PlaceWortelFree(500);
+            QCOMPARE(offered, limit == 0);
+            QVERIFY(b.store->count() > 3 && b.store->count() < 60);
+            QVERIFY(!anyTwoOverlap(*b.store));
+            b.optTypes->updateTotal();
+            QCOMPARE(b.trouble(), QString());
+        }
     }
 
-    void withoutLimitTheCancelIsOffered()
+    /// Nothing lies under the band or beyond an edge, however long its text, however high the band.
+    void placesStayOnTheBoard_data()
     {
-        TestBoard b(1, {200, 300});
-        b.placement->setTryLimit(0);
-        b.t.pump.waiting = true;
-        bool offered = false;
-        b.t.pump.onYield = [&] {
-            offered = !b.controls.Label4->isHidden();
-            if (offered)
-                b.placement->stop();
-        };
-        b.placement->PlaceWortelFree(500);
-        QVERIFY(offered);
-        QVERIFY(!b.modes.PlacingBusy && !b.modes.StopPlacing && b.controls.Label4->isHidden());
+        addWorks();
+        const auto row = [](const char *name, const Act &act) { QTest::newRow(name) << act; };
+        row("add", [](TestHand &h) { h.run(command::From::MainMenu, 222); });
+        row("add one", [](TestHand &h) { h.run(command::From::MainMenu, 216); });
+        row("insert", [](TestHand &h) {
+            h.t.boxes.willType(u"Donaudampfschifffahrt"_s);
+            h.click({h.form.width() - 5, h.measures->BandTop() - 2}, Qt::LeftButton, Qt::ControlModifier);
+        });
+        row("copy", [](TestHand &h) {
+            const QPoint corner(h.form.width() - 40, h.measures->BandTop() - 27);
+            h.lay(suffix, corner.x(), corner.y(), u"ung"_s);
+            h.click(corner + QPoint(20, 24), Qt::RightButton, Qt::ShiftModifier);
+        });
+    }
+    void placesStayOnTheBoard()
+    {
+        QFETCH(Act, act);
+        for (const QSize size : {QSize(632, 573), QSize(853, 480), QSize(330, 400), QSize(1920, 1080)})
+            for (const int band : {88, 260}) {
+                const auto hand = twentyTiles(size);
+                hand->controls.Picture1->setGeometry(0, size.height() - band, size.width(), band);
+                hand->placement->setTryLimit(0);
+                hand->lists.WortelList.add(u"Donaudampfschifffahrt"_s);
+                for (AffixHome &home : hand->homes.suffixes)
+                    home.y = size.height() - 20; // behind the band
+                int serves = 0;
+                hand->t.pump.onServe = [&] {
+                    if (++serves > 20000)
+                        hand->gate.cancelWork(); // the small boards are full
+                };
+                act(*hand);
+                for (const auto &tile : hand->store->tiles())
+                    QVERIFY2(tile->xLeft() >= 0 && tile->right() < size.width() && tile->yTop() >= -2 &&
+                                 tile->bottom() < size.height() - band,
+                             qPrintable(u"%1x%2-%3: %4,%5 %6"_s.arg(size.width())
+                                            .arg(size.height())
+                                            .arg(band)
+                                            .arg(tile->xLeft())
+                                            .arg(tile->yTop())
+                                            .arg(tile->txt)));
+            }
     }
 
-    void aSecondPlacementReturnsAtOnce()
+    /// While a work runs the store keeps the old board whole. After the "X" the counters say what lies there,
+    /// after closing nothing has changed, is told or is kept.
+    void earlyEnds_data() { addWorks(); }
+    void earlyEnds()
     {
-        TestBoard b;
-        b.lay(wortel, 0, 0, u"a"_s);
-        b.modes.PlacingBusy = true;
-        b.placement->PlaceWortelFree(3);
-        b.placement->NoWortelCollision2(1, u"x"_s);
-        QVERIFY(!b.placement->MorphemeCollision(1, u"x"_s, prefix.back, prefix.text));
-        b.arrangement->SpreadMorpheme(wortel.back);
-        b.arrangement->SpreadAllMorpheme(false);
-        QCOMPARE(b.described(), QStringList{u"0,0 a"_s});
-        QCOMPARE(b.optTypes->value(0), 1);
-        QVERIFY(b.modes.PlacingBusy);
+        QFETCH(Act, act);
+        for (const bool closes : {false, true}) {
+            const auto hand = twentyTiles();
+            hand->t.store.SaveSetting(u"Settings"_s, u"UseBackup"_s, u"1"_s);
+            hand->run(command::From::MainMenu, 264); // a first backup
+            const QStringList before = hand->described();
+            int serves = 0;
+            hand->t.pump.onServe = [&] {
+                QCOMPARE(hand->described(), before);
+                if (++serves == 5 || QByteArray(QTest::currentDataTag()) == "one more")
+                    closes ? void(hand->form.close()) : hand->gate.cancelWork();
+            };
+            hand->commits = 0;
+            act(*hand);
+            QVERIFY(serves > 0);
+            if (!closes) {
+                QCOMPARE(hand->trouble(), QString());
+                continue;
+            }
+            QCOMPARE(hand->described(), before);
+            QCOMPARE(hand->commits, 0);
+            hand->settle();
+            QVERIFY(hand->store->isEmpty());
+            QVERIFY(!QFile::exists(nativePath(Backup::file(hand->t.ground))));
+        }
     }
 
-    void atTheLimitItAsks_data()
+    /// A hand that tries everything while a work runs changes nothing: the board ends as it does without it.
+    void nothingEntersAWork_data() { addWorks(); }
+    void nothingEntersAWork()
     {
-        using Answer = Boxes::Answer;
-        columns<Answer, bool>("answer", "givenUp");
-        QTest::newRow("no") << Answer::No << true;
-        QTest::newRow("cancel") << Answer::Cancel << true;
-        QTest::newRow("yes, then the X") << Answer::Yes << true;
-        QTest::newRow("yes, then room") << Answer::Yes << false;
+        QFETCH(Act, act);
+        QStringList undisturbed;
+        for (const bool tries : {false, true}) {
+            const auto hand = twentyTiles();
+            int serves = 0;
+            hand->t.pump.onServe = [&] {
+                if (tries && ++serves % 3 == 1)
+                    tryEverything(*hand);
+            };
+            act(*hand);
+            QVERIFY(!tries || serves > 0);
+            QCOMPARE(hand->commits, 1);
+            QCOMPARE(hand->popup.shown, 0);
+            if (tries)
+                QCOMPARE(hand->described(), undisturbed);
+            undisturbed = hand->described();
+            QCOMPARE(hand->trouble(), QString());
+            QCOMPARE(hand->t.boxes.unexpected, 0);
+        }
     }
+
     void atTheLimitItAsks()
     {
-        QFETCH(Boxes::Answer, answer);
-        QFETCH(bool, givenUp);
-        TestBoard b(1, {60, 120});
-        for (const int y : {0, 40, 80})
-            for (const int x : {0, 40})
-                b.lay(wortel, x, y, u"a"_s);
-        b.placement->setTryLimit(50);
-        b.t.boxes.willAnswer(answer);
-        b.t.boxes.whileOpen = [&](const Question &) { b.t.pump.waiting = answer == Boxes::Answer::Yes; };
-        b.t.pump.onYield = [&] {
-            if (b.t.boxes.asked.isEmpty() || b.controls.Label4->isHidden())
-                return;
-            if (givenUp)
-                b.placement->stop();
-            else
-                b.store->ClearCanvas();
-        };
-        QCOMPARE(b.placement->MorphemeCollision(1, u"neu"_s, suffix.back, suffix.text), givenUp);
-        QVERIFY(b.t.ok());
-        QVERIFY(b.t.boxes.asked.first().text.startsWith(u"Ich habe 6 Morpheme"_s));
-        QCOMPARE(b.t.boxes.asked.size(), 1);
-        QCOMPARE(b.texts().contains(u"neu"_s), !givenUp);
-        QVERIFY(!b.modes.PlacingBusy);
+        for (const auto answer : {Boxes::Answer::No, Boxes::Answer::Cancel, Boxes::Answer::Yes}) {
+            TestHand b(1, {160, 200});
+            for (int i = 0; i < 40; ++i)
+                b.lay(wortel, 0, 0, u"a"_s);
+            b.t.pump.waiting = true;
+            b.t.boxes.willAnswer(answer);
+            b.t.boxes.whileOpen = [&](const Question &question) {
+                QCOMPARE(b.store->count(), 40); // whole until the answer
+                QVERIFY(!b.surface->isLocked());
+                QVERIFY(question.text.startsWith(u"Ich habe %1 Morpheme"_s.arg(b.counters().first())));
+            };
+            b.t.pump.onServe = [&] {
+                if (!b.t.boxes.asked.isEmpty()) // after a Yes only the "X" ends it
+                    QTest::mouseClick(b.controls.Label4, Qt::LeftButton);
+            };
+            b.run(command::From::MainMenu, 1505);
+            QVERIFY(b.store->count() > 2 && b.store->count() < 40);
+            QCOMPARE(b.t.boxes.asked.size(), 1);
+            QCOMPARE(b.commits, 1);
+            QCOMPARE(b.trouble(), QString());
+        }
     }
 
     void spreadingAll()
     {
-        TestBoard b(1, {800, 600});
-        for (int i = 0; i < 20; ++i)
-            b.lay(tileKinds.at(static_cast<std::size_t>(i % 3)), 0, 0, u"t%1"_s.arg(i % 10));
-        b.optTypes->select(1);
-        b.arrangement->SpreadAllMorpheme(false);
-        QCOMPARE(b.counters(), (QStringList{u"7"_s, u"7"_s, u"6"_s, u"20"_s}));
-        QVERIFY(!anyTwoOverlap(*b.store));
-        QCOMPARE(b.optTypes->selected(), 1);
-        QVERIFY(b.controls.GameProgress->isHidden() && b.controls.Label4->isHidden());
-        QVERIFY(b.controls.Check2->isEnabled() && !b.controls.Check3->isHidden());
-        b.controls.Check1->setChecked(true);
-        b.arrangement->SpreadAllMorpheme(true);
-        QVERIFY(!b.controls.Text1->isEnabled()); // "Alle" still takes it away
-        QCOMPARE(b.store->count(), 10);
-        const QStringList texts = b.texts();
+        const auto b = twentyTiles();
+        b->lay(suffix, 0, 300, u"T1"_s);
+        b->optTypes->select(1);
+        b->arrangement->SpreadMorpheme(wortel.back);
+        QCOMPARE(b->described().last(), u"0,300 T1"_s); // of one kind: the others stay
+        QCOMPARE(b->described().filter(QRegularExpression(u"^\\d+,0 "_s)).size(), 13);
+        b->arrangement->SpreadAllMorpheme(false);
+        QCOMPARE(b->counters(), (QStringList{u"7"_s, u"7"_s, u"7"_s, u"21"_s}));
+        QVERIFY(!anyTwoOverlap(*b->store));
+        QCOMPARE(b->optTypes->selected(), 1);
+        b->arrangement->SpreadAllMorpheme(true);
+        QCOMPARE(b->store->count(), 20);
+        const QStringList texts = b->texts();
         QVERIFY(std::is_sorted(texts.cbegin(), texts.cend()));
-        QVERIFY(b.t.ok());
+        QCOMPARE(b->trouble(), QString());
     }
 
+    /// The status line is painted with each count, and the "X" stops at the one that was seen.
     void theXEndsSpreading()
     {
-        TestBoard b(1, {800, 600});
-        for (int i = 0; i < 20; ++i)
-            b.lay(wortel, 0, 0, u"t"_s);
-        b.t.pump.waiting = true;
-        b.t.pump.onYield = [&] {
-            if (b.store->count() == 5 && !b.controls.Label4->isHidden())
-                QTest::mouseClick(b.controls.Label4, Qt::LeftButton);
+        const auto b = twentyTiles();
+        b->form.show();
+        QStringList painted;
+        const PaintWatch watch(b->controls.GameProgress,
+                               [&] { painted << b->controls.GameProgress->Caption(); });
+        b->t.pump.onServe = [&] {
+            QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+            if (painted.contains(u"5 ...Morpheme platziert (20)"_s))
+                QTest::mouseClick(b->controls.Label4, Qt::LeftButton);
         };
-        b.arrangement->SpreadAllMorpheme(false);
-        QCOMPARE(b.store->count(), 5);
-        QCOMPARE(b.counters().first(), u"5"_s);
-        QVERIFY(!b.modes.StopPlacing && !b.modes.PlacingBusy && !b.surface->isLocked());
+        b->arrangement->SpreadAllMorpheme(false);
+        QVERIFY(painted.contains(u"4 ...Morpheme platziert (20)"_s));
+        QCOMPARE(b->store->count(), 5);
+        QCOMPARE(b->trouble(), QString());
     }
 
-    void spreadingOneKind()
-    {
-        TestBoard b;
-        b.lay(prefix, 0, 5, u"ver"_s);
-        for (int i = 0; i < 10; ++i)
-            b.lay(wortel, 0, 0, u"t%1"_s.arg(i));
-        b.arrangement->SpreadMorpheme(wortel.back);
-        QCOMPARE(b.described().first(), u"0,5 ver"_s);
-        QCOMPARE(b.counters(), (QStringList{u"10"_s, u"1"_s, u"0"_s, u"11"_s}));
-        QVERIFY(!anyTwoOverlap(*b.store));
-    }
-
-    void liningUp_data()
-    {
-        columns<QString, bool, bool, QStringList>("columns", "sort", "removeDuplicates", "tiles");
-        QTest::newRow("two columns, sorted")
-            << u"2"_s << true << false
-            << QStringList{u"0,50 a"_s, u"7,7 ver"_s, u"60,50 b"_s, u"0,80 c"_s, u"60,80 c"_s};
-        QTest::newRow("duplicates go")
-            << u"2"_s << true << true << QStringList{u"0,50 a"_s, u"7,7 ver"_s, u"60,50 b"_s, u"0,80 c"_s};
-        QTest::newRow("as they lie") << u"9"_s << false << false
-                                     << QStringList{u"0,50 c"_s, u"7,7 ver"_s, u"60,50 b"_s, u"120,50 a"_s,
-                                                    u"180,50 c"_s};
-        QTest::newRow("no columns: all in the corner")
-            << u"0"_s << false << false
-            << QStringList{u"0,50 c"_s, u"7,7 ver"_s, u"0,50 b"_s, u"0,50 a"_s, u"0,50 c"_s};
-    }
     void liningUp()
     {
-        QFETCH(QString, columns);
-        QFETCH(bool, sort);
-        QFETCH(bool, removeDuplicates);
-        TestBoard b;
-        b.lay(wortel, 300, 300, u"c"_s);
-        b.lay(prefix, 7, 7, u"ver"_s);
-        for (const char16_t letter : {u'b', u'a', u'c'})
-            b.lay(wortel, 200, 200, QString(QChar(letter)));
-        b.t.options.setText(Setting::ColumnsOnLineUp, columns);
-        b.t.options.setText(Setting::HorizSpaceOnLineUp, u"60"_s);
-        b.t.options.setText(Setting::VertSpaceOnLineUp, u"30"_s);
-        b.t.options.setText(Setting::StartPosTopOnLineUp, u"50"_s);
-        b.arrangement->LineUpWorteles(sort, removeDuplicates);
-        QTEST(b.described(), "tiles");
-        QCOMPARE(b.optTypes->value(0), b.store->countOf(wortel.back));
-        QCOMPARE(b.optTypes->value(3), b.store->count());
+        for (const auto &[columns, sort, removeDuplicates, tiles] :
+             {std::tuple{u"2"_s, true, false, u"0,50 a 7,7 ver 60,50 b 0,80 c 60,80 c"_s},
+              {u"2"_s, true, true, u"0,50 a 7,7 ver 60,50 b 0,80 c"_s},
+              {u"9"_s, false, false, u"0,50 c 7,7 ver 60,50 b 120,50 a 180,50 c"_s},
+              {u"0"_s, false, false, u"0,50 c 7,7 ver 0,50 b 0,50 a 0,50 c"_s}}) {
+            TestBoard b;
+            b.lay(wortel, 300, 300, u"c"_s);
+            b.lay(prefix, 7, 7, u"ver"_s);
+            for (const QString &letter : {u"b"_s, u"a"_s, u"c"_s})
+                b.lay(wortel, 200, 200, letter);
+            b.t.options.setText(Setting::ColumnsOnLineUp, columns);
+            b.t.options.setText(Setting::HorizSpaceOnLineUp, u"60"_s);
+            b.t.options.setText(Setting::VertSpaceOnLineUp, u"30"_s);
+            b.t.options.setText(Setting::StartPosTopOnLineUp, u"50"_s);
+            b.arrangement->LineUpWorteles(sort, removeDuplicates);
+            QCOMPARE(b.described().join(u' '), tiles);
+            QCOMPARE(b.trouble(), QString());
+        }
     }
 
     void lineUpBeyondTheBoardLosesNothing()
@@ -227,6 +308,29 @@ private slots:
         b.t.options.setText(Setting::StartPosTopOnLineUp, u"9999999"_s);
         b.arrangement->LineUpWorteles(false, false);
         QCOMPARE(b.store->count(), 20);
+    }
+
+private:
+    static void tryEverything(TestHand &hand)
+    {
+        hand.popup.choose = 1503;
+        const cWortel &tile = *hand.store->tiles().front();
+        const QPoint onTile(tile.xLeft() + 5, tile.yTop() + 12);
+        for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton})
+            for (const Qt::KeyboardModifiers shift :
+                 {Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier}) {
+                hand.press(onTile, button, shift);
+                hand.drag({300, 300});
+                hand.release({300, 300}, button);
+            }
+        for (PressButton *tool : hand.form.findChildren<PressButton *>())
+            for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton})
+                if (tool->group() == nullptr || tool->group()->parent() != hand.optTypes)
+                    hand.tool(tool, button);
+        for (int key = Qt::Key_A; key <= Qt::Key_Z; ++key)
+            if (key != Qt::Key_H)
+                QTest::keyClick(&hand.form, static_cast<Qt::Key>(key), Qt::ControlModifier);
+        QTest::keyClick(&hand.form, Qt::Key_Menu);
     }
 };
 

@@ -1,120 +1,69 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "dialogs/report_window.h"
+#include "persistence/backup.h"
+#include "platform/files.h"
 #include "support/registry.h"
 #include "support/test_hand.h"
-#include "widgets/dropper.h"
-#include "widgets/floating_tile.h"
 
-#include <QApplication>
-#include <QPointingDevice>
-#include <QtTest>
+#include <QDialog>
 
+#include <algorithm>
 #include <random>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QSize windowSize{1000, 720};
-constexpr int mostTiles = 90; ///< beyond it the player clears the board: one command searches without a limit
+constexpr QSize windowSize{790, 720};
+constexpr int mostTiles = 90;    ///< beyond it the player clears the board
+constexpr int patience = 20'000; ///< rounds of one work before the hand always cancels
 
-/// Plays with everything the hand has, without any sense, but always the same for one seed.
+/// Commands that leave the texts on the board as they are, but for their case.
+constexpr std::array keepTexts{105, 108, 235, 236, 241, 261, 264, 308, 1501, 1502, 1504, 1505};
+
+/// Plays the whole house with everything a hand and the system have, without any sense, but always the same
+/// for one seed: while works run, too, and until it closes; then it moves into a new house.
 class RandomPlayer
 {
 public:
     explicit RandomPlayer(unsigned seed)
-        : hand(seed, windowSize)
-        , random_(seed)
-        , finger_(QTest::createTouchDevice())
+        : random_(seed)
     {
-        hand.form.show();
-        hand.t.options.setText(Setting::MaxTriesToPlace, u"1"_s);
-        hand.placement->setTryLimit(400);
-        for (QTimer *timer : hand.pointer.findChildren<QTimer *>())
-            timer->setInterval(0);
-        hand.t.pump.onYield = [this] { meddle(); };
         for (const command::Command &row : command::table())
             if (row.from != command::From::Key)
                 ids_ << row.id;
-        stockUp(200);
+        QObject::connect(&modal_, &QTimer::timeout, &modal_, [this] { pokeAtDialog(); });
+        modal_.start(0);
+        moveIn();
     }
 
-    TestHand hand;
     QString last; ///< what was done last, for the report
+    int commits = 0;
+    int houses = 0;
 
-    void step()
+    /// One thing, and what it brings. Empty if nothing is wrong afterwards, otherwise what is.
+    QString step()
     {
-        stockUp(4);
-        if (hand.store->count() > mostTiles)
-            hand.bulk->RefillWithSpecNum(below(5));
-        switch (below(12)) {
-        case 0:
-        case 1:
-        case 2:
-            dragTile();
-            break;
-        case 3:
-        case 4:
-        case 5:
-            chooseFromMenu();
-            break;
-        case 6:
-            hand.click(anyPoint(), anyOf({Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}), anyShift());
-            last = u"click"_s;
-            break;
-        case 7:
-            pressKey();
-            break;
-        case 8:
-            pressButton();
-            break;
-        case 9:
-            changeSetting();
-            break;
-        case 10:
-            touch();
-            break;
-        default:
-            changeMode();
-        }
-        QCoreApplication::processEvents(); // due timers
-    }
-
-    /// Empty if nothing is stuck, otherwise what is.
-    QString stuck() const
-    {
-        for (const auto &tile : hand.store->tiles())
-            if (tile->Selected)
-                return u"a tile is still held"_s;
-        if (hand.store->current() != nullptr)
-            return u"there is a current tile"_s;
-        if (!hand.controls.BtnMove1->isHidden())
-            return u"the floating copy is still there"_s;
-        if (hand.pointer.isDragging() || hand.controls.Dropper1->isHighlighted())
-            return u"a drag goes on"_s;
-        if (hand.surface->isLocked())
-            return u"the board is frozen"_s;
-        if (hand.modes.PlacingBusy)
-            return u"a placement goes on"_s;
-        if (QGuiApplication::overrideCursor() != nullptr)
-            return u"the pointer is still the hourglass"_s;
-        if (!hand.controls.Check2->isEnabled() || !hand.controls.Command3->isEnabled())
-            return u"buttons are still disabled"_s;
-        for (const TileKind &kind : tileKinds)
-            if (hand.store->countOf(kind.back) != hand.optTypes->value(kind.filterIndex))
-                return u"the counter of %1 says %2 for %3 tiles"_s
-                    .arg(QString::fromUtf16(kind.styleWord), hand.optTypes->caption(kind.filterIndex))
-                    .arg(hand.store->countOf(kind.back));
-        return {};
-    }
-
-    /// Everything that hangs on the window, by class.
-    QStringList objects() const
-    {
-        QStringList classes;
-        for (const QObject *object : hand.form.findChildren<QObject *>())
-            classes << QString::fromLatin1(object->metaObject()->className());
-        return classes;
+        stockUp();
+        rounds_ = cancels_ = 0;
+        last.clear();
+        if (hand_->store->count() > mostTiles)
+            hand_->bulk->RefillWithSpecNum(below(5));
+        const QStringList before = sortedTexts();
+        const qsizetype askedBefore = asked();
+        const int kept = act();
+        const QStringList after = sortedTexts();
+        if (kept != 0 && !std::includes(before.begin(), before.end(), after.begin(), after.end()))
+            return u"tiles are doubled"_s;
+        const bool givenUp = kept == 1505 && (cancels_ > 0 || asked() > askedBefore);
+        if (kept != 0 && !givenUp && after != before)
+            return u"tiles are lost: %1 of %2"_s.arg(after.size()).arg(before.size());
+        for (ReportWindow *report : hand_->form.findChildren<ReportWindow *>())
+            if (report->isVisible())
+                emit report->closePressed();
+        hand_->settle();
+        return hand_->gate.isClosing() ? moveOut() : hand_->trouble();
     }
 
 private:
@@ -132,131 +81,269 @@ private:
     }
     QPoint pointOnTile()
     {
-        if (hand.store->isEmpty())
+        if (hand_->store->isEmpty())
             return anyPoint();
-        const cWortel &tile = *hand.store->tiles()[static_cast<std::size_t>(below(hand.store->count()))];
-        return {tile.xLeft() + 1 + below(std::max(1, tile.Extent() - 1)), tile.yTop() + 12};
+        const cWortel &tile = *hand_->store->tiles()[static_cast<std::size_t>(below(hand_->store->count()))];
+        return {tile.xLeft() + 1 + below(std::clamp(tile.Extent() - 1, 1, 100)), tile.yTop() + 12};
+    }
+    QStringList sortedTexts() const
+    {
+        QStringList texts = hand_->texts();
+        for (QString &text : texts)
+            text = text.toLower();
+        texts.sort();
+        return texts;
+    }
+    qsizetype asked() const { return hand_->t.boxes.asked.size() + hand_->t.fileDialogs.asked.size(); }
+
+    void moveIn()
+    {
+        ++houses;
+        hand_ = std::make_unique<TestHand>(random_(), windowSize);
+        TestGround &t = hand_->t;
+        t.store.SaveSetting(u"Settings"_s, u"UseBackup"_s, below(3) == 0 ? u"1"_s : u"0"_s);
+        hand_->placement->setTryLimit(400);
+        for (QTimer *timer : hand_->pointer.findChildren<QTimer *>())
+            timer->setInterval(0);
+        session_ = t.AppFolder + u"spiel.wlx"_s;
+        hand_->bulk->RefillWithSpecNum(30);
+        hand_->r.sessions.SaveObjects(session_);
+        t.pump.waiting = true;
+        t.pump.onServe = [this] { meddle(); };
+        t.pump.onYield = [this] {
+            if (below(100) == 0)
+                comeFromOutside();
+        };
+        t.boxes.whileOpen = [this](const Question &) { meddle(); };
+        QObject::connect(&hand_->gate, &Gate::closeRequested, &hand_->form,
+                         [this] { askedAtClosing_ = asked(); });
+        hand_->form.show();
+        hand_->form.activateWindow();
+    }
+
+    /// After closing nothing more was asked or told, and no backup waits for the next start.
+    QString moveOut()
+    {
+        const bool silent = askedAtClosing_ == asked();
+        const bool ended = !hand_->form.isVisible() && hand_->store->isEmpty() && hand_->gate.isFree() &&
+                           QGuiApplication::overrideCursor() == nullptr;
+        const bool backup = QFile::exists(nativePath(Backup::file(hand_->t.ground)));
+        commits += hand_->commits;
+        moveIn();
+        return !silent  ? u"something was told after closing"_s
+               : !ended ? u"the window has not closed"_s
+               : backup ? u"a backup is left"_s
+                        : QString();
     }
 
     /// Answers for whatever will be asked.
-    void stockUp(int count)
+    void stockUp()
     {
-        for (int i = 0; i < count; ++i) {
-            hand.t.boxes.willPress(below(2));
-            hand.t.boxes.willBeRead(below(2));
-            hand.t.boxes.willAnswer(anyOf({Boxes::Answer::Yes, Boxes::Answer::No, Boxes::Answer::Cancel}));
-            hand.t.boxes.willType(anyOf<QString>({u""_s, u"neu"_s, u"Ä"_s, u"zwei Wörter"_s, u"a\tb\r\nc"_s,
-                                                  u"\U0001F600\u202Eklein"_s, QString(10000, u'w')}));
+        TestGround &t = hand_->t;
+        for (int i = 0; i < 4; ++i) {
+            const auto text = anyOf<QString>({u""_s, u"neu"_s, u"Ä"_s, u"zwei Wörter"_s, u"a\tb\r\nc"_s,
+                                              u"\U0001F600\u202Eklein"_s, QString(10000, u'w')});
+            t.boxes.willPress(below(2));
+            t.boxes.willBeRead(below(2));
+            t.boxes.willAnswer(anyOf({Boxes::Answer::Yes, Boxes::Answer::No, Boxes::Answer::Cancel}));
+            t.boxes.willType(text);
+            t.boxes.willTypeWord(text);
+            t.fileDialogs.willOpen(
+                anyOf<QStringList>({{}, {session_}, {t.AppFolder + u"text\\Hauptbausteine.Txt"_s}}));
+            t.fileDialogs.willSave(anyOf<QString>({{}, session_}));
         }
     }
 
-    /// What can happen while a command lets events in: the mouse moves, a tile is touched, a filter is
-    /// chosen.
+    /// What can happen while a work lets a hand in, or a box stands: anything, and now and then the end of
+    /// it.
     void meddle()
     {
-        if (meddling_ || below(40) != 0)
+        if (++rounds_ > patience)
+            cancel();
+        if (meddling_ || below(8) != 0)
             return;
         meddling_ = true;
-        const QPoint point = pointOnTile();
-        hand.press(point);
-        hand.drag(anyPoint());
-        if (below(2) == 0)
-            hand.optTypes->select(below(4));
-        hand.release(point);
+        switch (below(8)) {
+        case 0:
+            cancel();
+            break;
+        case 1:
+            key(Qt::Key_Escape);
+            break;
+        case 2:
+            QCoreApplication::processEvents();
+            break;
+        case 3:
+            comeFromOutside();
+            break;
+        default:
+            act();
+        }
         meddling_ = false;
     }
 
-    void dragTile()
+    void cancel()
     {
-        last = u"drag"_s;
-        hand.press(pointOnTile());
+        ++cancels_;
+        QTest::mouseClick(hand_->controls.Label4, Qt::LeftButton);
+    }
+
+    void pokeAtDialog()
+    {
+        if (QWidget *popup = QApplication::activePopupWidget())
+            popup->close();
+        auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+        if (dialog == nullptr)
+            return;
+        meddle();
+        below(10) == 0 ? void(hand_->form.close()) : dialog->reject();
+    }
+
+    /// One thing that comes from a hand or from outside. 0 if it may change the texts, otherwise the number
+    /// of its command or 1.
+    int act()
+    {
+        using P = RandomPlayer;
+        constexpr std::array actions{
+            &P::dragTile,       &P::dragTile,       &P::dragTile, &P::chooseFromMenu, &P::chooseFromMenu,
+            &P::chooseFromMenu, &P::chooseFromMenu, &P::click,    &P::pressKey,       &P::pressTool,
+            &P::pressTool,      &P::changeSetting,  &P::touch,    &P::comeFromOutside};
+        return (this->*actions.at(static_cast<std::size_t>(below(int(actions.size())))))();
+    }
+
+    /// What needs no hand: a second start, another size, another window, the end.
+    int comeFromOutside()
+    {
+        last += u" outside"_s;
+        QEvent activation(QEvent::ActivationChange);
+        switch (below(8)) {
+        case 0:
+            ++cancels_;
+            hand_->form.close();
+            break;
+        case 1:
+        case 2:
+            hand_->form.HiddenText_Change(anyOf<QString>({session_, u"/L fehlt.wlx"_s, {}}));
+            break;
+        case 3:
+            hand_->form.resize(windowSize - QSize(below(300), below(200)));
+            break;
+        default:
+            QCoreApplication::sendEvent(&hand_->form, &activation);
+        }
+        return 1;
+    }
+
+    int dragTile()
+    {
+        last += u" drag"_s;
+        const QPoint field = hand_->controls.Dropper1->mapTo(&hand_->form, QPoint(20, 10));
+        const QPoint end = below(3) == 0 ? field : anyPoint();
+        hand_->popup.choose = 0;
+        hand_->press(pointOnTile());
         for (int i = below(4); i > 0; --i)
-            hand.drag(anyPoint());
-        QPoint end = anyPoint();
-        const Dropper &field = *hand.controls.Dropper1;
-        if (below(3) == 0)
-            end = hand.controls.picCanvas->mapFromGlobal(field.mapToGlobal(field.rect().center()));
-        hand.drag(end);
+            hand_->drag(anyPoint());
+        hand_->drag(end);
         if (below(8) == 0)
-            QTest::keyClick(&hand.form, Qt::Key_Escape);
+            key(Qt::Key_Escape);
         if (below(8) == 0)
-            hand.press(end, Qt::RightButton);
-        hand.release(end);
+            hand_->press(end, Qt::RightButton);
+        hand_->release(end);
+        return 1;
     }
 
-    void chooseFromMenu()
+    int chooseFromMenu()
     {
-        const bool onTile = below(2) == 0;
-        hand.popup.choose = onTile ? anyOf({0, 104, 105, 106, 116, 118, 121, 123})
-                                   : ids_.at(below(static_cast<int>(ids_.size())));
-        last = u"menu %1"_s.arg(hand.popup.choose);
-        hand.click(onTile ? pointOnTile() : QPoint(below(windowSize.width()), 560), Qt::RightButton);
+        const bool onTile = below(3) == 0;
+        const int id = onTile ? anyOf({0, 104, 105, 106, 116, 118, 121, 123})
+                       : below(2) == 0
+                           ? anyOf({201, 213, 222, 223, 241, 241, 402, 1505, 1505, 1522, 1601, 1607})
+                           : ids_.at(below(static_cast<int>(ids_.size())));
+        hand_->popup.choose = id;
+        last += u" menu %1"_s.arg(id);
+        // No tile lies in the last row of pixels.
+        hand_->click(onTile ? pointOnTile() : QPoint(below(windowSize.width()), windowSize.height() - 1),
+                     Qt::RightButton);
+        return !onTile && std::ranges::find(keepTexts, id) != keepTexts.end() ? id : 0;
     }
 
-    void pressKey()
+    int click()
     {
-        const auto key = static_cast<Qt::Key>(Qt::Key_A + below(26));
-        last = u"key %1"_s.arg(key);
-        QTest::keyClick(&hand.form, key, Qt::ControlModifier);
-        QTest::keyClick(&hand.form, anyOf({Qt::Key_Escape, Qt::Key_F1, Qt::Key_Menu, Qt::Key_Tab}));
+        last += u" click"_s;
+        hand_->click(anyPoint(), anyOf({Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}), anyShift());
+        return 0;
     }
 
-    void pressButton()
+    void key(Qt::Key code, Qt::KeyboardModifiers modifiers = {})
     {
-        last = u"button"_s;
-        const int index = below(4);
-        if (below(3) == 0)
-            hand.controls.Option1[static_cast<std::size_t>(below(2))]->setChecked(true);
-        else if (below(2) == 0)
-            hand.optTypes->select(index);
-        else
-            hand.morphemeLists.OptType_MouseDown(index, anyOf({Qt::LeftButton, Qt::RightButton}));
-        hand.controls.Text1->setText(
-            anyOf<QString>({u""_s, u"-5"_s, u"abc"_s, u"7"_s, u"2.5"_s, u"99999"_s}));
+        cancels_ += code == Qt::Key_Escape ? 1 : 0;
+        QWidget *focus = hand_->form.focusWidget();
+        QTest::keyClick(focus != nullptr ? focus : &hand_->form, code, modifiers);
     }
 
-    void changeSetting()
+    int pressKey()
     {
-        const Setting box = anyOf({Setting::MoveableInFilter, Setting::ConfirmBeforeErase,
-                                   Setting::NoOverlapOnStart, Setting::LCaseOnShuffle,
-                                   Setting::SoundOnActions, Setting::GameSoundOnTimeOut, Setting::FillAffix});
-        hand.t.options.setBox(box, below(3));
-        hand.t.options.setText(Setting::ColumnsOnLineUp, anyOf<QString>({u"0"_s, u"1"_s, u"7"_s, u"-3"_s}));
-        hand.t.options.setText(Setting::NumAffixToFill, anyOf<QString>({u""_s, u"0"_s, u"2"_s}));
-        last = u"setting"_s;
+        const auto letter = static_cast<Qt::Key>(Qt::Key_A + below(26));
+        last += u" key %1"_s.arg(QChar(letter));
+        hand_->popup.choose = 0;
+        key(letter, Qt::ControlModifier);
+        key(anyOf({Qt::Key_Escape, Qt::Key_F1, Qt::Key_Menu, Qt::Key_Tab, Qt::Key_Return, Qt::Key_X}));
+        return letter == Qt::Key_B || letter == Qt::Key_D || letter == Qt::Key_F ? 1 : 0;
+    }
+
+    int pressTool()
+    {
+        const QList<PressButton *> tools = hand_->form.findChildren<PressButton *>();
+        PressButton *tool = tools.at(below(static_cast<int>(tools.size())));
+        last += u' ' + tool->objectName();
+        hand_->controls.Text1->setText(
+            anyOf<QString>({u""_s, u"-5"_s, u"abc"_s, u"99999"_s, u"25"_s, u"40.5"_s}));
+        if (tool->isVisible())
+            hand_->tool(tool, anyOf({Qt::LeftButton, Qt::LeftButton, Qt::RightButton}), anyShift());
+        return 0;
+    }
+
+    int changeSetting()
+    {
+        last += u" setting"_s;
+        Options &options = hand_->t.options;
+        options.setBox(anyOf({Setting::MoveableInFilter, Setting::ConfirmBeforeErase,
+                              Setting::NoOverlapOnStart, Setting::LCaseOnShuffle, Setting::SoundOnActions,
+                              Setting::GameSoundOnTimeOut, Setting::FillAffix}),
+                       below(3));
+        options.setText(Setting::ColumnsOnLineUp, anyOf<QString>({u"0"_s, u"1"_s, u"7"_s, u"-3"_s}));
+        options.setText(Setting::NumAffixToFill, anyOf<QString>({u""_s, u"0"_s, u"2"_s}));
+        return 1;
     }
 
     /// A finger rests, and becomes the right button as its timer falls due, or lets go at once.
-    void touch()
+    int touch()
     {
-        last = u"touch"_s;
-        hand.popup.choose = anyOf({0, 106, 216});
+        last += u" touch"_s;
+        hand_->popup.choose = anyOf({0, 106, 216});
         const QPoint point = pointOnTile();
-        QWidget *board = hand.controls.picCanvas;
+        QWidget *board = hand_->controls.picCanvas;
+        if (!board->rect().contains(point))
+            return 0;
         QTest::touchEvent(board, finger_.get()).press(1, point);
         if (below(2) == 0)
             QCoreApplication::processEvents();
         if (below(2) == 0)
             QTest::touchEvent(board, finger_.get()).move(1, anyPoint());
         QTest::touchEvent(board, finger_.get()).release(1, point);
-    }
-
-    void changeMode()
-    {
-        last = u"mode"_s;
-        Modes &modes = hand.modes;
-        modes.MoveAllowed = below(6) != 0;
-        modes.GameActive = below(4) == 0;
-        modes.RetypeActive = !modes.GameActive && below(3) == 0;
-        modes.CanUndo = below(2) == 0;
-        modes.StopPlacing = below(5) == 0;
-        hand.menus.CreateMenus();
+        return 0;
     }
 
     std::mt19937 random_;
-    std::unique_ptr<QPointingDevice> finger_;
+    std::unique_ptr<TestHand> hand_;
+    std::unique_ptr<QPointingDevice> finger_{QTest::createTouchDevice()};
+    QTimer modal_;
     QList<int> ids_;
+    QString session_;
     bool meddling_ = false;
+    int rounds_ = 0;
+    int cancels_ = 0;
+    qsizetype askedAtClosing_ = 0;
 };
 
 } // namespace
@@ -276,28 +363,13 @@ private slots:
     {
         QFETCH(unsigned, seed);
         RandomPlayer player(seed);
-        constexpr int steps = 1000;
-        constexpr int warmUp = 100; // widgets that are made when first needed
-        QStringList objects;
+        constexpr int steps = 600;
         for (int i = 0; i < steps; ++i) {
-            player.step();
-            if (i == warmUp)
-                objects = player.objects();
-            // A stop that was asked for while a tile was held keeps it until the next press.
-            player.hand.modes.MoveAllowed = true;
-            if (player.hand.modes.StopPlacing)
-                player.hand.click({2, 2}, Qt::LeftButton);
-            const QString stuck = player.stuck();
-            QVERIFY2(stuck.isEmpty(), qPrintable(u"step %1, %2: %3"_s.arg(i).arg(player.last, stuck)));
+            const QString wrong = player.step();
+            if (!wrong.isEmpty() || QTest::currentTestFailed())
+                QFAIL(qPrintable(u"step %1,%2: %3"_s.arg(i).arg(player.last, wrong)));
         }
-        QCOMPARE(player.hand.t.boxes.unexpected, 0);
-        player.hand.canvas->CanvasRedrawAll();
-        QVERIFY(player.hand.countersEqualTiles());
-        QStringList now = player.objects();
-        for (const QString &object : objects)
-            now.removeOne(object);
-        QCOMPARE(now.join(u' '), QString());       // nothing was made and left behind
-        QVERIFY(player.hand.commits > steps / 20); // it did play
+        QVERIFY(player.commits > steps / 20 && player.houses > 5); // it did play
     }
 };
 

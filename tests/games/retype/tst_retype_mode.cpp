@@ -3,10 +3,9 @@
 #include "games/retype/retype_desk.h"
 #include "support/columns.h"
 #include "support/registry.h"
-#include "widgets/click_label.h"
 #include "widgets/gradient.h"
 
-#include <QLineEdit>
+#include <QSignalSpy>
 #include <QtTest>
 
 namespace {
@@ -23,6 +22,17 @@ QString firstOther(const QList<QWidget *> &controls, bool (*isRight)(const QWidg
 
 bool isHidden(const QWidget &control) { return control.isHidden(); }
 bool isDisabled(const QWidget &control) { return !control.isEnabled(); }
+
+/// True if the picture of the widget holds a point of that colour.
+bool shows(QWidget *widget, QRgb colour)
+{
+    const QImage picture = widget->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            if (picture.pixel(x, y) == colour)
+                return true;
+    return false;
+}
 
 } // namespace
 
@@ -41,9 +51,10 @@ private slots:
             ++looked;
             const MainControls &c = desk.controls;
             QCOMPARE(desk.caption(), u"2 Wörter vorbereitet"_s);
-            QVERIFY(c.Label4->isVisible() && c.GameProgress->isVisible());
+            QVERIFY(c.Label4->isVisible() && c.GameProgress->isVisible() && c.Check4->isEnabled());
             QVERIFY(QGuiApplication::overrideCursor() != nullptr);
-            QCOMPARE(firstOther({c.Check2, c.Command2, c.Command5, c.Dropper1, c.Check3, c.Option1[1]},
+            QCOMPARE(firstOther({c.Check2, c.Command2, c.Command3, c.Command4, c.Command5, c.Dropper1,
+                                 c.Check3, c.Option1[1]},
                                 isDisabled),
                      QString());
         });
@@ -52,20 +63,16 @@ private slots:
         QVERIFY(desk.controls.Command2->isEnabled() && desk.controls.Command5->isEnabled());
     }
 
-    void runsFromTheWordList()
+    void theBoardIsSwitchedToTyping()
     {
         Desk desk;
-        desk.form.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&desk.form));
-        desk.fillList();
-        desk.left();
-        QVERIFY(desk.modes.RetypeActive && desk.modes.RetypeUserWords);
-        QCOMPARE(desk.menusBuilt, 1);
-        QCOMPARE(desk.shown(), (QStringList{u"Haus"_s, u"laufen"_s, u"Maus"_s}));
-        QCOMPARE(desk.caption(), u"3 Wörter zum Abschreiben"_s);
-        QCOMPARE(desk.controls.GameProgress->maximum(), 3);
-
         const MainControls &c = desk.controls;
+        desk.fillList();
+        desk.lay(wortelKind, 300, 100, u"halt"_s);
+        desk.tool(c.Option1[0]);
+        desk.left();
+        QCOMPARE(c.GameProgress->maximum(), 3);
         QVERIFY(c.Scroller->isVisible() && c.Scroller->isEnabled() && c.Scroller->isTimerOn());
         QVERIFY(c.Dropper1->isEnabled() && c.Dropper1->isVisible() && c.Dropper1->isActiveControl());
         QCOMPARE(c.Check4->toolTip(), u"Abschreiben abbrechen"_s);
@@ -74,21 +81,66 @@ private slots:
                              c.CorrectWordList},
                             isHidden),
                  QString());
-        QCOMPARE(firstOther({c.Check3, c.Option2[0], c.Option2[1], c.Option2[2], c.ChkVokal[0], c.ChkVokal[1],
-                             c.Check1, c.Check2, c.Label3, c.Label6, c.Command3, c.Command4, c.Text1,
-                             c.Option1[0]},
-                            isDisabled),
-                 QString());
+        desk.press({305, 105}); // no tile is dragged to the field
+        QVERIFY(c.Option1[1]->isChecked() && desk.r.pointer.isHolding() && !desk.r.pointer.isDragging());
+        desk.release({305, 105});
 
         desk.type(u"Laus"_s);
         QCOMPARE(desk.shown().size(), 3);
         desk.type(u"laufen"_s);
-        QCOMPARE(desk.reports.titles, (QStringList{u"Wort nicht gefunden"_s, u"Richtig !"_s}));
-        QCOMPARE(desk.shown(), (QStringList{u"Haus"_s, u"Maus"_s}));
-        QCOMPARE(desk.caption(), u"2 Wörter übrig zum Abschreiben"_s);
+        QCOMPARE(desk.reports, (QStringList{u"Wort nicht gefunden"_s, u"Richtig !"_s}));
         QVERIFY2(c.Scroller->isTimerOn() && c.Scroller->isEnabled(), "the words that are left run on");
         QCOMPARE(c.Dropper1->Caption(), QString());
-        QVERIFY(desk.test.ok());
+        // All of this rests to the end, also after a report has gone.
+        QCOMPARE(firstOther({c.Check3, c.Option2[0], c.Option2[1], c.Option2[2], c.ChkVokal[0], c.ChkVokal[1],
+                             c.Command3, c.Command4, c.Option1[0]},
+                            isDisabled),
+                 QString());
+        QVERIFY(desk.t.ok());
+    }
+
+    void sources_data()
+    {
+        // strip: nothing: what the generator made; left: when the first word was copied
+        columns<QString, QStringList, QString, QString, bool>("way", "strip", "caption", "left", "red");
+        QTest::newRow("word list") << u"words"_s << QStringList{u"Haus"_s, u"laufen"_s, u"Maus"_s}
+                                   << u"3 Wörter zum Abschreiben"_s << u"2 Wörter übrig zum Abschreiben"_s
+                                   << false;
+        QTest::newRow("board") << u"board"_s << QStringList{u"belaufen"_s, u"verlaufen"_s}
+                               << u"2 Wörter zum Abschreiben"_s << u"1 Wörter übrig zum Abschreiben"_s
+                               << false;
+        QTest::newRow("nonsense") << u"nonsense"_s << QStringList() << u"2 Unsinnswörter zum Abschreiben"_s
+                                  << u"1 Wörter übrig zum Abschreiben"_s << true;
+        QTest::newRow("short") << u"short"_s << QStringList{u"bild"_s, u"hand"_s}
+                               << u"Noch 4 Wortele mit kurzem Vokal"_s << u"3 Wortele mit kurzem Vokal"_s
+                               << false;
+        QTest::newRow("long") << u"long"_s << QStringList{u"bad"_s, u"tag"_s}
+                              << u"Noch 4 Wortele mit langem Vokal"_s << u"3 Wortele mit langem Vokal"_s
+                              << false;
+    }
+    void sources()
+    {
+        QFETCH(QString, way);
+        QFETCH(QStringList, strip);
+        QFETCH(bool, red);
+        Desk desk;
+        desk.start(way);
+        QCOMPARE(desk.shown(), strip.isEmpty() ? desk.lists.PseudoWordList.rows() : strip);
+        QTEST(desk.caption(), "caption");
+        const auto redLetters = [&] {
+            desk.controls.Dropper1->setCaption(u"M"_s);
+            while (desk.controls.Scroller->Offset() < 50)
+                desk.controls.Scroller->tick();
+            return shows(desk.controls.Scroller, 0xFFFF0000) && shows(desk.controls.Dropper1, 0xFFFF0000);
+        };
+        QCOMPARE(redLetters(), red);
+        desk.type(desk.shown().first());
+        QTEST(desk.caption(), "left");
+        desk.left();
+        for (PressButton *box : desk.controls.ChkVokal)
+            box->setChecked(false);
+        desk.start(u"words"_s);
+        QVERIFY(desk.play.RetypeUserWords() && !redLetters());
     }
 
     void copiedWordsLeave_data()
@@ -107,7 +159,7 @@ private slots:
         QFETCH(QStringList, words);
         QFETCH(QStringList, typed);
         Desk desk;
-        desk.test.options.setBox(Setting::CaseCheck, 0);
+        desk.t.options.setBox(Setting::CaseCheck, 0);
         desk.lists.CorrectWordList.addAll(words);
         desk.left();
         for (const QString &word : typed)
@@ -115,35 +167,15 @@ private slots:
         QTEST(desk.shown(), "left");
     }
 
-    void aChildCopiesAllWords()
-    {
-        Desk desk;
-        desk.form.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&desk.form));
-        connect(desk.controls.Dropper1, &Dropper::EnterPress, &desk.check, &WordCheck::Dropper1_EnterPress);
-        desk.fillList();
-        desk.test.boxes.willBeRead();
-        QTest::mouseClick(desk.controls.Check4, Qt::LeftButton);
-        // The wrong word is selected whole, so that the next key replaces it.
-        for (const QString &word : {u"Hause"_s, u"Haus"_s, u"Maus"_s, u"laufen"_s}) {
-            QVERIFY(desk.modes.RetypeActive);
-            QTest::keyClicks(QApplication::focusWidget(), word);
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-        }
-        QCOMPARE(desk.reports.titles.size(), 4);
-        QVERIFY(!desk.modes.RetypeActive);
-        QVERIFY(desk.test.ok());
-    }
-
     void praises_data()
     {
         columns<QString, QString, QString, QString>("mode", "copied", "style", "caption");
         const QString words = u"0 Wörter übrig zum Abschreiben"_s;
-        QTest::newRow("words") << u"USERWORDS"_s << u"alle Wörter"_s << u"SMILEY"_s << words;
-        QTest::newRow("nonsense") << u"PSEUDOWORDSFROMSCREEN"_s << u"alle Wörter"_s << u"SMILEY"_s << words;
-        QTest::newRow("short") << u"KURZVOKAL"_s << u"alle Wortele mit kurzem Vokal"_s << QString()
+        QTest::newRow("words") << u"words"_s << u"alle Wörter"_s << u"SMILEY"_s << words;
+        QTest::newRow("nonsense") << u"nonsense"_s << u"alle Wörter"_s << u"SMILEY"_s << words;
+        QTest::newRow("short") << u"short"_s << u"alle Wortele mit kurzem Vokal"_s << QString()
                                << u"0 Wortele mit kurzem Vokal"_s;
-        QTest::newRow("long") << u"LANGVOKAL"_s << u"alle Wortele mit langem Vokal"_s << QString()
+        QTest::newRow("long") << u"long"_s << u"alle Wortele mit langem Vokal"_s << QString()
                               << u"0 Wortele mit langem Vokal"_s;
     }
     void praises()
@@ -151,32 +183,25 @@ private slots:
         QFETCH(QString, mode);
         QFETCH(QString, copied);
         Desk desk;
-        if (mode == u"USERWORDS"_s)
-            desk.fillList();
-        else if (mode == u"PSEUDOWORDSFROMSCREEN"_s)
-            desk.layTiles();
-        else
-            desk.fillVowels();
-        desk.controls.ChkVokal[0]->setChecked(mode == u"KURZVOKAL"_s);
-        desk.controls.ChkVokal[1]->setChecked(mode == u"LANGVOKAL"_s);
-        mode == u"PSEUDOWORDSFROMSCREEN"_s ? desk.nonsense() : desk.left();
-        QVERIFY(desk.modes.RetypeActive);
-        desk.test.boxes.willBeRead();
-        desk.test.boxes.whileOpen = [&](const Question &) {
+        desk.start(mode);
+        QVERIFY(desk.play.RetypeActive());
+        desk.t.boxes.willBeRead();
+        desk.t.boxes.whileOpen = [&](const Question &) {
             QTEST(desk.caption(), "caption");
             QVERIFY(desk.controls.Scroller->isHidden());
         };
+        desk.t.options.setBox(Setting::UseSounds, 0);
+        desk.t.sound.resources.clear();
         desk.copyAll();
-        QVERIFY(!desk.modes.RetypeActive);
-        QCOMPARE(desk.test.boxes.asked.size(), 1);
-        QCOMPARE(desk.test.boxes.asked.first().text,
-                 u"Prima !\nDu hast jetzt "_s + copied + u" richtig abgeschrieben !"_s);
-        QTEST(desk.test.boxes.asked.first().style, "style");
-        QCOMPARE(desk.test.boxes.asked.first().title, u"Abschreiben: Fertig"_s);
-        QCOMPARE(desk.test.sound.resources, QList<int>{103});
+        QVERIFY(!desk.play.RetypeActive());
+        QCOMPARE(desk.t.boxes.asked.size(), 1);
+        QCOMPARE(desk.lastBox(), u"Prima !\nDu hast jetzt "_s + copied + u" richtig abgeschrieben !"_s);
+        QTEST(desk.t.boxes.asked.first().style, "style");
+        QCOMPARE(desk.t.boxes.asked.first().title, u"Abschreiben: Fertig"_s);
+        QCOMPARE(desk.t.sound.resources, QList<int>{103});
         QVERIFY(!desk.controls.ChkVokal[0]->isChecked() && !desk.controls.ChkVokal[1]->isChecked());
         QVERIFY(desk.lists.PseudoWordList.isEmpty());
-        QVERIFY(desk.test.ok());
+        QVERIFY(desk.t.ok());
     }
 
     void keepsTheWords_data()
@@ -192,9 +217,9 @@ private slots:
         QFETCH(int, answer);
         Desk desk;
         desk.fillList();
-        desk.test.options.setBox(Setting::ShowCorrectListAfterReType, option);
+        desk.t.options.setBox(Setting::ShowCorrectListAfterReType, option);
         desk.left();
-        desk.test.boxes.willBeRead(answer);
+        desk.t.boxes.willBeRead(answer);
         desk.copyAll();
         QCOMPARE(desk.lists.CorrectWordList.rows(),
                  option == 1 ? (QStringList{u"Haus"_s, u"laufen"_s, u"Maus"_s}) : QStringList{});
@@ -205,148 +230,65 @@ private slots:
         desk.lists.CorrectWordList.clear();
         desk.lists.CorrectWordList.add(u"maus"_s);
         desk.left();
-        QCOMPARE(desk.retype.KeptWords(), option == 1 ? QStringList{u"Maus"_s} : QStringList{});
+        QCOMPARE(desk.r.retype.KeptWords(), option == 1 ? QStringList{u"Maus"_s} : QStringList{});
     }
 
-    void vowelModes()
+    void aCopiedStemLeavesTheBoard()
     {
         Desk desk;
-        desk.fillVowels();
-        desk.tiles.CanvasDrawWortel(10, 50, u"Bild"_s, colours::wortelBack, colours::wortelText);
-        desk.tiles.CanvasDrawWortel(90, 50, u"hand"_s, colours::wortelBack, colours::wortelText);
-        desk.controls.OptType[0]->setText(u"2"_s);
-        desk.controls.ChkVokal[0]->setChecked(true);
+        desk.lay(wortelKind, 10, 50, u"Bild"_s);
+        desk.lay(wortelKind, 90, 50, u"hand"_s);
+        desk.tool(desk.controls.ChkVokal[0]);
         desk.right();
-        QVERIFY2(!desk.modes.RetypeActive, "the right button knows no vowels");
+        QVERIFY2(!desk.play.RetypeActive(), "the right button knows no vowels");
+        desk.fillVowels();
         desk.left();
-        QVERIFY(desk.modes.KurzVokalMode && desk.modes.RetypeUserWords);
-        QCOMPARE(desk.shown(), (QStringList{u"bild"_s, u"hand"_s}));
-        QCOMPARE(desk.caption(), u"Noch 4 Wortele mit kurzem Vokal"_s);
         QVERIFY(desk.controls.Text1->isVisible() && desk.controls.Command6->isVisible());
-
         desk.type(u"tag"_s);
         QCOMPARE(desk.shown().size(), 2);
         desk.type(u"bild"_s);
-        QCOMPARE(desk.shown(), QStringList{u"hand"_s});
-        QCOMPARE(desk.caption(), u"3 Wortele mit kurzem Vokal"_s);
-        QCOMPARE(desk.tiles.count(), 1);
-        QCOMPARE(desk.tiles.tiles().front()->txt, u"hand"_s);
-        QCOMPARE(desk.controls.OptType[0]->text(), u"1"_s);
+        QCOMPARE(desk.described(), QStringList{u"90,50 hand"_s});
+        QCOMPARE(desk.counters(), (QStringList{u"1"_s, u"0"_s, u"0"_s, u"1"_s}));
         desk.left();
         QVERIFY2(desk.controls.ChkVokal[0]->isChecked(), "the vowel board stays when the mode is stopped");
-    }
-
-    void wordsFromTheBoard()
-    {
-        Desk desk;
-        desk.layTiles();
-        bool panelHidden = false;
-        desk.atYield(2, [&] { panelHidden = desk.controls.Picture3->isHidden(); });
-        desk.right();
-        QVERIFY(panelHidden);
-        QVERIFY(desk.modes.RetypeRandomWords && desk.modes.RetypeChosenWords && !desk.modes.RetypeUserWords);
-        QCOMPARE(desk.shown(), (QStringList{u"belaufen"_s, u"verlaufen"_s}));
-        QCOMPARE(desk.caption(), u"2 Wörter zum Abschreiben"_s);
-        QVERIFY2(desk.controls.Check4->isVisible(), "the mode can be left with its button");
-    }
-
-    void nonsenseIsRed()
-    {
-        Desk desk;
-        desk.layTiles();
-        desk.lists.CorrectWordList.add(u"Haus"_s);
-        desk.nonsense();
-        QVERIFY(desk.modes.RetypePseudoWords && !desk.modes.RetypeChosenWords);
-        QCOMPARE(desk.shown(), desk.lists.PseudoWordList.rows());
-        QCOMPARE(desk.caption(), u"2 Unsinnswörter zum Abschreiben"_s);
-        QCOMPARE(desk.controls.Scroller->ForeColor(), QColor(Qt::red));
-        desk.type(desk.shown().first());
-        QCOMPARE(desk.caption(), u"1 Wörter übrig zum Abschreiben"_s);
-        desk.left();
-        QCOMPARE(desk.controls.Scroller->ForeColor(), QColor(Qt::black));
-        QCOMPARE(desk.lists.CorrectWordList.rows(), QStringList{u"Haus"_s});
-    }
-
-    void boardsWithoutWordsAreRefused()
-    {
-        Desk desk;
-        desk.test.boxes.willBeRead();
-        desk.right();
-        QCOMPARE(desk.test.boxes.asked.last().text, u"Es sind keine Wortele auf dem Bildschirm"_s);
-        desk.layTiles();
-        desk.lists.CurrentWortelFile = u"text\\ig oder lich.txt"_s;
-        desk.test.boxes.willBeRead();
-        desk.nonsense();
-        QCOMPARE(desk.test.boxes.asked.last().text, u"Zu dieser Wortel-Liste gibt es keine Unsinnswörter"_s);
-        QVERIFY(!desk.modes.RetypeActive && !desk.modes.RetypePseudoWords);
-    }
-
-    void menuEntriesStartAndStop()
-    {
-        Desk desk;
-        desk.layTiles();
-        for (const int id : {1600, 1601, 1607}) {
-            if (desk.lists.CorrectWordList.isEmpty())
-                desk.fillList();
-            desk.retype.command(id);
-            QVERIFY(desk.modes.RetypeActive);
-            desk.retype.command(id);
-            QVERIFY(!desk.modes.RetypeActive);
-        }
     }
 
     void menuEntryForTheChooser()
     {
         Desk desk;
-        QSignalSpy wanted(&desk.retype, &RetypeMode::chooserWanted);
-        desk.dictionary.toggle();
-        desk.modes.RetypeRandomWords = true;
-        desk.retype.command(1608);
-        QCOMPARE(wanted.size(), 1);
-        QCOMPARE(wanted.at(0),
+        QSignalSpy wanted(&desk.r.retype, &RetypeMode::chooserWanted);
+        desk.tool(desk.controls.Command3);
+        desk.t.boxes.willBeRead();
+        desk.run(command::From::MainMenu, 1608);
+        QCOMPARE(wanted.value(0),
                  (QVariantList{u"Abschreiben: Alle Wörter"_s, u"Abschreiben: Ausgewählte Wörter"_s}));
-        QVERIFY(!desk.dictionary.isOpen());
-        QVERIFY(desk.modes.RetypeChosenWords && !desk.modes.RetypeRandomWords && !desk.modes.RetypeActive);
+        QVERIFY(!desk.r.dictionary.isOpen() && !desk.play.RetypeActive());
 
         desk.fillList();
-        desk.retype.RetypeWithChoosenWortel();
-        QVERIFY(desk.modes.RetypeActive && desk.modes.RetypeChosenWords && !desk.modes.RetypeUserWords);
-        desk.retype.command(1608);
-        QVERIFY(!desk.modes.RetypeActive && !desk.modes.RetypeChosenWords);
+        desk.r.retype.RetypeWithChoosenWortel();
+        QVERIFY(desk.play.RetypeActive() && desk.play.RetypeChosenWords() && !desk.play.RetypeUserWords());
+        desk.run(command::From::MainMenu, 1608);
+        QVERIFY(!desk.play.RetypeActive() && !desk.play.RetypeChosenWords());
 
-        desk.modes.KurzVokalMode = true;
-        desk.retype.command(1608);
+        desk.play.setCheckedVowels(Vowels::Short);
+        desk.run(command::From::MainMenu, 1608);
         QCOMPARE(wanted.size(), 1);
     }
 
-    void restsInAGameAndUnderAReport_data()
+    void refusals_data()
     {
-        QTest::addColumn<bool>("game");
-        QTest::newRow("game") << true;
-        QTest::newRow("report") << false;
+        columns<QString, int, QString>("way", "count", "notice");
+        QTest::newRow("none") << u"list"_s << 0 << u"Es gibt keine Wörter zum Abschreiben"_s;
+        QTest::newRow("1023") << u"list"_s << 1023 << QString();
+        QTest::newRow("1024") << u"list"_s << 1024 << u"Es können max. 1024 Wörter benutzt werden"_s;
+        QTest::newRow("no tiles") << u"board"_s << 0 << u"Es sind keine Wortele auf dem Bildschirm"_s;
+        QTest::newRow("no nonsense") << u"nonsense"_s << 0
+                                     << u"Zu dieser Wortel-Liste gibt es keine Unsinnswörter"_s;
+        QTest::newRow("game") << u"game"_s << 0 << QString();
     }
-    void restsInAGameAndUnderAReport()
+    void refusals()
     {
-        QFETCH(bool, game);
-        Desk desk;
-        desk.fillList();
-        desk.layTiles();
-        (game ? desk.modes.GameActive : desk.modes.CheckButtonsAct) = game;
-        for (const int id : {1600, 1601, 1607})
-            desk.retype.command(id);
-        QVERIFY(!desk.modes.RetypeActive);
-        QCOMPARE(desk.menusBuilt, 0);
-    }
-
-    void limits_data()
-    {
-        columns<int, QString>("count", "notice");
-        QTest::newRow("none") << 0 << u"Es gibt keine Wörter zum Abschreiben"_s;
-        QTest::newRow("1023") << 1023 << QString();
-        QTest::newRow("1024") << 1024 << u"Es können max. 1024 Wörter benutzt werden"_s;
-    }
-    void limits()
-    {
+        QFETCH(QString, way);
         QFETCH(int, count);
         QFETCH(QString, notice);
         Desk desk;
@@ -355,45 +297,167 @@ private slots:
             words << u"wort%1"_s.arg(word);
         desk.lists.LexiconList.addAll(words);
         desk.lists.CorrectWordList.addAll(words);
-        desk.dictionary.toggle();
+        desk.tool(desk.controls.Command3);
         if (!notice.isEmpty())
-            desk.test.boxes.willBeRead();
-        desk.retype.mnuStartRetypeFromList();
-        QVERIFY(!desk.dictionary.isOpen());
-        QCOMPARE(desk.modes.RetypeActive, notice.isEmpty());
-        QCOMPARE(desk.controls.Scroller->ListCount(), notice.isEmpty() ? count : 0);
-        if (!notice.isEmpty())
-            QCOMPARE(desk.test.boxes.asked.first().text, notice);
-        QVERIFY(desk.test.ok());
+            desk.t.boxes.willBeRead();
+        if (way == u"list"_s) {
+            desk.form.findChild<QAction *>(u"mnuStartRetypeFromList"_s)->trigger();
+            QVERIFY(!desk.r.dictionary.isOpen());
+        } else if (way == u"board"_s) {
+            desk.right();
+        } else if (way == u"game"_s) {
+            desk.play.startGame(PlayState::Phase::Playing, Vowels::None);
+            desk.layTiles();
+            desk.fillList();
+            desk.left();
+            desk.right();
+            desk.run(command::From::MainMenu, 1600);
+        } else {
+            desk.layTiles();
+            desk.lists.CurrentWortelFile = u"text\\ig oder lich.txt"_s;
+            desk.nonsense();
+        }
+        QCOMPARE(desk.play.RetypeActive(), count == 1023);
+        QCOMPARE(desk.controls.Scroller->ListCount(), count == 1023 ? count : 0);
+        QCOMPARE(desk.lastBox(), notice);
+        QVERIFY(desk.t.ok());
     }
 
-    void oddStripsAreCopied_data()
+    void theListEditedInARun_data()
     {
-        columns<QString, int, int>("separator", "interval", "length");
-        QTest::newRow("500 letters") << QString(36, u' ') << 125 << 500;
-        QTest::newRow("10,000 blanks") << QString(10000, u' ') << 125 << 5;
-        QTest::newRow("interval 0") << QString(36, u' ') << 0 << 5;
+        columns<bool, QString, QStringList>("nonsense", "entry",
+                                            "strip"); // an empty strip: the run has ended
+        const QStringList all{u"Haus"_s, u"laufen"_s, u"Maus"_s};
+        const QStringList two{u"laufen"_s, u"maus"_s};
+        QTest::newRow("a word more") << false << u"mnuAddWord"_s
+                                     << QStringList{u"belaufen"_s, u"haus"_s, u"laufen"_s, u"maus"_s};
+        QTest::newRow("a word less") << false << u"mnuDeleteWord"_s << two;
+        QTest::newRow("emptied") << false << u"mnuDeleteAllWords"_s << QStringList();
+        QTest::newRow("a word more, nonsense") << true << u"mnuAddWord"_s << QStringList(u"-"_s);
+        QTest::newRow("emptied, nonsense") << true << u"mnuDeleteAllWords"_s << QStringList(u"-"_s);
     }
-    void oddStripsAreCopied()
+    void theListEditedInARun()
     {
-        QFETCH(QString, separator);
-        QFETCH(int, interval);
-        QFETCH(int, length);
+        QFETCH(bool, nonsense);
+        QFETCH(QString, entry);
+        QFETCH(QStringList, strip);
         Desk desk;
-        desk.controls.Scroller->setSeperator(separator);
-        desk.controls.Scroller->setScrollInterval(interval);
-        for (const QChar letter : {u'a', u'b'}) {
-            desk.lists.LexiconList.add(QString(length, letter));
-            desk.lists.CorrectWordList.add(QString(length, letter));
-        }
+        desk.fillList();
+        if (nonsense)
+            desk.layTiles();
+        nonsense ? desk.nonsense() : desk.left();
+        const QStringList before = desk.shown();
+        desk.controls.CorrectWordList->setListIndex(0);
+        if (entry == u"mnuAddWord"_s)
+            desk.t.boxes.willTypeWord(u"belaufen"_s);
+        if (entry == u"mnuDeleteAllWords"_s)
+            desk.t.boxes.willPress(0);
+        desk.form.findChild<QAction *>(entry)->trigger();
+        QCOMPARE(desk.shown(), nonsense ? before : strip.isEmpty() ? before : strip);
+        QCOMPARE(desk.play.RetypeActive(), !strip.isEmpty());
+        QCOMPARE(desk.trouble(), QString());
+        QVERIFY2(desk.t.ok(), "there is no praise");
+    }
+
+    void otherListsEndTheRun_data()
+    {
+        columns<QString, int>("way", "atYield");
+        QTest::newRow("menu") << u"201"_s << 0;
+        QTest::newRow("session") << u"session"_s << 0;
+        QTest::newRow("session while words are prepared") << u"session"_s << 2;
+    }
+    void otherListsEndTheRun()
+    {
+        QFETCH(QString, way);
+        QFETCH(int, atYield);
+        Desk desk;
+        desk.fillList();
+        const QString list = desk.t.writeFile(u"text\\Wald.txt"_s, u"baum\r\n"_s);
+        desk.t.writeFile(u"facit\\Wald.lex"_s, u"Baum\r\n"_s);
+        const QString session = desk.t.writeFile(u"a.wlx"_s, u"[Name]\r\nLexiconInUse=Wald\r\n"_s);
+        if (atYield > 0)
+            desk.atYield(atYield, [&] { desk.form.HiddenText_Change(session); });
         desk.left();
-        for (int tick = 0; tick < 200; ++tick)
-            desk.controls.Scroller->tick();
-        QVERIFY(!desk.controls.Scroller->grab().isNull());
-        desk.test.boxes.willBeRead();
-        desk.copyAll();
-        QVERIFY(!desk.modes.RetypeActive);
-        QVERIFY(desk.test.ok());
+        QVERIFY(desk.play.RetypeActive());
+        if (way == u"201"_s) {
+            desk.t.fileDialogs.willOpen({list});
+            desk.run(command::From::MainMenu, 201);
+        } else if (atYield == 0) {
+            desk.form.HiddenText_Change(session);
+        }
+        TestHouse::settle();
+        QVERIFY(!desk.play.RetypeActive());
+        QCOMPARE(desk.lists.LexiconList.rows(), QStringList(u"Baum"_s));
+        QVERIFY(desk.controls.Scroller->isHidden());
+        QCOMPARE(desk.trouble(), QString());
+        QVERIFY(desk.t.ok());
+    }
+
+    /// Asked while words are prepared, wherever the focus is; not when nothing is, and not by another work.
+    void escapeAsks_data()
+    {
+        // answer: -1: not asked
+        columns<QString, QString, int, bool>("way", "focus", "answer", "cancelled");
+        QTest::newRow("word list") << u"words"_s << u"picCanvas"_s << 0 << true;
+        QTest::newRow("board") << u"board"_s << u"lblprefix"_s << 0 << true;
+        QTest::newRow("nonsense") << u"nonsense"_s << u"Text1"_s << 0 << true;
+        QTest::newRow("went on") << u"words"_s << u"lblprefix"_s << 1 << false;
+        QTest::newRow("by the option") << u"without"_s << u"lblprefix"_s << -1 << true;
+        QTest::newRow("nothing is prepared") << u"running"_s << u"picCanvas"_s << -1 << false;
+        QTest::newRow("another work") << u"work"_s << u"picCanvas"_s << -1 << true;
+    }
+    void escapeAsks()
+    {
+        QFETCH(QString, way);
+        QFETCH(QString, focus);
+        QFETCH(int, answer);
+        QFETCH(bool, cancelled);
+        Desk desk;
+        desk.layTiles();
+        desk.fillList();
+        desk.t.options.setText(Setting::NumReTypeWords, u"1000"_s);
+        desk.t.options.setText(Setting::NumPseudoReTypeWords, u"1000"_s);
+        desk.t.options.setBox(Setting::ConfirmBeforeErase, way == u"without"_s ? 0 : 1);
+        if (answer >= 0)
+            desk.t.boxes.willPress(answer);
+        desk.form.findChild<QWidget *>(focus)->setFocus();
+        const auto escape = [&] {
+            QWidget *to = desk.form.focusWidget();
+            QTest::keyClick(to != nullptr ? to : &desk.form, Qt::Key_Escape);
+        };
+        if (way == u"work"_s) {
+            const Work work(desk.t.ground);
+            escape();
+            QCOMPARE(work.isCancelled(), cancelled);
+            return;
+        }
+        if (way != u"running"_s)
+            desk.atYield(3, escape);
+        way == u"board"_s ? desk.right() : way == u"nonsense"_s ? desk.nonsense() : desk.left();
+        if (way == u"running"_s)
+            escape();
+        // The nonsense words that were made so far are used.
+        QCOMPARE(desk.play.RetypeActive(), !cancelled || way == u"nonsense"_s);
+        if (answer >= 0) {
+            QCOMPARE(desk.lastBox(), u"Es werden gerade noch einige Wörter vorbereitet...\n\n"
+                                     u"Willst du wirklich aufhören?"_s);
+            QCOMPARE(desk.t.boxes.asked.last().title + desk.t.boxes.asked.last().style,
+                     u"BestätigenCONFIRM"_s);
+        }
+        QVERIFY(desk.t.ok());
+    }
+
+    void theStripStandsWhereTheListWill()
+    {
+        Desk desk;
+        desk.t.options.setOption(Setting::ScrollerLeftDownPos);
+        desk.fillList();
+        desk.left();
+        const QPoint foot = desk.controls.Scroller->geometry().bottomLeft();
+        desk.left();
+        desk.tool(desk.controls.Command4);
+        QCOMPARE(foot, QPoint(desk.controls.CorrectWordList->x(), desk.controls.Picture1->y() - 1));
+        QVERIFY(foot.x() > 0);
     }
 };
 

@@ -1,12 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "games/retype/strip_control.h"
 #include "support/columns.h"
 #include "support/registry.h"
-#include "support/test_ground.h"
-#include "widgets/main_controls.h"
-#include "widgets/msg_scroller.h"
-#include "widgets/store_list.h"
+#include "support/test_house.h"
 
 #include <QtTest>
 
@@ -14,20 +10,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A form with its controls and the strip's handling.
-struct Desk
+/// The house with a running strip.
+struct Desk : TestHouse
 {
-    TestGround test;
-    QWidget form;
-    MainControls controls = makeMainControls(&form);
-    StripControl control{test.ground, controls};
+    TestGround &test = t;
+    StripControl &control = r.strip;
     MsgScroller &strip = *controls.Scroller;
 
     explicit Desk(int width = 853, int height = 480)
-    {
-        form.resize(width, height);
-        layOutMainControls(controls, width, height);
-    }
+        : TestHouse(1, {width, height})
+    {}
 
     void run()
     {
@@ -66,8 +58,7 @@ private slots:
 void StripControlTest::places_data()
 {
     columns<int, QPoint>("option", "place");
-    // The list stands 35 pixels from the left, the band is 88 high, the strip 250 by 30.
-    QTest::newRow("lower left") << static_cast<int>(Setting::ScrollerLeftDownPos) << QPoint(35, 582);
+    // The band is 88 high, the strip 250 by 30.
     QTest::newRow("middle") << static_cast<int>(Setting::ScrollerMiddlePos) << QPoint(375, 247);
     QTest::newRow("upper left") << static_cast<int>(Setting::ScrollerLeftUpPos) << QPoint(0, 0);
 }
@@ -78,7 +69,6 @@ void StripControlTest::places()
     Desk desk(1000, 700);
     desk.test.options.setOption(static_cast<Setting>(option));
     desk.strip.resize(250, 30);
-    desk.controls.CorrectWordList->move(35, 200);
     desk.control.PlaceTheMsgScroller();
     QTEST(desk.strip.pos(), "place");
 }

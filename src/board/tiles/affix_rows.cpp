@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "shell/affix_rows.h"
+#include "board/tiles/affix_rows.h"
 
 #include <array>
 

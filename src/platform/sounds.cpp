@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/sounds.h"
+
+#include "platform/ground.h"
+#include "platform/options.h"
+#include "platform/sound.h"
+
+namespace {
+
+struct SoundRow
+{
+    SoundId id;
+    Setting gate;
+};
+
+constexpr SoundRow sounds[] = {
+    {SoundId::WordRight, Setting::UseSounds},
+    {SoundId::WordNotFound, Setting::UseSounds},
+    {SoundId::KeyTyped, Setting::UseSounds},
+    {SoundId::AllCopied, Setting::SoundOnAllReTyped},
+    {SoundId::Capitals, Setting::SoundOnAllReTyped},
+    {SoundId::EntryCleared, Setting::GameSoundOnTimeOut},
+    {SoundId::TileDropped, Setting::GameSoundOnTimeOut},
+    {SoundId::TilesShuffled, Setting::SoundOnActions},
+    {SoundId::TipShown, Setting::SoundOnActions},
+    {SoundId::Welcome, Setting::SoundOnActions},
+    {SoundId::GoodBye, Setting::SoundOnActions},
+    {SoundId::TilesAdded, Setting::SoundOnActions},
+    {SoundId::ListOpened, Setting::SoundOnActions},
+    {SoundId::TilesErased, Setting::SoundOnActions},
+    {SoundId::TileInserted, Setting::SoundOnActions},
+    {SoundId::WrongVowels, Setting::SoundOnActions},
+};
+
+} // namespace
+
+bool playSound(const Ground &ground, SoundId id)
+{
+    for (const SoundRow &row : sounds) {
+        if (row.id != id || !ground.options.isOn(row.gate))
+            continue;
+        ground.sound.PlayResourceSound(static_cast<int>(id));
+        return true;
+    }
+    return false;
+}

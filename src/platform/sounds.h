@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+
+struct Ground;
+
+/// The sounds of the program, by the numbers of their resources.
+enum class SoundId : std::uint8_t {
+    None = 0,
+    WordRight = 101,
+    WordNotFound = 102,
+    AllCopied = 103,
+    EntryCleared = 105,
+    KeyTyped = 106,
+    TileDropped = 107,
+    TilesShuffled = 109,
+    TipShown = 110,
+    Capitals = 111,
+    Welcome = 117,
+    GoodBye = 118,
+    TilesAdded = 120,
+    ListOpened = 121,
+    TilesErased = 122,
+    TileInserted = 123,
+    WrongVowels = 124,
+};
+
+/// Plays the sound if its setting is on. Some answer to the setting of another sound; it has always been so.
+/// True if it was played.
+bool playSound(const Ground &ground, SoundId id);
