@@ -4,7 +4,11 @@
 
 #include "persistence/backup.h"
 #include "platform/files.h"
+#include "platform/ini_file.h"
 #include "support/test_board.h"
+
+#include <QFile>
+#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
@@ -46,7 +50,30 @@ double undo()
                         [&] { board.canvas->CanvasRedrawAll(); }, 20);
 }
 
+/// A file of as many sections, written and read key by key.
+void fillAndRead(const QString &path, int sections)
+{
+    IniFile file(path);
+    for (int i = 0; i < sections; ++i)
+        file.write(u"Morpheme%1"_s.arg(i), u"Left"_s, QString::number(i));
+    file.save();
+    const IniFile again(path);
+    int sum = 0;
+    for (int i = 0; i < sections; ++i)
+        sum += again.read(u"Morpheme%1"_s.arg(i), u"Left"_s).toInt();
+    bench::keep(sum);
+    QFile::remove(path);
+}
+
+double manySections()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"viele.wlx"_s);
+    return bench::ratio([&] { fillAndRead(path, 40000); }, [&] { fillAndRead(path, 10000); }, 5);
+}
+
 const bench::Row rows[] = {
+    {"sessions: four times the sections in an ini file (a fourth of them)", 6.0, manySections},
     {"sessions: commit of 500 tiles with backup (atomic writes)", 3.0, commitWithBackup},
     {"sessions: undo of 500 tiles (redraws)", 2.5, undo},
 };

@@ -127,19 +127,6 @@ private slots:
         QVERIFY(!QFileInfo::exists(path_));
         QCOMPARE(errorOf([&] { IniFile{folder_.path()}; }), 75);
     }
-
-    void manySectionsCostNoQuadraticTime()
-    {
-        IniFile file(path_);
-        constexpr int count = 100000;
-        for (int i = 0; i < count; ++i) {
-            file.write(u"Morpheme%1"_s.arg(i), u"Left"_s, QString::number(i));
-        }
-        file.save();
-        const IniFile again(path_);
-        for (int i = 0; i < count; i += 97)
-            QCOMPARE(again.read(u"morpheme%1"_s.arg(i), u"left"_s).toInt(), i);
-    }
 };
 
 WORTEL_TEST(IniFileTest)

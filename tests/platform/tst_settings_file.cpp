@@ -122,7 +122,7 @@ private slots:
         QVERIFY(QFileInfo::exists(file_ + u".bak/x"_s));
     }
 
-    void aHeldLockIsNotWaitedForForEver()
+    void aHeldLockStopsNoSaving()
     {
         putBytes(file_, "[Settings]\na=1\n");
         QLockFile lock(file_ + u".lock"_s);
