@@ -4,6 +4,7 @@
 
 #include "dialogs/input_box.h"
 #include "dialogs/message_box.h"
+#include "widgets/guards.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -116,6 +117,7 @@ QWidget *RealBoxes::owner() const
 
 Boxes::Answer RealBoxes::plainBox(Icon icon, const QString &title, const QString &text, Buttons buttons)
 {
+    const PlainPointer pointer;
     QWidget *const parent = owner();
     QMessageBox box(parent);
     if (parent == nullptr) // at the start: the splash would cover it
@@ -149,27 +151,30 @@ Boxes::Answer RealBoxes::plainBox(Icon icon, const QString &title, const QString
     return (end - 1)->answer;
 }
 
-int RealBoxes::ShowMBox(const QString &prompt, bool show, int buttons, const QString &title,
-                 BoxStyle style)
+int RealBoxes::ShowMBox(const QString &prompt, bool show, int buttons, const QString &title, BoxStyle style)
 {
     if (!show)
         return 0;
+    const PlainPointer pointer;
     return MBox(prompt, buttons, titleOr(title), style, owner()).ask();
 }
 
 int RealBoxes::ShowInfoBox(const QString &prompt, BoxSign sign, const QString &title)
 {
+    const PlainPointer pointer;
     return frmMboxRetype(prompt, sign, titleOr(title), owner()).ask();
 }
 
-QString RealBoxes::ShowIBox(const QString &prompt, BoxStyle kind, const QString &defaultText, const QString &title,
-                            int left, int top)
+QString RealBoxes::ShowIBox(const QString &prompt, BoxStyle kind, const QString &defaultText,
+                            const QString &title, int left, int top)
 {
+    const PlainPointer pointer;
     return IBox(prompt, kind, defaultText, titleOr(title), owner()).askText(cornerOf(left, top));
 }
 
-QString RealBoxes::ShowWordBox(const QString &prompt, BoxStyle, const QString &defaultText, const QString &title,
-                               int left, int top)
+QString RealBoxes::ShowWordBox(const QString &prompt, BoxStyle, const QString &defaultText,
+                               const QString &title, int left, int top)
 {
+    const PlainPointer pointer;
     return frmChgCorrectWords(prompt, defaultText, titleOr(title), owner()).askText(cornerOf(left, top));
 }

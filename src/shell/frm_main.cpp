@@ -168,9 +168,10 @@ void frmMain::Form_Activate()
 void frmMain::tellLeftOut()
 {
     const int left = rooms_->progInit.leftOut();
-    if (left > 0)
+    if (left > 0 && !firstBoardReplaced_)
         ground_.boxes.ShowInfoBox(
-            u"Auf dem Spielfeld war nicht genug Platz: %1 Wortele wurden nicht gelegt."_s.arg(left),
+            u"Beim Start war nicht genug Platz: %1 Wortele wurden nicht gelegt.\nDie Taste \"Wortel\" legt sie auf das ganze Spielfeld."_s
+                .arg(left),
             BoxSign::Info, u"Wortel-Meister"_s);
 }
 
@@ -190,6 +191,7 @@ void frmMain::showWelcome()
 void frmMain::HiddenText_Change(const QString &text)
 {
     ground_.gate.whenFree([this, text] {
+        rooms_->pointer.letGo(); // a tile that is held lies on the board that goes
         hiddenText_ = text;
         if (cmdLineReady_)
             UpdateCaption();
@@ -292,6 +294,9 @@ void frmMain::Form_Unload()
 void frmMain::loadKept()
 {
     Rooms &r = *rooms_;
+    // What did not fit on the first board does not matter once another has taken its place.
+    connect(&r.news, &BoardNews::opened, this, [this] { firstBoardReplaced_ = true; });
+    connect(&r.news, &BoardNews::committed, this, [this] { firstBoardReplaced_ = true; });
     if (std::exchange(facts_.RecoverOnStart, false))
         r.backup.RestoreMyObjects(Backup::file(ground_));
     constexpr std::array<QStringView, 5> noSessions{u"", u" ", u"/L", u"/I", u"/?"};

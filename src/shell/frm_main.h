@@ -109,6 +109,7 @@ private:
     QString hiddenText_;
     bool cmdLineReady_ = false;
     bool activated_ = false;
+    bool firstBoardReplaced_ = false;
     bool activationWaits_ = false;
     bool ended_ = false;
 };

@@ -18,7 +18,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 #define CONTROL(member) [](const MainControls &c) -> QWidget * { return c.member; }
+// The filters rest as well: the board is frozen, and would not show what they choose.
 constexpr SheetRow restingTools[] = {
+    {CONTROL(OptType[0]), SheetRow::Disabled},  {CONTROL(OptType[1]), SheetRow::Disabled},
+    {CONTROL(OptType[2]), SheetRow::Disabled},  {CONTROL(OptType[3]), SheetRow::Disabled},
     {CONTROL(Check1), SheetRow::Disabled},      {CONTROL(Check2), SheetRow::Disabled},
     {CONTROL(Check3), SheetRow::Disabled},      {CONTROL(Text1), SheetRow::Disabled},
     {CONTROL(Label3), SheetRow::Disabled},      {CONTROL(Option1[0]), SheetRow::Disabled},

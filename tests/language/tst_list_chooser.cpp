@@ -61,24 +61,6 @@ private slots:
         QVERIFY(w.t.ok());
     }
 
-    void cancelledChoiceChangesNothing()
-    {
-        WordWindow w;
-        w.lay(wortelKind, 9, 9, u"alt"_s);
-        w.lists.CorrectWordList.add(u"alt"_s);
-        const int words = w.lists.LexiconList.count();
-        for (PressButton *button : {w.c.Check2, w.c.Command3}) {
-            w.t.fileDialogs.willOpen({});
-            w.tool(button, Qt::RightButton);
-        }
-        QCOMPARE(w.lists.WortelList.count(), 3);
-        QCOMPARE(w.lists.CorrectWordList.count(), 1);
-        QCOMPARE(w.lists.LexiconList.count(), words);
-        QCOMPARE(w.texts(), QStringList(u"alt"_s));
-        QCOMPARE(w.trouble(), QString());
-        QVERIFY(w.t.ok());
-    }
-
     void dictionaries()
     {
         WordWindow w;
@@ -94,23 +76,6 @@ private slots:
         QCOMPARE(w.texts(), QStringList(u"alt"_s));
         QCOMPARE(w.trouble(), QString());
         QVERIFY(w.t.ok());
-    }
-
-    void aClickLaysATile()
-    {
-        WordWindow w;
-        w.c.PrefixList->move(200, 300);
-        emit w.c.PrefixList->rowClicked(1);
-        QCOMPARE(w.described(), QStringList(u"200,260 ver1"_s));
-        QCOMPARE(w.counters(), QStringList({u"0"_s, u"1"_s, u"0"_s, u"1"_s}));
-        emit w.c.WortelList->rowClicked(0);
-        QCOMPARE(w.r.store.tiles().back()->BGColor, colours::wortelBack);
-        w.lists.SuffixList.clear();
-        emit w.c.SuffixList->rowClicked(0);
-        emit w.c.PrefixList->rowClicked(3);
-        emit w.c.PrefixList->rowClicked(-1);
-        QCOMPARE(w.r.store.count(), 2);
-        QCOMPARE(w.trouble(), QString());
     }
 };
 

@@ -177,30 +177,6 @@ private slots:
                                                       u"FillKurzLanglist Line: "_s));
         QVERIFY(f.t.ok());
     }
-
-    void twoListsTooLongTogetherKeepWhatFits()
-    {
-        Fixture f;
-        f.t.log.enable(f.t.AppFolder + u"errors.log"_s);
-        const auto lay = [&](const QString &name, int first) {
-            QString words;
-            for (int number = first; number < first + 20000; ++number)
-                words += QString::number(number) + u"\r\n"_s;
-            f.t.writeFile(u"facit\\"_s + name + u".lex"_s, u"Wort\r\n"_s);
-            return f.t.writeFile(u"text\\"_s + name + u".txt"_s, words);
-        };
-        QString first = lay(u"A"_s, 0);
-        QString second = lay(u"B"_s, 20000);
-        f.loader.FillWortelList(first);
-        const auto logged = [&] { return bytesOf(f.t.folder.filePath(u"errors.log"_s)); };
-        QVERIFY(!logged().contains("Error"));
-        f.loader.FillWortelList(second);
-        QVERIFY2(logged().contains("Error 6 (Overflow)"), logged().constData());
-        QCOMPARE(f.lists.WortelList.count(), 32767);
-        QCOMPARE(f.lists.WortelList.at(32766), u"32766"_s);
-        QCOMPARE(f.lists.LexiconList.rows(), QStringList(u"Wort"_s)); // the dictionary still came
-        QVERIFY(f.t.ok());
-    }
 };
 
 WORTEL_TEST(ListLoaderTest)

@@ -7,7 +7,6 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QMenu>
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -23,30 +22,7 @@ private:
         QVERIFY2(entry != nullptr, qPrintable(action));
         entry->trigger();
     }
-    static QStringList captions(WordWindow &w, const QString &menu)
-    {
-        QStringList result;
-        for (const QAction *action : w.form.findChild<QMenu *>(menu)->actions())
-            result.append(action->isSeparator() ? u"-"_s : action->text());
-        return result;
-    }
-
 private slots:
-    void menusReadAsTold()
-    {
-        WordWindow w;
-        QCOMPARE(
-            captions(w, u"mnuLex"_s),
-            QStringList({u"Tipp zeigen"_s, u"-"_s, u"Ausgewähltes Wort in Wörterliste hinzufügen"_s,
-                         u"Alle Wörter in Wörterliste löschen"_s, u"Abschreiben der Wörterliste starten"_s,
-                         u"-"_s, u"Auswahlfenster"_s, u"-"_s, u"Schließen"_s}));
-        QCOMPARE(captions(w, u"mnuTest"_s),
-                 QStringList({u"Wort bearbeiten"_s, u"-"_s, u"Wort entfernen"_s, u"Alle Wörter entfernen"_s,
-                              u"-"_s, u"Wort darüber markieren"_s, u"Wort darunter markieren"_s, u"-"_s,
-                              u"Wort hinzufügen"_s, u"-"_s, u"Schließen"_s}));
-        QCOMPARE(captions(w, u"mnuTest2"_s), QStringList(u"Wort hinzufügen"_s));
-    }
-
     void dictionaryTakesTheToolsAndGivesThemBack()
     {
         WordWindow w;
@@ -212,22 +188,6 @@ private slots:
         choose(w, u"mnuDeleteAllWords"_s);
         QVERIFY(w.lists.CorrectWordList.isEmpty());
         QVERIFY(w.t.ok());
-    }
-
-    void theMarkStopsAtTheEnds()
-    {
-        WordWindow w;
-        w.lists.CorrectWordList.addAll({u"a"_s, u"b"_s});
-        w.c.CorrectWordList->setListIndex(0);
-        for (const int expected : {1, 1}) {
-            choose(w, u"mnuMoveDown"_s);
-            QCOMPARE(w.c.CorrectWordList->ListIndex(), expected);
-        }
-        for (const int expected : {0, 0}) {
-            choose(w, u"mnuMoveUp"_s);
-            QCOMPARE(w.c.CorrectWordList->ListIndex(), expected);
-        }
-        QCOMPARE(w.lists.CorrectWordList.rows(), QStringList({u"a"_s, u"b"_s}));
     }
 
     void saving()

@@ -33,15 +33,12 @@ private slots:
     {
         columns<QString, int, bool>("word", "rule", "found");
         QTest::newRow("exact, as written") << u"Haus"_s << 1 << true;
-        QTest::newRow("exact, the second spelling") << u"haus"_s << 1 << true;
         QTest::newRow("exact, no such spelling") << u"HAUS"_s << 1 << false;
         QTest::newRow("blind") << u"HAUS"_s << 0 << true;
         QTest::newRow("blind, umlaut folds") << u"äpfel"_s << 0 << true;
         QTest::newRow("blind, sharp s stays itself") << u"STRAßE"_s << 0 << true;
         QTest::newRow("blind, sharp s is no double s") << u"STRASSE"_s << 0 << false;
-        QTest::newRow("blind, no trimming") << u" Haus"_s << 0 << false;
         QTest::newRow("third state") << u"Haus"_s << 2 << false;
-        QTest::newRow("empty") << QString() << 0 << false;
     }
     void caseRule()
     {

@@ -58,7 +58,8 @@ private slots:
         rig.lay(prefix, 1, 2, u"ver"_s);
         rig.lay(wortel, 30, 40, QString(70000, u'a'));
         rig.lay(suffix, -5, 32767, u"ung\t\"x\""_s);
-        rig.lay({0x123456, 0, u"", u"", 'X', 0, BoxStyle::Plain}, 3, 3, u"fremd"_s); // of a colour that no kind has
+        rig.lay({0x123456, 0, u"", u"", 'X', 0, BoxStyle::Plain}, 3, 3,
+                u"fremd"_s); // of a colour that no kind has
         const QStringList before = rig.described();
         rig.backup.SaveMyObjects(rig.path);
         rig.backup.RestoreMyObjects(rig.path);
@@ -98,12 +99,10 @@ private slots:
         row("nothing", {}, "");
         row("no empty record in front", good, "7,8 x");
         row("lengths too large", good + QByteArray(40, '\xFF'), "7,8 x");
-        row("other type", record('Q', 1, 1) + good, "7,8 x");
         row("left out of 16 bits", good + record('S', 40000, 1) + good, "7,8 x", true);
         row("top at the end of 32 bits", good + record('M', 0, std::numeric_limits<qint32>::min()), "7,8 x",
             true);
         row("text", "[Morpheme1]\r\nType=Prefix\r\n", "");
-        row("doubled keys", good + good, "7,8 x|7,8 x");
     }
     void badFiles()
     {
@@ -122,18 +121,6 @@ private slots:
                      u"Die BAK-Session konnte nicht eingelesen werden: "_s + rig.path +
                          u"\n\nDie Datei enthält ungültige Daten.\n\nDas Laden wird abgebrochen..."_s);
         QVERIFY(rig.t.ok());
-    }
-
-    void moreThan2000TilesLoseTheRest()
-    {
-        Rig rig;
-        MyObj array;
-        for (int i = 1; i <= 2100; ++i)
-            array.AddElementToMyObj(u"M"_s + QString::number(i), 'M', i, 0, u"x"_s);
-        rig.put(backup_file::encode(array));
-        rig.backup.RestoreMyObjects(rig.path);
-        QCOMPARE(rig.store->count(), 2000);
-        QCOMPARE(rig.store->tiles().back()->xLeft(), 2000);
     }
 
     void writtenOnlyIfWantedAndBeforeOtherEvents()

@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "persistence/session_file.h"
 #include "platform/files.h"
 #include "support/columns.h"
 #include "support/file_size_limit.h"
@@ -87,21 +86,6 @@ private slots:
         QVERIFY(rig.t.ok());
     }
 
-    void savingOverALargerSessionLeavesDeadSections()
-    {
-        Rig rig;
-        for (int i = 0; i < 5; ++i)
-            rig.lay(wortel, i, i, u"alt"_s);
-        rig.sessions.SaveObjects(rig.path);
-        rig.bulk->RefillWithSpecNum(0);
-        for (int i = 0; i < 3; ++i)
-            rig.lay(prefix, i, i, u"neu"_s);
-        rig.sessions.SaveObjects(rig.path);
-        QVERIFY(rig.bytes().contains("[Morpheme5]\r\nType=Wortel"));
-        rig.sessions.RestoreObjects(rig.path);
-        QCOMPARE(rig.texts(), QStringList(3, u"neu"_s));
-    }
-
     void odd_data()
     {
         columns<QByteArray, QString, bool>("bytes", "tiles", "told");
@@ -112,24 +96,15 @@ private slots:
         row("empty file", {}, "");
         row("no count", good, "");
         row("count 0", good + count("0"), "");
-        row("count negative", good + count("-3"), "");
         row("count beyond 16 bits", good + count("32768"), "", true);
-        row("count beyond 64 bits", good + count("99999999999999999999"), "", true);
-        row("count a word", good + count("zwei"), "", true);
         row("count larger than the file", good + count("32767"), "5,6 ung");
         row("empty caption", tile(1, "Prefix", "1", "1", "\"\"") + good + count("2"), "5,6 ung");
         row("blank key", tile(1, "Prefix", "", "1", "\"a\"") + good + count("2"), "5,6 ung");
-        row("no type", tile(1, "", "1", "1", "\"a\"") + good + count("2"), "5,6 ung");
         row("other type keeps the colours", good + tile(3, "Stamm", "1", "1", "b") + count("3"),
             "5,6 ung|1,1 b");
         row("left beyond 16 bits", good + tile(3, "Wortel", "32768", "1", "b") + count("3"), "5,6 ung", true);
         row("top beyond 32 bits", good + tile(3, "Wortel", "1", "-2147483649", "b") + count("3"), "5,6 ung",
             true);
-        row("left a word", good + tile(3, "Wortel", "links", "1", "b") + count("3"), "5,6 ung", true);
-        row("doubled keys: the first", good + count("2") + count("9") + "[Morpheme2]\r\nLeft=9\r\n",
-            "5,6 ung");
-        row("line ends of other systems", QByteArray(good + count("2")).replace("\r\n", "\n"), "5,6 ung");
-        row("in capitals", QByteArray(good + count("2")).toUpper(), "5,6 UNG");
         row("quotes inside", tile(1, "Prefix", "1", "1", "\"a\"b\"\"") + count("1"), "1,1 a\"b\"");
         row("garbage", QByteArray("\x00\xFF[[=]]\r[\n]=\x01\xFE", 15), "");
         row("UTF-8 with its mark",
@@ -160,7 +135,6 @@ private slots:
         QTest::newRow("off") << QByteArray("[Name]\r\nLexiconInUse=Bäume\r\n") << false << false << false;
         QTest::newRow("missing list")
             << QByteArray("[Name]\r\nLexiconInUse=fort\r\n") << true << false << true;
-        QTest::newRow("no name") << QByteArray("[Name]\r\nLexiconInUse=\r\n") << true << false << false;
     }
     void stemListComesAlong()
     {
@@ -252,19 +226,6 @@ private slots:
         QCOMPARE(rig.bytes(), QByteArray("[Name]\r\nLexiconInUse=alt\r\n"));
         QVERIFY(rig.sessions.CurrentSessionFile().isEmpty());
         QVERIFY(rig.t.ok());
-    }
-
-    void webNames_data()
-    {
-        columns<QString, QString>("path", "name");
-        QTest::newRow("plain") << u"C:\\x\\Bäume.wlx"_s << u"BÄUME.html"_s;
-        QTest::newRow("other ending") << u"C:\\x\\a.txt"_s << u"A.TXT.html"_s;
-        QTest::newRow("ending inside") << u"C:\\x\\a.wlx.wlx"_s << u"A.html"_s;
-    }
-    void webNames()
-    {
-        QFETCH(QString, path);
-        QTEST(session_file::webExportName(path), "name");
     }
 
 private:

@@ -55,30 +55,6 @@ private slots:
                                   u". Index: 12"_s}));
     }
 
-    void theLastLineIsTheLast()
-    {
-        Log log;
-        log.enable(folder_.filePath(u"last.log"_s));
-        Procedure step{log, "Form_Unload", "frmMain"};
-        step([&] { log.end(); });
-        step([] { throw RuntimeError::of(11); });
-        Procedure{log, "Form_Activate", "frmMain"};
-        QCOMPARE(lines(log).size(), 2);
-        QCOMPARE(lines(log).last(), u"*** Error-logging ended ***"_s);
-    }
-
-    void tracesWithDetailAndModule()
-    {
-        Log log;
-        log.enable(folder_.filePath(u"trace.log"_s));
-        Procedure shift{log, "picCanvas_MouseDown", "frmMain", Procedure::Traced, u"+ Shift"_s};
-        Procedure module{log, "ApplyArguments", ""};
-        Procedure hot{log, "Draw", "cWortel", Procedure::Silent};
-        QCOMPARE(lines(log),
-                 QStringList({u"Event: In procedure picCanvas_MouseDown of Form frmMain + Shift"_s,
-                              u"Event: In procedure ApplyArguments of modMain"_s}));
-    }
-
     void logIsInertOrHarmless_data()
     {
         columns<QString, bool>("file", "on");

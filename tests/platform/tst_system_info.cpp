@@ -6,7 +6,6 @@
 #include "support/columns.h"
 #include "support/registry.h"
 
-#include <QStandardPaths>
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
@@ -16,15 +15,6 @@ class SystemInfoTest : public QObject
     Q_OBJECT
 
 private slots:
-    void namesSystems()
-    {
-        QCOMPARE(osName(u"1.4.0"_s, u"1111"_s), u"Windows 95 B (OSR 2/OSR 2.1)"_s);
-        QCOMPARE(osName(u"1.4.0"_s, u"951"_s), u"Windows 95, Build n/a"_s);
-        QCOMPARE(osName(u"2.5.1"_s, u"2600"_s), u"Windows XP"_s);
-        QCOMPARE(osName(u"2.5.2"_s, u"3790"_s), u"Not Available"_s);
-        QVERIFY(!GetOSName().isEmpty() && !GetUserName().isEmpty());
-    }
-
     void killsFiles()
     {
         QTemporaryDir folder;
@@ -53,7 +43,6 @@ private slots:
                                               "  <bookmark href=\"file:///x\"></bookmark>\n</xbel>\n")
                                 << true;
         QTest::newRow("no end") << QByteArray("<xbel xmlns:bookmark=\"b\" xmlns:mime=\"m\">") << false;
-        QTest::newRow("garbage") << QByteArray("\0garbage", 8) << false;
     }
     void recentDocuments()
     {

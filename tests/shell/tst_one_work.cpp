@@ -416,6 +416,21 @@ private slots:
         QTRY_COMPARE(house.t.boxes.asked.size(), 1);
         QVERIFY(house.t.boxes.asked.first().text.contains(u"nicht genug Platz"_s));
     }
+
+    /// A session that comes while a tile is in the hand finds the hand empty.
+    void aSessionFindsNoTileHeld()
+    {
+        BusyHouse house;
+        const QString path = house.t.writeFile(u"leer.wlx"_s, u"[NumObjects]\r\nObjCounter=0\r\n"_s);
+        house.press({105, 110});
+        house.drag({300, 300});
+        QVERIFY(house.r.pointer.isHolding());
+        house.form.HiddenText_Change(path);
+        house.settle();
+        QCOMPARE(house.trouble(), QString());
+        house.release({300, 300});
+        QVERIFY(house.r.store.isEmpty());
+    }
 };
 
 WORTEL_TEST(OneWorkTest)

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/files.h"
-#include "platform/runtime_error.h"
 #include "shell/argument_handler.h"
 #include "shell/splash.h"
 #include "shell/start.h"
@@ -39,9 +38,6 @@ private slots:
         QTest::newRow("wrong") << u"/xyz"_s << false << u"Wortel-Meister - Fehler"_s
                                << u"Invalid Parameter: xyz\n\nFor valid parameters, type: Wortel /?"_s
                                << false;
-        QTest::newRow("small letter is wrong")
-            << u"/i"_s << false << u"Wortel-Meister - Fehler"_s
-            << u"Invalid Parameter: i\n\nFor valid parameters, type: Wortel /?"_s << false;
     }
     void actsOnArguments()
     {
@@ -63,18 +59,6 @@ private slots:
         QCOMPARE(t.boxes.asked.isEmpty() ? QString() : t.boxes.asked.first().title, boxTitle);
         QCOMPARE(t.boxes.asked.isEmpty() ? QString() : t.boxes.asked.first().text, boxText);
         QVERIFY(!t.log.enabled());
-    }
-
-    void anErrorOnTheWayIsTold()
-    {
-        TestGround t;
-        t.boxes.willAnswer(Boxes::Answer::Ok);
-        ArgumentHandler handler;
-        handler.ParseCommandLine(u"/I"_s);
-        const Next next =
-            start_steps::ApplyArguments(t.ground, handler, true, [] { throw RuntimeError::of(7); });
-        QVERIFY(next == Next::GoOn);
-        QCOMPARE(t.boxes.asked.first().text, u"Commandline Parameter Error"_s);
     }
 
     void opensTheLog_data()
@@ -121,7 +105,6 @@ private slots:
         columns<QString, bool>("hideTaskbar", "fullScreen");
         QTest::newRow("off") << u"0"_s << false;
         QTest::newRow("on") << u"1"_s << true;
-        QTest::newRow("third state is not on") << u"2"_s << false;
     }
     void fillsTheScreenWithTheTaskBarHidden()
     {

@@ -40,7 +40,6 @@ struct TestHand : TestBoard
     MenuModel &menus = r.menus;
     ScriptedMenu &popup = menu;
     BoardPointer &pointer = r.pointer;
-    BoardKeys &keys = r.keys;
     int commits = 0;
     int moves = 0;
 };

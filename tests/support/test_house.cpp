@@ -205,6 +205,10 @@ QString TestHouse::trouble() const
         controls.Picture3->isHidden() || !controls.Dropper1->isEnabled() ||
         controls.Option1[0]->isEnabled() == (plays || dictionaryOpen))
         return u"tools are not as the state wants them"_s;
+    const QImage seen = controls.picCanvas->image().copy();
+    r.canvas.repaint();
+    if (seen != controls.picCanvas->image())
+        return u"the board's picture is not what lies there"_s;
     if (!countersEqualTiles())
         return u"the counters say %1 for %2 tiles"_s.arg(counters().join(u' ')).arg(r.store.count());
     return {};

@@ -103,16 +103,6 @@ private slots:
         QTest::mouseRelease(&bench.button, Qt::LeftButton);
         QCOMPARE(bench.told, QStringList{u"left"_s});
     }
-
-    void mayBeDeletedByItsOwnClick()
-    {
-        auto *button = new PressButton;
-        button->resize(40, 40);
-        connect(button, &QAbstractButton::clicked, button, [button] { delete button; });
-        QPointer<PressButton> watched(button);
-        QTest::mouseClick(button, Qt::LeftButton);
-        QVERIFY(watched.isNull());
-    }
 };
 
 WORTEL_TEST(PressButtonTest)

@@ -48,198 +48,138 @@ class ScrollerStripTest : public QObject
     Q_OBJECT
 
 private slots:
-    void itemsFollowEachOther_data();
-    void itemsFollowEachOther();
-    void addsInFrontAndRefuses();
-    void finds();
-    void decides_data();
-    void decides();
-    void drawsTheRing_data();
-    void drawsTheRing();
-    void aStandingStripIsShownFromItsStart();
-    void hotSpots_data();
-    void hotSpots();
-    void onlySoManyHotSpots();
-    void survivesTextsWithoutWidth();
-};
-
-void ScrollerStripTest::itemsFollowEachOther_data()
-{
-    columns<QString, QStringList, QStringList, int>("separator", "words", "expected", "width");
-    QTest::newRow("last has no separator")
-        << u"--"_s << QStringList{u"ab"_s, u"abc"_s, u"a"_s}
-        << QStringList{u"ab:0+20>40"_s, u"abc:40+30>90"_s, u"a:90+10>100"_s} << 100;
-    QTest::newRow("single") << u"--"_s << QStringList{u"ab"_s} << QStringList{u"ab:0+20>20"_s} << 20;
-    QTest::newRow("empty separator is a blank")
-        << QString() << QStringList{u"a"_s, u"b"_s} << QStringList{u"a:0+10>20"_s, u"b:20+10>30"_s} << 30;
-    QTest::newRow("10,000 blanks") << QString(10000, u' ') << QStringList{u"a"_s, u"b"_s}
-                                   << QStringList{u"a:0+10>100010"_s, u"b:100010+10>100020"_s} << 100020;
-}
-
-void ScrollerStripTest::itemsFollowEachOther()
-{
-    QFETCH(QString, separator);
-    QFETCH(QStringList, words);
-    const ScrollerStrip strip = stripOf(words, separator);
-    QTEST(places(strip), "expected");
-    QTEST(strip.StripWidth(), "width");
-
-    // However the items come and go, the layout is that of a strip made in one go.
-    ScrollerStrip detour = stripOf({u"xxxx"_s}, separator);
-    for (auto word = words.crbegin(); word != words.crend(); ++word)
-        detour.AddItem(*word, {}, 1);
-    detour.RemoveItem(detour.ListCount());
-    QCOMPARE(places(detour), places(strip));
-    QCOMPARE(detour.StripWidth(), strip.StripWidth());
-}
-
-void ScrollerStripTest::addsInFrontAndRefuses()
-{
-    ScrollerStrip strip = stripOf({u"eins"_s, u"drei"_s});
-    strip.AddItem(u"zwei"_s, {}, 2);
-    strip.AddItem(u"   "_s);
-    strip.AddItem(u" vier "_s, u"  "_s);
-    QCOMPARE(places(strip), (QStringList{u"eins:0+40>60"_s, u"zwei:60+40>120"_s, u"drei:120+40>180"_s,
-                                         u" vier :180+60>240"_s}));
-    QCOMPARE(errorOf([&] { strip.AddItem(u"x"_s, u"EINS"_s); }), 457);
-    QCOMPARE(errorOf([&] { strip.AddItem(u"x"_s, {}, 5); }), 9);
-    for (const int index : {0, -1, 5}) {
-        QCOMPARE(errorOf([&] { strip.RemoveItem(index); }), 9);
-        QCOMPARE(errorOf([&] { strip.item(index); }), 9);
-        QCOMPARE(errorOf([&] { strip.setText(index, u"x"_s); }), 9);
-        QCOMPARE(errorOf([&] { strip.setColour(index, 0); }), 9);
+    void itemsFollowEachOther_data()
+    {
+        columns<QString, QStringList, QStringList, int>("separator", "words", "expected", "width");
+        QTest::newRow("last has no separator")
+            << u"--"_s << QStringList{u"ab"_s, u"abc"_s, u"a"_s}
+            << QStringList{u"ab:0+20>40"_s, u"abc:40+30>90"_s, u"a:90+10>100"_s} << 100;
+        QTest::newRow("single") << u"--"_s << QStringList{u"ab"_s} << QStringList{u"ab:0+20>20"_s} << 20;
+        QTest::newRow("empty separator is a blank")
+            << QString() << QStringList{u"a"_s, u"b"_s} << QStringList{u"a:0+10>20"_s, u"b:20+10>30"_s} << 30;
     }
-    QCOMPARE(strip.ListCount(), 4);
-    strip.RemoveItem(1);
-    strip.AddItem(u"x"_s, u"eins"_s);
-    QCOMPARE(strip.FindKey(u"eins"_s), 4);
-}
+    void itemsFollowEachOther()
+    {
+        QFETCH(QString, separator);
+        QFETCH(QStringList, words);
+        const ScrollerStrip strip = stripOf(words, separator);
+        QTEST(places(strip), "expected");
+        QTEST(strip.StripWidth(), "width");
 
-void ScrollerStripTest::finds()
-{
-    ScrollerStrip strip = stripOf({u"Haus"_s, u"Maus"_s});
-    strip.AddItem(u"Maus"_s);
-    QCOMPARE(strip.FindItem(u"Maus"_s), 2);
-    QCOMPARE(strip.FindItem(u"maus"_s), -1);
-    QCOMPARE(strip.FindKey(u"maus"_s), 2);
-    QCOMPARE(strip.FindKey(u"Laus"_s), -1);
-    strip.Clear();
-    QCOMPARE(strip.FindKey(u"Haus"_s), -1);
-}
+        // However the items come and go, the layout is that of a strip made in one go.
+        ScrollerStrip detour = stripOf({u"xxxx"_s}, separator);
+        for (auto word = words.crbegin(); word != words.crend(); ++word)
+            detour.AddItem(*word, {}, 1);
+        detour.RemoveItem(detour.ListCount());
+        QCOMPARE(places(detour), places(strip));
+        QCOMPARE(detour.StripWidth(), strip.StripWidth());
+    }
 
-void ScrollerStripTest::decides_data()
-{
-    columns<bool, bool, int, bool>("force", "automatic", "width", "runs");
-    QTest::newRow("neither") << false << false << 10 << false;
-    QTest::newRow("forced") << true << false << 1000 << true;
-    QTest::newRow("fits") << false << true << 80 << false;
-    QTest::newRow("does not fit") << false << true << 79 << true;
-}
+    void addsInFrontAndRefuses()
+    {
+        ScrollerStrip strip = stripOf({u"eins"_s, u"drei"_s});
+        strip.AddItem(u"zwei"_s, {}, 2);
+        strip.AddItem(u"   "_s);
+        strip.AddItem(u" vier "_s, u"  "_s);
+        QCOMPARE(places(strip), (QStringList{u"eins:0+40>60"_s, u"zwei:60+40>120"_s, u"drei:120+40>180"_s,
+                                             u" vier :180+60>240"_s}));
+        QCOMPARE(errorOf([&] { strip.AddItem(u"x"_s, u"EINS"_s); }), 457);
+        QCOMPARE(errorOf([&] { strip.AddItem(u"x"_s, {}, 5); }), 9);
+        for (const int index : {0, -1, 5}) {
+            QCOMPARE(errorOf([&] { strip.RemoveItem(index); }), 9);
+            QCOMPARE(errorOf([&] { strip.item(index); }), 9);
+            QCOMPARE(errorOf([&] { strip.setText(index, u"x"_s); }), 9);
+            QCOMPARE(errorOf([&] { strip.setColour(index, 0); }), 9);
+        }
+        QCOMPARE(strip.ListCount(), 4);
+        strip.RemoveItem(1);
+        strip.AddItem(u"x"_s, u"eins"_s);
+        QCOMPARE(strip.FindKey(u"eins"_s), 4);
+    }
 
-void ScrollerStripTest::decides()
-{
-    QFETCH(bool, force);
-    QFETCH(bool, automatic);
-    QFETCH(int, width);
-    ScrollerStrip strip = stripOf({u"abc"_s, u"xyz"_s});
-    QCOMPARE(strip.StripWidth(), 80);
-    strip.setOffset(17);
-    QTEST(strip.decide(force, automatic, width), "runs");
-    QFETCH(bool, runs);
-    QCOMPARE(strip.Offset(), runs ? 17 : ScrollerStrip::restOffset);
-    strip.Clear();
-    QVERIFY(!strip.decide(force, automatic, width));
-}
+    void decides_data()
+    {
+        columns<bool, bool, int, bool>("force", "automatic", "width", "runs");
+        QTest::newRow("neither") << false << false << 10 << false;
+        QTest::newRow("forced") << true << false << 1000 << true;
+        QTest::newRow("fits") << false << true << 80 << false;
+        QTest::newRow("does not fit") << false << true << 79 << true;
+    }
+    void decides()
+    {
+        QFETCH(bool, force);
+        QFETCH(bool, automatic);
+        QFETCH(int, width);
+        ScrollerStrip strip = stripOf({u"abc"_s, u"xyz"_s});
+        QCOMPARE(strip.StripWidth(), 80);
+        strip.setOffset(17);
+        QTEST(strip.decide(force, automatic, width), "runs");
+        QFETCH(bool, runs);
+        QCOMPARE(strip.Offset(), runs ? 17 : ScrollerStrip::restOffset);
+        strip.Clear();
+        QVERIFY(!strip.decide(force, automatic, width));
+    }
 
-void ScrollerStripTest::drawsTheRing_data()
-{
-    columns<int, int, QStringList>("offset", "inRange", "expected");
-    // The strip: aaaa 0 to 40, bb 60 to 80, the ring begins again at 100.
-    QTest::newRow("enters") << -250 << -250 << QStringList{};
-    QTest::newRow("on its way in") << -90 << -90 << QStringList{u"aaaa@90"_s};
-    QTest::newRow("start") << 0 << 0 << QStringList{u"aaaa@0"_s, u"bb@60"_s};
-    QTest::newRow("first's separator") << 59 << 59 << QStringList{u"aaaa@-59"_s, u"bb@1"_s, u"aaaa@41"_s};
-    QTest::newRow("second") << 60 << 60 << QStringList{u"bb@0"_s, u"aaaa@40"_s};
-    QTest::newRow("gap at the end") << 80 << 80 << QStringList{u"aaaa@20"_s, u"bb@80"_s};
-    QTest::newRow("whole cycle") << 100 << 100 << QStringList{u"aaaa@0"_s, u"bb@60"_s};
-    QTest::newRow("above") << 101 << 1 << QStringList{u"aaaa@-1"_s, u"bb@59"_s, u"aaaa@99"_s};
-    QTest::newRow("far above") << 330 << 30 << QStringList{u"aaaa@-30"_s, u"bb@30"_s, u"aaaa@70"_s};
-}
+    void drawsTheRing_data()
+    {
+        columns<int, int, QStringList>("offset", "inRange", "expected");
+        // The strip: aaaa 0 to 40, bb 60 to 80, the ring begins again at 100.
+        QTest::newRow("enters") << -250 << -250 << QStringList{};
+        QTest::newRow("on its way in") << -90 << -90 << QStringList{u"aaaa@90"_s};
+        QTest::newRow("start") << 0 << 0 << QStringList{u"aaaa@0"_s, u"bb@60"_s};
+        QTest::newRow("first's separator") << 59 << 59 << QStringList{u"aaaa@-59"_s, u"bb@1"_s, u"aaaa@41"_s};
+        QTest::newRow("above") << 101 << 1 << QStringList{u"aaaa@-1"_s, u"bb@59"_s, u"aaaa@99"_s};
+        QTest::newRow("far above") << 330 << 30 << QStringList{u"aaaa@-30"_s, u"bb@30"_s, u"aaaa@70"_s};
+    }
+    void drawsTheRing()
+    {
+        QFETCH(int, offset);
+        ScrollerStrip strip = stripOf({u"aaaa"_s, u"bb"_s});
+        strip.decide(true, false, 100);
+        strip.setOffset(offset);
+        strip.draw(100);
+        QTEST(shown(strip), "expected");
+        QTEST(strip.Offset(), "inRange");
+        QCOMPARE(strip.restLeft(), 100);
+    }
 
-void ScrollerStripTest::drawsTheRing()
-{
-    QFETCH(int, offset);
-    ScrollerStrip strip = stripOf({u"aaaa"_s, u"bb"_s});
-    strip.decide(true, false, 100);
-    strip.setOffset(offset);
-    strip.draw(100);
-    QTEST(shown(strip), "expected");
-    QTEST(strip.Offset(), "inRange");
-    QCOMPARE(strip.restLeft(), 100);
-}
+    void aStandingStripIsShownFromItsStart()
+    {
+        ScrollerStrip strip = stripOf({u"aaaa"_s, u"bb"_s});
+        strip.decide(false, false, 500);
+        strip.draw(500);
+        QCOMPARE(shown(strip), (QStringList{u"aaaa@0"_s, u"bb@60"_s}));
+        QCOMPARE(strip.restLeft(), 100);
+        QCOMPARE(strip.Offset(), ScrollerStrip::restOffset);
+        strip.draw(50);
+        QCOMPARE(strip.restLeft(), 50);
+        strip.Clear();
+        strip.draw(500);
+        QCOMPARE(shown(strip), QStringList{u"Message Scroller@0"_s});
+        QCOMPARE(strip.StripWidth(), tenPixels(u"Message Scroller"_s));
+        QVERIFY(strip.hotSpots().empty());
+    }
 
-void ScrollerStripTest::aStandingStripIsShownFromItsStart()
-{
-    ScrollerStrip strip = stripOf({u"aaaa"_s, u"bb"_s});
-    strip.decide(false, false, 500);
-    strip.draw(500);
-    QCOMPARE(shown(strip), (QStringList{u"aaaa@0"_s, u"bb@60"_s}));
-    QCOMPARE(strip.restLeft(), 100);
-    QCOMPARE(strip.Offset(), ScrollerStrip::restOffset);
-    strip.draw(50);
-    QCOMPARE(strip.restLeft(), 50);
-    strip.Clear();
-    strip.draw(500);
-    QCOMPARE(shown(strip), QStringList{u"Message Scroller@0"_s});
-    QCOMPARE(strip.StripWidth(), tenPixels(u"Message Scroller"_s));
-    QVERIFY(strip.hotSpots().empty());
-}
-
-void ScrollerStripTest::hotSpots_data()
-{
-    columns<int, int>("x", "item");
-    // At offset 30: aaaa from -30 to 10, bb from 30 to 50, aaaa from 70 to 110.
-    QTest::newRow("left edge") << 0 << 1;
-    QTest::newRow("right end") << 10 << 1;
-    QTest::newRow("gap") << 11 << -1;
-    QTest::newRow("second ends") << 50 << 2;
-    QTest::newRow("ring") << 70 << 1;
-}
-
-void ScrollerStripTest::hotSpots()
-{
-    QFETCH(int, x);
-    ScrollerStrip strip = stripOf({u"aaaa"_s, u"bb"_s});
-    strip.decide(true, false, 100);
-    strip.setOffset(30);
-    strip.draw(100);
-    QTEST(strip.hotSpotAt(x), "item");
-}
-
-void ScrollerStripTest::onlySoManyHotSpots()
-{
-    ScrollerStrip strip = stripOf({});
-    for (int item = 0; item < 1100; ++item)
-        strip.AddItem(u"x"_s);
-    strip.decide(true, false, 40000);
-    strip.setOffset(0);
-    strip.draw(40000);
-    QVERIFY(strip.pieces().size() > 1100);
-    QCOMPARE(strip.hotSpots().size(), std::size_t(1024));
-    QCOMPARE(strip.hotSpotAt(1023 * 30), 1024);
-    QCOMPARE(strip.hotSpotAt(1024 * 30), -1);
-}
-
-void ScrollerStripTest::survivesTextsWithoutWidth()
-{
-    ScrollerStrip strip([](const QString &) { return 0; });
-    strip.AddItem(u"a"_s);
-    strip.AddItem(u"b"_s);
-    strip.decide(true, false, 100);
-    strip.setOffset(5);
-    strip.draw(100);
-    QVERIFY(strip.pieces().size() <= 2);
-}
+    void hotSpots_data()
+    {
+        columns<int, int>("x", "item");
+        // At offset 30: aaaa from -30 to 10, bb from 30 to 50, aaaa from 70 to 110.
+        QTest::newRow("left edge") << 0 << 1;
+        QTest::newRow("right end") << 10 << 1;
+        QTest::newRow("gap") << 11 << -1;
+        QTest::newRow("second ends") << 50 << 2;
+        QTest::newRow("ring") << 70 << 1;
+    }
+    void hotSpots()
+    {
+        QFETCH(int, x);
+        ScrollerStrip strip = stripOf({u"aaaa"_s, u"bb"_s});
+        strip.decide(true, false, 100);
+        strip.setOffset(30);
+        strip.draw(100);
+        QTEST(strip.hotSpotAt(x), "item");
+    }
+};
 
 WORTEL_TEST(ScrollerStripTest)
 #include "tst_scroller_strip.moc"

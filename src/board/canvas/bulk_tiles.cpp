@@ -72,11 +72,10 @@ std::optional<int> BulkTiles::countInText1(const TileKind &kind)
     const double count = Round(std::fabs(number.value_or(0)));
     if (number && count <= largestCount)
         return static_cast<int>(count);
-    ground_.boxes.ShowInfoBox(
-        number ? u"Diese Anzahl ist zu groß. Es dürfen höchstens %1 %2 sein."_s.arg(
-                     QString::number(largestCount), QString::fromUtf16(kind.plural))
-               : u"Bitte schreibe eine Zahl in das Feld \"Anzahl Wortel\""_s,
-        BoxSign::Info, u"Wortel-Meister"_s);
+    ground_.boxes.ShowInfoBox(number ? u"Diese Anzahl ist zu groß. Es dürfen höchstens %1 %2 sein."_s.arg(
+                                           QString::number(largestCount), QString::fromUtf16(kind.plural))
+                                     : u"Bitte schreibe eine Zahl in das Feld \"Anzahl Wortel\""_s,
+                              BoxSign::Info, u"Wortel-Meister"_s);
     return std::nullopt;
 }
 

@@ -120,10 +120,11 @@ void Canvas::RecallFilter(int index)
     {
         const FrozenBoard frozen(surface_);
         step([&] { ground_.pump.yield(); });
-        // A button that is already selected fires no click, hence the way through "Alle".
         step([&] { optTypes_.select(TileFilter::all); });
         step([&] { ground_.pump.yield(); });
         step([&] { optTypes_.select(index); });
+        // A button that was selected all the time has fired no click.
+        step([&] { repaint(); });
     }
     step([&] { ground_.pump.yield(); });
     step([&] { optTypes_.updateTotal(); });

@@ -45,8 +45,10 @@ public:
     void add() { ++laid_; }
     void write()
     {
-        if (laid_ > 0)
-            counters_.add(0, std::exchange(laid_, 0));
+        if (laid_ == 0)
+            return;
+        counters_.add(0, std::exchange(laid_, 0));
+        counters_.updateTotal();
     }
 
 private:

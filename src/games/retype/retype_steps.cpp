@@ -157,6 +157,7 @@ void RetypeMode::showStrip(const RetypeSource &source)
     controls_.Option1[1]->setChecked(true);
     controls_.Check4->setFace(runningFace);
     controls_.Dropper1->takeFocus();
+    controls_.Dropper1->selectAll(); // what still stands there goes with the first letter
 }
 
 void RetypeMode::wordCopied(const QString &word)

@@ -18,12 +18,9 @@ private slots:
         // opened: by right presses on these filter buttons
         columns<QSize, QList<int>, QRect, QRect, QRect>("window", "opened", "prefix", "wortel", "suffix");
         const QSize design(632, 573);
-        const QSize small(853, 480);
         const QRect none;
         QTest::newRow("all, design size") << design << QList{3} << QRect(0, 185, 66, 300)
                                           << QRect(66, 185, 84, 300) << QRect(150, 185, 66, 300);
-        QTest::newRow("all, small screen") << small << QList{3} << QRect(0, 92, 66, 300)
-                                           << QRect(66, 92, 84, 300) << QRect(150, 92, 66, 300);
         QTest::newRow("all, wide window") << QSize(1366, 749) << QList{3} << QRect(0, 361, 66, 300)
                                           << QRect(67, 361, 84, 300) << QRect(158, 361, 66, 300);
         QTest::newRow("one alone stands at its button")

