@@ -112,7 +112,7 @@ void Tips::complain(const QString &text)
     ground_.boxes.plainBox(Boxes::Icon::Warning, u"Wortel-Meister"_s, text);
 }
 
-void Tips::ShowLexiconTip2(const QString &lexiconPath, const QString &mode)
+void Tips::ShowLexiconTip2(const QString &lexiconPath)
 {
     Procedure step{ground_.log, "ShowLexiconTip2", "frmMain"};
     const QString file = ground_.AppFolder + u"lextip.ini"_s;
@@ -128,10 +128,10 @@ void Tips::ShowLexiconTip2(const QString &lexiconPath, const QString &mode)
         complain(u"Die Tipp-Datei (Lextip.ini) ist beschädigt oder unvollständig"_s);
         return;
     }
-    step([&] { showTip(text, mode); });
+    step([&] { showTip(text); });
 }
 
-void Tips::ShowVokalTip(Vowels group, const QString &mode)
+void Tips::ShowVokalTip(Vowels group)
 {
     Procedure step{ground_.log, "ShowVokalTip", "frmMain"};
     const QString file = ground_.AppFolder + u"vokaltip.ini"_s;
@@ -144,14 +144,12 @@ void Tips::ShowVokalTip(Vowels group, const QString &mode)
         complain(u"Die Tipp-Datei (vokaltip.ini) ist beschädigt oder unvollständig"_s);
         return;
     }
-    step([&] { showTip(text, mode); });
+    step([&] { showTip(text); });
 }
 
-void Tips::showTip(const QString &text, const QString &mode)
+void Tips::showTip(const QString &text)
 {
-    static const std::array modes{u"WORTEL"_s, u"GAME"_s, u"ONREQUEST"_s};
-    if (std::find(modes.begin(), modes.end(), mode) != modes.end())
-        controls_.AlphaText->setText(QString(text).replace(u"<BR>"_s, u"\n"_s));
+    controls_.AlphaText->setText(QString(text).replace(u"<BR>"_s, u"\n"_s));
     layOutPanel();
     if (!isShown())
         focusBefore_ = lostToWindow_ != nullptr ? lostToWindow_.get() : controls_.form->focusWidget();
@@ -239,19 +237,19 @@ void Tips::stopTimers()
 void Tips::TipTimer_Tick()
 {
     TipTimer_->stop();
-    showWhenFree([this] { ShowLexiconTip2(lists_.CurrentLexiconFile, u"WORTEL"_s); });
+    showWhenFree([this] { ShowLexiconTip2(lists_.CurrentLexiconFile); });
 }
 
 void Tips::GameTipTimer_Tick()
 {
     GameTipTimer_->stop();
-    showWhenFree([this] { ShowLexiconTip2(lists_.CurrentLexiconFile, u"GAME"_s); });
+    showWhenFree([this] { ShowLexiconTip2(lists_.CurrentLexiconFile); });
 }
 
 void Tips::VokalTipTimer_Tick()
 {
     VokalTipTimer_->stop();
-    showWhenFree([this] { ShowVokalTip(play_.checkedVowels(), u"GAME"_s); });
+    showWhenFree([this] { ShowVokalTip(play_.checkedVowels()); });
 }
 
 /// Never over the running strip, nor while a tile is in the hand.
@@ -272,15 +270,15 @@ void Tips::Image1_Click()
     if (isShown())
         return;
     if (play_.checkedVowels() != Vowels::None)
-        ShowVokalTip(play_.checkedVowels(), u"ONREQUEST"_s);
+        ShowVokalTip(play_.checkedVowels());
     else
-        ShowLexiconTip2(lists_.CurrentLexiconFile, u"ONREQUEST"_s);
+        ShowLexiconTip2(lists_.CurrentLexiconFile);
 }
 
 void Tips::mnuShowTip_Click()
 {
     if (!isShown())
-        ShowLexiconTip2(lists_.CurrentLexiconFile, u"ONREQUEST"_s);
+        ShowLexiconTip2(lists_.CurrentLexiconFile);
 }
 
 void Tips::registerCommands(CommandRouter &router)

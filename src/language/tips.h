@@ -29,11 +29,10 @@ public:
     /// something runs comes afterwards.
     Tips(Ground &ground, MainControls &controls, WordLists &lists, const PlayState &play);
 
-    /// Shows the tip of a dictionary (stored path). `mode` is "WORTEL", "GAME" or "ONREQUEST"; with any other
-    /// word the panel comes with the text it had.
-    void ShowLexiconTip2(const QString &lexiconPath, const QString &mode);
-    /// Shows the tip of one group of vowels, with the same modes.
-    void ShowVokalTip(Vowels group, const QString &mode);
+    /// Shows the tip of a dictionary (stored path): the same at a start, in a game and on request.
+    void ShowLexiconTip2(const QString &lexiconPath);
+    /// Shows the tip of one group of vowels.
+    void ShowVokalTip(Vowels group);
     void registerCommands(CommandRouter &router);
     bool isShown() const;
     void hideTip();
@@ -56,7 +55,7 @@ public:
     static bool IsSideWindowOpen();
 
 private:
-    void showTip(const QString &text, const QString &mode);
+    void showTip(const QString &text);
     void showWhenFree(const std::function<void()> &show);
     void layOutPanel();
     /// The text of a key, or the empty string where there is none or the file cannot be read.

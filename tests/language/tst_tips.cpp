@@ -67,7 +67,7 @@ private slots:
         Desk desk;
         if (text.isEmpty())
             desk.t.boxes.willAnswer(Boxes::Answer::Ok);
-        desk.tips->ShowLexiconTip2(lexicon, u"ONREQUEST"_s);
+        desk.tips->ShowLexiconTip2(lexicon);
         QCOMPARE(desk.tips->isShown(), !text.isEmpty());
         QCOMPARE(desk.text(), text);
         QCOMPARE(desk.t.sound.resources, text.isEmpty() ? QList<int>{} : QList<int>{110});
@@ -100,7 +100,7 @@ private slots:
         if (name == u"lextip.ini"_s)
             desk.tips->mnuShowTip_Click();
         else
-            desk.tips->ShowVokalTip(Vowels::Short, u"GAME"_s);
+            desk.tips->ShowVokalTip(Vowels::Short);
         QVERIFY(!desk.tips->isShown());
         QCOMPARE(desk.t.boxes.asked.first().text, complaint);
         QVERIFY(desk.t.ok());
@@ -266,7 +266,7 @@ private slots:
         Desk desk;
         desk.t.writeFile(u"lextip.ini"_s, u"[Tipp]\r\nhauptbausteine="_s + u"Bausteine<BR>"_s.repeated(20) +
                                               u"Wort "_s.repeated(90) + u"\r\n"_s);
-        desk.tips->ShowLexiconTip2(u"x\\Hauptbausteine.lex"_s, u"WORTEL"_s);
+        desk.tips->ShowLexiconTip2(u"x\\Hauptbausteine.lex"_s);
         const QLabel *words = desk.controls.AlphaText;
         const QRect needed =
             QFontMetrics(words->font()).boundingRect(words->rect(), Qt::TextWordWrap, words->text());
