@@ -5,6 +5,7 @@
 #include "generators/nonsense_words.h"
 #include "generators/real_words.h"
 #include "language/word_tests.h"
+#include "platform/gate.h"
 #include "platform/log.h"
 #include "platform/options.h"
 #include "platform/rnd.h"
@@ -75,7 +76,8 @@ struct Board
     Rnd rnd{7};
     WordLists lists;
     WordTests tests{lists, options};
-    LoopPump pump;
+    Gate gate;
+    LoopPump pump{gate};
 };
 
 /// The comparison and the order that a check of a word is told to have, without an index.
@@ -114,7 +116,7 @@ void searchRounds(Board &board, int rounds)
     for (int i = 0; i < rounds; ++i) {
         bench::keep(tryRealWord(board.lists, board.tests, board.rnd));
         if (board.pump.inputWaiting())
-            board.pump.yield();
+            board.pump.serve();
     }
 }
 
