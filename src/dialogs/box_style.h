@@ -44,8 +44,9 @@ struct StyleRow
 };
 
 inline constexpr std::array styles{
-    StyleRow{BoxStyle::Prefix, prefix},     StyleRow{BoxStyle::Wortel, wortel}, StyleRow{BoxStyle::Suffix, suffix},
-    StyleRow{BoxStyle::HiScore, highScore}, StyleRow{BoxStyle::Retype, notice}, StyleRow{BoxStyle::Confirm, notice},
+    StyleRow{BoxStyle::Prefix, prefix}, StyleRow{BoxStyle::Wortel, wortel},
+    StyleRow{BoxStyle::Suffix, suffix}, StyleRow{BoxStyle::HiScore, highScore},
+    StyleRow{BoxStyle::Retype, notice}, StyleRow{BoxStyle::Confirm, notice},
 };
 
 struct ButtonsRow

@@ -44,7 +44,8 @@ QString InputBox::askText(std::optional<QPoint> corner)
     return ask(corner) == 0 ? Text1_->text() : QString();
 }
 
-IBox::IBox(const QString &prompt, BoxStyle kind, const QString &defaultText, const QString &title, QWidget *owner)
+IBox::IBox(const QString &prompt, BoxStyle kind, const QString &defaultText, const QString &title,
+           QWidget *owner)
     : InputBox(boxstyle::coloursOf(kind), title, prompt, defaultText, owner)
 {
     setObjectName(QStringLiteral("IBox"));

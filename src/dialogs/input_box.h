@@ -32,7 +32,8 @@ class IBox : public InputBox
     Q_OBJECT
 
 public:
-    IBox(const QString &prompt, BoxStyle kind, const QString &defaultText, const QString &title, QWidget *owner);
+    IBox(const QString &prompt, BoxStyle kind, const QString &defaultText, const QString &title,
+         QWidget *owner);
 };
 
 /// The word box of the word list, "Wörterliste", on the blue gradient.

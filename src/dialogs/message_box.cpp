@@ -22,8 +22,7 @@ MBox::MBox(const QString &prompt, int buttons, const QString &title, BoxStyle st
         addButton(QString::fromUtf16(row.second), 1);
 }
 
-frmMboxRetype::frmMboxRetype(const QString &prompt, BoxSign signKind, const QString &title,
-                             QWidget *owner)
+frmMboxRetype::frmMboxRetype(const QString &prompt, BoxSign signKind, const QString &title, QWidget *owner)
     : BoxWindow(boxstyle::notice, title, prompt, owner)
 {
     setObjectName(QStringLiteral("frmMboxRetype"));

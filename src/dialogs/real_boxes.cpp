@@ -4,6 +4,7 @@
 
 #include "dialogs/input_box.h"
 #include "dialogs/message_box.h"
+#include "platform/product.h"
 #include "widgets/guards.h"
 
 #include <QApplication>
@@ -16,7 +17,7 @@
 
 namespace {
 
-QString titleOr(const QString &title) { return title.isEmpty() ? QStringLiteral("Wortel-Meister") : title; }
+QString titleOr(const QString &title) { return title.isEmpty() ? product::name : title; }
 
 std::optional<QPoint> cornerOf(int left, int top)
 {

@@ -24,8 +24,8 @@ public:
     int ShowInfoBox(const QString &prompt, BoxSign sign, const QString &title) override;
     QString ShowIBox(const QString &prompt, BoxStyle kind, const QString &defaultText, const QString &title,
                      int left, int top) override;
-    QString ShowWordBox(const QString &prompt, BoxStyle kind, const QString &defaultText, const QString &title,
-                        int left, int top) override;
+    QString ShowWordBox(const QString &prompt, BoxStyle kind, const QString &defaultText,
+                        const QString &title, int left, int top) override;
 
 private:
     QWidget *owner() const;

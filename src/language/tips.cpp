@@ -11,6 +11,7 @@
 #include "platform/options.h"
 #include "platform/play_state.h"
 #include "platform/procedure.h"
+#include "platform/product.h"
 #include "platform/sounds.h"
 #include "platform/word_lists.h"
 #include "widgets/alpha_panel.h"
@@ -109,7 +110,7 @@ QString Tips::readTip(const QString &file, const QString &key)
 
 void Tips::complain(const QString &text)
 {
-    ground_.boxes.plainBox(Boxes::Icon::Warning, u"Wortel-Meister"_s, text);
+    ground_.boxes.plainBox(Boxes::Icon::Warning, product::name, text);
 }
 
 void Tips::ShowLexiconTip2(const QString &lexiconPath)

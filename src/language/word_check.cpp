@@ -94,7 +94,8 @@ bool WordCheck::takeEntry()
 
 void WordCheck::askForWord()
 {
-    ground_.boxes.ShowInfoBox(u"Gib bitte ein Wort ein"_s, BoxSign::Write, u"Wortel-Meister: Wortkontrolle"_s);
+    ground_.boxes.ShowInfoBox(u"Gib bitte ein Wort ein"_s, BoxSign::Write,
+                              u"Wortel-Meister: Wortkontrolle"_s);
 }
 
 int WordCheck::verifySeconds() const

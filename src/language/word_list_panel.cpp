@@ -14,6 +14,7 @@
 #include "platform/options.h"
 #include "platform/play_state.h"
 #include "platform/procedure.h"
+#include "platform/product.h"
 #include "platform/settings_store.h"
 #include "platform/text_encoding.h"
 #include "platform/word_lists.h"
@@ -30,11 +31,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-const QString program = u"Wortel-Meister"_s;
-
-} // namespace
+namespace {} // namespace
 
 WordListPanel::WordListPanel(Ground &ground, const MainControls &controls, WordLists &lists,
                              const PlayState &play, const WordTests &tests, DictionaryPanel &dictionary,
@@ -125,7 +122,7 @@ void WordListPanel::Save_Result()
     if (lists_.CorrectWordList.isEmpty()) {
         step([&] {
             ground_.boxes.ShowInfoBox(u"Es gibt noch keine richtigen Wörter zum Speichern !"_s, BoxSign::Info,
-                                      program);
+                                      product::name);
         });
         return;
     }
@@ -155,7 +152,7 @@ void WordListPanel::CorrectWordsToClip()
     step([&] {
         if (lists_.CorrectWordList.isEmpty())
             ground_.boxes.ShowInfoBox(u"Es gibt noch keine richtigen Wörter zum kopieren !"_s, BoxSign::Info,
-                                      program);
+                                      product::name);
         else
             QGuiApplication::clipboard()->setText(lists_.CorrectWordList.rows().join(u"\r\n"_s) + u"\r\n"_s);
     });
@@ -174,8 +171,8 @@ void WordListPanel::askWord(Entry entry)
             inputResult_ = ground_.boxes.ShowWordBox(
                 u"Bitte gib ein Wort ein.\nEs wird aber nur in deine Liste übernommen, wenn es auch im "
                 u"Wortel-Wörterbuch vorkommt!"_s,
-                BoxStyle::Wortel, shown, adds ? u"Wort hinzufügen"_s : u"Wort bearbeiten"_s, std::max(0, corner.x()),
-                std::max(0, corner.y()));
+                BoxStyle::Wortel, shown, adds ? u"Wort hinzufügen"_s : u"Wort bearbeiten"_s,
+                std::max(0, corner.x()), std::max(0, corner.y()));
         });
     }
     step([&] { takeWord(entry); });

@@ -50,8 +50,8 @@ public:
     /// Something that is already inside, and may let events run, is on the stack as long as the result lives:
     /// a box, the load of the window.
     [[nodiscard]] Passage stay();
-    /// The same for a box: whatever a hand holds is let go first (`boxOpens`). False if the window closes: then
-    /// no box is shown.
+    /// The same for a box: whatever a hand holds is let go first (`boxOpens`). False if the window closes:
+    /// then no box is shown.
     [[nodiscard]] Passage openBox();
 
     /// What comes from outside: it is done from the event loop as soon as nothing is on the stack, each in

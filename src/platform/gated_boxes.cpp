@@ -29,8 +29,7 @@ Boxes::Answer GatedBoxes::plainBox(Icon icon, const QString &title, const QStrin
     return askThroughGate(gate_, otherwise, [&] { return boxes_.plainBox(icon, title, text, buttons); });
 }
 
-int GatedBoxes::ShowMBox(const QString &prompt, bool show, int buttons, const QString &title,
-                 BoxStyle style)
+int GatedBoxes::ShowMBox(const QString &prompt, bool show, int buttons, const QString &title, BoxStyle style)
 {
     if (!show)
         return 0;

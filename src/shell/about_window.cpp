@@ -40,7 +40,7 @@ fAbout::fAbout(QWidget *parent)
     auto *inner = new QVBoxLayout(panel);
     inner->setContentsMargins(28, 18, 28, 18);
     inner->addWidget(icon);
-    inner->addWidget(line(QStringLiteral("Wortel-Meister"), 26, true, panel));
+    inner->addWidget(line(product::name, 26, true, panel));
     inner->addWidget(line(QStringLiteral("Version ") + product::paddedVersion(), 13, false, panel));
     inner->addWidget(
         line(QStringLiteral("Ein Werkzeug zum Erkennen von Wortstrukturen\nSpiel mit Wortbausteinen"), 14,

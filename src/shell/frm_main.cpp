@@ -11,6 +11,7 @@
 #include "platform/log.h"
 #include "platform/options.h"
 #include "platform/procedure.h"
+#include "platform/product.h"
 #include "platform/sounds.h"
 #include "platform/system_info.h"
 #include "platform/text.h"
@@ -60,7 +61,7 @@ frmMain::frmMain(Ground &ground, const StartFacts &facts)
     , help_(ground.AppFolder, this)
 {
     setObjectName(u"frmMain"_s);
-    setWindowTitle(u"Wortel-Meister"_s);
+    setWindowTitle(product::name);
     setFocusPolicy(Qt::StrongFocus);
     setAcceptDrops(true);
     QSize size = designSize;
@@ -170,9 +171,9 @@ void frmMain::tellLeftOut()
     const int left = rooms_->progInit.leftOut();
     if (left > 0 && !firstBoardReplaced_)
         ground_.boxes.ShowInfoBox(
-            u"Beim Start war nicht genug Platz: %1 Wortele wurden nicht gelegt.\nDie Taste \"Wortel\" legt sie auf das ganze Spielfeld."_s
-                .arg(left),
-            BoxSign::Info, u"Wortel-Meister"_s);
+            u"Beim Start war nicht genug Platz: %1 nicht gelegt.\nDie Taste \"Wortel\" legt sie auf das ganze Spielfeld."_s
+                .arg(left == 1 ? u"1 Wortel wurde"_s : u"%1 Wortele wurden"_s.arg(left)),
+            BoxSign::Info, product::name);
 }
 
 void frmMain::showWelcome()

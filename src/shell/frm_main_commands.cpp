@@ -5,6 +5,7 @@
 
 #include "platform/boxes.h"
 #include "platform/ground.h"
+#include "platform/product.h"
 #include "platform/word_lists.h"
 #include "shell/rooms.h"
 #include "widgets/main_controls.h"
@@ -34,6 +35,6 @@ void frmMain::wireCommands()
 
 void frmMain::comesLater()
 {
-    ground_.boxes.ShowInfoBox(u"Das gibt es in dieser Version noch nicht. Es kommt später dazu."_s, BoxSign::Info,
-                              u"Wortel-Meister"_s);
+    ground_.boxes.ShowInfoBox(u"Das gibt es in dieser Version noch nicht. Es kommt später dazu."_s,
+                              BoxSign::Info, product::name);
 }

@@ -66,7 +66,7 @@ frmSplash::frmSplash(Clock &clock)
     , clock_(clock)
 {
     setObjectName(QStringLiteral("frmSplash"));
-    setWindowTitle(QStringLiteral("Wortel-Meister"));
+    setWindowTitle(product::name);
     setCursor(Qt::WaitCursor);
     setFixedSize(splashSize);
     for (const TextRow &row : texts) {

@@ -97,8 +97,7 @@ Boxes::Answer QueuedBoxes::plainBox(Icon icon, const QString &title, const QStri
     return answer({u"plainBox"_s, title, text, {}, static_cast<int>(icon)}, plain_, otherwise);
 }
 
-int QueuedBoxes::ShowMBox(const QString &prompt, bool show, int buttons, const QString &title,
-                 BoxStyle style)
+int QueuedBoxes::ShowMBox(const QString &prompt, bool show, int buttons, const QString &title, BoxStyle style)
 {
     return show ? answer({u"ShowMBox"_s, title, prompt, wordOf(style), buttons}, pressed_, 1) : 0;
 }

@@ -73,8 +73,8 @@ public:
     int ShowInfoBox(const QString &prompt, BoxSign sign, const QString &title) override;
     QString ShowIBox(const QString &prompt, BoxStyle kind, const QString &defaultText, const QString &title,
                      int left, int top) override;
-    QString ShowWordBox(const QString &prompt, BoxStyle kind, const QString &defaultText, const QString &title,
-                        int left, int top) override;
+    QString ShowWordBox(const QString &prompt, BoxStyle kind, const QString &defaultText,
+                        const QString &title, int left, int top) override;
 
 private:
     template <typename A> A answer(const Question &question, Answers<A> &answers, const A &otherwise);

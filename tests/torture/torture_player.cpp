@@ -90,8 +90,8 @@ public:
         const QStringList words{{}, u"neu"_s, u"Ä"_s, u"zwei Wörter"_s, u"Größe\""_s, QString(2000, u'w')};
         return words.at(below(random_, static_cast<std::size_t>(words.size())));
     }
-    QString ShowWordBox(const QString &prompt, BoxStyle kind, const QString &text, const QString &title, int left,
-                        int top) override
+    QString ShowWordBox(const QString &prompt, BoxStyle kind, const QString &text, const QString &title,
+                        int left, int top) override
     {
         return ShowIBox(prompt, kind, text, title, left, top);
     }
@@ -184,7 +184,8 @@ public:
         , rooms_(form.rooms())
         , random_(random)
     {
-        // Whatever comes back without anybody at the screen. The lists stay, and nobody stops a search for words.
+        // Whatever comes back without anybody at the screen. The lists stay, and nobody stops a search for
+        // words.
         constexpr std::array leftOut{201, 402, 901, 1001, 1003, 1601, 1607, 1906};
         for (const command::Command &row : command::table())
             if (std::ranges::find(leftOut, row.id) == leftOut.end())

@@ -13,6 +13,7 @@
 #include "platform/ground.h"
 #include "platform/options.h"
 #include "platform/procedure.h"
+#include "platform/product.h"
 #include "platform/rnd.h"
 #include "platform/sounds.h"
 #include "platform/text.h"
@@ -75,7 +76,7 @@ std::optional<int> BulkTiles::countInText1(const TileKind &kind)
     ground_.boxes.ShowInfoBox(number ? u"Diese Anzahl ist zu groß. Es dürfen höchstens %1 %2 sein."_s.arg(
                                            QString::number(largestCount), QString::fromUtf16(kind.plural))
                                      : u"Bitte schreibe eine Zahl in das Feld \"Anzahl Wortel\""_s,
-                              BoxSign::Info, u"Wortel-Meister"_s);
+                              BoxSign::Info, product::name);
     return std::nullopt;
 }
 
@@ -85,10 +86,10 @@ QString BulkTiles::randomStem()
     return lists_.WortelList.at(ground_.rnd.absInt(lists_.WortelList.count()));
 }
 
-std::unique_ptr<cWortel> BulkTiles::randomTile(DrawPlace draw, const QString &text) const
+std::unique_ptr<cWortel> BulkTiles::randomTile(const places::Draw &draw, const QString &text) const
 {
     const BoardMeasures &window = store_.measures();
-    const places::Place drawn = draw(ground_.rnd, window.ScaleWidth(), window.ScaleHeight());
+    const places::Place drawn = places::randomPlace(ground_.rnd, draw, window);
     const places::Place place = places::onBoard(drawn, window, store_.extentOf(text));
     return store_.makeTile(place.x, place.y, text, wortelKind);
 }

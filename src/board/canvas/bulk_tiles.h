@@ -11,7 +11,6 @@
 class BoardNews;
 class Canvas;
 class Placement;
-class Rnd;
 class TileStore;
 class Work;
 struct AffixHomes;
@@ -64,8 +63,7 @@ public:
 
 private:
     void shuffleKind(const char *procedure, const TileKind &kind, bool lowerCase);
-    using DrawPlace = places::Place (*)(Rnd &, int, int);
-    std::unique_ptr<cWortel> randomTile(DrawPlace draw, const QString &text) const;
+    std::unique_ptr<cWortel> randomTile(const places::Draw &draw, const QString &text) const;
     void layWortels(int n, bool wholeList, TileList &fresh, Work &work, int bound);
     void layAffixRows(TileList &fresh, int bandTop);
     void showFresh(TileList fresh, int filter);

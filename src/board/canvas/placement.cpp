@@ -8,6 +8,7 @@
 #include "platform/ground.h"
 #include "platform/options.h"
 #include "platform/procedure.h"
+#include "platform/product.h"
 #include "platform/rnd.h"
 #include "platform/text.h"
 #include "platform/word_lists.h"
@@ -105,7 +106,7 @@ void Placement::searchWortels(int count, int bound, const IsTaken &isTaken, Tile
             const int extent = store_.extentOf(stem);
             Place place;
             for (bool taken = true; taken;) {
-                place = places::freeWortel(ground_.rnd, window.ScaleWidth(), window.ScaleHeight());
+                place = places::randomPlace(ground_.rnd, places::freeWortel, window);
                 place = places::onBoard(place, window, extent);
                 taken = isTaken(place);
                 if (++tries == tryLimit_ || tries >= bound) // a try that finds a place counts as well
@@ -144,7 +145,7 @@ void Placement::NoWortelCollision2(int count, const QString &text, TileList &lai
             Place place;
             long long tries = 0;
             do {
-                place = places::spreadWortel(ground_.rnd, window.ScaleWidth(), window.ScaleHeight());
+                place = places::randomPlace(ground_.rnd, places::spreadWortel, window);
                 place = places::onBoard(place, window, store_.extentOf(text));
                 if (++tries == triesBeforeCancelIsOffered)
                     work.offerCancel();
@@ -164,10 +165,10 @@ bool Placement::MorphemeCollision(const QString &text, const TileKind &kind, Til
         const BoardMeasures &window = store_.measures();
         const int width = places::probeWidth(kind.back, text);
         const int extent = store_.extentOf(text);
-        Place place = places::firstMorpheme(ground_.rnd, window.ScaleWidth(), window.ScaleHeight());
+        Place place = places::randomPlace(ground_.rnd, places::firstMorpheme, window);
         TriedAgain_ = false;
         for (long long tries = 0;;) {
-            place = places::spreadMorpheme(ground_.rnd, window.ScaleWidth(), window.ScaleHeight());
+            place = places::randomPlace(ground_.rnd, places::spreadMorpheme, window);
             place = places::onBoard(place, window, extent);
             if (!overlaps(laid, place, width))
                 break;
@@ -191,8 +192,8 @@ bool Placement::askToGoOn(const TileList &laid)
     const QString question =
         places::limitQuestion(TriedAgain_, store_.counters().value(TileFilter::all), tryLimit_);
     TriedAgain_ = true;
-    const Boxes::Answer answer = ground_.boxes.plainBox(Boxes::Icon::Question, u"Wortel-Meister"_s, question,
-                                                        Boxes::Buttons::YesNoCancel);
+    const Boxes::Answer answer =
+        ground_.boxes.plainBox(Boxes::Icon::Question, product::name, question, Boxes::Buttons::YesNoCancel);
     ground_.pump.yield();
     canvas_.surface().LockWindow(true);
     return answer == Boxes::Answer::Yes;

@@ -83,8 +83,7 @@ Ending BoardCommands::editTile(const Press &press)
 Ending BoardCommands::removeTile(const Press &press)
 {
     if (!router_.ask(command::words(press.kind->filterIndex).removeQuestion,
-                     ground_.options.isOn(Setting::ConfirmBeforeErase), u"Entfernen"_s,
-                     press.kind->box))
+                     ground_.options.isOn(Setting::ConfirmBeforeErase), u"Entfernen"_s, press.kind->box))
         return Ending::RecallOnly;
     store_.counters().add(press.kind->filterIndex, -1, true);
     rooms_.canvas.CanvasEraseWortel(press.point.x(), press.point.y(), press.kind->back);
@@ -133,8 +132,8 @@ Ending BoardCommands::insert(const Command &command, const Press &press)
         return Ending::None;
     const command::KindWords &words = command::words(command.argument);
     const QPoint corner = controls_.picCanvas->mapToGlobal(press.point);
-    const QString typed = ground_.boxes.ShowIBox(text(words.prompt), kind.box, {},
-                                                 text(words.insertTitle), corner.x(), corner.y());
+    const QString typed = ground_.boxes.ShowIBox(text(words.prompt), kind.box, {}, text(words.insertTitle),
+                                                 corner.x(), corner.y());
     if (typed.isEmpty())
         return Ending::RecallOnly;
     const places::Place place =

@@ -10,6 +10,7 @@
 #include "platform/options.h"
 #include "platform/play_state.h"
 #include "platform/procedure.h"
+#include "platform/product.h"
 #include "platform/sounds.h"
 
 using command::Asks;
@@ -113,7 +114,7 @@ bool CommandRouter::hasWhatItNeeds(const Command &command)
     else if (command.needs != Needs::Nothing)
         has = counters.value(static_cast<int>(command.needs)) > 0;
     if (!has)
-        ground_.boxes.ShowInfoBox(text(command.missing), BoxSign::Info, u"Wortel-Meister"_s);
+        ground_.boxes.ShowInfoBox(text(command.missing), BoxSign::Info, product::name);
     return has;
 }
 

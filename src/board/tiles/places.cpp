@@ -12,18 +12,6 @@ using namespace Qt::StringLiterals;
 
 namespace places {
 
-namespace {
-
-/// abs(Int(Rnd * size - offset)) for both axes, x drawn first.
-Place draw(Rnd &rnd, int width, int offsetX, int height, int offsetY)
-{
-    const int x = rnd.absInt(width, -offsetX);
-    const int y = rnd.absInt(height, -offsetY);
-    return {x, y};
-}
-
-} // namespace
-
 bool checkOverlapInList(const TileList &tiles, int x, int y, int right, int bottom)
 {
     return std::any_of(tiles.cbegin(), tiles.cend(), [=](const auto &tile) {
@@ -34,40 +22,11 @@ bool checkOverlapInList(const TileList &tiles, int x, int y, int right, int bott
     });
 }
 
-Place freeWortel(Rnd &rnd, int scaleWidth, int scaleHeight)
+Place randomPlace(Rnd &rnd, const Draw &draw, const BoardMeasures &window)
 {
-    const Place place = draw(rnd, scaleWidth, 100, scaleHeight, 185);
-    return {place.x, place.y + 35};
-}
-
-Place spreadWortel(Rnd &rnd, int scaleWidth, int scaleHeight)
-{
-    const Place place = draw(rnd, scaleWidth, 100, scaleHeight, 155);
-    return {place.x, place.y + 35};
-}
-
-Place firstMorpheme(Rnd &rnd, int scaleWidth, int scaleHeight)
-{
-    const Place place = draw(rnd, scaleWidth, 32, scaleHeight, 100);
-    return {place.x, place.y - 2};
-}
-
-Place spreadMorpheme(Rnd &rnd, int scaleWidth, int scaleHeight)
-{
-    const Place place = draw(rnd, scaleWidth, 40, scaleHeight, 100);
-    return {place.x, place.y - 2};
-}
-
-Place refilledWortel(Rnd &rnd, int scaleWidth, int scaleHeight)
-{
-    const Place place = draw(rnd, scaleWidth, 100, scaleHeight, 200);
-    return {place.x, place.y + 65};
-}
-
-Place addedWortel(Rnd &rnd, int scaleWidth, int scaleHeight)
-{
-    const Place place = draw(rnd, scaleWidth, 100, scaleHeight, 300);
-    return {place.x, place.y + 80};
+    const int x = rnd.absInt(window.ScaleWidth(), -draw.offsetX);
+    const int y = rnd.absInt(window.ScaleHeight(), -draw.offsetY);
+    return {x, y + draw.down};
 }
 
 Place onBoard(Place place, const BoardMeasures &window, int width)

@@ -25,15 +25,24 @@ inline constexpr int boxHeight = cWortel::height;
 /// and below.
 bool checkOverlapInList(const TileList &tiles, int x, int y, int right, int bottom);
 
-/// The random places, for a window of that size. Folded back by the absolute value, so a draw below the
-/// offset lands near the left or upper edge.
-Place freeWortel(Rnd &rnd, int scaleWidth, int scaleHeight);   ///< `PlaceWortelFree`
-Place spreadWortel(Rnd &rnd, int scaleWidth, int scaleHeight); ///< `NoWortelCollision2`
-Place firstMorpheme(Rnd &rnd, int scaleWidth,
-                    int scaleHeight); ///< a probe's first place in `MorphemeCollision`
-Place spreadMorpheme(Rnd &rnd, int scaleWidth, int scaleHeight); ///< its further places; y can be -2
-Place refilledWortel(Rnd &rnd, int scaleWidth, int scaleHeight); ///< `Refill`
-Place addedWortel(Rnd &rnd, int scaleWidth, int scaleHeight); ///< leaves a band of 80 pixels free at the top
+/// How one search draws its random places: pixels taken off each draw, and the pixels it is then moved down.
+struct Draw
+{
+    int offsetX;
+    int offsetY;
+    int down;
+};
+
+inline constexpr Draw freeWortel{100, 185, 35};     ///< `PlaceWortelFree`
+inline constexpr Draw spreadWortel{100, 155, 35};   ///< `NoWortelCollision2`
+inline constexpr Draw firstMorpheme{32, 100, -2};   ///< a probe's first place in `MorphemeCollision`
+inline constexpr Draw spreadMorpheme{40, 100, -2};  ///< its further places; y can be -2
+inline constexpr Draw refilledWortel{100, 200, 65}; ///< `Refill`
+inline constexpr Draw addedWortel{100, 300, 80};    ///< leaves a band of 80 pixels free at the top
+
+/// A random place: abs(Int(Rnd * size - offset)) for both axes of the window, x drawn first. Folded back by
+/// the absolute value, so a draw below the offset lands near the left or upper edge.
+Place randomPlace(Rnd &rnd, const Draw &draw, const BoardMeasures &window);
 
 /// The place moved up and to the left as far as needed, so that a tile of that width lies above the lower
 /// band and within the right edge, with its outline.

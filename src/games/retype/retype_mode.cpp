@@ -14,6 +14,7 @@
 #include "platform/gate.h"
 #include "platform/ground.h"
 #include "platform/procedure.h"
+#include "platform/product.h"
 #include "platform/text.h"
 #include "platform/word_lists.h"
 #include "widgets/control_sheet.h"
@@ -65,7 +66,7 @@ RetypeMode::RetypeMode(Ground &ground, const MainControls &controls, WordLists &
 
 void RetypeMode::notice(const QString &text)
 {
-    ground_.boxes.ShowInfoBox(text, BoxSign::Info, u"Wortel-Meister"_s);
+    ground_.boxes.ShowInfoBox(text, BoxSign::Info, product::name);
 }
 
 // The button and the menu

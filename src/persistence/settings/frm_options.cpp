@@ -11,6 +11,7 @@
 #include "platform/ground.h"
 #include "platform/options.h"
 #include "platform/procedure.h"
+#include "platform/product.h"
 #include "platform/settings_store.h"
 #include "platform/text.h"
 #include "widgets/guards.h"
@@ -27,7 +28,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString programTitle = u"Wortel-Meister"_s;
 constexpr QSize wishedSize{880, 540};
 constexpr int yesNo = 4;
 constexpr int answerNo = 1;
@@ -95,7 +95,7 @@ void frmOptions::cmdOK_Click()
         if (ground_.options.IsChanged())
             answer = ground_.boxes.ShowMBox(
                 u"Es wurden Änderungen gemacht.\n\nWillst du die Änderungen bestätigen?"_s, true, yesNo,
-                programTitle + u" - Bestätigen"_s, BoxStyle::Confirm);
+                product::name + u" - Bestätigen"_s, BoxStyle::Confirm);
     });
     step([&] {
         if (answer != answerNo) {
@@ -121,13 +121,13 @@ void frmOptions::apply()
     }
     if (!saved)
         ground_.boxes.plainBox(
-            Boxes::Icon::Warning, programTitle + u" - Fehler"_s,
+            Boxes::Icon::Warning, product::faultTitle,
             u"Die Einstellungen konnten nicht gespeichert werden.\n\nSie gelten bis zum Ende des Programms."_s);
 }
 
 void frmOptions::Command2_Click()
 {
-    ground_.boxes.plainBox(Boxes::Icon::Information, programTitle,
+    ground_.boxes.plainBox(Boxes::Icon::Information, product::name,
                            u"Diese Funktion ist noch nicht ins Programm eingebaut"_s);
 }
 
@@ -171,7 +171,7 @@ void frmOptions::Text2_OLEDragDrop(const QString &path)
     if (UCase(ending) == u"TXT"_s)
         ground_.options.setText(Setting::WortelFile, path);
     else
-        ground_.boxes.plainBox(Boxes::Icon::Warning, programTitle + u" - Fehler: Format"_s,
+        ground_.boxes.plainBox(Boxes::Icon::Warning, product::name + u" - Fehler: Format"_s,
                                u"Hier passt nur eine Text-Datei (*.txt)."_s);
 }
 
