@@ -12,20 +12,20 @@
 
 namespace {
 
+using C = MainControls;
+
 constexpr int left = 31;  ///< pixels: 465 twips
 constexpr int below = 14; ///< pixels under the upper edge of the lower band
 constexpr int firstPixels = ReportWindow::firstHeight / 15;
 
-#define CONTROL(member) [](const MainControls &c) -> QWidget * { return c.member; }
 constexpr SheetRow reportSheet[] = {
-    {CONTROL(Command5), SheetRow::Disabled}, {CONTROL(Command2), SheetRow::Disabled},
-    {CONTROL(Check2), SheetRow::Resting},    {CONTROL(Check3), SheetRow::Resting},
-    {CONTROL(Check4), SheetRow::Resting},
+    {tool<&C::Command5>, SheetRow::Disabled}, {tool<&C::Command2>, SheetRow::Disabled},
+    {tool<&C::Check2>, SheetRow::Resting},    {tool<&C::Check3>, SheetRow::Resting},
+    {tool<&C::Check4>, SheetRow::Resting},
 };
 /// Unless a game runs, which goes on.
-constexpr SheetRow listsSheet[] = {{CONTROL(Command3), SheetRow::Disabled},
-                                   {CONTROL(Command4), SheetRow::Disabled}};
-#undef CONTROL
+constexpr SheetRow listsSheet[] = {{tool<&C::Command3>, SheetRow::Disabled},
+                                   {tool<&C::Command4>, SheetRow::Disabled}};
 
 } // namespace
 

@@ -22,15 +22,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-#define CONTROL(member) [](const MainControls &c) -> QWidget * { return c.member; }
+using C = MainControls;
+
 /// No word is checked or dragged while the dictionary lies open.
-constexpr SheetRow openSheet[] = {{CONTROL(Command2), SheetRow::Disabled},
-                                  {CONTROL(Option1[0]), SheetRow::Disabled},
-                                  {CONTROL(Command3), SheetRow::None, u"Suchen"}};
-constexpr SheetRow searchSheet[] = {{CONTROL(Command2), SheetRow::Disabled},
-                                    {CONTROL(Option1[0]), SheetRow::Disabled},
-                                    {CONTROL(Command4), SheetRow::Disabled}};
-#undef CONTROL
+constexpr SheetRow openSheet[] = {{tool<&C::Command2>, SheetRow::Disabled},
+                                  {tool<&C::Option1, 0>, SheetRow::Disabled},
+                                  {tool<&C::Command3>, SheetRow::None, u"Suchen"}};
+constexpr SheetRow searchSheet[] = {{tool<&C::Command2>, SheetRow::Disabled},
+                                    {tool<&C::Option1, 0>, SheetRow::Disabled},
+                                    {tool<&C::Command4>, SheetRow::Disabled}};
 
 } // namespace
 

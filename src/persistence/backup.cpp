@@ -106,9 +106,11 @@ void Backup::readBoard(const QString &path)
             if (const TileKind *kind = kindOfLetter(record.type))
                 tiles.push_back(store.makeTile(record.left, record.top, record.caption, *kind));
     });
-    store.replaceAll(std::move(tiles));
-    store.recount();
-    canvas_.repaint();
+    if (whole || !tiles.empty()) {
+        store.replaceAll(std::move(tiles));
+        store.recount();
+        canvas_.repaint();
+    }
     if (!whole)
         throw RuntimeError::of(RuntimeError::Overflow);
 }

@@ -35,12 +35,6 @@ void ControlSheet::set(Reason reason, std::span<const SheetRow> rows, bool on)
         lay(reason, rows);
 }
 
-bool ControlSheet::lies(Reason reason) const
-{
-    return std::any_of(laid_.begin(), laid_.end(),
-                       [reason](const Laid &laid) { return laid.reason == reason; });
-}
-
 bool ControlSheet::acts(const QWidget *control) const
 {
     constexpr unsigned restsBy = SheetRow::Disabled | SheetRow::Hidden | SheetRow::Resting;

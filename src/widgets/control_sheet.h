@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <type_traits>
 #include <vector>
 
 class QWidget;
@@ -40,6 +41,16 @@ struct SheetRow
     const char16_t *toolTip = nullptr; ///< nullptr leaves the control's own
 };
 
+/// The control of a row, said by its name: `tool<&C::Check3>`, and of several with one name
+/// `tool<&C::Option2, 1>`, with `C` for `MainControls`.
+template <auto Member, std::size_t Index = 0> QWidget *tool(const MainControls &controls)
+{
+    if constexpr (std::is_pointer_v<std::remove_cvref_t<decltype(controls.*Member)>>)
+        return controls.*Member;
+    else
+        return (controls.*Member)[Index];
+}
+
 /// The only one that enables, disables, hides or shows a tool of the main window. Each mode, work, report or
 /// open list lays its sheet under its own reason and takes it off again, in any order: a tool acts when no
 /// reason lies on it, and then looks as it was made.
@@ -54,7 +65,6 @@ public:
     void lay(Reason reason, std::span<const SheetRow> rows);
     void takeOff(Reason reason);
     void set(Reason reason, std::span<const SheetRow> rows, bool on);
-    bool lies(Reason reason) const;
     /// Whether a press on the tool does something.
     bool acts(const QWidget *control) const;
     /// What the tool says while no sheet says something else.

@@ -17,27 +17,28 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-#define CONTROL(member) [](const MainControls &c) -> QWidget * { return c.member; }
+using C = MainControls;
+
 // The filters rest as well: the board is frozen, and would not show what they choose.
 constexpr SheetRow restingTools[] = {
-    {CONTROL(OptType[0]), SheetRow::Disabled},  {CONTROL(OptType[1]), SheetRow::Disabled},
-    {CONTROL(OptType[2]), SheetRow::Disabled},  {CONTROL(OptType[3]), SheetRow::Disabled},
-    {CONTROL(Check1), SheetRow::Disabled},      {CONTROL(Check2), SheetRow::Disabled},
-    {CONTROL(Check3), SheetRow::Disabled},      {CONTROL(Text1), SheetRow::Disabled},
-    {CONTROL(Label3), SheetRow::Disabled},      {CONTROL(Option1[0]), SheetRow::Disabled},
-    {CONTROL(Option1[1]), SheetRow::Disabled},  {CONTROL(Command2), SheetRow::Disabled},
-    {CONTROL(Command3), SheetRow::Disabled},    {CONTROL(Command4), SheetRow::Disabled},
-    {CONTROL(Command5), SheetRow::Disabled},    {CONTROL(Command6), SheetRow::Disabled},
-    {CONTROL(Label2), SheetRow::Disabled},      {CONTROL(Dropper1), SheetRow::Disabled},
-    {CONTROL(Option2[0]), SheetRow::Disabled},  {CONTROL(Option2[1]), SheetRow::Disabled},
-    {CONTROL(Option2[2]), SheetRow::Disabled},  {CONTROL(ChkVokal[0]), SheetRow::Disabled},
-    {CONTROL(ChkVokal[1]), SheetRow::Disabled},
+    {tool<&C::OptType, 0>, SheetRow::Disabled},  {tool<&C::OptType, 1>, SheetRow::Disabled},
+    {tool<&C::OptType, 2>, SheetRow::Disabled},  {tool<&C::OptType, 3>, SheetRow::Disabled},
+    {tool<&C::Check1>, SheetRow::Disabled},      {tool<&C::Check2>, SheetRow::Disabled},
+    {tool<&C::Check3>, SheetRow::Disabled},      {tool<&C::Text1>, SheetRow::Disabled},
+    {tool<&C::Label3>, SheetRow::Disabled},      {tool<&C::Option1, 0>, SheetRow::Disabled},
+    {tool<&C::Option1, 1>, SheetRow::Disabled},  {tool<&C::Command2>, SheetRow::Disabled},
+    {tool<&C::Command3>, SheetRow::Disabled},    {tool<&C::Command4>, SheetRow::Disabled},
+    {tool<&C::Command5>, SheetRow::Disabled},    {tool<&C::Command6>, SheetRow::Disabled},
+    {tool<&C::Label2>, SheetRow::Disabled},      {tool<&C::Dropper1>, SheetRow::Disabled},
+    {tool<&C::Option2, 0>, SheetRow::Disabled},  {tool<&C::Option2, 1>, SheetRow::Disabled},
+    {tool<&C::Option2, 2>, SheetRow::Disabled},  {tool<&C::ChkVokal, 0>, SheetRow::Disabled},
+    {tool<&C::ChkVokal, 1>, SheetRow::Disabled},
 };
 /// The mode's own button, unless its words are prepared: then it cancels.
-constexpr SheetRow modeTool[] = {{CONTROL(Check4), SheetRow::Disabled}};
-constexpr SheetRow hiddenModes[] = {{CONTROL(Check3), SheetRow::Hidden}, {CONTROL(Check4), SheetRow::Hidden}};
-constexpr SheetRow cancelSign[] = {{CONTROL(Label4), SheetRow::Shown}};
-#undef CONTROL
+constexpr SheetRow modeTool[] = {{tool<&C::Check4>, SheetRow::Disabled}};
+constexpr SheetRow hiddenModes[] = {{tool<&C::Check3>, SheetRow::Hidden},
+                                    {tool<&C::Check4>, SheetRow::Hidden}};
+constexpr SheetRow cancelSign[] = {{tool<&C::Label4>, SheetRow::Shown}};
 
 } // namespace
 

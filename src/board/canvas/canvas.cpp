@@ -271,8 +271,7 @@ void Canvas::Option1_Click(int index)
 
 void Canvas::Check1_Click()
 {
-    static constexpr SheetRow number[] = {
-        {[](const MainControls &c) -> QWidget * { return c.Text1; }, SheetRow::Disabled}};
+    static constexpr SheetRow number[] = {{tool<&MainControls::Text1>, SheetRow::Disabled}};
     Procedure step{ground_.log, "Check1_Click", form};
     step([&] { sheet_.set(Reason::WholeList, number, controls_.Check1->isChecked()); });
 }

@@ -31,23 +31,23 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+using C = MainControls;
+
 constexpr QColor wordColour{0, 0, 0};
 constexpr QColor nonsenseColour{255, 0, 0}; ///< seen at once that these are no words
 
-#define CONTROL(member) [](const MainControls &c) -> QWidget * { return c.member; }
 /// From the preparing on: the games rest, and so do the lists.
 constexpr SheetRow modeSheet[] = {
-    {CONTROL(Check3), SheetRow::Disabled},
-    {CONTROL(Option2[0]), SheetRow::Disabled},
-    {CONTROL(Option2[1]), SheetRow::Disabled},
-    {CONTROL(Option2[2]), SheetRow::Disabled},
-    {CONTROL(ChkVokal[0]), SheetRow::Disabled},
-    {CONTROL(ChkVokal[1]), SheetRow::Disabled},
-    {CONTROL(Command3), SheetRow::Disabled},
-    {CONTROL(Command4), SheetRow::Disabled},
-    {CONTROL(Check4), SheetRow::None, u"Abschreiben abbrechen"},
+    {tool<&C::Check3>, SheetRow::Disabled},
+    {tool<&C::Option2, 0>, SheetRow::Disabled},
+    {tool<&C::Option2, 1>, SheetRow::Disabled},
+    {tool<&C::Option2, 2>, SheetRow::Disabled},
+    {tool<&C::ChkVokal, 0>, SheetRow::Disabled},
+    {tool<&C::ChkVokal, 1>, SheetRow::Disabled},
+    {tool<&C::Command3>, SheetRow::Disabled},
+    {tool<&C::Command4>, SheetRow::Disabled},
+    {tool<&C::Check4>, SheetRow::None, u"Abschreiben abbrechen"},
 };
-#undef CONTROL
 
 } // namespace
 

@@ -42,21 +42,22 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+using C = MainControls;
+
 constexpr int lowestList = 60; ///< pixels
 constexpr QColor runningFace{0xFF, 0xC8, 0x3C};
 
-#define CONTROL(member) [](const MainControls &c) -> QWidget * { return c.member; }
 /// While the strip runs: the board is switched to typing.
 constexpr SheetRow typingSheet[] = {
-    {CONTROL(Check1), SheetRow::Hidden},       {CONTROL(Check2), SheetRow::Hidden},
-    {CONTROL(Label3), SheetRow::Hidden},       {CONTROL(Label6), SheetRow::Hidden},
-    {CONTROL(Option1[0]), SheetRow::Disabled},
+    {tool<&C::Check1>, SheetRow::Hidden},       {tool<&C::Check2>, SheetRow::Hidden},
+    {tool<&C::Label3>, SheetRow::Hidden},       {tool<&C::Label6>, SheetRow::Hidden},
+    {tool<&C::Option1, 0>, SheetRow::Disabled},
 };
 /// The same, but for the vowel modes, where these two stay.
-constexpr SheetRow wordsSheet[] = {{CONTROL(Text1), SheetRow::Hidden}, {CONTROL(Command6), SheetRow::Hidden}};
+constexpr SheetRow wordsSheet[] = {{tool<&C::Text1>, SheetRow::Hidden},
+                                   {tool<&C::Command6>, SheetRow::Hidden}};
 /// While words are searched on the board.
-constexpr SheetRow searchSheet[] = {{CONTROL(Picture3), SheetRow::Hidden}};
-#undef CONTROL
+constexpr SheetRow searchSheet[] = {{tool<&C::Picture3>, SheetRow::Hidden}};
 
 QString counted(int count, const char16_t *text) { return QString::number(count) + QString::fromUtf16(text); }
 
@@ -121,8 +122,9 @@ void RetypeMode::gatherWords(const RetypeSource &source, Work &work)
     Procedure step(ground_.log, "StartTheRetyping", "frmMain", Procedure::Silent);
     MsgScroller &strip = *controls_.Scroller;
     const WordStore &words = wordsOf(source);
+    const QStringList rows = words.rows(); // a copy: events run on the way
     const bool keeps = source.keepsWords && ground_.options.isOn(Setting::ShowCorrectListAfterReType);
-    for (const QString &row : words.rows()) {
+    for (const QString &row : rows) {
         if (work.isCancelled())
             return;
         if (!belongs(row, source))
