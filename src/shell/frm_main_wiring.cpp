@@ -158,7 +158,13 @@ void frmMain::wireKeeping()
     });
     connect(&r.options, &frmOptions::registerFileType, this, [&r] { r.fileType.registerSessions(); });
     connect(&r.options, &frmOptions::removeFileType, this, [&r] { r.fileType.removeSessions(); });
-    connect(&r.options, &frmOptions::resetScores, this, &frmMain::comesLater);
+    connect(&r.options, &frmOptions::resetScores, this, [this, &r](frmOptions::Scores table) {
+        if (table == frmOptions::Scores::Paarlon)
+            comesLater();
+        else
+            r.scores.ResetScores(table == frmOptions::Scores::Klotar ? ScoredGame::Klotar
+                                                                     : ScoredGame::Tonarin);
+    });
 }
 
 void frmMain::showOptions()

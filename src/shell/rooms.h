@@ -20,6 +20,7 @@
 #include "dialogs/msn_style.h"
 #include "games/retype/retype_mode.h"
 #include "games/retype/strip_control.h"
+#include "games/scores/high_scores.h"
 #include "generators/word_maker.h"
 #include "language/dictionary_panel.h"
 #include "language/list_chooser.h"
@@ -101,6 +102,7 @@ struct Rooms
     FileType fileType;
 
     // games
+    HighScores scores;
     StripControl strip;
     RetypeMode retype;
 

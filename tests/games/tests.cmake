@@ -5,4 +5,5 @@ wortel_test(games
         retype/tst_retype_mode.cpp
         retype/tst_retype_ways.cpp
         retype/tst_strip_control.cpp
+        scores/tst_high_scores.cpp
 )

@@ -90,8 +90,24 @@ struct House : TestHouse
     template <typename Act> QString boxOf(Act act)
     {
         t.boxes.willBeRead();
+        t.boxes.willPress(1);
+        t.boxes.willCloseScores();
         act();
         return t.boxes.asked.isEmpty() ? QString() : t.boxes.asked.last().text.left(20);
+    }
+    /// The heading of the list of the best that the menu's entry shows.
+    QString listOf(int id)
+    {
+        t.boxes.willCloseScores();
+        run(From::MainMenu, id);
+        return t.boxes.asked.last().style;
+    }
+    /// The file that the menu's entry writes.
+    QString listReset(int id)
+    {
+        t.boxes.willPress(0);
+        run(From::MainMenu, id);
+        return QDir(t.folder.path()).entryList({u"*.lst"_s}).join(u' ');
     }
     /// The title of the file dialog that `act` brings up, and that is cancelled.
     template <typename Act> QString dialogOf(Act act)
@@ -244,8 +260,15 @@ const Wire wires[] = {
     {"undo", ACT(h.r.news.Commit(), h.t.options.setBox(Setting::UseUndo, 0), h.t.options.ApplySettings(), yes(h.r.undo.CanUndo())), u"no"_s},
     {"file type", ACT(h.r.options.registerFileType(), yes(h.sessionsAreKnown())), u"yes"_s},
     {"no file type", ACT(h.r.fileType.registerSessions(), h.r.options.removeFileType(), yes(h.sessionsAreKnown())), u"no"_s},
-    {"scores", ACT(h.boxOf([&] { emit h.r.options.resetScores(frmOptions::Scores::Klotar); })), later},
+    {"scores", ACT(h.boxOf([&] { emit h.r.options.resetScores(frmOptions::Scores::Klotar); })), u"Möchtest du die Best"_s},
 
+    {"scores of Tonarin", ACT(h.boxOf([&] { emit h.r.options.resetScores(frmOptions::Scores::Tonarin); })), u"Möchtest du die Best"_s},
+    {"2900", ACT(h.listOf(2900)), u"Klotar"_s},
+    {"3104", ACT(h.listOf(3104)), u"Kernling"_s},
+    {"3106", ACT(h.listOf(3106)), u"Tonarin"_s},
+    {"2901", ACT(h.listReset(2901)), u"scores.lst"_s},
+    {"3105", ACT(h.listReset(3105)), u"ScoresKernling.lst"_s},
+    {"3107", ACT(h.listReset(3107)), u"ScoresVokal.lst"_s},
     {"601", ACT(h.run(From::MainMenu, 601), h.report()), u"Richtig !"_s},
     {"901", ACT(h.windowOf([&] { h.run(From::MainMenu, 901); })), u"frmOptions"_s},
     {"1001", ACT(h.windowOf([&] { h.run(From::MainMenu, 1001); })), u"HelpWindow"_s},

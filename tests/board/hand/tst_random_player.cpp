@@ -148,6 +148,8 @@ private:
             t.boxes.willAnswer(anyOf({Boxes::Answer::Yes, Boxes::Answer::No, Boxes::Answer::Cancel}));
             t.boxes.willType(text);
             t.boxes.willTypeWord(text);
+            t.boxes.willEnterName(text);
+            t.boxes.willCloseScores();
             t.fileDialogs.willOpen(
                 anyOf<QStringList>({{}, {session_}, {t.AppFolder + u"text\\Hauptbausteine.Txt"_s}}));
             t.fileDialogs.willSave(anyOf<QString>({{}, session_}));
@@ -369,7 +371,9 @@ private slots:
             if (!wrong.isEmpty() || QTest::currentTestFailed())
                 QFAIL(qPrintable(u"step %1,%2: %3"_s.arg(i).arg(player.last, wrong)));
         }
-        QVERIFY(player.commits > steps / 20 && player.houses > 5); // it did play
+        // It did play.
+        QVERIFY2(player.commits > steps / 20 && player.houses > 2,
+                 qPrintable(u"%1 commits, %2 houses"_s.arg(player.commits).arg(player.houses)));
     }
 };
 
