@@ -1,0 +1,359 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "games/kernling/kernling_text.h"
+
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QUrl>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr int longestLine = 4000; ///< letters
+constexpr int caretWidth = 2;     ///< pixels
+constexpr double zoomStep = 1.15;
+
+bool isNoText(QChar character)
+{
+    return character.isNull() || character == QChar::ObjectReplacementCharacter ||
+           character == QChar(0xFDD0) || character == QChar(0xFDD1);
+}
+
+bool endsLine(QChar character)
+{
+    return character == u'\n' || character == u'\r' || character == QChar::ParagraphSeparator ||
+           character == QChar::LineSeparator;
+}
+
+bool isUndo(const QKeyEvent *event)
+{
+    return event->matches(QKeySequence::Undo) || event->matches(QKeySequence::Redo);
+}
+
+} // namespace
+
+QString layableText(const QString &text)
+{
+    QString result;
+    result.reserve(text.size() + text.size() / longestLine);
+    qsizetype lineStart = 0;
+    qsizetype lastBlank = -1;
+    for (const QChar character : text) {
+        if (isNoText(character))
+            continue;
+        result += character;
+        if (endsLine(character)) {
+            lineStart = result.size();
+            lastBlank = -1;
+        } else if (character.isSpace()) {
+            lastBlank = result.size();
+        }
+        if (result.size() - lineStart < longestLine || character.isHighSurrogate())
+            continue;
+        const qsizetype fold = lastBlank > lineStart ? lastBlank : result.size();
+        result.insert(fold, u'\n');
+        lineStart = fold + 1;
+        lastBlank = -1;
+    }
+    return result;
+}
+
+/// Keeps the first visible line where it is, and the window from drawing, while the text is changed.
+class KernlingText::KeptView
+{
+public:
+    explicit KeptView(KernlingText &text)
+        : text_(text)
+        , first_(text.verticalScrollBar()->value())
+        , frozen_(text.updatesEnabled())
+    {
+        text_.setUpdatesEnabled(false);
+    }
+    ~KeptView()
+    {
+        text_.verticalScrollBar()->setValue(first_);
+        text_.setUpdatesEnabled(frozen_);
+    }
+    KeptView(const KeptView &) = delete;
+    KeptView &operator=(const KeptView &) = delete;
+
+private:
+    KernlingText &text_;
+    int first_;
+    bool frozen_;
+};
+
+KernlingText::KernlingText(QWidget *parent)
+    : QTextEdit(parent)
+{
+    setAcceptRichText(false);
+    setTabChangesFocus(true);
+    setCursorWidth(caretWidth);
+    setTextFont(QStringLiteral("Arial"));
+    QPalette colours = palette(); // a marking is seen as well while a tool has the keyboard
+    for (const auto role : {QPalette::Highlight, QPalette::HighlightedText})
+        colours.setColor(QPalette::Inactive, role, colours.color(QPalette::Active, role));
+    setPalette(colours);
+}
+
+void KernlingText::setLocked(bool locked)
+{
+    locked_ = locked;
+    const QTextCursor cursor = textCursor();
+    setTextInteractionFlags(locked ? Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard
+                                   : Qt::TextEditorInteraction);
+    setTextCursor(cursor);
+    setCursorWidth(caretWidth);
+    hideCaret();
+}
+
+void KernlingText::hideCaret()
+{
+    if (locked_)
+        setCursorWidth(0);
+}
+
+QString KernlingText::selectedText() const
+{
+    return textCursor().selectedText().replace(QChar::ParagraphSeparator, u'\n');
+}
+
+KernlingText::Run KernlingText::selection() const
+{
+    const QTextCursor cursor = textCursor();
+    return {cursor.selectionStart(), cursor.selectionEnd() - cursor.selectionStart()};
+}
+
+void KernlingText::select(const Run &run)
+{
+    const int end = document()->characterCount() - 1;
+    QTextCursor cursor(document());
+    cursor.setPosition(std::clamp(run.start, 0, end));
+    cursor.setPosition(std::clamp(run.start + run.length, 0, end), QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
+}
+
+void KernlingText::replaceText(const QString &text)
+{
+    QTextCursor cursor(document());
+    cursor.beginEditBlock();
+    cursor.select(QTextCursor::Document);
+    cursor.setBlockFormat({});
+    cursor.insertText(layableText(text), QTextCharFormat());
+    cursor.endEditBlock();
+    select({0, 0});
+}
+
+void KernlingText::setTextFont(const QString &family)
+{
+    QFont letters = font();
+    letters.setFamily(family);
+    setFont(letters);
+    applyLetterSize();
+}
+
+void KernlingText::setLetterSize(int pixels)
+{
+    letterSize_ = pixels;
+    applyLetterSize();
+}
+
+void KernlingText::zoomLetters(int steps)
+{
+    const auto sizeAt = [this](int zoom) { return letterSize_ * std::pow(zoomStep, zoom); };
+    const int wanted = zoom_ + steps;
+    if ((steps > 0 && sizeAt(wanted) > largestLetters) || (steps < 0 && sizeAt(wanted) < smallestLetters))
+        return;
+    zoom_ = wanted;
+    applyLetterSize();
+}
+
+void KernlingText::applyLetterSize()
+{
+    const double size = letterSize_ * std::pow(zoomStep, zoom_);
+    QFont letters = font();
+    letters.setPixelSize(
+        std::clamp(static_cast<int>(std::lround(size)), smallestLetters, largestLetters));
+    setFont(letters);
+}
+
+void KernlingText::paintRuns(const std::vector<Run> &runs, const QColor &background, bool goesOnFrom)
+{
+    const KeptView view(*this);
+    QTextCharFormat painted;
+    painted.setBackground(background);
+    painted.setForeground(Qt::white);
+    QTextCursor cursor(document());
+    goesOnFrom ? cursor.joinPreviousEditBlock() : cursor.beginEditBlock();
+    for (const Run &run : runs) {
+        cursor.setPosition(run.start);
+        cursor.setPosition(run.start + run.length, QTextCursor::KeepAnchor);
+        cursor.mergeCharFormat(painted);
+    }
+    cursor.endEditBlock();
+}
+
+void KernlingText::unpaint(const Run &run)
+{
+    struct Piece
+    {
+        int start, end;
+        QTextCharFormat format;
+    };
+    std::vector<Piece> painted;
+    const int end = run.start + run.length;
+    for (QTextBlock block = document()->findBlock(run.start); block.isValid() && block.position() < end;
+         block = block.next()) {
+        for (auto at = block.begin(); !at.atEnd(); ++at) {
+            const QTextFragment piece = at.fragment();
+            const int from = std::max(piece.position(), run.start);
+            const int to = std::min(piece.position() + piece.length(), end);
+            if (from < to && piece.charFormat().hasProperty(QTextFormat::BackgroundBrush))
+                painted.push_back({from, to, piece.charFormat()});
+        }
+    }
+    const KeptView view(*this);
+    QTextCursor cursor(document());
+    cursor.beginEditBlock();
+    for (Piece &piece : painted) {
+        piece.format.clearBackground();
+        piece.format.clearForeground(); // white letters would be lost on the paper
+        cursor.setPosition(piece.start);
+        cursor.setPosition(piece.end, QTextCursor::KeepAnchor);
+        cursor.setCharFormat(piece.format);
+    }
+    cursor.endEditBlock();
+}
+
+void KernlingText::unpaintAll() { unpaint({0, document()->characterCount()}); }
+
+QVariant KernlingText::loadResource(int, const QUrl &) { return {}; }
+
+void KernlingText::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::RightButton) {
+        hideCaret();
+        event->accept();
+        emit rightPressed(event->position().toPoint());
+        return;
+    }
+    // A press on what is marked begins a new marking; it would drag the letters away.
+    if (event->button() == Qt::LeftButton && !(event->modifiers() & Qt::ShiftModifier)) {
+        QTextCursor cursor = textCursor();
+        cursor.clearSelection();
+        setTextCursor(cursor);
+    }
+    QTextEdit::mousePressEvent(event);
+    hideCaret();
+}
+
+void KernlingText::mouseMoveEvent(QMouseEvent *event)
+{
+    QTextEdit::mouseMoveEvent(event);
+    hideCaret();
+}
+
+void KernlingText::mouseReleaseEvent(QMouseEvent *event)
+{
+    QTextEdit::mouseReleaseEvent(event);
+    hideCaret();
+    if (event->button() == Qt::LeftButton)
+        emit marked();
+}
+
+void KernlingText::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    QTextEdit::mouseDoubleClickEvent(event);
+    hideCaret();
+}
+
+void KernlingText::contextMenuEvent(QContextMenuEvent *event)
+{
+    // The mouse's menu came with the press.
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        emit rightPressed(cursorRect().bottomRight());
+    event->accept();
+}
+
+void KernlingText::keyPressEvent(QKeyEvent *event)
+{
+    if (locked_) {
+        setCursorWidth(caretWidth); // who marks with keys has to see where
+        if (isUndo(event)) {
+            event->accept();
+            return;
+        }
+    }
+    if (event->key() == Qt::Key_Shift && !event->isAutoRepeat())
+        beforeShift_ = selection();
+    QTextEdit::keyPressEvent(event);
+}
+
+void KernlingText::keyReleaseEvent(QKeyEvent *event)
+{
+    QTextEdit::keyReleaseEvent(event);
+    if (event->key() != Qt::Key_Shift || event->isAutoRepeat())
+        return;
+    const Run now = selection();
+    if (now.length > 0 && (now.start != beforeShift_.start || now.length != beforeShift_.length))
+        emit marked();
+}
+
+void KernlingText::wheelEvent(QWheelEvent *event)
+{
+    if (!(event->modifiers() & Qt::ControlModifier)) {
+        QTextEdit::wheelEvent(event);
+        return;
+    }
+    event->accept();
+    if (event->angleDelta().y() != 0)
+        zoomLetters(event->angleDelta().y() > 0 ? 1 : -1);
+}
+
+void KernlingText::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (event->mimeData()->hasUrls()) {
+        event->setDropAction(Qt::CopyAction); // a source that moves would delete its file
+        event->setAccepted(!locked_);
+        return;
+    }
+    QTextEdit::dragEnterEvent(event);
+}
+
+void KernlingText::dragMoveEvent(QDragMoveEvent *event)
+{
+    if (event->mimeData()->hasUrls()) {
+        event->setDropAction(Qt::CopyAction);
+        event->setAccepted(!locked_);
+        return;
+    }
+    QTextEdit::dragMoveEvent(event);
+}
+
+void KernlingText::dropEvent(QDropEvent *event)
+{
+    if (!event->mimeData()->hasUrls()) {
+        QTextEdit::dropEvent(event);
+        return;
+    }
+    event->setDropAction(Qt::CopyAction);
+    const QUrl url = event->mimeData()->urls().value(0);
+    event->setAccepted(!locked_ && url.isLocalFile());
+    if (event->isAccepted())
+        emit fileDropped(url.toLocalFile());
+}
+
+bool KernlingText::canInsertFromMimeData(const QMimeData *source) const
+{
+    return !locked_ && source->hasText();
+}
+
+void KernlingText::insertFromMimeData(const QMimeData *source)
+{
+    if (canInsertFromMimeData(source))
+        textCursor().insertText(layableText(source->text()), QTextCharFormat());
+}
