@@ -131,6 +131,8 @@ void frmMain::wireModes()
     connect(&r.sessions, &Sessions::listsChosen, &r.retype, &RetypeMode::endRun);
     connect(&r.retype, &RetypeMode::chooserWanted, this, &frmMain::comesLater);
 
+    connect(&r.kernling, &FrmKernling::PrintRTF, this, &frmMain::comesLater);
+
     // The menus are built anew on one signal, whatever has changed.
     connect(this, &frmMain::menusStale, this, [&r] { r.menus.CreateMenus(); });
     connect(&play_, &PlayState::changed, this, &frmMain::menusStale);

@@ -74,7 +74,7 @@ void FrmKernling::Form_Load()
     step([&] { parts_->desk.Init(); });
 }
 
-void FrmKernling::open()
+void FrmKernling::openModally()
 {
     Form_Load();
     const Gate::Passage open = ground_.gate.openBox();

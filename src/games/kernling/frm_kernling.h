@@ -40,7 +40,7 @@ public:
     ~FrmKernling() override;
 
     /// Shows the window modally. Returns when it is closed.
-    void open() override;
+    void openModally();
     /// Makes the window ready without showing it.
     void Form_Load();
     const KernlingControls &controls() const;

@@ -96,8 +96,10 @@ bool WorkList::fillFromTiles(int source)
         maker.MakePseudoWordsForKernling(*count, desk_.view);
     else if (source == BoardWords)
         maker.MakeWordsForKernling(*count, desk_.view);
+    else if (source == LetterMix)
+        maker.MakeLetterMix(*count, Trim(desk_.controls.Text4->text()), desk_.view);
     else
-        return false;
+        maker.MakeMorphemScramble(*count, desk_.view);
     return true;
 }
 
