@@ -128,6 +128,7 @@ void frmMain::wireModes()
     connect(&r.dictionary, &DictionaryPanel::startRetypeFromList, &r.retype,
             &RetypeMode::mnuStartRetypeFromList);
     connect(&r.chooser, &ListChooser::listsChosen, &r.retype, &RetypeMode::endRun);
+    connect(&r.maker, &WordMaker::retypingToEnd, &r.retype, &RetypeMode::endRun);
     connect(&r.sessions, &Sessions::listsChosen, &r.retype, &RetypeMode::endRun);
     connect(&r.retype, &RetypeMode::chooserWanted, this, &frmMain::comesLater);
 
