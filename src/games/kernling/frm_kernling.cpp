@@ -27,17 +27,17 @@ namespace {
 
 constexpr auto form = "FrmKernling";
 constexpr QSize designSize{853, 450};
-constexpr int smallLetters = 12; ///< pixels, at the design size
-constexpr int largeLetters = 20; ///< pixels, at most
+constexpr int smallLetters = 12;  ///< pixels, at the design size
+constexpr int largeLetters = 20;  ///< pixels, at most
 constexpr double textShare = 1.4; ///< how much larger the text's letters are
-constexpr int answerShare = 15;   ///< of the answer, in twelfths
+constexpr int answerShare = 13;   ///< of the answer, in twelfths
 
 } // namespace
 
 FrmKernling::Parts::Parts(Ground &ground, const FrmKernling::Hall &hall, QWidget *window)
     : controls(makeKernlingControls(window))
     , view(controls)
-    , desk{.ground = ground, .controls = controls, .view = view, .mainLists = hall.lists}
+    , desk(ground, controls, view, hall.lists)
     , marking(desk, hall.tests)
     , words(desk, {hall.maker, hall.tiles, hall.resetVowelBoxes})
     , source(desk)
@@ -192,9 +192,9 @@ void FrmKernling::Command8_Click()
         parts_->desk.tell(u"Der Text ist leer"_s);
         return;
     }
-    const QString word = ground_.boxes.ShowIBox(
-        u"Bitte schreibe einen Wortstamm, den du im gesamten Text suchen möchtest"_s, BoxStyle::Plain,
-        u"wirk"_s, u"Wortel suchen"_s);
+    const QString word =
+        ground_.boxes.ShowIBox(u"Bitte schreibe einen Wortstamm, den du im gesamten Text suchen möchtest"_s,
+                               BoxStyle::Plain, u"wirk"_s, u"Wortel suchen"_s);
     if (word.isEmpty() || ground_.gate.isClosing())
         return;
     if (parts_->desk.lists.ChkForDuplicates(word))

@@ -22,7 +22,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto form = "frmKernlingOptions";
-constexpr auto window = SettingsWindow::frmKernlingOptions;
+constexpr auto ownRows = SettingsWindow::frmKernlingOptions;
 constexpr int okAndCancel = 3;
 constexpr int refused = 1;
 constexpr int wishedWidth = 460;
@@ -45,7 +45,7 @@ frmKernlingOptions::frmKernlingOptions(Ground &ground, QWidget *parent)
     makeGroup("Frame1", u"Spiel und Ergebnis"_s);
     Frame1_ = findChild<QGroupBox *>(u"Frame1"_s);
     for (const SettingRow &row : settingsTable())
-        if (row.window == window)
+        if (row.window == ownRows)
             addField(row);
     auto *scores = new QPushButton(u"Bestenliste zurücksetzen"_s, Frame1_);
     scores->setObjectName(u"Command11"_s);
@@ -108,8 +108,8 @@ void frmKernlingOptions::makeFoot()
 bool frmKernlingOptions::edit()
 {
     Procedure step{ground_.log, "edit", form};
-    step([&] { ground_.options.GetSettings(window); });
-    step([&] { ground_.options.subSnapShot(window); });
+    step([&] { ground_.options.GetSettings(ownRows); });
+    step([&] { ground_.options.subSnapShot(ownRows); });
     bool confirmed = false;
     step([&] {
         if (const Gate::Passage open = ground_.gate.openBox()) {
@@ -125,14 +125,14 @@ void frmKernlingOptions::cmdOK_Click()
     Procedure step{ground_.log, "cmdOK_Click", form};
     bool confirmed = false;
     step([&] {
-        if (!ground_.options.IsChanged(window))
+        if (!ground_.options.IsChanged(ownRows))
             return;
         confirmed = ground_.boxes.ShowMBox(u"Willst du die Änderungen bestätigen?"_s, true, okAndCancel,
                                            u"Wortel - Bestätigen"_s, BoxStyle::Confirm) != refused;
     });
     step([&] {
         if (!confirmed)
-            ground_.options.GetSettings(window);
+            ground_.options.GetSettings(ownRows);
         else
             apply();
     });
@@ -143,7 +143,7 @@ void frmKernlingOptions::cmdOK_Click()
 // What was not confirmed is not in force.
 void frmKernlingOptions::cmdCancel_Click()
 {
-    ground_.options.GetSettings(window);
+    ground_.options.GetSettings(ownRows);
     done(QDialog::Rejected);
 }
 
@@ -152,7 +152,7 @@ bool frmKernlingOptions::apply()
     bool saved = false;
     {
         const Hourglass glass;
-        saved = ground_.options.ApplySettings(window);
+        saved = ground_.options.ApplySettings(ownRows);
     }
     if (!saved)
         ground_.boxes.plainBox(

@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 template <typename Action> auto FrmKernling::play(Action action)
 {
-    return throughGate(parts_->desk.doors, Gate::Way::Play, [this, action] {
+    return throughGate(parts_->desk.doors, Gate::Way::Play, [this, action](auto &&...) {
         if (!ground_.gate.isClosing())
             action();
     });

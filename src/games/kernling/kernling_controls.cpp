@@ -55,8 +55,7 @@ constexpr ButtonRow buttonRows[] = {
     {&C::Command4, "Command4", u"Löschen", u"Text löschen"},
     {&C::cmdUnHighlight, "cmdUnHighlight", u"Markierung rückgängig",
      u"Farbe der markierten Buchstaben entfernen"},
-    {&C::cmdResetColors, "cmdResetColors", u"Alle Markierungen rückgängig",
-     u"Alle Farben im Text entfernen"},
+    {&C::cmdResetColors, "cmdResetColors", u"Alle Markierungen rückgängig", u"Alle Farben im Text entfernen"},
     {&C::cmdSmaller, "cmdSmaller", u"A−", u"Buchstaben kleiner (Strg+Minus)"},
     {&C::cmdLarger, "cmdLarger", u"A+", u"Buchstaben größer (Strg+Plus)"},
     {&C::Command6, "Command6", u"", u"Optionen", ":/icons/options.svg"},
@@ -65,22 +64,19 @@ constexpr ButtonRow buttonRows[] = {
     {&C::Check1, "Check1", u"<", u"Wortstamm-Liste anzeigen"},
 };
 
-constexpr const char16_t *fillTypes[] = {u"Wortliste",
-                                         u"Wörterbuch",
-                                         u"Unsinnswörter",
-                                         u"Buchstabenmix",
-                                         u"Morphemscramble",
-                                         u"Wörter von Morpheme auf dem Bildschirm"};
+constexpr const char16_t *fillTypes[] = {u"Wortliste",       u"Wörterbuch",
+                                         u"Unsinnswörter",   u"Buchstabenmix",
+                                         u"Morphemscramble", u"Wörter von Morpheme auf dem Bildschirm"};
 constexpr std::size_t letterMix = 3;
 
 constexpr int longestWordOffered = 25;
-constexpr int gap = 4;        ///< pixels
-constexpr int sideWidth = 248; ///< pixels, of the panel on the left
-constexpr int signSize = 30;  ///< pixels
+constexpr int gap = 4;         ///< pixels
+constexpr int sideWidth = 244; ///< pixels, of the panel on the left
+constexpr int signSize = 30;   ///< pixels
 
 const QString groupStyle = uR"(
-QGroupBox { border: 1px solid #9cc3f5; border-radius: 6px; margin-top: 0.6em; padding-top: 0.35em; background: rgba(255, 255, 255, 170); }
-QGroupBox::title { subcontrol-origin: margin; left: 10px; padding: 0 4px; color: #1a4f9c; }
+QGroupBox { border: 1px solid #9cc3f5; border-radius: 6px; margin-top: 0.65em; padding-top: 0.4em; background: rgba(255, 255, 255, 190); }
+QGroupBox::title { subcontrol-origin: margin; left: 10px; padding: 0 6px; color: #081c5c; background: #ffffff; border: 1px solid #9cc3f5; border-radius: 4px; }
 )"_s;
 
 template <typename Widget, typename... Arguments>
@@ -112,8 +108,7 @@ QLineEdit *makeNumber(QWidget *parent, const char *name, const QString &accessib
 void makeButtons(C &c)
 {
     for (const ButtonRow &row : buttonRows) {
-        auto *button =
-            make<PressButton>(c.form, row.name, QString::fromUtf16(row.caption).trimmed());
+        auto *button = make<PressButton>(c.form, row.name, QString::fromUtf16(row.caption).trimmed());
         const QString toolTip = QString::fromUtf16(row.toolTip);
         button->setText(QString::fromUtf16(row.caption));
         button->setToolTip(toolTip);
@@ -166,6 +161,9 @@ QWidget *makeWordGroup(C &c, QWidget *parent)
         column->addLayout(line);
     }
     c.OptFilltype[0]->setChecked(true);
+    for (PressButton *button : {c.Command3, c.Command7, c.Command9, c.Command11, c.Command12, c.Command13,
+                                c.Command14, c.Command15})
+        button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     column->addWidget(c.Command3);
     c.List1 = make<WordListBox>(group, "List1", u"Arbeitsliste"_s);
     c.List1->setMinimumHeight(48);
@@ -196,11 +194,10 @@ QWidget *makeFileGroup(C &c, QWidget *parent)
         c.cboWordLen->addItem(QString::number(length));
     c.cboWordLen->lineEdit()->setMaxLength(5);
     new clsTextBox(c.cboWordLen->lineEdit(), Integer_Pos);
-    c.cboWordLen->setMaximumWidth(70);
+    c.cboWordLen->setMaximumWidth(60);
     caption->setBuddy(c.cboWordLen);
     auto *line = lineOf({c.Command5, c.Check8, caption, c.cboWordLen, c.Check10, nullptr});
     line->setContentsMargins(8, 2, 8, 5);
-    line->setSpacing(2 * gap);
     group->setLayout(line);
     return group;
 }
@@ -229,8 +226,7 @@ QWidget *makeTextGroup(C &c, QWidget *parent)
     c.Label9->setToolTip(u"Abbrechen"_s);
     c.Label9->setAlignment(Qt::AlignCenter);
     c.Label9->setFixedSize(34, 26);
-    c.Label9->setStyleSheet(
-        u"background: #c00000; color: white; font-weight: bold; border-radius: 4px"_s);
+    c.Label9->setStyleSheet(u"background: #c00000; color: white; font-weight: bold; border-radius: 4px"_s);
     c.Label9->hide();
     auto *statusLine = lineOf({c.FillProgress, c.Label9});
     statusLine->setStretch(0, 1);
@@ -246,8 +242,7 @@ QWidget *makeTextGroup(C &c, QWidget *parent)
     sheet->addWidget(c.RTF, 0, 0);
     sheet->addWidget(status, 0, 0, Qt::AlignBottom);
     column->addLayout(sheet, 1);
-    column->addLayout(
-        lineOf({c.Command8, c.Command4, nullptr, c.cmdUnHighlight, c.cmdResetColors}));
+    column->addLayout(lineOf({c.Command8, c.Command4, nullptr, c.cmdUnHighlight, c.cmdResetColors}));
     return group;
 }
 
@@ -303,6 +298,9 @@ QLayout *makeStemColumn(C &c, QWidget *group)
     column->addLayout(lineOf({c.Text1, c.Image1}));
     column->addLayout(lineOf({c.Label13, c.Label8, nullptr}));
     column->addStretch(1);
+    c.Check5 = make<QCheckBox>(group, "Check5", u"Anzeige"_s, u"Anzeige"_s);
+    c.Check5->setChecked(true);
+    column->addWidget(c.Check5);
     return column;
 }
 
@@ -314,18 +312,15 @@ QWidget *makeResultGroup(C &c, QWidget *parent)
     columns->setSpacing(2 * gap);
     columns->addLayout(makeStemColumn(c, group), 2);
 
-    c.Check5 = make<QCheckBox>(group, "Check5", u"Anzeige"_s, u"Anzeige"_s);
-    c.Check5->setChecked(true);
     c.rtfResponse = make<QTextEdit>(group, "rtfResponse", u"Antwort"_s);
     c.rtfResponse->setTextInteractionFlags(Qt::NoTextInteraction);
     c.rtfResponse->setFocusPolicy(Qt::NoFocus);
     c.rtfResponse->setAcceptDrops(false);
-    c.rtfResponse->setMinimumSize(120, 50);
-    auto *answer = new QVBoxLayout;
-    answer->setSpacing(2);
-    answer->addWidget(c.Check5);
-    answer->addWidget(c.rtfResponse, 1);
-    columns->addLayout(answer, 4);
+    c.rtfResponse->setMinimumSize(120, 70);
+    QSizePolicy keepsPlace = c.rtfResponse->sizePolicy();
+    keepsPlace.setRetainSizeWhenHidden(true);
+    c.rtfResponse->setSizePolicy(keepsPlace);
+    columns->addWidget(c.rtfResponse, 5);
 
     columns->addLayout(makeResultColumn(group, {c.Label3, "Label3", u"Richtig ", c.UserFoundWortelList,
                                                 "UserFoundWortelList", c.Check3, "Check3", c.Command1}),
@@ -350,7 +345,7 @@ QWidget *makeStemPanel(C &c, QWidget *parent)
     column->addWidget(c.Label16);
     column->addWidget(c.Label17);
     column->addWidget(c.wortellist, 1);
-    c.stemPanel->setMinimumWidth(90);
+    c.stemPanel->setMinimumWidth(84);
     return c.stemPanel;
 }
 
@@ -381,7 +376,9 @@ KernlingControls makeKernlingControls(QWidget *form)
     halves->addWidget(makeResultGroup(c, halves));
     halves->setStretchFactor(0, 3);
     halves->setStretchFactor(1, 1);
+    halves->setSizes({310, 125});
     c.Check1->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    c.Check1->setFixedWidth(24);
     c.Check1->setCheckable(true);
     auto *middleLine = new QHBoxLayout(middle);
     middleLine->setContentsMargins(0, 6, 0, 6);

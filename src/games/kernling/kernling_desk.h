@@ -15,6 +15,13 @@ struct WordLists;
 /// What all parts of the stem game's window stand on.
 struct KernlingDesk
 {
+    KernlingDesk(Ground &house, KernlingControls &window, KernlingWorkView &works, WordLists &words)
+        : ground(house)
+        , controls(window)
+        , view(works)
+        , mainLists(words)
+    {}
+
     Ground &ground;
     KernlingControls &controls;
     KernlingWorkView &view;

@@ -176,8 +176,7 @@ void KernlingText::applyLetterSize()
 {
     const double size = letterSize_ * std::pow(zoomStep, zoom_);
     QFont letters = font();
-    letters.setPixelSize(
-        std::clamp(static_cast<int>(std::lround(size)), smallestLetters, largestLetters));
+    letters.setPixelSize(std::clamp(static_cast<int>(std::lround(size)), smallestLetters, largestLetters));
     setFont(letters);
 }
 

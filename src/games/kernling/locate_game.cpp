@@ -113,8 +113,7 @@ void LocateGame::layOut(bool running)
         way->setEnabled(!running); // "Auto" is forced
     Frame1_->setEnabled(!running);
     c.RTF->setLocked(running);
-    const QString tip =
-        running ? u"Spiel abbrechen"_s : u"Spiel starten / Bestenliste zeigen"_s;
+    const QString tip = running ? u"Spiel abbrechen"_s : u"Spiel starten / Bestenliste zeigen"_s;
     c.Command10->setToolTip(tip);
     c.Command10->setAccessibleName(tip);
 }

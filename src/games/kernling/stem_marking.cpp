@@ -117,16 +117,15 @@ void StemMarking::Locate_and_Higlight(const QStringList &words)
     });
     if (runs.empty())
         return;
-    Work work(desk_.ground,
-              {WorkPlan::Bar | WorkPlan::Cancel, std::max(1, static_cast<int>(runs.size()))}, &desk_.view);
+    Work work(desk_.ground, {WorkPlan::Bar | WorkPlan::Cancel, std::max(1, static_cast<int>(runs.size()))},
+              &desk_.view);
     const KernlingText::Run marked = text.selection();
     Verdict last;
     for (std::size_t begin = 0; begin < runs.size() && work.goesOn(); begin += runsAtOnce) {
         const std::size_t end = std::min(runs.size(), begin + runsAtOnce);
         std::vector<KernlingText::Run> painted;
         for (std::size_t at = begin; at < end; ++at) {
-            const Verdict verdict =
-                judge_.judge(letters.mid(runs[at].start, runs[at].length), options());
+            const Verdict verdict = judge_.judge(letters.mid(runs[at].start, runs[at].length), options());
             if (verdict.kind == Verdict::Kind::Stem)
                 painted.push_back(runs[at]);
             step([&] { keep(verdict); });

@@ -21,6 +21,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFileInfo>
+#include <QGroupBox>
 
 #include <algorithm>
 #include <source_location>
@@ -51,9 +52,7 @@ void TextSource::Command5_Click()
     if (chosen.isEmpty())
         return;
     const QString path = chosen.first();
-    step([&] {
-        desk_.ground.store.SaveSetting(section, folderKey, path.left(path.lastIndexOf(u'\\')));
-    });
+    step([&] { desk_.ground.store.SaveSetting(section, folderKey, path.left(path.lastIndexOf(u'\\'))); });
     step([&] { load(path); });
 }
 
@@ -64,17 +63,22 @@ void TextSource::load(const QString &path)
                    u"Webseiten (*.html)."_s);
         return;
     }
-    QString text;
-    if (!readInto(text, path))
+    LoadedText loaded;
+    if (!readInto(loaded, path) || desk_.ground.gate.isClosing())
         return;
-    desk_.controls.RTF->replaceText(text);
+    if (!loaded.complaint.isEmpty())
+        desk_.ground.boxes.plainBox(Boxes::Icon::Warning, u"Wortel - Fehler [Out Of Memory]"_s,
+                                    loaded.complaint);
+    desk_.controls.RTF->replaceText(loaded.text);
+    showTitle(loaded.title.isEmpty() ? GetOnlyFileName(path) : loaded.title);
     takeStemsFor(path);
     if (desk_.controls.Check8->isChecked())
-        GetWordsFromText(static_cast<int>(std::min(Val(desk_.controls.cboWordLen->currentText()), longestWord)));
+        GetWordsFromText(
+            static_cast<int>(std::min(Val(desk_.controls.cboWordLen->currentText()), longestWord)));
 }
 
 /// False if the file could not be read, or the reading was cancelled.
-bool TextSource::readInto(QString &text, const QString &path)
+bool TextSource::readInto(LoadedText &text, const QString &path)
 {
     const qint64 size = QFileInfo(nativePath(path)).size();
     if (size > largestFile) {
@@ -99,9 +103,17 @@ void TextSource::complain(const QString &path, const QString &description, unsig
 {
     desk_.ground.log.WriteLog(
         u"(Module) FrmKernling::Sub Command5_Click (Line: %1) %2"_s.arg(line).arg(description));
-    desk_.ground.boxes.plainBox(
-        Boxes::Icon::Warning, u"Wortel - Fehler"_s,
-        u"Die Datei konnte nicht gelesen werden:\n"_s + GetOnlyFileName(path) + u"\n\n"_s + description);
+    desk_.ground.boxes.plainBox(Boxes::Icon::Warning, u"Wortel - Fehler"_s,
+                                u"Die Datei konnte nicht gelesen werden:\n"_s + GetOnlyFileName(path) +
+                                    u"\n\n"_s + description);
+}
+
+/// The frame round the text says what is in it.
+void TextSource::showTitle(const QString &title)
+{
+    constexpr int mostLetters = 60;
+    const QString shown = title.simplified().left(mostLetters).replace(u'&', u"&&"_s);
+    desk_.controls.textGroup->setTitle(shown.isEmpty() ? u"Text"_s : u"Text: "_s + shown);
 }
 
 /// Which stems the text is judged by depends on what it is; a web page leaves them as they are.
@@ -149,8 +161,10 @@ void TextSource::GetWordsFromText(int wordLength)
 
 void TextSource::Command4_Click()
 {
-    if (desk_.controls.RTF->isEmpty())
+    if (desk_.controls.RTF->isEmpty()) {
         desk_.tell(u"Der Text ist leer"_s);
-    else
-        desk_.controls.RTF->replaceText(QString());
+        return;
+    }
+    desk_.controls.RTF->replaceText(QString());
+    showTitle({});
 }

@@ -5,6 +5,7 @@
 #include <QString>
 
 struct KernlingDesk;
+struct LoadedText;
 
 /// The text's way into the window: a file that is chosen or dropped, and its division into single words.
 class TextSource
@@ -24,7 +25,8 @@ public:
     void Command4_Click();
 
 private:
-    bool readInto(QString &text, const QString &path);
+    bool readInto(LoadedText &text, const QString &path);
+    void showTitle(const QString &title);
     void complain(const QString &path, const QString &description, unsigned line);
     void takeStemsFor(const QString &path);
 

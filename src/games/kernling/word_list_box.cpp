@@ -19,9 +19,9 @@ void WordListBox::startDrag(Qt::DropActions)
         return;
     whileDragging([&] {
         auto *drag = new QDrag(this);
-        auto *data = new QMimeData;
-        data->setText(words.join(u' '));
-        drag->setMimeData(data);
+        auto *text = new QMimeData;
+        text->setText(words.join(u' '));
+        drag->setMimeData(text);
         drag->exec(Qt::CopyAction);
     });
 }

@@ -52,8 +52,8 @@ void WorkList::Command3_Click()
     Procedure step{desk_.ground.log, "Command3_Click", form};
     step([&] { desk_.Init(); });
     const auto &options = desk_.controls.OptFilltype;
-    const auto chosen =
-        std::find_if(options.begin(), options.end(), [](const QRadioButton *one) { return one->isChecked(); });
+    const auto chosen = std::find_if(options.begin(), options.end(),
+                                     [](const QRadioButton *one) { return one->isChecked(); });
     step([&] { fillFrom(static_cast<int>(chosen - options.begin())); });
 }
 
@@ -109,10 +109,9 @@ std::optional<int> WorkList::countOf(Setting setting) const
     const double count = desk_.ground.options.number(setting);
     if (count >= 1 && count <= mostWords)
         return static_cast<int>(count);
-    desk_.tell(
-        u"In den Optionen steht als Anzahl der Wörter „%1“.\nMöglich sind die Zahlen von 1 bis %2."_s
-            .arg(desk_.ground.options.text(setting).left(20))
-            .arg(mostWords));
+    desk_.tell(u"In den Optionen steht als Anzahl der Wörter „%1“.\nMöglich sind die Zahlen von 1 bis %2."_s
+                   .arg(desk_.ground.options.text(setting).left(20))
+                   .arg(mostWords));
     return std::nullopt;
 }
 
