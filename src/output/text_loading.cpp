@@ -3,41 +3,108 @@
 #include "output/text_loading.h"
 
 #include "output/html_to_text.h"
+#include "output/page_charset.h"
 #include "output/rich_text.h"
 #include "platform/files.h"
 #include "platform/text.h"
 #include "platform/text_encoding.h"
 
+#include <array>
+
 using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Ending
+{
+    QLatin1StringView letters;
+    TextKind kind;
+};
+constexpr std::array<Ending, 5> endings{{{"LEX"_L1, TextKind::Dictionary},
+                                         {"TXT"_L1, TextKind::Plain},
+                                         {"RTF"_L1, TextKind::Rich},
+                                         {"HTM"_L1, TextKind::Page},
+                                         {"HTML"_L1, TextKind::Page}}};
+
+/// Line ends of all kinds become one, and what a text box takes for a sign of its own goes: NULs and the
+/// place of an object.
+QString withPlainLines(const QString &text)
+{
+    QString result;
+    result.reserve(text.size());
+    QChar before;
+    for (const QChar character : text) {
+        const bool secondHalf = before == u'\r' && character == u'\n';
+        if (character == u'\r' || character == QChar::ParagraphSeparator || character == QChar::LineSeparator)
+            result += u'\n';
+        else if (!secondHalf && character != QChar::Null && character != QChar::ObjectReplacementCharacter)
+            result += character;
+        before = character;
+    }
+    return result;
+}
+
+/// Breaks lines beyond the limit behind their last blank within it, or at it where they have none.
+QString withShortLines(const QString &text)
+{
+    QString result;
+    qsizetype from = 0; // not copied yet
+    qsizetype line = 0; // where the line begins
+    qsizetype blank = -1;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (text.at(i) == u'\n') {
+            line = i + 1;
+            blank = -1;
+            continue;
+        }
+        if (i - line == longestLine) {
+            qsizetype end = blank >= line ? blank + 1 : i;
+            if (text.at(end).isLowSurrogate())
+                --end;
+            result += QStringView(text).sliced(from, end - from);
+            result += u'\n';
+            from = line = end;
+            blank = -1;
+        }
+        if (text.at(i) == u' ')
+            blank = i;
+    }
+    return from == 0 ? text : result += QStringView(text).sliced(from);
+}
+
+LoadedText read(const QByteArray &bytes, TextKind kind, const PassStep &step)
+{
+    if (isRichText(bytes))
+        return {richTextToPlain(bytes, step), {}, {}};
+    if (kind != TextKind::Page)
+        return {decodeText(bytes), {}, {}};
+    const PageText page = HTML2Text(decodePage(bytes), step);
+    return {page.text, page.title, page.complaint};
+}
+
+} // namespace
 
 TextKind textKindOf(const QString &path)
 {
-    const QString name = path.mid(path.lastIndexOf(u'\\') + 1);
+    const QString name = path.mid(std::max(path.lastIndexOf(u'\\'), path.lastIndexOf(u'/')) + 1);
     const qsizetype point = name.lastIndexOf(u'.');
-    const QString ending = point < 0 ? QString() : UCase(name.mid(point + 1));
-    if (ending == "LEX"_L1)
-        return TextKind::Dictionary;
-    if (ending == "TXT"_L1)
-        return TextKind::Plain;
-    if (ending == "RTF"_L1)
-        return TextKind::Rich;
-    return ending == "HTM"_L1 || ending == "HTML"_L1 ? TextKind::Page : TextKind::Other;
+    const QString capitals = UCase(name.mid(point + 1));
+    for (const Ending &ending : endings)
+        if (point >= 0 && capitals == ending.letters)
+            return ending.kind;
+    return TextKind::Other;
+}
+
+LoadedText decodeLoadedText(const QByteArray &bytes, TextKind kind, const PassStep &step)
+{
+    LoadedText loaded = read(bytes, kind, step);
+    loaded.text = withShortLines(withPlainLines(loaded.text));
+    return loaded;
 }
 
 LoadedText loadText(const QString &path, const PassStep &step)
 {
     return decodeLoadedText(ReadWholeFile(path), textKindOf(path), step);
-}
-
-LoadedText decodeLoadedText(const QByteArray &bytes, TextKind kind, const PassStep &step)
-{
-    if (isRichText(bytes))
-        return {richTextToPlain(bytes, step), {}, {}};
-    if (kind == TextKind::Page) {
-        const PageText page = HTML2Text(decodePage(bytes), step);
-        return {page.text, page.title, page.complaint};
-    }
-    return {decodeText(bytes), {}, {}};
 }
 
 QString stemListOfDictionary(const QString &path)
