@@ -2,6 +2,9 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 wortel_test(games
     SOURCES
+        kernling/tst_frm_kernling.cpp
+        kernling/tst_locate_game.cpp
+        kernling/tst_text_source.cpp
         retype/tst_retype_mode.cpp
         retype/tst_retype_ways.cpp
         retype/tst_strip_control.cpp

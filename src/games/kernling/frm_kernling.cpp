@@ -42,7 +42,7 @@ FrmKernling::Parts::Parts(Ground &ground, const FrmKernling::Hall &hall, QWidget
     , words(desk, {hall.maker, hall.tiles, hall.resetVowelBoxes})
     , source(desk)
     , options(ground, window)
-    , game(desk, marking, hall.scores, options.Frame1())
+    , game(desk, marking, hall.scores, options.Frame1(), window)
 {}
 
 FrmKernling::FrmKernling(Ground &ground, const Hall &hall, QWidget *parent)
@@ -105,7 +105,7 @@ void FrmKernling::closeEvent(QCloseEvent *event)
         // A work still stands on the stack: it is stopped, and the window goes behind it.
         event->ignore();
         ground_.gate.cancelWork();
-        parts_->desk.doors.whenFree([this] { close(); });
+        parts_->desk.doors.whenFree([this] { done(Rejected); });
         return;
     }
     QDialog::closeEvent(event);

@@ -32,14 +32,15 @@ constexpr int second = 1000;                 ///< milliseconds
 
 } // namespace
 
-LocateGame::LocateGame(KernlingDesk &desk, StemMarking &marking, HighScores &scores, QGroupBox *Frame1)
-    : desk_(desk)
+LocateGame::LocateGame(KernlingDesk &desk, StemMarking &marking, HighScores &scores, QGroupBox *Frame1,
+                       QObject *parent)
+    : QObject(parent)
+    , desk_(desk)
     , marking_(marking)
     , scores_(scores)
     , Frame1_(Frame1)
 {
     LocateGameTimer_.setObjectName(u"LocateGameTimer"_s);
-    LocateGameTimer_.setParent(this);
     LocateGameTimer_.setSingleShot(true);
     LocateGameTimer_.setTimerType(Qt::PreciseTimer);
     // It may fire while a work runs or a box is open; the game ends behind them.

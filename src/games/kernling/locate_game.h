@@ -17,7 +17,8 @@ class LocateGame : public QObject
     Q_OBJECT
 
 public:
-    LocateGame(KernlingDesk &desk, StemMarking &marking, HighScores &scores, QGroupBox *Frame1);
+    LocateGame(KernlingDesk &desk, StemMarking &marking, HighScores &scores, QGroupBox *Frame1,
+               QObject *parent);
 
     bool KernlingRunning() const { return running_; }
     /// Left: starts the game, or stops it without a look at the score. Right: shows the list of the best.
@@ -41,6 +42,6 @@ private:
     StemMarking &marking_;
     HighScores &scores_;
     QGroupBox *Frame1_;
-    QTimer LocateGameTimer_;
+    QTimer LocateGameTimer_{this};
     bool running_ = false;
 };

@@ -81,13 +81,14 @@ private slots:
         if (source == -4)
             w.lists.CurrentWortelFile = u"x\\UNG HEIT KEIT SCHAFT NIS TUM.Txt"_s;
         if (source == 2)
-            w.lay(prefixKind, 10, 10, u"ver"_s);
+            for (const QString &stem : {u"kind"_s, u"wand"_s, u"fisch"_s})
+                w.lay(wortelKind, 10, 10, stem);
         if (!told.isEmpty())
             w.t.boxes.willBeRead();
         w.c().OptFilltype[static_cast<std::size_t>(std::abs(source))]->click();
         w.press(w.c().Command3);
-        const QString found = words.endsWith(u" words"_s) ? u"%1 words"_s.arg(w.words().size())
-                                                          : w.words().join(u' ');
+        const QString found =
+            words.endsWith(u" words"_s) ? u"%1 words"_s.arg(w.words().size()) : w.words().join(u' ');
         QCOMPARE(found, words);
         QCOMPARE(w.lastBox(), told.isEmpty() ? QString() : u"Wortel-Meister|"_s + told);
         QVERIFY(!w.controls.ChkVokal[0]->isChecked());
@@ -181,16 +182,16 @@ private slots:
             << u"renn"_s
             << u"ist ein Wortstamm\naber prüfe selbst, ob renn\nhier nicht zu einem anderen Stamm gehört, wie z.B.:\nbrenn, trenn"_s
             << u"renn 1 1 0 112"_s << u"..............rrrr.........."_s;
-        QTest::newRow("prefix") << u"ver"_s << u"ver\nist kein Wortstamm\nsondern ein Präfix"_s
-                                << u" 0 0 1"_s << QString(28, u'.');
-        QTest::newRow("suffix") << u"ung"_s << u"ung\nist kein Wortstamm\nsondern ein Suffix"_s
-                                << u" 0 0 1"_s << QString(28, u'.');
-        QTest::newRow("none, a word") << u"Haus"_s
-                                      << u"Haus\nsteht nicht in der Wortstamm-Liste\nHaus\nist ein Wort im Wörterbuch"_s
-                                      << u" 0 0 1"_s << QString(28, u'.');
-        QTest::newRow("over a line's end") << u"ung\nver"_s
-                                           << u"ung ver\nsteht nicht in der Wortstamm-Liste"_s
-                                           << u" 0 0 1"_s << QString(28, u'.');
+        QTest::newRow("prefix") << u"ver"_s << u"ver\nist kein Wortstamm\nsondern ein Präfix"_s << u" 0 0 1"_s
+                                << QString(28, u'.');
+        QTest::newRow("suffix") << u"ung"_s << u"ung\nist kein Wortstamm\nsondern ein Suffix"_s << u" 0 0 1"_s
+                                << QString(28, u'.');
+        QTest::newRow("none, a word")
+            << u"Haus"_s << u"Haus\nsteht nicht in der Wortstamm-Liste\nHaus\nist ein Wort im Wörterbuch"_s
+            << u" 0 0 1"_s << QString(28, u'.');
+        QTest::newRow("over a line's end")
+            << u"ung\nver"_s << u"ung ver\nsteht nicht in der Wortstamm-Liste"_s << u" 0 0 1"_s
+            << QString(28, u'.');
     }
     void verdicts()
     {
@@ -203,8 +204,8 @@ private slots:
         w.write(u"verWirkung\nverrennend Haus ."_s);
         w.markWord(word);
         QCOMPARE(w.answer().trimmed(), answer);
-        QStringList now{w.c().Text1->text(), w.c().Image1->isHidden() ? u"0"_s : u"1"_s,
-                        w.c().Label3->text(), w.c().Label14->text()};
+        QStringList now{w.c().Text1->text(), w.c().Image1->isHidden() ? u"0"_s : u"1"_s, w.c().Label3->text(),
+                        w.c().Label14->text()};
         for (const int sound : w.t.sound.resources)
             now << QString::number(sound);
         QCOMPARE(now.join(u' '), state);
@@ -233,11 +234,15 @@ private slots:
         Workshop w;
         w.write(u"wirkung"_s);
         w.text().moveCursor(QTextCursor::Start);
-        QTest::keyPress(&w.text(), Qt::Key_Shift);
+        const auto key = [&w](QEvent::Type type, int code) {
+            QKeyEvent event(type, code, Qt::ShiftModifier);
+            QCoreApplication::sendEvent(&w.text(), &event);
+        };
+        key(QEvent::KeyPress, Qt::Key_Shift);
         for (int letter = 0; letter < 4; ++letter)
-            QTest::keyClick(&w.text(), Qt::Key_Right, Qt::ShiftModifier);
+            key(QEvent::KeyPress, Qt::Key_Right);
         QCOMPARE(w.answer(), QString());
-        QTest::keyRelease(&w.text(), Qt::Key_Shift);
+        key(QEvent::KeyRelease, Qt::Key_Shift);
         QCOMPARE(w.answer(), u"ist ein Wortstamm\n"_s);
         QTest::keyClick(&w.text(), Qt::Key_Shift); // nothing was marked
         QCOMPARE(w.t.sound.resources.size(), 1);
@@ -279,7 +284,7 @@ private slots:
         w.t.boxes.willType(u"wirk"_s);
         w.press(w.c().Command8);
         QCOMPARE(w.t.boxes.asked.last().style, u"wirk"_s); // suggested
-        QCOMPARE(w.paint(), u"rrrr...........rrrr............rrrr"_s.left(34));
+        QCOMPARE(w.paint(), u"rrrr...........rrrr...........rrrr"_s);
         QCOMPARE(w.c().Label3->text(), count);
         QCOMPARE(w.rows(w.c().UserFoundWortelList).size(), count.toInt());
         QCOMPARE(w.t.sound.resources, QList<int>{112});
@@ -326,8 +331,8 @@ private slots:
         const std::tuple<QString, QString, QString> rows[] = {
             {QString(), u"Wortel-Meister|Bitte Text markieren !"_s, u"INFO"_s},
             {u"Haus "_s, u"Richtig !|Das gesuchte Wort \"Haus\"\nist richtig."_s, u"SMILEY"_s},
-            {u"quatsch"_s, u"Wort nicht gefunden !|Das gesuchte Wort \"quatsch\" steht nicht im Wörterbuch."_s,
-             u"INFO"_s}};
+            {u"quatsch"_s,
+             u"Wort nicht gefunden !|Das gesuchte Wort \"quatsch\" steht nicht im Wörterbuch."_s, u"INFO"_s}};
         for (const auto &[word, told, sign] : rows) {
             w.text().select({static_cast<int>(w.text().text().indexOf(word)), static_cast<int>(word.size())});
             w.t.boxes.willBeRead();
@@ -401,7 +406,12 @@ private slots:
         Workshop w;
         w.lay(wortelKind, 10, 50, u"quatsch"_s);
         w.c().OptFilltype[5]->click();
-        w.atServe([&] { program ? w.gate.requestClose() : QVERIFY(!w.k.close()); });
+        w.atServe([&] {
+            if (program)
+                w.gate.requestClose();
+            else
+                w.k.close();
+        });
         w.press(w.c().Command3); // would go on for ever
         QVERIFY(w.words().isEmpty());
         Workshop::settle();

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "games/kernling/workshop.h"
 
+#include "games/kernling/time_sign.h"
 #include "platform/files.h"
 
 #include <QLabel>
@@ -109,7 +110,7 @@ private slots:
                 timeOut();
                 auto *window = w.k.findChild<frmKernlingOptions *>();
                 QVERIFY(!window->Frame1()->isEnabled());
-                window->reject();
+                window->findChild<QAbstractButton *>(u"cmdCancel"_s)->click();
             });
             w.press(w.c().Command6);
         } else {

@@ -13,7 +13,10 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDropEvent>
 #include <QGroupBox>
+#include <QLineEdit>
+#include <QMimeData>
 #include <QRadioButton>
 #include <QtTest>
 
@@ -79,11 +82,21 @@ struct Workshop : TestHouse
         for (int at = 1; at < text().document()->characterCount(); ++at) {
             cursor.setPosition(at);
             const QBrush back = cursor.charFormat().background();
-            result += back.style() == Qt::NoBrush        ? u'.'
-                      : back.color() == QColor(Qt::red) ? u'r'
-                                                         : u'?';
+            result += back.style() == Qt::NoBrush ? u'.' : back.color() == QColor(Qt::red) ? u'r' : u'?';
         }
         return result;
+    }
+    /// Drops something on the text. Whoever drags asks first.
+    void drop(const QMimeData &data, int position = 0) const
+    {
+        const QPointF at = placeOf(position);
+        QDragEnterEvent enter(at.toPoint(), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton,
+                              Qt::NoModifier);
+        QCoreApplication::sendEvent(text().viewport(), &enter);
+        QDropEvent event(at, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(text().viewport(), &event);
+        QVERIFY(event.dropAction() == Qt::CopyAction); // a move would delete the file
+        settle();
     }
     QString answer() const { return c().rtfResponse->toPlainText(); }
     QString lastBox() const
@@ -99,8 +112,9 @@ struct Workshop : TestHouse
     {
         t.pump.waiting = true;
         t.pump.onServe = [this, action] {
-            t.pump.onServe = nullptr;
-            action();
+            const std::function<void()> once = action;
+            t.pump.onServe = nullptr; // and this closure has gone
+            once();
         };
     }
 };
