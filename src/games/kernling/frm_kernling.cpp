@@ -20,6 +20,7 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -27,10 +28,8 @@ namespace {
 
 constexpr auto form = "FrmKernling";
 constexpr QSize designSize{853, 450};
-constexpr int smallLetters = 12;  ///< pixels, at the design size
-constexpr int largeLetters = 20;  ///< pixels, at most
-constexpr double textShare = 1.4; ///< how much larger the text's letters are
-constexpr int answerShare = 13;   ///< of the answer, in twelfths
+constexpr int smallLetters = 12; ///< pixels, at the design size
+constexpr int largeLetters = 20; ///< pixels, at most
 
 } // namespace
 
@@ -133,20 +132,8 @@ void FrmKernling::resizeEvent(QResizeEvent *event)
     const double factor = std::min(static_cast<double>(width()) / designSize.width(),
                                    static_cast<double>(height()) / designSize.height());
     const int size = std::clamp(static_cast<int>(smallLetters * factor), smallLetters, largeLetters);
-    QFont letters = font();
-    if (letters.pixelSize() == size)
-        return;
-    letters.setPixelSize(size);
-    setFont(letters);
-    parts_->controls.RTF->setLetterSize(static_cast<int>(size * textShare));
-    QFont answer = letters;
-    answer.setPixelSize(size * answerShare / smallLetters);
-    parts_->controls.rtfResponse->setFont(answer);
-    QFont bold = answer;
-    bold.setBold(true);
-    for (QWidget *shown : std::initializer_list<QWidget *>{parts_->controls.Text1, parts_->controls.Label8,
-                                                           parts_->controls.Label3, parts_->controls.Label14})
-        shown->setFont(bold);
+    if (std::exchange(letters_, size) != size)
+        scaleKernlingControls(parts_->controls, size);
 }
 
 void FrmKernling::showWayOfMarking()

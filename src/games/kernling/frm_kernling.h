@@ -9,6 +9,7 @@
 
 class HighScores;
 class PressButton;
+class QTextDocument;
 class TileStore;
 class WordMaker;
 class WordTests;
@@ -83,4 +84,5 @@ private:
     Ground &ground_;
     Hall hall_;
     std::unique_ptr<Parts> parts_;
+    int letters_ = 0; ///< size of the controls' letters, pixels
 };

@@ -70,12 +70,23 @@ constexpr const char16_t *fillTypes[] = {u"Wortliste",       u"Wörterbuch",
 constexpr std::size_t letterMix = 3;
 
 constexpr int longestWordOffered = 25;
-constexpr int gap = 4;         ///< pixels
-constexpr int sideWidth = 244; ///< pixels, of the panel on the left
-constexpr int signSize = 30;   ///< pixels
+constexpr int gap = 4;       ///< pixels
+constexpr int signSize = 30; ///< pixels
 
+// In letter sizes
+constexpr double sideWidth = 20.3; ///< of the panel on the left
+constexpr double stemWidth = 7;    ///< of the panel on the right
+constexpr double numberWidth = 3.7;
+constexpr double lengthWidth = 5;
+constexpr double stripWidth = 2; ///< of the strip that opens the panel on the right
+constexpr double titleShare = 0.65;
+constexpr double buttonHeight = 2.2;
+constexpr double textSize = 1.4;
+constexpr double answerSize = 1.1;
+
+/// Half of the title stands over the frame.
 const QString groupStyle = uR"(
-QGroupBox { border: 1px solid #9cc3f5; border-radius: 6px; margin-top: 0.65em; padding-top: 0.4em; background: rgba(255, 255, 255, 190); }
+QGroupBox { border: 1px solid #9cc3f5; border-radius: 6px; margin-top: %1px; padding-top: %1px; background: rgba(255, 255, 255, 190); }
 QGroupBox::title { subcontrol-origin: margin; left: 10px; padding: 0 6px; color: #081c5c; background: #ffffff; border: 1px solid #9cc3f5; border-radius: 4px; }
 )"_s;
 
@@ -100,7 +111,6 @@ QLineEdit *makeNumber(QWidget *parent, const char *name, const QString &accessib
     auto *box = make<QLineEdit>(parent, name, accessibleName, value);
     new clsTextBox(box, Integer_Pos);
     box->setAlignment(Qt::AlignRight);
-    box->setMaximumWidth(44);
     box->setMaxLength(5);
     return box;
 }
@@ -125,7 +135,6 @@ void makeButtons(C &c)
 QGroupBox *makeGroup(QWidget *parent, const char *name, const QString &title)
 {
     auto *group = make<QGroupBox>(parent, name, title, title);
-    group->setStyleSheet(groupStyle);
     return group;
 }
 
@@ -194,7 +203,6 @@ QWidget *makeFileGroup(C &c, QWidget *parent)
         c.cboWordLen->addItem(QString::number(length));
     c.cboWordLen->lineEdit()->setMaxLength(5);
     new clsTextBox(c.cboWordLen->lineEdit(), Integer_Pos);
-    c.cboWordLen->setMaximumWidth(60);
     caption->setBuddy(c.cboWordLen);
     auto *line = lineOf({c.Command5, c.Check8, caption, c.cboWordLen, c.Check10, nullptr});
     line->setContentsMargins(8, 2, 8, 5);
@@ -345,7 +353,6 @@ QWidget *makeStemPanel(C &c, QWidget *parent)
     column->addWidget(c.Label16);
     column->addWidget(c.Label17);
     column->addWidget(c.wortellist, 1);
-    c.stemPanel->setMinimumWidth(84);
     return c.stemPanel;
 }
 
@@ -358,7 +365,7 @@ KernlingControls makeKernlingControls(QWidget *form)
     makeButtons(c);
 
     auto *left = new GradientPanel(form);
-    left->setMinimumWidth(sideWidth);
+    c.sidePanel = left;
     auto *leftColumn = new QVBoxLayout(left);
     leftColumn->setContentsMargins(6, 6, 6, 6);
     leftColumn->addWidget(makeWordGroup(c, left));
@@ -378,7 +385,6 @@ KernlingControls makeKernlingControls(QWidget *form)
     halves->setStretchFactor(1, 1);
     halves->setSizes({310, 125});
     c.Check1->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
-    c.Check1->setFixedWidth(24);
     c.Check1->setCheckable(true);
     auto *middleLine = new QHBoxLayout(middle);
     middleLine->setContentsMargins(0, 6, 0, 6);
@@ -398,4 +404,33 @@ KernlingControls makeKernlingControls(QWidget *form)
     whole->setContentsMargins(0, 0, 0, 0);
     whole->addWidget(c.panels);
     return c;
+}
+
+void scaleKernlingControls(const C &c, int letters)
+{
+    const auto pixels = [letters](double sizes) { return static_cast<int>(sizes * letters); };
+    QFont font = c.form->font();
+    font.setPixelSize(letters);
+    // One by one: a frame with a style of its own hands no letters down.
+    for (QWidget *control : c.panels->findChildren<QWidget *>())
+        if (control != c.RTF && !c.RTF->isAncestorOf(control))
+            control->setFont(font);
+    for (QGroupBox *group : c.panels->findChildren<QGroupBox *>())
+        group->setStyleSheet(groupStyle.arg(pixels(titleShare)));
+    for (PressButton *button : c.panels->findChildren<PressButton *>()) {
+        button->setMinimumHeight(pixels(buttonHeight));
+        button->setIconSize(QSize(pixels(textSize), pixels(textSize)));
+    }
+    c.RTF->setLetterSize(pixels(textSize));
+    font.setPixelSize(pixels(answerSize));
+    c.rtfResponse->setFont(font);
+    font.setBold(true);
+    for (QWidget *shown : std::initializer_list<QWidget *>{c.Text1, c.Label8, c.Label3, c.Label14})
+        shown->setFont(font);
+    c.sidePanel->setMinimumWidth(pixels(sideWidth));
+    c.stemPanel->setMinimumWidth(pixels(stemWidth));
+    for (QWidget *number : {c.Text3, c.Text4})
+        number->setMaximumWidth(pixels(numberWidth));
+    c.cboWordLen->setMaximumWidth(pixels(lengthWidth));
+    c.Check1->setFixedWidth(pixels(stripWidth));
 }

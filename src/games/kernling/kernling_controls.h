@@ -28,6 +28,7 @@ struct KernlingControls
     QWidget *form = nullptr;
 
     // "Wörter einfügen"
+    QWidget *sidePanel = nullptr;
     std::array<QRadioButton *, 6> OptFilltype{};
     PressButton *Command3 = nullptr;
     QLineEdit *Text4 = nullptr; ///< length of the words of the letter mix
@@ -94,3 +95,7 @@ struct KernlingControls
 
 /// Makes the controls as children of `form` and lays them out.
 KernlingControls makeKernlingControls(QWidget *form);
+
+/// Gives all controls letters of that size (pixels), larger ones to text, answer and counts, and widths that
+/// go with them.
+void scaleKernlingControls(const KernlingControls &controls, int letters);
