@@ -9,12 +9,13 @@
 
 namespace {
 
-constexpr QColor face{255, 255, 255, 150};
+constexpr QColor face{255, 255, 255, 120};
 constexpr QColor ink{0x10, 0x28, 0x60};
-constexpr QColor lastFace{200, 0, 0, 185};
+constexpr QColor lastFace{200, 0, 0, 170};
 constexpr int smallestLetters = 18; ///< pixels
 constexpr int largestLetters = 54;
 constexpr int margin = 8;
+constexpr int belowPrefixes = 42; ///< pixels under the board's upper edge
 
 } // namespace
 
@@ -44,11 +45,11 @@ void GameSign::place()
 {
     QFont letters = font();
     letters.setBold(true);
-    letters.setPixelSize(std::clamp(board_->height() / 20, smallestLetters, largestLetters));
+    letters.setPixelSize(std::clamp(board_->height() / 24, smallestLetters, largestLetters));
     setFont(letters);
     const QSize size = QFontMetrics(letters).size(Qt::TextSingleLine, text_) + QSize(3 * margin, margin);
     const QRect board = board_->geometry();
-    setGeometry(QRect(QPoint(board.right() - size.width() - margin, board.top() + margin), size));
+    setGeometry(QRect(QPoint(board.right() - size.width() - margin, board.top() + belowPrefixes), size));
 }
 
 bool GameSign::eventFilter(QObject *watched, QEvent *event)

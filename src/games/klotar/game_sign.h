@@ -5,7 +5,7 @@
 #include <QWidget>
 
 /// What a class reads from the back row while a game runs: what is to be done, and how many minutes are left.
-/// It lies translucent in the board's upper right corner, in letters that grow with the board, and lets every
+/// It lies translucent under the prefixes at the board's right, in letters that grow with the board, and lets every
 /// press through.
 class GameSign : public QWidget
 {

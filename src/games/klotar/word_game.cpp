@@ -94,13 +94,15 @@ WordGame::WordGame(Ground &ground, const MainControls &controls, WordLists &list
     , lists_(lists)
     , play_(play)
     , rooms_(rooms)
-    , PreparationTimer_(ground.clock)
-    , GameTimer_(ground.clock)
+    , PreparationTimer_(ground.clock, this)
+    , GameTimer_(ground.clock, this)
     , sign_(new GameSign(controls.picCanvas))
 {
     connect(&PreparationTimer_, &MinuteTimer::Timer, this,
             [this] { minutePassed(&WordGame::PreparationTimer_Timer); });
     connect(&GameTimer_, &MinuteTimer::Timer, this, [this] { minutePassed(&WordGame::GameTimer_Timer); });
+    PreparationTimer_.setObjectName(u"PreparationTimer"_s);
+    GameTimer_.setObjectName(u"GameTimer"_s);
     GameWordHintTimer_.setSingleShot(true);
     connect(&GameWordHintTimer_, &QTimer::timeout, this,
             [this] { minutePassed(&WordGame::ShowGameWordHint); });
