@@ -3,7 +3,7 @@
 #include "language/dictionary_panel.h"
 
 #include "board/hand/command_router.h"
-#include "language/list_stand.h"
+#include "widgets/list_stand.h"
 #include "platform/gate.h"
 #include "platform/ground.h"
 #include "platform/procedure.h"

@@ -4,7 +4,7 @@
 
 #include "board/hand/command_router.h"
 #include "language/dictionary_panel.h"
-#include "language/list_stand.h"
+#include "widgets/list_stand.h"
 #include "language/word_tests.h"
 #include "platform/boxes.h"
 #include "platform/file_dialogs.h"

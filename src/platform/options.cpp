@@ -94,6 +94,15 @@ void Options::setOption(Setting id)
     change(id, on);
 }
 
+void Options::keepOption(Setting id)
+{
+    setOption(id);
+    const OptionGroup *group = optionGroup(id);
+    for (const SettingRow &row : settingsTable())
+        if (row.id >= group->first && row.id <= group->last)
+            store_.SaveSetting(QLatin1String(row.section), QLatin1String(row.key), value(row.id));
+}
+
 void Options::GetSettings(SettingsWindow window)
 {
     Procedure step{log_, "GetSettings", "frmOptions"};
@@ -102,9 +111,8 @@ void Options::GetSettings(SettingsWindow window)
 
 void Options::subSnapShot(SettingsWindow window)
 {
-    forRowsOf(window, [this](const SettingRow &row) {
-        snapshot_[static_cast<std::size_t>(row.id)] = value(row.id);
-    });
+    forRowsOf(window,
+              [this](const SettingRow &row) { snapshot_[static_cast<std::size_t>(row.id)] = value(row.id); });
 }
 
 bool Options::IsChanged(SettingsWindow window) const

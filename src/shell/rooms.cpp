@@ -63,6 +63,9 @@ Rooms::Rooms(Ground &ground, const Hall &hall)
     , strip(ground, hall.controls)
     , retype(ground, hall.controls, hall.lists, hall.play,
              {hall.sheet, hall.status, strip, maker, check, tests, dictionary, canvas, news})
+    , vowelBoard(ground, hall.controls, hall.lists, {check, bulk, canvas, loader, news})
+    , game(ground, hall.controls, hall.lists, hall.play,
+           {hall.sheet, hall.status, check, tests, dictionary, canvas, pointer, tips, scores})
     , progInit(ground, hall.controls, hall.lists, loader, canvas, bulk, homes)
 {}
 

@@ -19,9 +19,11 @@
 #include "board/tiles/board_news.h"
 #include "dialogs/msn_style.h"
 #include "games/kernling/frm_kernling.h"
+#include "games/klotar/word_game.h"
 #include "games/retype/retype_mode.h"
 #include "games/retype/strip_control.h"
 #include "games/scores/high_scores.h"
+#include "games/tonarin/vowel_board.h"
 #include "generators/word_maker.h"
 #include "language/dictionary_panel.h"
 #include "language/list_chooser.h"
@@ -107,6 +109,8 @@ struct Rooms
     FrmKernling kernling;
     StripControl strip;
     RetypeMode retype;
+    VowelBoard vowelBoard;
+    WordGame game;
 
     // shell
     ProgInit progInit;

@@ -6,6 +6,7 @@ wortel_test(e2e SLOW TIMEOUT 300
         known_board.cpp
         tst_board_by_hand.cpp
         tst_first_board.cpp
+        tst_games_by_hand.cpp
         tst_interrupted.cpp
         tst_kept_boards.cpp
         tst_words_by_hand.cpp

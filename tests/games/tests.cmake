@@ -5,8 +5,10 @@ wortel_test(games
         kernling/tst_frm_kernling.cpp
         kernling/tst_locate_game.cpp
         kernling/tst_text_source.cpp
+        klotar/tst_word_game.cpp
         retype/tst_retype_mode.cpp
         retype/tst_retype_ways.cpp
         retype/tst_strip_control.cpp
         scores/tst_high_scores.cpp
+        tonarin/tst_vowels.cpp
 )

@@ -63,7 +63,16 @@ struct House : TestHouse
 
     // What is seen
     QString report() { return takeReports(*this).value(0).section(u'|', 0, 0); }
-    QString state() const { return play.RetypeActive() ? u"retyping"_s : u"free"_s; }
+    QString state() const
+    {
+        return play.RetypeActive() ? u"retyping"_s
+               : play.GameActive() ? u"level %1"_s.arg(play.GameLevel())
+                                   : u"free"_s;
+    }
+    QString stored(const char *key) const
+    {
+        return t.store.GetSetting(u"Settings"_s, QLatin1String(key), {});
+    }
     bool isBackedUp() const { return IsTextFile(Backup::file(t.ground)); }
     static bool sessionsAreKnown()
     {
@@ -95,11 +104,11 @@ struct House : TestHouse
         act();
         return t.boxes.asked.isEmpty() ? QString() : t.boxes.asked.last().text.left(20);
     }
-    /// The heading of the list of the best that the menu's entry shows.
-    QString listOf(int id)
+    /// The heading of the list of the best that `act` shows.
+    template <typename Act> QString listOf(Act act)
     {
         t.boxes.willCloseScores();
-        run(From::MainMenu, id);
+        act();
         return t.boxes.asked.last().style;
     }
     /// The file that the menu's entry writes.
@@ -214,9 +223,20 @@ const Wire wires[] = {
     {"Command3 right", ACT(h.dialogOf([&] { h.tool(h.c.Command3, Qt::RightButton); })), u"Wörterbuch laden (multi)"_s},
     {"Command4 left", ACT(h.tool(h.c.Command4), h.visible(u"CorrectWordList"_s)), u"CorrectWordList"_s},
     {"Command4 right", ACT(h.dialogOf([&] { h.tool(h.c.Command4, Qt::RightButton); })), u"Richtige Wörter Speichern"_s},
-    {"Check3 left", ACT(h.boxOf([&] { h.tool(h.c.Check3); })), later},
-    {"Check3 right", ACT(h.boxOf([&] { h.tool(h.c.Check3, Qt::RightButton); })), later},
+    {"Check3 left", ACT(h.tool(h.c.Check3), h.state()), u"level 1"_s},
+    {"Check3 right", ACT(h.listOf([&] { h.tool(h.c.Check3, Qt::RightButton); })), u"Klotar"_s},
+    {"Option2(1)", ACT(h.tool(h.c.Option2[1]), h.tool(h.c.Check3), h.state()), u"level 2"_s},
+    {"Option2(2)", ACT(h.tool(h.c.Option2[2]), h.stored("GameDifficult3")), u"True"_s},
     {"Check4", ACT(h.tool(h.c.Check4), h.state()), u"retyping"_s},
+    {"ChkVokal right", ACT(h.windowOf([&] { h.tool(h.c.ChkVokal[1], Qt::RightButton); })), u"FrmPlayVokal"_s},
+    {"vowel said", ACT(emit h.r.check.vowelWordFound(u"bahn"_s), h.t.sound.files.value(0).right(7)), u"\\la.wav"_s},
+    {"vowel board left", ACT(h.tool(h.c.ChkVokal[0]), h.tool(h.c.ChkVokal[0]), h.firstRows().section(u' ', 0, 0)), u"halt"_s},
+    {"vowel board", ACT(h.tool(h.c.ChkVokal[0]), h.firstRows().section(u' ', 0, 0)), u"ball"_s},
+    {"session on a vowel board", ACT(h.tool(h.c.ChkVokal[0]), emit h.r.sessions.boardOpens(), yes(h.play.KurzVokalMode())), u"no"_s},
+    {"session in a vowel game", ACT(h.tool(h.c.ChkVokal[0]), h.tool(h.c.Check3), emit h.r.sessions.boardOpens(), h.state()), u"free"_s},
+    {"copying after the game", ACT(h.lists.CorrectWordList.add(u"Haus"_s), emit h.r.game.retypeWanted(), h.state()), u"retyping"_s},
+    {"1702", ACT(h.run(From::MainMenu, 1702), yes(h.play.GameShortVowels())), u"yes"_s},
+    {"1703", ACT(h.run(From::MainMenu, 1703), h.firstRows().section(u' ', 0, 0)), u"ball"_s},
     {"ChkVokal(0)", ACT(h.tool(h.c.ChkVokal[0]), yes(h.play.KurzVokalMode())), u"yes"_s},
     {"ChkVokal(1)", ACT(h.tool(h.c.ChkVokal[1]), yes(h.play.LangVokalMode())), u"yes"_s},
     {"Enter", ACT(h.typed(Qt::Key_Return), h.report()), u"Richtig !"_s},
@@ -263,9 +283,9 @@ const Wire wires[] = {
     {"scores", ACT(h.boxOf([&] { emit h.r.options.resetScores(frmOptions::Scores::Klotar); })), u"Möchtest du die Best"_s},
 
     {"scores of Tonarin", ACT(h.boxOf([&] { emit h.r.options.resetScores(frmOptions::Scores::Tonarin); })), u"Möchtest du die Best"_s},
-    {"2900", ACT(h.listOf(2900)), u"Klotar"_s},
-    {"3104", ACT(h.listOf(3104)), u"Kernling"_s},
-    {"3106", ACT(h.listOf(3106)), u"Tonarin"_s},
+    {"2900", ACT(h.listOf([&] { h.run(From::MainMenu, 2900); })), u"Klotar"_s},
+    {"3104", ACT(h.listOf([&] { h.run(From::MainMenu, 3104); })), u"Kernling"_s},
+    {"3106", ACT(h.listOf([&] { h.run(From::MainMenu, 3106); })), u"Tonarin"_s},
     {"2901", ACT(h.listReset(2901)), u"scores.lst"_s},
     {"3105", ACT(h.listReset(3105)), u"ScoresKernling.lst"_s},
     {"3107", ACT(h.listReset(3107)), u"ScoresVokal.lst"_s},
@@ -276,7 +296,7 @@ const Wire wires[] = {
     {"1701", ACT(h.windowOf([&] { h.run(From::MainMenu, 1701); })), u"FrmKernling"_s},
     {"stems, printed", ACT(h.boxOf([&] { emit h.r.kernling.PrintRTF(nullptr); })), later},
     {"1906", ACT(h.run(From::MainMenu, 1906), yes(h.gate.isClosing())), u"yes"_s},
-    {"701", ACT(h.boxOf([&] { h.run(From::MainMenu, 701); })), later},
+    {"701", ACT(h.run(From::MainMenu, 701), h.state()), u"level 1"_s},
     {"201", ACT(h.dialogOf([&] { h.run(From::MainMenu, 201); })), u"Wortel laden (Multi)"_s},
     {"275", ACT(h.run(From::MainMenu, 275), yes(h.r.tips.isShown())), u"yes"_s},
     {"401", ACT(h.run(From::MainMenu, 401), h.visible(u"LexiconList"_s)), u"LexiconList"_s},

@@ -3,6 +3,7 @@
 #include "dialogs/report_window.h"
 #include "persistence/backup.h"
 #include "platform/files.h"
+#include "platform/minute_timer.h"
 #include "support/registry.h"
 #include "support/test_hand.h"
 
@@ -218,7 +219,7 @@ private:
     {
         last += u" outside"_s;
         QEvent activation(QEvent::ActivationChange);
-        switch (below(8)) {
+        switch (below(10)) {
         case 0:
             ++cancels_;
             hand_->form.close();
@@ -229,6 +230,12 @@ private:
             break;
         case 3:
             hand_->form.resize(windowSize - QSize(below(300), below(200)));
+            break;
+        case 4:
+        case 5:
+            hand_->t.clock.moment = hand_->t.clock.moment.addSecs(60LL * below(10));
+            for (MinuteTimer *timer : hand_->r.game.findChildren<MinuteTimer *>())
+                timer->look();
             break;
         default:
             QCoreApplication::sendEvent(&hand_->form, &activation);
@@ -372,7 +379,7 @@ private slots:
                 QFAIL(qPrintable(u"step %1,%2: %3"_s.arg(i).arg(player.last, wrong)));
         }
         // It did play.
-        QVERIFY2(player.commits > steps / 20 && player.houses > 2,
+        QVERIFY2(player.commits > steps / 40 && player.houses > 2,
                  qPrintable(u"%1 commits, %2 houses"_s.arg(player.commits).arg(player.houses)));
     }
 };
