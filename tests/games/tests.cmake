@@ -2,6 +2,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 wortel_test(games
     SOURCES
+        kernling/tst_stem_verdict.cpp
+        kernling/tst_text_words.cpp
         retype/tst_retype_mode.cpp
         retype/tst_retype_ways.cpp
         retype/tst_strip_control.cpp
