@@ -37,7 +37,6 @@ public:
     void setBox(Setting id, int value);
     /// Sets an option and clears the others of its group (scroller position, export layout, difficulty).
     void setOption(Setting id);
-
     /// The same, written to the store at once: chosen outside of the options window.
     void keepOption(Setting id);
 

@@ -19,17 +19,12 @@
 #include <QLabel>
 #include <QScreen>
 
-#include <algorithm>
-#include <utility>
-
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr auto form = "FrmKernling";
-constexpr QSize designSize{853, 450};
-constexpr int smallLetters = 12; ///< pixels, at the design size
-constexpr int largeLetters = 20; ///< pixels, at most
+constexpr QSize smallestWish{853, 450};
 
 } // namespace
 
@@ -91,7 +86,7 @@ void FrmKernling::fitToScreen()
     const QRect room = screen()->availableGeometry().adjusted(4, 26, -4, -4);
     if (testAttribute(Qt::WA_Resized) && room.size().boundedTo(size()) == size())
         return;
-    const QSize wished = (room.size() * 4 / 5).expandedTo(designSize).boundedTo(room.size());
+    const QSize wished = (room.size() * 4 / 5).expandedTo(smallestWish).boundedTo(room.size());
     resize(wished);
     QRect place(QPoint(0, 0), wished);
     place.moveCenter(room.center());
@@ -127,13 +122,8 @@ void FrmKernling::keyPressEvent(QKeyEvent *event)
 void FrmKernling::resizeEvent(QResizeEvent *event)
 {
     QDialog::resizeEvent(event);
-    if (!parts_)
-        return;
-    const double factor = std::min(static_cast<double>(width()) / designSize.width(),
-                                   static_cast<double>(height()) / designSize.height());
-    const int size = std::clamp(static_cast<int>(smallLetters * factor), smallLetters, largeLetters);
-    if (std::exchange(letters_, size) != size)
-        scaleKernlingControls(parts_->controls, size);
+    if (parts_)
+        scaleKernlingControls(parts_->controls, size());
 }
 
 void FrmKernling::showWayOfMarking()

@@ -84,5 +84,4 @@ private:
     Ground &ground_;
     Hall hall_;
     std::unique_ptr<Parts> parts_;
-    int letters_ = 0; ///< size of the controls' letters, pixels
 };

@@ -21,6 +21,8 @@
 #include <QLineEdit>
 #include <QSplitter>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -72,6 +74,10 @@ constexpr std::size_t letterMix = 3;
 constexpr int longestWordOffered = 25;
 constexpr int gap = 4;       ///< pixels
 constexpr int signSize = 30; ///< pixels
+
+constexpr QSize designSize{853, 450};
+constexpr int smallLetters = 12; ///< pixels, at the design size
+constexpr int largeLetters = 20; ///< pixels, at most
 
 // In letter sizes
 constexpr double sideWidth = 20.3; ///< of the panel on the left
@@ -406,8 +412,13 @@ KernlingControls makeKernlingControls(QWidget *form)
     return c;
 }
 
-void scaleKernlingControls(const C &c, int letters)
+void scaleKernlingControls(const C &c, const QSize &window)
 {
+    const double factor = std::min(static_cast<double>(window.width()) / designSize.width(),
+                                   static_cast<double>(window.height()) / designSize.height());
+    const int letters = std::clamp(static_cast<int>(smallLetters * factor), smallLetters, largeLetters);
+    if (c.Check1->font().pixelSize() == letters)
+        return;
     const auto pixels = [letters](double sizes) { return static_cast<int>(sizes * letters); };
     QFont font = c.form->font();
     font.setPixelSize(letters);

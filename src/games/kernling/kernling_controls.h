@@ -14,6 +14,7 @@ class QGroupBox;
 class QLabel;
 class QLineEdit;
 class QRadioButton;
+class QSize;
 class QSplitter;
 class QTextEdit;
 class QWidget;
@@ -96,6 +97,6 @@ struct KernlingControls
 /// Makes the controls as children of `form` and lays them out.
 KernlingControls makeKernlingControls(QWidget *form);
 
-/// Gives all controls letters of that size (pixels), larger ones to text, answer and counts, and widths that
-/// go with them.
-void scaleKernlingControls(const KernlingControls &controls, int letters);
+/// Gives all controls the letters, pixels, that go with a window of that size, larger ones to text, answer
+/// and counts, and widths that go with them. Nothing if they have them already.
+void scaleKernlingControls(const KernlingControls &controls, const QSize &window);
