@@ -287,9 +287,28 @@ void KernlingText::keyPressEvent(QKeyEvent *event)
             return;
         }
     }
+    if (!event->text().isEmpty())
+        typeUnpainted();
     if (event->key() == Qt::Key_Shift && !event->isAutoRepeat())
         beforeShift_ = selection();
     QTextEdit::keyPressEvent(event);
+}
+
+void KernlingText::inputMethodEvent(QInputMethodEvent *event)
+{
+    typeUnpainted();
+    QTextEdit::inputMethodEvent(event);
+}
+
+/// What is typed behind a painted run is no part of it.
+void KernlingText::typeUnpainted()
+{
+    QTextCharFormat format = currentCharFormat();
+    if (locked_ || textCursor().hasSelection() || !format.hasProperty(QTextFormat::BackgroundBrush))
+        return;
+    format.clearBackground();
+    format.clearForeground();
+    setCurrentCharFormat(format);
 }
 
 void KernlingText::keyReleaseEvent(QKeyEvent *event)

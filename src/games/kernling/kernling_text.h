@@ -72,6 +72,7 @@ protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
+    void inputMethodEvent(QInputMethodEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dragMoveEvent(QDragMoveEvent *event) override;
@@ -83,6 +84,7 @@ private:
     class KeptView;
 
     void hideCaret();
+    void typeUnpainted();
     void applyLetterSize();
 
     bool locked_ = false;

@@ -30,6 +30,14 @@ constexpr auto form = "FrmKernling";
 constexpr int rightSound = 112;
 constexpr std::size_t runsAtOnce = 500; ///< painted between two looks at the hand
 
+/// Somebody may mark the whole text: no list and no answer shows more of it than this. The longest text of
+/// look-alike stems is shorter.
+QString shortened(const QString &text)
+{
+    constexpr qsizetype mostLetters = 500;
+    return text.size() <= mostLetters ? text : text.left(mostLetters) + QChar(0x2026);
+}
+
 void AppendColoured(QTextEdit &rtf, const QString &text, Colour colour)
 {
     QTextCharFormat format;
@@ -76,7 +84,7 @@ void StemMarking::keep(const Verdict &verdict)
     if (verdict.foundRow)
         desk_.lists.UserFoundWortelList.add(*verdict.foundRow);
     if (verdict.falseRow)
-        desk_.lists.UserFalseWortelList.add(*verdict.falseRow);
+        desk_.lists.UserFalseWortelList.add(shortened(*verdict.falseRow));
     const auto showCount = [](QLabel *label, const std::optional<int> &count) {
         if (count)
             label->setText(QString::number(*count));
@@ -91,7 +99,7 @@ void StemMarking::show(const Verdict &verdict)
     QTextEdit &answer = *desk_.controls.rtfResponse;
     answer.clear();
     for (const kernling::VerdictPiece &piece : verdict.pieces)
-        AppendColoured(answer, piece.text, piece.colour);
+        AppendColoured(answer, shortened(piece.text), piece.colour);
     answer.moveCursor(QTextCursor::Start);
     answer.setAccessibleDescription(answer.toPlainText());
     desk_.controls.Text1->setText(verdict.Text1);
@@ -139,25 +147,9 @@ void StemMarking::Locate_and_Higlight(const QStringList &words)
         step([&] { show(last); });
 }
 
-bool StemMarking::hasText() const
-{
-    if (!desk_.controls.RTF->isEmpty())
-        return true;
-    desk_.tell(u"Der Text ist leer"_s);
-    return false;
-}
+void StemMarking::cmdUnHighlight_Click() { desk_.controls.RTF->unpaint(desk_.controls.RTF->selection()); }
 
-void StemMarking::cmdUnHighlight_Click()
-{
-    if (hasText())
-        desk_.controls.RTF->unpaint(desk_.controls.RTF->selection());
-}
-
-void StemMarking::cmdResetColors_Click()
-{
-    if (hasText())
-        desk_.controls.RTF->unpaintAll();
-}
+void StemMarking::cmdResetColors_Click() { desk_.controls.RTF->unpaintAll(); }
 
 void StemMarking::clearFound()
 {

@@ -33,7 +33,6 @@ private:
     kernling::VerdictOptions options() const;
     void keep(const kernling::Verdict &verdict);
     void show(const kernling::Verdict &verdict);
-    bool hasText() const;
 
     KernlingDesk &desk_;
     kernling::StemJudge judge_;

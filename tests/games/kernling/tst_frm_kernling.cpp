@@ -268,6 +268,27 @@ private slots:
         QCOMPARE(w.paint(), u"rr.....rr????."_s);
     }
 
+    void lettersTypedBehindPaintHaveNone()
+    {
+        Workshop w;
+        w.write(u"wirk"_s);
+        w.markWord(u"wirk"_s);
+        w.text().moveCursor(QTextCursor::End);
+        QTest::keyClicks(&w.text(), u"en"_s);
+        QCOMPARE(w.paint(), u"rrrr.."_s);
+    }
+
+    void theWholeTextIsNoStem()
+    {
+        Workshop w;
+        w.t.options.setBox(Setting::KernlingShowFalse, 1);
+        w.write(u"Unsinn "_s.repeated(20000));
+        w.text().selectAll();
+        emit w.text().marked();
+        QVERIFY(w.answer().size() < 600 && w.answer().contains(u"steht nicht in der Wortstamm-Liste"_s));
+        QVERIFY(w.rows(w.c().UserFalseWortelList).first().size() < 510);
+    }
+
     void stemsAreCountedOnceOrEachTime_data()
     {
         columns<int, QString>("noDup", "count");
