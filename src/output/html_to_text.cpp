@@ -5,6 +5,7 @@
 #include "output/html_entities.h"
 #include "output/html_tokens.h"
 
+#include <algorithm>
 #include <deque>
 #include <limits>
 #include <new>
@@ -128,6 +129,8 @@ private:
     void openCell();
     void closeCell();
 
+    bool passGoesOnTo(qsizetype position, const PassStep &step);
+    bool takeRun(const Token &token, const PassStep &step);
     void take(const Token &token);
     void tag(QStringView name);
     void text(QStringView run);
@@ -137,6 +140,7 @@ private:
     void leaveCell();
 
     HtmlTokens tokens_;
+    qsizetype nextStep_ = passStride;
     RowsAhead ahead_;
     QString &out_;
     QString &title_;
@@ -165,24 +169,45 @@ const PagePass::TagRow PagePass::tags[] = {
 
 void PagePass::run(const PassStep &step)
 {
-    qsizetype next = passStride;
     for (Token token = tokens_.next(); token.kind != Token::End; token = tokens_.next()) {
-        take(token);
-        if (tokens_.position() < next)
+        if (token.kind == Token::Text) {
+            if (!takeRun(token, step))
+                return;
             continue;
-        next = tokens_.position() - tokens_.position() % passStride;
-        if (!passGoesOn(step, next))
+        }
+        take(token);
+        if (!passGoesOnTo(tokens_.position(), step))
             return;
-        next += passStride;
     }
+}
+
+bool PagePass::passGoesOnTo(qsizetype position, const PassStep &step)
+{
+    if (position < nextStep_)
+        return true;
+    nextStep_ = position - position % passStride;
+    const bool goesOn = passGoesOn(step, nextStep_);
+    nextStep_ += passStride;
+    return goesOn;
+}
+
+/// A run is written piece by piece, so that the pass can be ended within a long one.
+bool PagePass::takeRun(const Token &token, const PassStep &step)
+{
+    const qsizetype start = tokens_.position() - token.view.size();
+    for (qsizetype from = 0; from < token.view.size();) {
+        const qsizetype piece = std::clamp<qsizetype>(nextStep_ - start - from, 1, token.view.size() - from);
+        text(token.view.sliced(from, piece));
+        from += piece;
+        if (!passGoesOnTo(start + from, step))
+            return false;
+    }
+    return true;
 }
 
 void PagePass::take(const Token &token)
 {
     switch (token.kind) {
-    case Token::Text:
-        text(token.view);
-        break;
     case Token::Blank:
         blank();
         break;
@@ -199,6 +224,7 @@ void PagePass::take(const Token &token)
     case Token::Title:
         title_ = token.view.toString();
         break;
+    case Token::Text: // piece by piece
     case Token::End:
         break;
     }
@@ -243,6 +269,8 @@ void PagePass::write(QStringView what)
 
 void PagePass::pay()
 {
+    if (owed_ == Owed::Nothing)
+        return;
     const Owed owed = std::exchange(owed_, Owed::Nothing);
     if (owed == Owed::Line && !endsLine(out_))
         write(u"\n"_s);
