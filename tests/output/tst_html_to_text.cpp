@@ -102,7 +102,8 @@ private slots:
                              const QString &title) { QTest::newRow(name) << html << text << title; };
         page("empty", u""_s, u""_s, u""_s);
         page("no body", u"<html>a<P>b<UL><LI>c"_s, u""_s, u""_s);
-        page("title and body", u"<TITLE>Ein\nTitel</TITLE>a<body BGCOLOR=white>b"_s, u"b"_s, u"Ein\nTitel"_s);
+        page("title and body", u"<TITLE>\r\nEin\nTitel &uuml;ber &foo;</TITLE>a<body BGCOLOR=white>b"_s,
+             u"b"_s, u"Ein Titel über"_s);
         page("title without an end", u"<BODY>a<title>b"_s, u"a"_s, u"b"_s);
     }
     void pages()

@@ -191,14 +191,6 @@ private slots:
     {
         QCOMPARE(CleanSelection(u"\ra\r\nb\n\nc\t\u0001d\u000B\u2028e"_s), u" a b  c d e"_s);
     }
-
-    /// A stem that is told of has its examples in the shipped file.
-    void shippedExamples()
-    {
-        for (const QString &stem : u"renn rück aß ließ lieh RIECH"_s.split(u' '))
-            QVERIFY2(!GetExtraStammInfo(stem, QStringLiteral(WORTEL_SOURCE_DIR "/data/")).text.isEmpty(),
-                     qPrintable(stem));
-    }
 };
 
 WORTEL_TEST(StemVerdictTest)

@@ -123,12 +123,6 @@ private slots:
         QVERIFY(rows.empty() || (*different.begin() >= 0 && *different.rbegin() < count));
         QTEST(static_cast<int>(rows.size()), "drawn");
     }
-
-    void listsWithoutScrambles()
-    {
-        QVERIFY(!suitsScrambles(u"Ig oder lich"_s) && !suitsScrambles(u"UNG HEIT KEIT SCHAFT NIS TUM"_s));
-        QVERIFY(suitsScrambles(u"Hauptbausteine"_s) && suitsScrambles(u""_s));
-    }
 };
 
 WORTEL_TEST(TextWordsTest)
