@@ -3,9 +3,10 @@
 #include "output/html_to_text.h"
 
 #include "output/html_entities.h"
+#include "output/html_rows.h"
 #include "output/html_tokens.h"
 
-#include <deque>
+#include <algorithm>
 #include <limits>
 #include <new>
 #include <vector>
@@ -14,70 +15,25 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int shortRow = 65; ///< characters of a row that is no longer a short one
 constexpr QChar bullet(u'•');
 
 bool endsLine(const QString &text) { return text.isEmpty() || text.endsWith(u'\n'); }
 
-/// Measures the rows of tables ahead, from a row's tag to the next "/TR" or "/TABLE". Rows that are not
-/// closed share one walk, so that all walks together pass each place of the page once.
-class RowsAhead
-{
-public:
-    /// Whether the row that begins where `tokens` stands has a length below `shortRow`.
-    bool isShort(const HtmlTokens &tokens);
-
-private:
-    struct Row
-    {
-        qsizetype start;
-        qsizetype before; ///< length of the walk in front of it
-        bool isShort;
-    };
-
-    void walk(HtmlTokens tokens);
-
-    std::deque<Row> rows_; ///< measured and not yet asked for
-};
-
-bool RowsAhead::isShort(const HtmlTokens &tokens)
-{
-    while (!rows_.empty() && rows_.front().start < tokens.position())
-        rows_.pop_front();
-    if (rows_.empty())
-        walk(tokens);
-    return rows_.front().isShort;
-}
-
-void RowsAhead::walk(HtmlTokens tokens)
+/// A title on one line, with its entities.
+QString titleOf(QStringView text)
 {
     using Token = HtmlTokens::Token;
-    rows_.push_back({tokens.position(), 0, true});
-    qsizetype length = 0;
-    qsizetype lastDivided = -1; // a nested table or a break makes its row long
-    bool inCell = false;
+    QString title;
+    HtmlTokens tokens(text);
     for (Token token = tokens.next(); token.kind != Token::End; token = tokens.next()) {
-        if (token.kind == Token::Text) {
-            length += token.view.size();
-            inCell = true;
-        } else if (token.kind == Token::Entity || (token.kind == Token::Blank && inCell)) {
-            ++length;
-        } else if (token.kind == Token::Tag) {
-            const QStringView name = token.view;
-            if (isTag(name, "/TR"_L1) || isTag(name, "/TABLE"_L1))
-                break;
-            if (isTag(name, "TR"_L1))
-                rows_.push_back({tokens.position(), length, true});
-            else if (isTag(name, "TABLE"_L1) || isTag(name, "P"_L1) || isTag(name, "BR"_L1))
-                lastDivided = tokens.position();
-            if (isTag(name, "TD"_L1) || isTag(name, "TH"_L1))
-                inCell = true;
-            else if (isTag(name, "TR"_L1) || isTag(name, "/TD"_L1) || isTag(name, "/TH"_L1))
-                inCell = false;
-        }
+        if (token.kind == Token::Entity)
+            title += HTMLSpecChar2ASCII(token.view.toString());
+        else if (token.kind == Token::LineEnd)
+            title += u' ';
+        else
+            title += token.view;
     }
-    for (Row &row : rows_)
-        row.isShort = lastDivided <= row.start && length - row.before < shortRow;
+    return title.simplified();
 }
 
 /// One pass over a page. What it has written stands in `out` at any moment.
@@ -128,6 +84,8 @@ private:
     void openCell();
     void closeCell();
 
+    bool passGoesOnTo(qsizetype position, const PassStep &step);
+    bool takeRun(const Token &token, const PassStep &step);
     void take(const Token &token);
     void tag(QStringView name);
     void text(QStringView run);
@@ -137,7 +95,8 @@ private:
     void leaveCell();
 
     HtmlTokens tokens_;
-    RowsAhead ahead_;
+    qsizetype nextStep_ = passStride;
+    HtmlRows ahead_;
     QString &out_;
     QString &title_;
     bool inBody_ = false;
@@ -165,24 +124,45 @@ const PagePass::TagRow PagePass::tags[] = {
 
 void PagePass::run(const PassStep &step)
 {
-    qsizetype next = passStride;
     for (Token token = tokens_.next(); token.kind != Token::End; token = tokens_.next()) {
-        take(token);
-        if (tokens_.position() < next)
+        if (token.kind == Token::Text) {
+            if (!takeRun(token, step))
+                return;
             continue;
-        next = tokens_.position() - tokens_.position() % passStride;
-        if (!passGoesOn(step, next))
+        }
+        take(token);
+        if (!passGoesOnTo(tokens_.position(), step))
             return;
-        next += passStride;
     }
+}
+
+bool PagePass::passGoesOnTo(qsizetype position, const PassStep &step)
+{
+    if (position < nextStep_)
+        return true;
+    nextStep_ = position - position % passStride;
+    const bool goesOn = passGoesOn(step, nextStep_);
+    nextStep_ += passStride;
+    return goesOn;
+}
+
+/// A run is written piece by piece, so that the pass can be ended within a long one.
+bool PagePass::takeRun(const Token &token, const PassStep &step)
+{
+    const qsizetype start = tokens_.position() - token.view.size();
+    for (qsizetype from = 0; from < token.view.size();) {
+        const qsizetype piece = std::clamp<qsizetype>(nextStep_ - start - from, 1, token.view.size() - from);
+        text(token.view.sliced(from, piece));
+        from += piece;
+        if (!passGoesOnTo(start + from, step))
+            return false;
+    }
+    return true;
 }
 
 void PagePass::take(const Token &token)
 {
     switch (token.kind) {
-    case Token::Text:
-        text(token.view);
-        break;
     case Token::Blank:
         blank();
         break;
@@ -197,8 +177,9 @@ void PagePass::take(const Token &token)
         tag(token.view);
         break;
     case Token::Title:
-        title_ = token.view.toString();
+        title_ = titleOf(token.view);
         break;
+    case Token::Text: // piece by piece
     case Token::End:
         break;
     }
@@ -243,6 +224,8 @@ void PagePass::write(QStringView what)
 
 void PagePass::pay()
 {
+    if (owed_ == Owed::Nothing)
+        return;
     const Owed owed = std::exchange(owed_, Owed::Nothing);
     if (owed == Owed::Line && !endsLine(out_))
         write(u"\n"_s);

@@ -12,13 +12,11 @@ constexpr qsizetype entityReach = 7; ///< characters behind an "&" in which its 
 
 bool isControl(QChar character) { return character < u' '; }
 
-bool endsRun(QChar character) { return character <= u' ' || character == u'<' || character == u'&'; }
-
 /// The place behind the mark that opens a comment, with or without blanks in it; 0 if there is none.
 qsizetype behindCommentMark(QStringView tag)
 {
     qsizetype at = 0;
-    for (const QChar wanted : u"!--"_s) {
+    for (const char16_t wanted : {u'!', u'-', u'-'}) {
         while (at < tag.size() && tag[at] == u' ')
             ++at;
         if (at == tag.size() || tag[at++] != wanted)
@@ -58,6 +56,7 @@ HtmlTokens::Token HtmlTokens::next()
 
 HtmlTokens::Token HtmlTokens::run()
 {
+    const auto endsRun = [](QChar c) { return isControl(c) || c == u'<' || c == u'&'; };
     const auto *const end = std::find_if(page_.begin() + at_, page_.end(), endsRun);
     const qsizetype from = std::exchange(at_, end - page_.begin());
     return {Token::Text, page_.sliced(from, at_ - from)};

@@ -2,11 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QLatin1StringView>
 #include <QStringView>
 
-/// Cuts a page into what a reader of it has to know: runs of text, blanks, line ends, entities and tags.
-/// Comments and scripts are passed over, other control characters too. A copy looks ahead from where it was
-/// made.
+/// Cuts a page into what a reader of it has to know: runs of text, blanks in front of them, line ends,
+/// entities and tags. Comments and scripts are passed over, other control characters too. A copy looks ahead
+/// from where it was made.
 class HtmlTokens
 {
 public:
@@ -14,7 +15,7 @@ public:
     {
         enum Kind { Text, Blank, LineEnd, Entity, Tag, Title, End };
         Kind kind = End;
-        QStringView view; ///< the run, the entity's name, the tag's name, the title
+        QStringView view; ///< the run (no blank is its first), the name of entity or tag, the title
     };
 
     explicit HtmlTokens(QStringView page)

@@ -26,8 +26,14 @@ constexpr std::array<Ending, 5> endings{{{"LEX"_L1, TextKind::Dictionary},
                                          {"HTM"_L1, TextKind::Page},
                                          {"HTML"_L1, TextKind::Page}}};
 
-/// Line ends of all kinds become one, and what a text box takes for a sign of its own goes: NULs and the
-/// place of an object.
+/// What no text box shows and a word must not hold: NULs, the place of an object, a mark of the byte order.
+bool isNoLetter(QChar character)
+{
+    return character == QChar::Null || character == QChar::ObjectReplacementCharacter ||
+           character == QChar::ByteOrderMark;
+}
+
+/// Line ends of all kinds become one.
 QString withPlainLines(const QString &text)
 {
     QString result;
@@ -37,7 +43,7 @@ QString withPlainLines(const QString &text)
         const bool secondHalf = before == u'\r' && character == u'\n';
         if (character == u'\r' || character == QChar::ParagraphSeparator || character == QChar::LineSeparator)
             result += u'\n';
-        else if (!secondHalf && character != QChar::Null && character != QChar::ObjectReplacementCharacter)
+        else if (!secondHalf && !isNoLetter(character))
             result += character;
         before = character;
     }

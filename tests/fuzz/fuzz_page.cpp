@@ -22,7 +22,7 @@ void fuzz::page(const QByteArray &bytes)
     promise(whole.complaint.isEmpty(), "there is memory enough");
     promise(whole.text.size() <= 2 * page.size(), "no tag stands for more than itself");
 
-    const PageText cut = HTML2Text(page, [&](qsizetype done) { return done < page.size() / 2; });
+    const PageText cut = HTML2Text(page, [](qsizetype) { return false; });
     promise(cut.text.size() <= whole.text.size() + 8, "a pass that is ended gives a part");
 
     // Without tags, entities and signs of control nothing changes.

@@ -5,13 +5,12 @@
 namespace {
 
 // What stands in front of German stems and behind them. Longer forms of an ending stand beside it, because a
-// child marks what it sees.
+// child marks what it sees. A prefix is asked for first, so that "los" and "in" are suffixes alone.
 constexpr const char16_t *prefixes[] = {
-    u"ab",     u"an",    u"auf",    u"aus",  u"be",   u"bei",    u"da",      u"dar",    u"durch",
-    u"ein",    u"emp",   u"ent",    u"er",   u"fort", u"ge",     u"gegen",   u"her",    u"hin",
-    u"hinter", u"in",    u"los",    u"miss", u"mit",  u"nach",   u"nieder",  u"ob",     u"über",
-    u"um",     u"un",    u"unter",  u"ur",   u"ver",  u"vor",    u"voran",   u"vorbei", u"weg",
-    u"weiter", u"wider", u"wieder", u"zer",  u"zu",   u"zurück", u"zusammen"};
+    u"ab",    u"an",     u"auf",    u"aus",    u"be",    u"bei",    u"da",    u"dar", u"durch",  u"ein",
+    u"emp",   u"ent",    u"er",     u"fort",   u"ge",    u"gegen",  u"her",   u"hin", u"hinter", u"miss",
+    u"mit",   u"nach",   u"nieder", u"über",   u"um",    u"un",     u"unter", u"ur",  u"ver",    u"vor",
+    u"voran", u"vorbei", u"weg",    u"weiter", u"wider", u"wieder", u"zer",   u"zu",  u"zurück", u"zusammen"};
 
 constexpr const char16_t *suffixes[] = {
     u"bar",  u"barkeit",   u"chen",   u"e",    u"el",    u"eln",  u"en",   u"end",     u"er",         u"erei",

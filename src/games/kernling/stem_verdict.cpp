@@ -20,6 +20,7 @@ namespace {
 
 constexpr Colour blue = 0xFF0000;
 constexpr Colour red = 0x0000FF;
+constexpr qsizetype longestShown = 200;
 
 /// What a right answer is reminded of.
 enum class Reminder { LookAlikes, Suffix, Prefix, NoPrefix };
@@ -46,6 +47,12 @@ constexpr std::array<ReminderRow, 39> reminders{{
     {u"HERZ", Reminder::NoPrefix},    {u"BET", Reminder::NoPrefix},    {u"ERB", Reminder::NoPrefix},
     {u"GEB", Reminder::NoPrefix},     {u"GEH", Reminder::NoPrefix},    {u"ZERR", Reminder::NoPrefix},
 }};
+
+/// A marking as it is shown: of the whole text, nobody wants to read more than its start.
+QString shown(const QString &text)
+{
+    return text.size() <= longestShown ? text : text.first(longestShown) + u'…';
+}
 
 bool isLineBreak(QChar character)
 {
@@ -156,7 +163,7 @@ Verdict StemJudge::wrong(const QString &sel, const QString &marked, const Verdic
     verdict.kind = Verdict::Kind::NoStem;
     verdict.sel = sel;
     verdict.tone = options.storedUseSounds ? Verdict::Tone::Beep : Verdict::Tone::None;
-    verdict.pieces = {{sel, red}};
+    verdict.pieces = {{shown(sel), red}};
     const auto affix = [&](const QString &kind) {
         verdict.pieces.push_back({u"\nist kein Wortstamm\nsondern "_s});
         verdict.pieces.push_back({kind, red});
@@ -169,12 +176,12 @@ Verdict StemJudge::wrong(const QString &sel, const QString &marked, const Verdic
     } else {
         verdict.pieces.push_back({u"\nsteht nicht in der Wortstamm-Liste"_s, red});
         if (tests_.In_Lexicon(sel)) {
-            verdict.pieces.push_back({u"\n"_s + sel, red});
+            verdict.pieces.push_back({u"\n"_s + shown(sel), red});
             verdict.pieces.push_back({u"\nist ein Wort im Wörterbuch"_s});
         }
     }
     if (options.KernlingShowFalse == 1) {
-        verdict.falseRow = marked;
+        verdict.falseRow = shown(marked);
         verdict.Label14 = lists_.UserFalseWortelList.count() + 1;
     }
     return verdict;

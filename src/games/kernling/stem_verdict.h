@@ -86,8 +86,8 @@ public:
         , appFolder_(std::move(appFolder))
     {}
 
-    /// `HighLightSelection` for the colour 255. `marked` is the selected text as it stands. The one who
-    /// shows the verdict adds its rows to the lists.
+    /// `HighLightSelection` for the colour 255. `marked` is the selected text as it stands; of a very long
+    /// one the verdict names the start. The one who shows the verdict adds its rows to the lists.
     Verdict judge(const QString &marked, const VerdictOptions &options) const;
 
 private:

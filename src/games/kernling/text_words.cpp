@@ -45,6 +45,58 @@ Letter letterOf(QChar character)
     return character.unicode() < letterTable.size() ? letterTable[character.unicode()] : Letter::None;
 }
 
+/// Picks the words out of a text that is read piece by piece.
+class Collector
+{
+public:
+    Collector(QStringView text, int wordLength)
+        : text_(text)
+        , wordLength_(wordLength)
+    {}
+
+    void read(qsizetype from, qsizetype to)
+    {
+        for (qsizetype i = from; i < to;) {
+            if (start_ < 0) {
+                while (i < to && letterOf(text_[i]) != Letter::Word)
+                    ++i;
+                start_ = i < to ? i : -1;
+            } else {
+                Letter kind = Letter::Word;
+                for (; i < to && (kind = letterOf(text_[i])) != Letter::None; ++i)
+                    behindLast_ = kind == Letter::Word ? i + 1 : behindLast_;
+                if (kind == Letter::None)
+                    take();
+            }
+        }
+    }
+
+    QStringList finish()
+    {
+        if (start_ >= 0)
+            take();
+        return words_;
+    }
+
+private:
+    void take()
+    {
+        const qsizetype start = std::exchange(start_, -1);
+        const QStringView word = text_.sliced(start, behindLast_ - start);
+        if ((wordLength_ != 0 && word.size() != wordLength_) || index_.find(words_, word) >= 0)
+            return;
+        words_.append(word.toString());
+        index_.extend(words_);
+    }
+
+    QStringView text_;
+    int wordLength_;
+    QStringList words_;
+    CaseBlindIndex index_;
+    qsizetype start_ = -1;     ///< of the word that is being read
+    qsizetype behindLast_ = 0; ///< behind its last letter: digits at its end are no part of it
+};
+
 bool isInWord(QStringView text, qsizetype at)
 {
     return at >= 0 && at < text.size() && text[at].isLetterOrNumber();
@@ -65,34 +117,13 @@ int moved(WordStore &list, int row, int by)
 
 std::optional<QStringList> UniqueWords(const QString &text, int wordLength, const PassStep &step)
 {
-    QStringList words;
-    CaseBlindIndex index;
-    const QStringView letters(text);
-    const auto take = [&](qsizetype from, qsizetype to) {
-        const QStringView word = letters.sliced(from, to - from);
-        if ((wordLength != 0 && word.size() != wordLength) || index.find(words, word) >= 0)
-            return;
-        words.append(word.toString());
-        index.extend(words);
-    };
-    qsizetype start = -1;     // of the word that is being read
-    qsizetype behindLast = 0; // behind its last letter: digits at its end are no part of it
-    for (qsizetype i = 0; i < letters.size(); ++i) {
-        if (!passGoesOn(step, i))
+    Collector words(text, wordLength);
+    for (qsizetype from = 0; from < text.size(); from += passStride) {
+        if (!passGoesOn(step, from))
             return std::nullopt;
-        const Letter kind = letterOf(letters[i]);
-        if (kind == Letter::Word) {
-            if (start < 0)
-                start = i;
-            behindLast = i + 1;
-        } else if (kind == Letter::None && start >= 0) {
-            take(start, behindLast);
-            start = -1;
-        }
+        words.read(from, std::min(text.size(), from + passStride));
     }
-    if (start >= 0)
-        take(start, behindLast);
-    return words;
+    return words.finish();
 }
 
 std::optional<QStringList> GetWordsFromText(const QString &text, int wordLength, const PassStep &step)

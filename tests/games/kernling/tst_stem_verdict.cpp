@@ -99,7 +99,7 @@ private slots:
         };
         row("prefix", u"AB"_s, u"[AB]\nist kein Wortstamm\nsondern [ein Präfix]\n"_s);
         row("suffix", u" lich\t"_s, u"[lich]\nist kein Wortstamm\nsondern [ein Suffix]\n"_s);
-        row("prefix and suffix", u"los"_s, u"[los]\nist kein Wortstamm\nsondern [ein Präfix]\n"_s);
+        row("prefix and suffix", u"er"_s, u"[er]\nist kein Wortstamm\nsondern [ein Präfix]\n"_s);
         row("a word", u"haus"_s,
             u"[haus][\nsteht nicht in der Wortstamm-Liste][\nhaus]\nist ein Wort im Wörterbuch"_s);
         row("nonsense", u"xyz"_s, u"[xyz][\nsteht nicht in der Wortstamm-Liste]"_s);
@@ -155,6 +155,16 @@ private slots:
         QCOMPARE(verdict.foundRow.has_value(), verdict.Label3.has_value());
     }
 
+    /// Five megabytes are judged, and not shown.
+    void theWholeTextIsMarked()
+    {
+        const QString text = u"Wort\u2029"_s.repeated(1'000'000);
+        const Verdict verdict = Desk().judge.judge(text, {.KernlingShowFalse = 1});
+        QCOMPARE(asText(verdict),
+                 u'[' + u"Wort "_s.repeated(40) + u"…][\nsteht nicht in der Wortstamm-Liste]"_s);
+        QCOMPARE(verdict.falseRow, std::optional(u"Wort\u2029"_s.repeated(40) + u'…'));
+    }
+
     void nothingIsMarked() { QVERIFY(Desk().judge.judge(u""_s, {}).kind == Verdict::Kind::Nothing); }
 
     void theFileIsBroken_data()
@@ -180,14 +190,6 @@ private slots:
     void cleanSelection()
     {
         QCOMPARE(CleanSelection(u"\ra\r\nb\n\nc\t\u0001d\u000B\u2028e"_s), u" a b  c d e"_s);
-    }
-
-    /// A stem that is told of has its examples in the shipped file.
-    void shippedExamples()
-    {
-        for (const QString &stem : u"renn rück aß ließ lieh RIECH"_s.split(u' '))
-            QVERIFY2(!GetExtraStammInfo(stem, QStringLiteral(WORTEL_SOURCE_DIR "/data/")).text.isEmpty(),
-                     qPrintable(stem));
     }
 };
 
