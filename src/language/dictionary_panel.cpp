@@ -139,7 +139,10 @@ QMenu *DictionaryPanel::makeMenu()
             this, play([this] { emit startRetypeFromList(); }));
     menu->addSeparator();
     connect(add(u"mnuAddWortelToRetypeList"_s, u"Auswahlfenster"_s), &QAction::triggered, this,
-            play([this] { emit chooserRequested(); }));
+            play([this] {
+                close();
+                emit chooserRequested();
+            }));
     menu->addSeparator();
     connect(add(u"mnuCloseLex"_s, u"Schließen"_s), &QAction::triggered, this, play([this] { toggle(); }));
     return menu;
