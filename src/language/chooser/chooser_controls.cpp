@@ -289,6 +289,9 @@ QLayout *makeFound(Maker &make, ChooserControls &c)
     c.Check21 = make.button("Check21", u"Löschen"_s, u"Alle gefundenen Wörter aus der Liste entfernen"_s);
     c.Label8 = make.label<ClickLabel>("Label8", u"Bitte warten..."_s);
     c.Label8->setToolTip(u"Klick: abbrechen"_s);
+    QFont link = c.Label8->font();
+    link.setUnderline(true);
+    c.Label8->setFont(link);
     for (QLabel *count : {c.Label3, c.Label4}) {
         QFont font = count->font();
         font.setBold(true);
@@ -317,8 +320,10 @@ QWidget *makeFoot(Maker &make, ChooserControls &c)
     c.Check1 = make.button("Check1", u"Abschreiben: Alle Wörter"_s);
     c.Check3 = make.button("Check3", u"Abschreiben: Ausgewählte Wörter"_s);
     c.Check2 = make.button("Check2", u"Abbrechen"_s);
+    QLabel *limit = make.help(u"Max. 1024 Wörter benutzen.");
+    limit->setWordWrap(false);
     auto *foot = new GradientPanel;
-    auto *line = lineOf({make.help(u"Max. 1024 Wörter benutzen."), c.Check1, c.Check3, c.Check2});
+    auto *line = lineOf({limit, c.Check1, c.Check3, c.Check2});
     line->setContentsMargins(12, 3, 8, 4);
     line->setSpacing(8);
     line->insertStretch(1, 1);

@@ -121,10 +121,11 @@ void frmChooseWortel::fitToScreen()
     move(room.center() - rect().center());
 }
 
-/// Closing ends what runs.
+/// Closing ends what runs. Words that were handed over stay so, whatever closes the window once more.
 void frmChooseWortel::done(int result)
 {
-    leaving_ = true;
+    if (std::exchange(leaving_, true))
+        return;
     ground_.gate.cancelWork();
     QDialog::done(result);
 }

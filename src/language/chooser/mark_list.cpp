@@ -108,6 +108,8 @@ void MarkList::mark(const std::vector<bool> &marks)
         from = std::find(to, marks.end(), true);
     }
     selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    if (!selection.isEmpty())
+        scrollTo(selection.first().topLeft());
 }
 
 void MarkList::mousePressEvent(QMouseEvent *event)

@@ -29,7 +29,8 @@ public:
     QStringList unmarked() const { return rowsMarked(false); }
     void markAll() { selectAll(); }
     void clearMarks() { clearSelection(); }
-    /// Marks the rows for which `marks`, as long as the list, is true, and no others.
+    /// Marks the rows for which `marks`, as long as the list, is true, and no others,
+    /// and scrolls to the first of them.
     void mark(const std::vector<bool> &marks);
 
 signals:
