@@ -403,6 +403,10 @@ private slots:
         w.mark(words, {u"abfahren"_s, u"fahrig"_s});
         w.choose(words, "mnuCopySelWords");
         QCOMPARE(QGuiApplication::clipboard()->text(), u"abfahren\r\nfahrig\r\n"_s);
+        w.mark(words, {u"fahrig"_s, u"Fahrbahn"_s});
+        QTest::keyClick(&words, Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QGuiApplication::clipboard()->text(), u"Fahrbahn\r\nfahrig\r\n"_s);
+        w.mark(words, {u"abfahren"_s, u"fahrig"_s});
         w.t.fileDialogs.willSave(path);
         w.choose(words, "mnuSaveSelWords");
         QCOMPARE(ReadWholeFile(path), QByteArray("abfahren\r\nfahrig\r\n"));

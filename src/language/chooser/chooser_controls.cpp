@@ -187,7 +187,7 @@ QWidget *makePage(Maker &make, ChooserControls::Morphemes &kind, const KindRow &
     kind.unmark = make.button(row.unmark, u"Markierung rückgängig"_s);
     kind.random = make.button(row.random, u"Zufall"_s, u"So viele durch Zufall markieren"_s);
     kind.number = make.numberField(row.number, u"Zufall: Anzahl"_s);
-    kind.add = make.button(row.add, u"+ "_s + caption, text(row.addTip));
+    kind.add = make.button(row.add, caption, text(row.addTip));
     kind.add->setFace(toQColor(row.back), toQColor(row.text));
 
     auto *page = new QWidget;
@@ -198,7 +198,7 @@ QWidget *makePage(Maker &make, ChooserControls::Morphemes &kind, const KindRow &
     column->addLayout(lineOf({kind.markAll, kind.unmark}));
     auto *last = tight<QHBoxLayout>();
     last->addWidget(panel(u"Zufällige Auswahl", lineOf({kind.random, kind.number})), 3);
-    last->addWidget(kind.add, 2, Qt::AlignBottom);
+    last->addWidget(panel(u"Hinzufügen", lineOf({kind.add})), 2);
     column->addLayout(last);
     return page;
 }

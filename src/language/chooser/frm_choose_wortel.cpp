@@ -74,9 +74,12 @@ void frmChooseWortel::connectControls()
         if (button == Qt::RightButton)
             once([this] { loadStems(); })();
     });
-    for (MarkList *menuList : {&list(Kind::Stem), c_.List2})
-        connect(menuList, &MarkList::menuWanted, this,
-                [this, menuList](const QPoint &position) { once([&] { openMenu(*menuList, position); })(); });
+    for (MarkList *shown : {&list(Kind::Stem), c_.List2})
+        connect(shown, &MarkList::menuWanted, this, [this, shown](const QPoint &position) {
+            once([&] { openMenu(*shown, position); })();
+        });
+    for (MarkList *shown : {&list(Kind::Prefix), &list(Kind::Stem), &list(Kind::Suffix), c_.List2})
+        connect(shown, &MarkList::copyWanted, this, once([this, shown] { mnuCopySelWords(*shown); }));
     connect(c_.List2, &MarkList::marksChanged, this, &frmChooseWortel::showCounts);
     onClick(c_.Check4, [this] { Check4_Click(); });
     onClick(c_.Check5, [this] { Check5_Click(); });
@@ -88,10 +91,8 @@ void frmChooseWortel::connectControls()
     connect(c_.Check2, &QAbstractButton::clicked, this, &QDialog::reject);
     connect(c_.Label6, &ClickLabel::clicked, this, &frmChooseWortel::Label6_Click);
     connect(c_.Label8, &ClickLabel::clicked, &ground_.gate, &Gate::cancelWork);
-    const auto onKey = [this](QKeySequence::StandardKey key, auto act) {
-        connect(new QShortcut(key, this), &QShortcut::activated, this, once(act));
-    };
-    onKey(QKeySequence::Save, [this] { Save_Result(); });
+    connect(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, this,
+            once([this] { Save_Result(); }));
 }
 
 // The window

@@ -7,12 +7,19 @@
 #include <QAbstractListModel>
 #include <QContextMenuEvent>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QStyleHints>
 #include <QTimer>
 
 #include <algorithm>
+
+namespace {
+
+constexpr QSize rowSize{40, 20}; ///< high enough for a finger; rows are as wide as the list
+
+} // namespace
 
 class MarkList::Rows : public QAbstractListModel
 {
@@ -26,6 +33,8 @@ public:
 
     QVariant data(const QModelIndex &index, int role) const override
     {
+        if (role == Qt::SizeHintRole)
+            return rowSize;
         return role == Qt::DisplayRole ? rows_.value(index.row()) : QVariant();
     }
 
@@ -154,6 +163,15 @@ void MarkList::mouseReleaseEvent(QMouseEvent *event)
     const QModelIndex row = indexAt(touchedAt_);
     if (tapCounts_ && row.isValid())
         selectionModel()->setCurrentIndex(row, QItemSelectionModel::Toggle);
+}
+
+/// The base class would copy the current row only.
+void MarkList::keyPressEvent(QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::Copy))
+        emit copyWanted();
+    else
+        QListView::keyPressEvent(event);
 }
 
 void MarkList::contextMenuEvent(QContextMenuEvent *event)

@@ -37,11 +37,14 @@ signals:
     void marksChanged();
     /// The menu is wanted, at that point of the screen.
     void menuWanted(const QPoint &position);
+    /// Ctrl+C.
+    void copyWanted();
 
 protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     void selectionChanged(const QItemSelection &selected, const QItemSelection &deselected) override;
 
