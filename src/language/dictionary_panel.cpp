@@ -138,8 +138,7 @@ QMenu *DictionaryPanel::makeMenu()
     connect(add(u"mnuStartRetypeFromList"_s, u"Abschreiben der Wörterliste starten"_s), &QAction::triggered,
             this, play([this] { emit startRetypeFromList(); }));
     menu->addSeparator();
-    connect(add(u"mnuAddWortelToRetypeList"_s, u"Auswahlfenster"_s), &QAction::triggered, this,
-            play([this] {
+    connect(add(u"mnuAddWortelToRetypeList"_s, u"Auswahlfenster"_s), &QAction::triggered, this, play([this] {
                 close();
                 emit chooserRequested();
             }));

@@ -3,6 +3,7 @@
 #include "language/list_loader.h"
 
 #include "platform/boxes.h"
+#include "platform/file_dialogs.h"
 #include "platform/files.h"
 #include "platform/ground.h"
 #include "platform/options.h"
@@ -153,6 +154,12 @@ QString ListLoader::vowelFile(Vowels group) const
 {
     return ground_.AppFolder + (group == Vowels::Long ? u"text kurz lang\\langer Stammvokal.Txt"_s
                                                       : u"text kurz lang\\kurzer Stammvokal.Txt"_s);
+}
+
+QStringList ListLoader::askForStemLists()
+{
+    return ground_.fileDialogs.openFiles(u"Wortel laden (Multi)"_s, ground_.AppFolder + u"text"_s,
+                                         u"Text Dateien (*.txt)|*.txt"_s, true);
 }
 
 void ListLoader::FillChooseWortelList(WordStore &store, const QString &path)

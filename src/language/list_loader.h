@@ -38,6 +38,8 @@ public:
     /// Appends both vowel lists, without words that are there already. A missing file is told in a warning
     /// box, and the other is still read.
     void FillKurzLanglist();
+    /// Asks for one or several stem lists (stored paths); none if nobody chose.
+    QStringList askForStemLists();
     /// Appends the stem list `path` to `store`, a list of the word chooser, and leaves the game's own lists
     /// alone. A missing file says nothing.
     void FillChooseWortelList(WordStore &store, const QString &path);

@@ -8,7 +8,6 @@
 #include "language/list_loader.h"
 #include "language/word_file.h"
 #include "platform/boxes.h"
-#include "platform/file_dialogs.h"
 #include "platform/gate.h"
 #include "platform/ground.h"
 #include "platform/procedure.h"
@@ -99,10 +98,7 @@ void frmChooseWortel::loadStems()
 {
     Procedure step{ground_.log, "Check17_MouseDown", formName};
     QStringList paths;
-    step([&] {
-        paths = ground_.fileDialogs.openFiles(u"Wortel laden (Multi)"_s, ground_.AppFolder + u"text"_s,
-                                              u"Text Dateien (*.txt)|*.txt"_s, true);
-    });
+    step([&] { paths = loader_.askForStemLists(); });
     if (paths.isEmpty())
         return;
     store(Kind::Stem).clear();
@@ -202,15 +198,21 @@ void frmChooseWortel::mnuDelWortel(MarkList &shown)
     showRows(shown);
 }
 
+/// False, with a word to the user, if there is nothing that could be copied or saved.
+bool frmChooseWortel::hasMarks(const MarkList &shown, const QString &noneText, const QString &unmarkedText)
+{
+    if (shown.rows().isEmpty())
+        notice(noneText);
+    else if (shown.markedCount() == 0)
+        notice(unmarkedText);
+    return shown.markedCount() > 0;
+}
+
 void frmChooseWortel::mnuCopySelWords(const MarkList &shown)
 {
     Procedure step{ground_.log, "mnuCopySelWords_Click", formName};
     step([&] {
-        if (shown.rows().isEmpty())
-            notice(u"No words to copy"_s);
-        else if (shown.markedCount() == 0)
-            notice(u"Please select word(s) to copy"_s);
-        else
+        if (hasMarks(shown, u"No words to copy"_s, u"Please select word(s) to copy"_s))
             QGuiApplication::clipboard()->setText(shown.marked().join(u"\r\n"_s) + u"\r\n"_s);
     });
 }
@@ -219,11 +221,7 @@ void frmChooseWortel::mnuSaveSelWords(const MarkList &shown)
 {
     Procedure step{ground_.log, "mnuSaveSelWords_Click", formName};
     step([&] {
-        if (shown.rows().isEmpty())
-            notice(u"No words to save"_s);
-        else if (shown.markedCount() == 0)
-            notice(u"Please select word(s) to save"_s);
-        else
+        if (hasMarks(shown, u"No words to save"_s, u"Please select word(s) to save"_s))
             saveTo(step, shown.marked());
     });
 }

@@ -75,9 +75,8 @@ void frmChooseWortel::connectControls()
             once([this] { loadStems(); })();
     });
     for (MarkList *shown : {&list(Kind::Stem), c_.List2})
-        connect(shown, &MarkList::menuWanted, this, [this, shown](const QPoint &position) {
-            once([&] { openMenu(*shown, position); })();
-        });
+        connect(shown, &MarkList::menuWanted, this,
+                [this, shown](const QPoint &position) { once([&] { openMenu(*shown, position); })(); });
     for (MarkList *shown : {&list(Kind::Prefix), &list(Kind::Stem), &list(Kind::Suffix), c_.List2})
         connect(shown, &MarkList::copyWanted, this, once([this, shown] { mnuCopySelWords(*shown); }));
     connect(c_.List2, &MarkList::marksChanged, this, &frmChooseWortel::showCounts);

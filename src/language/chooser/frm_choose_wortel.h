@@ -95,6 +95,7 @@ private:
     void openMenu(MarkList &list, const QPoint &position);
     void mnuClearList(MarkList &list);
     void mnuDelWortel(MarkList &list);
+    bool hasMarks(const MarkList &list, const QString &noneText, const QString &unmarkedText);
     void mnuCopySelWords(const MarkList &list);
     void mnuSaveSelWords(const MarkList &list);
     void Save_Result();

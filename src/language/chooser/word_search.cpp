@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int itemsPerStep = 10; ///< between two moves of the bar, in a pass for affixes
+constexpr int itemsPerStep = 10; ///< between two moves of the bar, or two questions for events
 
 } // namespace
 
@@ -46,9 +46,12 @@ void WordSearch::AddSelWortelFromLex(const QString &stem, Work &work)
             folded_.append(UCase(word));
     const QString wanted = UCase(stem);
     for (qsizetype i = 0; i < words_.size(); ++i) {
-        if (folded_.at(i).contains(wanted))
+        const bool isFound = folded_.at(i).contains(wanted);
+        if (isFound)
             append(words_.at(i));
-        work.goesOn();
+        // A question for events takes longer than the test of a word.
+        if (isFound || (i + 1) % itemsPerStep == 0)
+            work.goesOn();
     }
 }
 
