@@ -3,6 +3,7 @@
 wortel_test(language
     SOURCES
         tst_choose_wortel.cpp
+        tst_chooser_lists.cpp
         tst_chooser_rules.cpp
         tst_list_chooser.cpp
         tst_list_loader.cpp

@@ -92,6 +92,8 @@ void frmChooseWortel::connectControls()
     connect(c_.Label8, &ClickLabel::clicked, &ground_.gate, &Gate::cancelWork);
     connect(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, this,
             once([this] { Save_Result(); }));
+    connect(new QShortcut(QKeySequence::Open, this), &QShortcut::activated, this,
+            once([this] { loadStems(); }));
 }
 
 // The window
