@@ -138,8 +138,10 @@ QMenu *DictionaryPanel::makeMenu()
     connect(add(u"mnuStartRetypeFromList"_s, u"Abschreiben der Wörterliste starten"_s), &QAction::triggered,
             this, play([this] { emit startRetypeFromList(); }));
     menu->addSeparator();
-    connect(add(u"mnuAddWortelToRetypeList"_s, u"Auswahlfenster"_s), &QAction::triggered, this,
-            play([this] { emit chooserRequested(); }));
+    connect(add(u"mnuAddWortelToRetypeList"_s, u"Auswahlfenster"_s), &QAction::triggered, this, play([this] {
+                close();
+                emit chooserRequested();
+            }));
     menu->addSeparator();
     connect(add(u"mnuCloseLex"_s, u"Schließen"_s), &QAction::triggered, this, play([this] { toggle(); }));
     return menu;

@@ -4,21 +4,18 @@
 
 #include "board/hand/command_router.h"
 #include "language/dictionary_panel.h"
-#include "widgets/list_stand.h"
+#include "language/word_file.h"
 #include "language/word_tests.h"
 #include "platform/boxes.h"
-#include "platform/file_dialogs.h"
-#include "platform/files.h"
 #include "platform/gate.h"
 #include "platform/ground.h"
 #include "platform/options.h"
 #include "platform/play_state.h"
 #include "platform/procedure.h"
 #include "platform/product.h"
-#include "platform/settings_store.h"
-#include "platform/text_encoding.h"
 #include "platform/word_lists.h"
 #include "widgets/gradient.h"
+#include "widgets/list_stand.h"
 #include "widgets/main_controls.h"
 #include "widgets/opening_press.h"
 #include "widgets/store_list.h"
@@ -30,8 +27,6 @@
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
-
-namespace {} // namespace
 
 WordListPanel::WordListPanel(Ground &ground, const MainControls &controls, WordLists &lists,
                              const PlayState &play, const WordTests &tests, DictionaryPanel &dictionary,
@@ -126,24 +121,11 @@ void WordListPanel::Save_Result()
         });
         return;
     }
-    const QString folder = ground_.store.GetSetting(u"Path"_s, u"Export"_s, ground_.AppFolder);
-    QString path;
-    step([&] {
-        path = ground_.fileDialogs.saveFile(u"Richtige Wörter Speichern"_s, folder,
-                                            u"Text files (*.txt)|*.txt"_s, u".txt"_s);
-    });
-    if (path.isEmpty())
-        return;
-    const QString text = lists_.CorrectWordList.rows().join(u"\r\n"_s) + u"\r\n"_s;
-    if (!step([&] { writeFileAtomically(path, encodeText(text)); })) {
-        step([&] {
-            ground_.boxes.plainBox(Boxes::Icon::Warning, u"Wortel - Fehler"_s,
-                                   u"Die richtigen Wörter konnten nicht in die Datei geschrieben werden"_s);
-        });
-        return;
-    }
-    step([&] { emit wordListSaved(path); });
-    step([&] { ground_.store.SaveSetting(u"Path"_s, u"Export"_s, path.left(path.lastIndexOf(u'\\'))); });
+    const QString path = saveWords(ground_, step, lists_.CorrectWordList.rows(),
+                                   {u"Richtige Wörter Speichern"_s, u"Wortel - Fehler"_s,
+                                    u"Die richtigen Wörter konnten nicht in die Datei geschrieben werden"_s});
+    if (!path.isEmpty())
+        step([&] { emit wordListSaved(path); });
 }
 
 void WordListPanel::CorrectWordsToClip()

@@ -112,7 +112,8 @@ void frmMain::wireLists()
     });
     connect(&r.loader, &ListLoader::loading, &r.dictionary, &DictionaryPanel::storeLoading);
     connect(&r.dictionary, &DictionaryPanel::tipRequested, &r.tips, &Tips::mnuShowTip_Click);
-    connect(&r.dictionary, &DictionaryPanel::chooserRequested, this, &frmMain::comesLater);
+    connect(&r.dictionary, &DictionaryPanel::chooserRequested, &r.wordChooser, &WordChooser::open);
+    connect(&r.wordChooser, &WordChooser::wordListSaved, &r.wordList, &WordListPanel::wordListSaved);
 }
 
 void frmMain::wireModes()
@@ -144,7 +145,8 @@ void frmMain::wireModes()
     connect(&r.chooser, &ListChooser::listsChosen, &r.retype, &RetypeMode::endRun);
     connect(&r.maker, &WordMaker::retypingToEnd, &r.retype, &RetypeMode::endRun);
     connect(&r.sessions, &Sessions::listsChosen, &r.retype, &RetypeMode::endRun);
-    connect(&r.retype, &RetypeMode::chooserWanted, this, &frmMain::comesLater);
+    connect(&r.retype, &RetypeMode::chooserWanted, &r.wordChooser, &WordChooser::open);
+    connect(&r.wordChooser, &WordChooser::wordsChosen, &r.retype, &RetypeMode::RetypeWithChoosenWortel);
 
     connect(&r.kernling, &FrmKernling::PrintRTF, this, &frmMain::comesLater);
 

@@ -45,6 +45,7 @@ Rooms::Rooms(Ground &ground, const Hall &hall)
     , check(ground, hall.controls, hall.lists, hall.play, tests, dictionary, popup)
     , chooser(ground, hall.controls, hall.lists, loader, store, news,
               {[this] { return bulk.Refill(); }, [this] { pointer.DoOnDrop(); }})
+    , wordChooser(ground, hall.lists, loader, hall.controls.form)
     , tips(ground, hall.controls, hall.lists, hall.play)
     , maker(ground, hall.lists, tests, store)
     , options(ground, hall.controls.form)

@@ -25,6 +25,7 @@
 #include "games/scores/high_scores.h"
 #include "games/tonarin/vowel_board.h"
 #include "generators/word_maker.h"
+#include "language/chooser/word_chooser.h"
 #include "language/dictionary_panel.h"
 #include "language/list_chooser.h"
 #include "language/list_loader.h"
@@ -92,6 +93,7 @@ struct Rooms
     WordListPanel wordList;
     WordCheck check;
     ListChooser chooser;
+    WordChooser wordChooser;
     Tips tips;
 
     // generators

@@ -5,6 +5,7 @@ wortel_test(e2e SLOW TIMEOUT 300
         desktop.cpp
         known_board.cpp
         tst_board_by_hand.cpp
+        tst_chosen_words.cpp
         tst_first_board.cpp
         tst_games_by_hand.cpp
         tst_interrupted.cpp

@@ -145,6 +145,13 @@ struct House : TestHouse
             }
         return name;
     }
+    /// The file of words whose saving `act` tells to who lays it out in columns.
+    template <typename Act> QString savedBy(Act act)
+    {
+        const QSignalSpy saved(&r.wordList, &WordListPanel::wordListSaved);
+        act();
+        return saved.value(0).value(0).toString();
+    }
     QString cancelled()
     {
         const Work work(t.ground, {WorkPlan::Cancel, 1});
@@ -252,14 +259,17 @@ const Wire wires[] = {
     {"hourglass of a list that is read", ACT(h.shapesWhileRead()), u"yes no"_s},
     {"dictionary that is read closes", ACT(h.tool(h.c.Command3), h.shapesWhileRead(), yes(h.r.dictionary.isOpen())), u"no"_s},
     {"mnuShowTip", ACT(h.entry("mnuShowTip"), yes(h.r.tips.isShown())), u"yes"_s},
-    {"mnuAddWortelToRetypeList", ACT(h.boxOf([&] { h.entry("mnuAddWortelToRetypeList"); })), later},
+    {"mnuAddWortelToRetypeList", ACT(h.windowOf([&] { h.entry("mnuAddWortelToRetypeList"); })), u"frmChooseWortel"_s},
+    {"the chooser closes the dictionary", ACT(h.tool(h.c.Command3), h.windowOf([&] { h.entry("mnuAddWortelToRetypeList"); }), yes(h.r.dictionary.isOpen())), u"no"_s},
 
     {"copied word", ACT(h.tool(h.c.Check4), h.r.check.retypeWordFound(u"Haus"_s), QString::number(h.c.Scroller->ListCount())), u"1"_s},
     {"edited list", ACT(h.tool(h.c.Check4), h.r.wordList.wordsEdited({u"a"_s}, true), h.c.Scroller->List(1)), u"a"_s},
     {"mnuStartRetypeFromList", ACT(h.entry("mnuStartRetypeFromList"), h.state()), u"retyping"_s},
     {"lists chosen in a run", ACT(h.tool(h.c.Check4), h.r.chooser.listsChosen(), h.state()), u"free"_s},
     {"lists of a session in a run", ACT(h.tool(h.c.Check4), h.r.sessions.listsChosen(), h.state()), u"free"_s},
-    {"chooser", ACT(h.boxOf([&] { h.run(From::MainMenu, 1608); })), later},
+    {"chooser", ACT(h.windowOf([&] { h.run(From::MainMenu, 1608); })), u"frmChooseWortel"_s},
+    {"chosen words", ACT(h.r.wordChooser.wordsChosen(), h.state()), u"retyping"_s},
+    {"saved words of the chooser", ACT(h.savedBy([&] { h.r.wordChooser.wordListSaved(u"a.txt"_s); })), u"a.txt"_s},
     {"menus follow the mode", ACT(h.tool(h.c.Check4), yes(h.offers(1901))), u"no"_s},
     {"menus follow undo", ACT(h.r.news.Commit(), yes(h.offers(2801))), u"yes"_s},
     {"menus follow a filter's press", ACT(h.r.news.Commit(), h.store("UseUndo", "0"), h.tool(h.c.OptType[1]), yes(h.offers(2801))), u"no"_s},

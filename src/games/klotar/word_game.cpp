@@ -293,7 +293,7 @@ void WordGame::PreparationTimer_Timer()
     });
     if (ground_.gate.isClosing())
         return;
-    play_.startGame(PlayState::Phase::Playing, Vowels::None);
+    play_.endPreparation();
     step([&] { enter(game_stages::entering); });
 }
 

@@ -82,8 +82,8 @@ public:
     const QStringList &KeptWords() const { return KeptWords_; }
 
 signals:
-    /// The chooser is to open, with these captions on its two start buttons.
-    void chooserWanted(const QString &allWords, const QString &chosenWords);
+    /// The word chooser is to open.
+    void chooserWanted();
 
 private:
     enum class State { Rest, Preparing, Ending };

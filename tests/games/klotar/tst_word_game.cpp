@@ -133,10 +133,12 @@ private slots:
             d.tool(d.controls.Check4);
         });
         way("vowels, time is up", [](Desk &d) {
+            d.t.boxes.willBeRead();
             d.t.boxes.willEnterName({});
             d.t.boxes.willCloseScores();
+            d.tool(d.controls.Option2[0]);
             d.run(command::From::MainMenu, 1702);
-            d.type(u"ball"_s), d.minutes(3);
+            d.minutes(2), d.type(u"ball"_s), d.minutes(3);
             QCOMPARE(d.t.boxes.asked.last().text.section(u'\n', 0, 1),
                      u"Punkte: 4\n(1 richtige Vokale). Sehr gut !"_s);
             QCOMPARE(d.lists.WortelList.at(0), u"halt"_s); // the board's stems have come back
