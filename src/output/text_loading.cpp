@@ -26,11 +26,12 @@ constexpr std::array<Ending, 5> endings{{{"LEX"_L1, TextKind::Dictionary},
                                          {"HTM"_L1, TextKind::Page},
                                          {"HTML"_L1, TextKind::Page}}};
 
-/// What no text box shows and a word must not hold: NULs, the place of an object, a mark of the byte order.
+/// What no text box shows and a word must not hold: NULs, the place of an object, a mark of the byte order,
+/// and the two by which a text box marks its frames.
 bool isNoLetter(QChar character)
 {
     return character == QChar::Null || character == QChar::ObjectReplacementCharacter ||
-           character == QChar::ByteOrderMark;
+           character == QChar::ByteOrderMark || character == QChar(0xFDD0) || character == QChar(0xFDD1);
 }
 
 /// Line ends of all kinds become one.
@@ -104,9 +105,11 @@ TextKind textKindOf(const QString &path)
 LoadedText decodeLoadedText(const QByteArray &bytes, TextKind kind, const PassStep &step)
 {
     LoadedText loaded = read(bytes, kind, step);
-    loaded.text = withShortLines(withPlainLines(loaded.text));
+    loaded.text = textForBox(loaded.text);
     return loaded;
 }
+
+QString textForBox(const QString &text) { return withShortLines(withPlainLines(text)); }
 
 LoadedText loadText(const QString &path, const PassStep &step)
 {

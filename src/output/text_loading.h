@@ -33,6 +33,8 @@ LoadedText loadText(const QString &path, const PassStep &step = {});
 LoadedText decodeLoadedText(const QByteArray &bytes, TextKind kind, const PassStep &step = {});
 
 inline constexpr qsizetype longestLine = 4000;
+/// Any text, such as one from the clipboard, in the form in which `loadText` gives it.
+QString textForBox(const QString &text);
 
 /// The stem list that goes with a dictionary: "\facit" becomes "\text", ".lex" becomes ".txt", case ignored.
 QString stemListOfDictionary(const QString &path);

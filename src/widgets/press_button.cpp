@@ -118,11 +118,6 @@ void PressButton::paintFace(QPainter &painter, const Look &look) const
     painter.setBrush(shine);
     painter.setPen(QPen(isEnabled() ? look.back.darker(165) : look.back.darker(120), 1));
     painter.drawRoundedRect(look.face, cornerRadius, cornerRadius);
-    if (hasFocus()) { // those that take it at all
-        painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(paint::activeFrame, 1, Qt::DotLine));
-        painter.drawRoundedRect(look.face.adjusted(3, 3, -3, -3), cornerRadius - 3, cornerRadius - 3);
-    }
     if (look.checked) {
         // White between two dark lines stands out on every colour of face.
         painter.setBrush(Qt::NoBrush);

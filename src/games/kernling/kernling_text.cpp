@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "games/kernling/kernling_text.h"
 
+#include "output/text_loading.h"
+
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QScrollBar>
@@ -13,21 +15,8 @@
 
 namespace {
 
-constexpr int longestLine = 4000; ///< letters
-constexpr int caretWidth = 2;     ///< pixels
+constexpr int caretWidth = 2; ///< pixels
 constexpr double zoomStep = 1.15;
-
-bool isNoText(QChar character)
-{
-    return character.isNull() || character == QChar::ObjectReplacementCharacter ||
-           character == QChar(0xFDD0) || character == QChar(0xFDD1);
-}
-
-bool endsLine(QChar character)
-{
-    return character == u'\n' || character == u'\r' || character == QChar::ParagraphSeparator ||
-           character == QChar::LineSeparator;
-}
 
 bool isUndo(const QKeyEvent *event)
 {
@@ -35,32 +24,6 @@ bool isUndo(const QKeyEvent *event)
 }
 
 } // namespace
-
-QString layableText(const QString &text)
-{
-    QString result;
-    result.reserve(text.size() + text.size() / longestLine);
-    qsizetype lineStart = 0;
-    qsizetype lastBlank = -1;
-    for (const QChar character : text) {
-        if (isNoText(character))
-            continue;
-        result += character;
-        if (endsLine(character)) {
-            lineStart = result.size();
-            lastBlank = -1;
-        } else if (character.isSpace()) {
-            lastBlank = result.size();
-        }
-        if (result.size() - lineStart < longestLine || character.isHighSurrogate())
-            continue;
-        const qsizetype fold = lastBlank > lineStart ? lastBlank : result.size();
-        result.insert(fold, u'\n');
-        lineStart = fold + 1;
-        lastBlank = -1;
-    }
-    return result;
-}
 
 /// Keeps the first visible line where it is, and the window from drawing, while the text is changed.
 class KernlingText::KeptView
@@ -143,7 +106,7 @@ void KernlingText::replaceText(const QString &text)
     cursor.beginEditBlock();
     cursor.select(QTextCursor::Document);
     cursor.setBlockFormat({});
-    cursor.insertText(layableText(text), QTextCharFormat());
+    cursor.insertText(textForBox(text), QTextCharFormat());
     cursor.endEditBlock();
     select({0, 0});
 }
@@ -373,5 +336,5 @@ bool KernlingText::canInsertFromMimeData(const QMimeData *source) const
 void KernlingText::insertFromMimeData(const QMimeData *source)
 {
     if (canInsertFromMimeData(source))
-        textCursor().insertText(layableText(source->text()), QTextCharFormat());
+        textCursor().insertText(textForBox(source->text()), QTextCharFormat());
 }

@@ -92,7 +92,3 @@ private:
     int zoom_ = 0;        ///< steps
     Run beforeShift_{0, 0};
 };
-
-/// `text` with line breaks where a line is so long that laying it out would halt the window, at a blank if
-/// there is one, and without the characters that are marks of a document and no text.
-QString layableText(const QString &text);
