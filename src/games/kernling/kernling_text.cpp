@@ -25,21 +25,37 @@ bool isUndo(const QKeyEvent *event)
 
 } // namespace
 
-/// Keeps the first visible line where it is, and the window from drawing, while the text is changed.
+/// Keeps the first visible line where it is, and the window from drawing, while the text is changed. A change
+/// that spans more of the text than lies in front of the window's end would lay all of it out at once: then
+/// only what is seen is laid out, and the rest from the event loop, as when a text is loaded.
 class KernlingText::KeptView
 {
 public:
-    explicit KeptView(KernlingText &text)
+    /// `span` is how many letters lie between the first and the last change.
+    KeptView(KernlingText &text, int span)
         : text_(text)
         , first_(text.verticalScrollBar()->value())
-        , frozen_(text.updatesEnabled())
+        , lastSeen_(text.cursorForPosition(text.viewport()->rect().bottomRight()).position())
+        , page_(text.document()->pageSize())
+        , laidOutLater_(lastSeen_ < span)
+        , updates_(text.updatesEnabled())
     {
         text_.setUpdatesEnabled(false);
+        if (laidOutLater_)
+            text_.document()->setPageSize(QSizeF(0, 0)); // without a page nothing is laid out
     }
     ~KeptView()
     {
-        text_.verticalScrollBar()->setValue(first_);
-        text_.setUpdatesEnabled(frozen_);
+        if (laidOutLater_)
+            text_.document()->setPageSize(page_);
+        QTextCursor seen(text_.document());
+        seen.setPosition(lastSeen_);
+        text_.cursorRect(seen); // lays out all in front of it
+        // Colours change no heights, so the place is the same, and the bar will be as long as it was.
+        QScrollBar *bar = text_.verticalScrollBar();
+        bar->setMaximum(std::max(bar->maximum(), first_));
+        bar->setValue(first_);
+        text_.setUpdatesEnabled(updates_);
     }
     KeptView(const KeptView &) = delete;
     KeptView &operator=(const KeptView &) = delete;
@@ -47,7 +63,10 @@ public:
 private:
     KernlingText &text_;
     int first_;
-    bool frozen_;
+    int lastSeen_; ///< position
+    QSizeF page_;
+    bool laidOutLater_;
+    bool updates_;
 };
 
 KernlingText::KernlingText(QWidget *parent)
@@ -66,10 +85,8 @@ KernlingText::KernlingText(QWidget *parent)
 void KernlingText::setLocked(bool locked)
 {
     locked_ = locked;
-    const QTextCursor cursor = textCursor();
     setTextInteractionFlags(locked ? Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard
                                    : Qt::TextEditorInteraction);
-    setTextCursor(cursor);
     setCursorWidth(caretWidth);
     hideCaret();
 }
@@ -145,7 +162,9 @@ void KernlingText::applyLetterSize()
 
 void KernlingText::paintRuns(const std::vector<Run> &runs, const QColor &background, bool goesOnFrom)
 {
-    const KeptView view(*this);
+    if (runs.empty())
+        return;
+    const KeptView view(*this, runs.back().start - runs.front().start);
     QTextCharFormat painted;
     painted.setBackground(background);
     painted.setForeground(Qt::white);
@@ -178,7 +197,9 @@ void KernlingText::unpaint(const Run &run)
                 painted.push_back({from, to, piece.charFormat()});
         }
     }
-    const KeptView view(*this);
+    if (painted.empty())
+        return;
+    const KeptView view(*this, painted.back().end - painted.front().start);
     QTextCursor cursor(document());
     cursor.beginEditBlock();
     for (Piece &piece : painted) {

@@ -42,8 +42,8 @@ public:
     /// The whole text in that font, of the size that is shown.
     void setTextFont(const QString &family);
 
-    /// Gives the runs a background and the letters a colour that is read on it, as one step of undo; with
-    /// `goesOnFrom` as a part of the last step.
+    /// Gives the runs (in the order of the text) a background and the letters a colour that is read on it, as
+    /// one step of undo; with `goesOnFrom` as a part of the last step.
     void paintRuns(const std::vector<Run> &runs, const QColor &background, bool goesOnFrom = false);
     /// Takes every background within `run` away. What is painted outside of it stays, and so does what is
     /// seen of the text.

@@ -28,7 +28,7 @@ namespace {
 
 constexpr auto form = "FrmKernling";
 constexpr int rightSound = 112;
-constexpr std::size_t runsAtOnce = 500; ///< painted between two looks at the hand
+constexpr std::size_t runsAtOnce = 2000; ///< painted between two looks at the hand
 
 /// Somebody may mark the whole text: no list and no answer shows more of it than this. The longest text of
 /// look-alike stems is shorter.
@@ -127,7 +127,6 @@ void StemMarking::Locate_and_Higlight(const QStringList &words)
         return;
     Work work(desk_.ground, {WorkPlan::Bar | WorkPlan::Cancel, std::max(1, static_cast<int>(runs.size()))},
               &desk_.view);
-    const KernlingText::Run marked = text.selection();
     Verdict last;
     for (std::size_t begin = 0; begin < runs.size() && work.goesOn(); begin += runsAtOnce) {
         const std::size_t end = std::min(runs.size(), begin + runsAtOnce);
@@ -142,7 +141,6 @@ void StemMarking::Locate_and_Higlight(const QStringList &words)
         step([&] { text.paintRuns(painted, toQColor(kernling::stemColour), begin > 0); });
         desk_.view.setValue(static_cast<int>(end));
     }
-    text.select(marked);
     if (last.kind != Verdict::Kind::Nothing && !desk_.ground.gate.isClosing())
         step([&] { show(last); });
 }
