@@ -6,6 +6,7 @@ wortel_test(games
         kernling/tst_locate_game.cpp
         kernling/tst_text_source.cpp
         klotar/tst_word_game.cpp
+        kernling/tst_stem_marking.cpp
         kernling/tst_stem_verdict.cpp
         kernling/tst_text_words.cpp
         retype/tst_retype_mode.cpp

@@ -58,12 +58,6 @@ private slots:
         QVERIFY(!w.text().isLocked() && !w.c().Label3->isHidden() && w.c().OptManualHighlight->isChecked());
         emit timer(w)->timeout({}); // a late one
         Workshop::settle();
-        QVERIFY(w.t.ok());
-    }
-
-    void theRightButtonShowsTheList()
-    {
-        Workshop w;
         w.t.boxes.willCloseScores();
         w.press(w.c().Command10, Qt::RightButton);
         QVERIFY(!w.text().isLocked());
