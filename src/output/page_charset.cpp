@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -39,7 +40,7 @@ QByteArray valueOf(const QByteArray &piece, const QByteArray &key)
             passBlanks();
         }
         const qsizetype from = i;
-        while (i < piece.size() && !isBlank(piece[i]) && !strchr("\"';>/?", piece[i]))
+        while (i < piece.size() && !isBlank(piece[i]) && !std::strchr("\"';>/?", piece[i]))
             ++i;
         return piece.mid(from, i - from);
     }
@@ -51,7 +52,7 @@ QByteArray namedCharset(const QByteArray &bytes)
 {
     const QByteArray head = bytes.first(std::min(headLength, bytes.size())).toLower();
     if (head.trimmed().startsWith("<?xml"))
-        if (const QByteArray name = valueOf(head.left(head.indexOf('>')), "encoding"); !name.isEmpty())
+        if (QByteArray name = valueOf(head.left(head.indexOf('>')), "encoding"); !name.isEmpty())
             return name;
     qsizetype at = 0;
     for (;;) {
@@ -64,7 +65,7 @@ QByteArray namedCharset(const QByteArray &bytes)
         if (end < 0)
             return {};
         if (rest == "<meta")
-            if (const QByteArray name = valueOf(head.mid(at, end - at), "charset"); !name.isEmpty())
+            if (QByteArray name = valueOf(head.mid(at, end - at), "charset"); !name.isEmpty())
                 return name;
         at = comment ? end + 2 : at + 1;
     }

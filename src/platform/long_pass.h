@@ -6,9 +6,9 @@
 
 #include <functional>
 
-/// A pass over a long text lets events through on its way, so that a bar moves and a hand can stop it. It asks
-/// every thousand characters, which it passes in some ten microseconds: nobody sees a bar that moves more
-/// often, and the questions would cost more than the pass.
+/// A pass over a long text lets events through on its way, so that a bar moves and a hand can stop it. It
+/// asks every thousand characters, which it passes in some ten microseconds: nobody sees a bar that moves
+/// more often, and the questions would cost more than the pass.
 
 /// Asked every `passStride` characters with the count of characters that are done. False ends the pass. An
 /// empty one is never asked.
