@@ -47,8 +47,8 @@ constexpr ButtonRow buttonRows[] = {
     {&C::Command13, "Command13", u"Löschen", u"Alle Wörter der Liste löschen"},
     {&C::Command14, "Command14", u"Markierung rückgängig", u"Kein Wort der Liste ausgewählt"},
     {&C::Command7, "Command7", u"Zufällige Wörter auswählen", u"So viele Wörter der Liste auswählen"},
-    {&C::Command11, "Command11", u"Alle in den Text", u"Alle Wörter der Liste in den Text"},
-    {&C::Command12, "Command12", u"Auswahl in den Text", u"Ausgewählte Wörter der Liste in den Text"},
+    {&C::Command11, "Command11", u"Alle → Text", u"Alle Wörter der Liste in den Text"},
+    {&C::Command12, "Command12", u"Auswahl → Text", u"Ausgewählte Wörter der Liste in den Text"},
     {&C::Command15, "Command15", u"Wortliste löschen", u"Wortliste von Klotar löschen"},
     {&C::Command5, "Command5", u"Laden", u"Text auswählen", ":/icons/load.svg"},
     {&C::Command10, "Command10", u"", u"Spiel starten / Bestenliste zeigen", ":/icons/stopwatch.svg"},
@@ -81,10 +81,10 @@ constexpr int largeLetters = 20; ///< pixels, at most
 
 // In letter sizes
 constexpr double sideWidth = 20.3; ///< of the panel on the left
-constexpr double stemWidth = 7;    ///< of the panel on the right
+constexpr double stemWidth = 6.4;  ///< of the panel on the right
 constexpr double numberWidth = 3.7;
 constexpr double lengthWidth = 5;
-constexpr double stripWidth = 2; ///< of the strip that opens the panel on the right
+constexpr double stripWidth = 1.7; ///< of the strip that opens the panel on the right
 constexpr double titleShare = 0.65;
 constexpr double buttonHeight = 2.2;
 constexpr double textSize = 1.4;
@@ -179,7 +179,7 @@ QWidget *makeWordGroup(C &c, QWidget *parent)
     for (PressButton *button : {c.Command3, c.Command7, c.Command9, c.Command11, c.Command12, c.Command13,
                                 c.Command14, c.Command15})
         button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    column->addWidget(c.Command3);
+    column->addLayout(lineOf({c.Command3, c.Command15}));
     c.List1 = make<WordListBox>(group, "List1", u"Arbeitsliste"_s);
     c.List1->setMinimumHeight(48);
     column->addWidget(c.List1, 1);
@@ -188,7 +188,7 @@ QWidget *makeWordGroup(C &c, QWidget *parent)
     QHBoxLayout *draw = lineOf({c.Text3, c.Command7});
     draw->setStretch(1, 1);
     column->addLayout(draw);
-    column->addLayout(lineOf({c.Command14, c.Command15}));
+    column->addWidget(c.Command14);
     column->addLayout(lineOf({c.Command11, c.Command12}));
     return group;
 }
@@ -349,13 +349,15 @@ QWidget *makeStemPanel(C &c, QWidget *parent)
 {
     c.stemPanel = new GradientPanel(parent);
     c.Label16 = makeLabel(c.stemPanel, "Label16", QString());
-    c.Label16->setWordWrap(true);
-    c.Label16->setMinimumWidth(1);
     c.Label17 = makeLabel(c.stemPanel, "Label17", QString());
+    for (QLabel *label : {c.Label16, c.Label17}) {
+        label->setWordWrap(true);
+        label->setMinimumWidth(1);
+    }
     c.wortellist = make<StoreList>(c.stemPanel, "wortellist", u"Wortstamm-Liste"_s);
     c.wortellist->setSelectionMode(QAbstractItemView::ExtendedSelection);
     auto *column = new QVBoxLayout(c.stemPanel);
-    column->setContentsMargins(6, 6, 6, 6);
+    column->setContentsMargins(gap, gap, gap, gap);
     column->addWidget(c.Label16);
     column->addWidget(c.Label17);
     column->addWidget(c.wortellist, 1);
@@ -373,7 +375,7 @@ KernlingControls makeKernlingControls(QWidget *form)
     auto *left = new GradientPanel(form);
     c.sidePanel = left;
     auto *leftColumn = new QVBoxLayout(left);
-    leftColumn->setContentsMargins(6, 6, 6, 6);
+    leftColumn->setContentsMargins(gap, gap, gap, gap);
     leftColumn->addWidget(makeWordGroup(c, left));
 
     auto *middle = new GradientPanel(form);
@@ -393,7 +395,7 @@ KernlingControls makeKernlingControls(QWidget *form)
     c.Check1->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
     c.Check1->setCheckable(true);
     auto *middleLine = new QHBoxLayout(middle);
-    middleLine->setContentsMargins(0, 6, 0, 6);
+    middleLine->setContentsMargins(0, gap, 0, gap);
     middleLine->setSpacing(gap);
     middleLine->addWidget(halves, 1);
     middleLine->addWidget(c.Check1);
