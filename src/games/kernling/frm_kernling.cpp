@@ -18,6 +18,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QScreen>
+#include <QTextDocument>
 
 using namespace Qt::StringLiterals;
 
@@ -208,4 +209,10 @@ void FrmKernling::mnuCheckWord_Click()
                                   u"Wort nicht gefunden !"_s);
 }
 
-void FrmKernling::mnuPrintRTF_Click() { emit PrintRTF(parts_->controls.RTF->document()); }
+void FrmKernling::mnuPrintRTF_Click()
+{
+    constexpr int paperSize = 10; ///< points
+    const std::unique_ptr<QTextDocument> paper(parts_->controls.RTF->document()->clone());
+    paper->setDefaultFont(QFont(u"Arial"_s, paperSize));
+    emit PrintRTF(paper.get());
+}

@@ -47,7 +47,7 @@ public:
     const KernlingControls &controls() const;
 
 signals:
-    /// The text is to be printed, with "Wortstamm" in the header and "Kernling" in the footer.
+    /// This copy of the text is to be printed, with "Wortstamm" in the header and "Kernling" in the footer.
     void PrintRTF(QTextDocument *text);
 
 protected:

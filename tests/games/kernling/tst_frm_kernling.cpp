@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "games/kernling/workshop.h"
 
+#include "platform/files.h"
+
 #include <QAction>
 #include <QLabel>
 
@@ -294,26 +296,51 @@ private slots:
 
     void closingBeforeTheEnd_data()
     {
-        columns<bool>("program");
-        QTest::newRow("the window") << false;
-        QTest::newRow("the program") << true;
+        columns<int>("moment");
+        QTest::newRow("the window, in a work") << 0;
+        QTest::newRow("the program, in a work") << 1;
+        QTest::newRow("the program, in the options") << 2;
+        QTest::newRow("the program, in a game") << 3;
+        QTest::newRow("the program, in the name's entry") << 4;
     }
     void closingBeforeTheEnd()
     {
-        QFETCH(bool, program);
+        QFETCH(int, moment);
         Workshop w;
-        w.lay(wortelKind, 10, 50, u"quatsch"_s);
-        w.c().OptFilltype[5]->click();
-        w.atServe([&] {
-            if (program)
-                w.gate.requestClose();
-            else
+        const auto close = [&] {
+            if (moment == 0)
                 w.k.close();
-        });
-        w.press(w.c().Command3); // would go on for ever
-        QVERIFY(w.words().isEmpty());
+            else
+                w.gate.requestClose();
+        };
+        if (moment <= 1) {
+            w.lay(wortelKind, 10, 50, u"quatsch"_s);
+            w.c().OptFilltype[5]->click();
+            w.atServe(close);
+            w.press(w.c().Command3); // would go on for ever
+        } else if (moment == 2) {
+            QTimer::singleShot(0, &w.k, [&] {
+                w.k.findChild<QLineEdit *>(u"Text12"_s)->setText(u"7"_s);
+                close();
+            });
+            w.press(w.c().Command6);
+        } else {
+            w.write(u"wirk"_s);
+            w.press(w.c().Command10);
+            w.mark(0, 4);
+            if (moment == 3) {
+                close();
+            } else {
+                w.t.boxes.willEnterName(u"Ada"_s);
+                w.t.boxes.whileOpen = [&](const Question &) { close(); };
+            }
+            emit w.k.findChild<QTimer *>(u"LocateGameTimer"_s)->timeout({});
+        }
         Workshop::settle();
-        QVERIFY(!w.k.isVisible());
+        QVERIFY(!w.k.isVisible() && w.words().isEmpty());
+        const QString scores = w.t.AppFolder + u"ScoresKernling.lst"_s;
+        QVERIFY(!IsTextFile(scores) || !ReadWholeFile(scores).contains("Ada"));
+        QCOMPARE(w.t.store.GetSetting(u"Settings"_s, u"KernlingGameTime"_s, u"none"_s), u"none"_s);
         QVERIFY(w.t.ok());
     }
 
