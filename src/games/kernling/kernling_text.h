@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QTextEdit>
+#include <QTimer>
 
 #include <vector>
 
@@ -60,7 +61,7 @@ public:
 signals:
     /// A marking has come to its end, by mouse, finger or keys. It may be empty.
     void marked();
-    /// A right press, in this widget's pixels.
+    /// A right press, or a finger that rests, in this widget's pixels.
     void rightPressed(const QPoint &position);
     void fileDropped(const QString &path);
 
@@ -91,4 +92,6 @@ private:
     int letterSize_ = 16; ///< pixels
     int zoom_ = 0;        ///< steps
     Run beforeShift_{0, 0};
+    QTimer longPress_;
+    QPoint pressedAt_;
 };

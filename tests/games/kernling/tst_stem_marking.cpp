@@ -107,35 +107,29 @@ private slots:
         QCOMPARE(w.paint(), u"rr.....rr????."_s);
     }
 
-    void paintLeavesTheViewWhereItIs_data()
-    {
-        columns<double>("place");
-        QTest::newRow("at the start") << 0.0;
-        QTest::newRow("in the middle") << 0.5;
-        QTest::newRow("at the end") << 1.0;
-    }
     void paintLeavesTheViewWhereItIs()
     {
-        QFETCH(double, place);
-        Workshop w;
-        w.write(u"mehr wirk und\n"_s.repeated(3000));
-        QScrollBar *bar = w.text().verticalScrollBar();
-        QTRY_VERIFY(bar->maximum() > 3000 * 10);
-        const auto seen = static_cast<int>(bar->maximum() * place);
-        bar->setValue(seen);
-        w.t.boxes.willType(u"wirk"_s);
-        w.press(w.c().Command8);
-        Workshop::settle();
-        QCOMPARE(bar->value(), seen);
-        QCOMPARE(w.paint().count(u'r'), 12000);
-        w.press(w.c().cmdResetColors);
-        Workshop::settle();
-        QCOMPARE(bar->value(), seen);
-        QVERIFY(!w.paint().contains(u'r'));
-        w.text().undo();
-        QCOMPARE(w.paint().count(u'r'), 12000);
-        w.text().undo(); // the search is one step
-        QVERIFY(!w.paint().contains(u'r'));
+        for (const double place : {0.0, 0.5, 1.0}) {
+            Workshop w;
+            w.write(u"mehr wirk und\n"_s.repeated(3000));
+            QScrollBar *bar = w.text().verticalScrollBar();
+            QTRY_VERIFY(bar->maximum() > 3000 * 10);
+            const auto seen = static_cast<int>(bar->maximum() * place);
+            bar->setValue(seen);
+            w.t.boxes.willType(u"wirk"_s);
+            w.press(w.c().Command8);
+            Workshop::settle();
+            QCOMPARE(bar->value(), seen);
+            QCOMPARE(w.paint().count(u'r'), 12000);
+            w.press(w.c().cmdResetColors);
+            Workshop::settle();
+            QCOMPARE(bar->value(), seen);
+            QVERIFY(!w.paint().contains(u'r'));
+            w.text().undo();
+            QCOMPARE(w.paint().count(u'r'), 12000);
+            w.text().undo(); // the search is one step
+            QVERIFY(!w.paint().contains(u'r'));
+        }
     }
 
     void lettersTypedBehindPaintHaveNone()

@@ -94,19 +94,6 @@ private slots:
         QVERIFY(w.t.ok());
     }
 
-    void aCancelledLoadLosesNothing()
-    {
-        Workshop w;
-        w.write(u"before"_s);
-        w.t.fileDialogs.willOpen(
-            {w.t.writeFile(u"a.html"_s, u"<body>"_s + u"Wort "_s.repeated(50000) + u"</body>"_s)});
-        w.atServe([&] { QTest::mouseClick(w.c().Label9, Qt::LeftButton); });
-        w.press(w.c().Command5);
-        QCOMPARE(w.text().text(), u"before"_s);
-        QCOMPARE(w.trouble(), QString());
-        QVERIFY(w.t.ok());
-    }
-
     void aFileDroppedInAGameIsLeft()
     {
         Workshop w;
