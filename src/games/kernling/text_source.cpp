@@ -35,7 +35,7 @@ const QString section = u"Path"_s;
 const QString folderKey = u"InternalOpenKernling"_s;
 const QString filter =
     u"Text Dateien (*.txt)|*.txt|Rich Text Dateien (*.rtf;)|*.rtf;|Wörterbücher (*.lex;)|*.lex|Webseiten (*.html;*.htm;)|*.html;*.htm;"_s;
-constexpr qint64 largestFile = 64 * 1024 * 1024; ///< bytes; a text of that length fills the memory
+constexpr qint64 largestFile = 64LL * 1024 * 1024; ///< bytes; a text of that length fills the memory
 constexpr int wholeBar = 100;
 constexpr double longestWord = 100000; ///< letters
 
