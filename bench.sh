@@ -5,7 +5,7 @@
 set -euo pipefail
 cd "$(dirname "$(realpath "$0")")"
 . tools/setup/packages.sh
-install_missing "${build_packages[@]}" "${display_packages[@]}"
+install_missing "${build_packages[@]}" "${display_packages[@]}" lynx
 build_preset bench
 result=0
 QT_QPA_PLATFORM=offscreen build/bench/bin/wortel_bench "$@" || result=1

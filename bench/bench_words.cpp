@@ -5,6 +5,7 @@
 #include "games/klotar/game_words.h"
 #include "generators/nonsense_words.h"
 #include "generators/real_words.h"
+#include "generators/scrambled_words.h"
 #include "language/word_tests.h"
 #include "platform/gate.h"
 #include "platform/log.h"
@@ -121,26 +122,39 @@ void searchRounds(Board &board, int rounds)
     }
 }
 
+/// What bare words are made of: the three lists and a plain set of the dictionary's words.
+struct BareWords
+{
+    explicit BareWords(const Board &board)
+        : prefixes(board.lists.PrefixReTypeList.rows())
+        , stems(board.lists.WortelReTypeList.rows())
+        , suffixes(board.lists.SuffixReTypeList.rows())
+        , dictionary(board.lists.LexiconList.rows().cbegin(), board.lists.LexiconList.rows().cend())
+    {}
+    /// Three draws and a join.
+    QString word(Rnd &rnd) const { return drawn(prefixes, rnd) + drawn(stems, rnd) + drawn(suffixes, rnd); }
+
+    static const QString &drawn(const QStringList &list, Rnd &rnd)
+    {
+        return list.at(static_cast<qsizetype>(rnd() * static_cast<double>(list.size())));
+    }
+
+    QStringList prefixes;
+    QStringList stems;
+    QStringList suffixes;
+    QSet<QString> dictionary;
+};
+
 /// Three draws, one join, one look-up.
 double realWordRatio()
 {
     constexpr int rounds = 20000;
     Board board(largeDictionary);
-    const QStringList prefixes = board.lists.PrefixReTypeList.rows();
-    const QStringList stems = board.lists.WortelReTypeList.rows();
-    const QStringList suffixes = board.lists.SuffixReTypeList.rows();
-    const QSet<QString> dictionary(board.lists.LexiconList.rows().cbegin(),
-                                   board.lists.LexiconList.rows().cend());
-    const auto index = [&](const QStringList &list) {
-        return static_cast<qsizetype>(board.rnd() * static_cast<double>(list.size()));
-    };
+    const BareWords bare(board);
     return bench::ratio([&] { searchRounds(board, rounds); },
                         [&] {
-                            for (int i = 0; i < rounds; ++i) {
-                                const QString word = prefixes.at(index(prefixes)) + stems.at(index(stems)) +
-                                                     suffixes.at(index(suffixes));
-                                bench::keep(dictionary.contains(word));
-                            }
+                            for (int i = 0; i < rounds; ++i)
+                                bench::keep(bare.dictionary.contains(bare.word(board.rnd)));
                         });
 }
 
@@ -224,10 +238,65 @@ double nonsenseRatio()
     return bench::ratio([&] { bench::keep(nonsenseRun(board)); }, [&] { nonsenseTests(board, rounds); }, 31);
 }
 
+constexpr int scrambledWords = 1000;
+
+/// Runs until the words are there. Returns the count of rounds.
+template <typename TryOne> int scrambleRun(Board &board, TryOne &&tryOne)
+{
+    board.lists.PseudoWordList.clear();
+    Rnd rnd(33);
+    int rounds = 0;
+    for (int found = 0; found < scrambledWords; ++rounds) {
+        found += tryOne(rnd) ? 1 : 0;
+        if (board.pump.inputWaiting())
+            board.pump.serve();
+    }
+    return rounds;
+}
+
+/// Three draws, a join and a look-up a round; a draw and a join more for each word.
+double scrambleRatio()
+{
+    Board board(largeDictionary);
+    const BareWords bare(board);
+    const auto tryOne = [&](Rnd &rnd) { return scramble::tryScramble(board.lists, board.tests, rnd); };
+    const int rounds = scrambleRun(board, tryOne);
+    return bench::ratio([&] { bench::keep(scrambleRun(board, tryOne)); },
+                        [&] {
+                            Rnd rnd(33);
+                            for (int i = 0; i < rounds; ++i)
+                                bench::keep(bare.dictionary.contains(bare.word(rnd)));
+                        });
+}
+
+/// Three draws and one for the order, a join with as many random letters, a look-up.
+double letterMixRatio()
+{
+    constexpr int wordLength = 20;
+    Board board(largeDictionary);
+    scramble::replaceAffixes(board.lists, board.rnd);
+    const BareWords bare(board);
+    const auto tryOne = [&](Rnd &rnd) { return scramble::tryLetterMix(board.lists, wordLength, rnd); };
+    const int rounds = scrambleRun(board, tryOne);
+    return bench::ratio([&] { bench::keep(scrambleRun(board, tryOne)); },
+                        [&] {
+                            Rnd rnd(33);
+                            for (int i = 0; i < rounds; ++i) {
+                                bench::keep(rnd());
+                                QString word = bare.word(rnd);
+                                while (word.size() < wordLength)
+                                    word += QChar(static_cast<char16_t>(u'a' + rnd() * 26));
+                                bench::keep(bare.dictionary.contains(word));
+                            }
+                        });
+}
+
 const bench::Row check{"words: check in a dictionary of 32,000", 2.0, checkRatio};
 const bench::Row realWords{"words: a round for real words", 2.0, realWordRatio};
 const bench::Row growth{"words: a round, 32,000 against 1,000 words", 1.5, growthRatio};
 const bench::Row hint{"words: a hint that finds nothing", 2.0, hintRatio};
+const bench::Row scrambles{"words: 1,000 scrambled words", 2.0, scrambleRatio};
+const bench::Row letterMixes{"words: 1,000 letter mixes", 2.0, letterMixRatio};
 const bench::Row nonsenseWords{"words: 1,000 nonsense words", 3.0, nonsenseRatio};
 
 } // namespace

@@ -6,11 +6,13 @@
 #include "generators/morphemes.h"
 #include "generators/nonsense_words.h"
 #include "generators/real_words.h"
+#include "generators/scrambled_words.h"
 #include "language/word_tests.h"
 #include "platform/files.h"
 #include "platform/ground.h"
 #include "platform/options.h"
 #include "platform/procedure.h"
+#include "platform/text.h"
 #include "platform/word_lists.h"
 #include "platform/work.h"
 
@@ -19,6 +21,8 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr int mixMaximum = 10; ///< of the bar, however many mixes are wanted
 
 WorkPlan planFor(int wordCount)
 {
@@ -114,4 +118,49 @@ void WordMaker::searchNonsenseWords(int wordCount, Work &work)
             showCount();
         }
     }
+}
+
+void WordMaker::MakeMorphemScramble(int WordCount, WorkView &view)
+{
+    Procedure step{ground_.log, "MakeMorphemScramble", "FrmKernling"};
+    Work work(ground_, planFor(WordCount), &view);
+    step([&] { lists_.PseudoWordList.clear(); });
+    step([&] { collectMorphemes(tiles_.tiles(), lists_); });
+    step([&] {
+        searchScrambles(
+            WordCount, u" Schüttelwörter vorbereitet"_s,
+            [&] { return scramble::tryScramble(lists_, tests_, ground_.rnd); }, work);
+    });
+}
+
+void WordMaker::MakeLetterMix(int WordCount, const QString &Text4, WorkView &view)
+{
+    Procedure step{ground_.log, "MakeLetterMix", "FrmKernling"};
+    Work work(ground_, planFor(mixMaximum), &view);
+    const auto wordLength = static_cast<int>(std::clamp(Val(Text4), 0.0, double(scramble::longestMix)));
+    step([&] { lists_.PseudoWordList.clear(); });
+    step([&] { collectMorphemes(tiles_.tiles(), lists_); });
+    step([&] { scramble::replaceAffixes(lists_, ground_.rnd); });
+    step([&] {
+        searchScrambles(
+            WordCount, u" zufällige Buchstaben vorbereitet"_s,
+            [&] { return scramble::tryLetterMix(lists_, wordLength, ground_.rnd); }, work);
+    });
+}
+
+/// `made` is what the caption says behind the count.
+void WordMaker::searchScrambles(int wordCount, const QString &made, const std::function<bool()> &tryOne,
+                                Work &work)
+{
+    work.appear();
+    int found = 0;
+    while (found != wordCount && !work.isCancelled()) {
+        if (tryOne()) {
+            ++found;
+            work.tell(QString::number(lists_.PseudoWordList.count()) + made);
+        }
+        work.goesOn();
+    }
+    if (work.isCancelled())
+        emit retypingToEnd();
 }

@@ -4,6 +4,8 @@
 
 #include <QObject>
 
+#include <functional>
+
 class TileStore;
 class Work;
 class WordTests;
@@ -31,13 +33,20 @@ public:
     /// cancel is forgotten.
     void MakePseudoWordsTorvin(int WordCount);
     void MakePseudoWordsForKernling(int WordCount, WorkView &view);
+    /// Fills `PseudoWordList` with `WordCount` real words whose parts stand in another order, or with stems
+    /// among random letters, each filled up to the number in `Text4`. What was made before a cancel stays.
+    void MakeMorphemScramble(int WordCount, WorkView &view);
+    void MakeLetterMix(int WordCount, const QString &Text4, WorkView &view);
 
 signals:
     /// A run begins: the strip is to be emptied.
     void stripToClear();
+    /// A scramble or a letter mix was cancelled, which ends retyping as well.
+    void retypingToEnd();
 
 private:
     void searchRealWords(int wordCount, Work &work);
+    void searchScrambles(int wordCount, const QString &made, const std::function<bool()> &tryOne, Work &work);
     void makeNonsenseWords(const char *procedure, int wordCount, Work &work);
     void searchNonsenseWords(int wordCount, Work &work);
 

@@ -30,9 +30,8 @@ std::uint32_t foldedHash(QStringView word)
     for (const QChar character : word) {
         const char16_t unit = character.unicode();
         hash = (hash ^ (unit < 256 ? upper[unit] : character.toUpper().unicode())) * 0x9E3779B97F4A7C15ULL;
-        hash ^= hash >> 29;
     }
-    return static_cast<std::uint32_t>(hash >> 7);
+    return static_cast<std::uint32_t>(hash >> 32); // every character has reached the upper half
 }
 
 } // namespace

@@ -43,6 +43,14 @@ QString masked(SettingType type, const QString &text)
     }
 }
 
+/// Calls `action` for each row that `window` edits, in the order of the table.
+template <typename Action> void forRowsOf(SettingsWindow window, const Action &action)
+{
+    for (const SettingRow &row : settingsTable())
+        if (row.window == window)
+            action(row);
+}
+
 } // namespace
 
 Options::Options(SettingsStore &store, const QString &appFolder, Log &log)
@@ -52,7 +60,7 @@ Options::Options(SettingsStore &store, const QString &appFolder, Log &log)
 {
     for (const SettingRow &row : settingsTable())
         value(row.id) = fallback(row);
-    subSnapShot();
+    snapshot_ = values_;
 }
 
 QString Options::text(Setting id) const { return value(id); }
@@ -95,11 +103,25 @@ void Options::keepOption(Setting id)
             store_.SaveSetting(QLatin1String(row.section), QLatin1String(row.key), value(row.id));
 }
 
-void Options::GetSettings()
+void Options::GetSettings(SettingsWindow window)
 {
     Procedure step{log_, "GetSettings", "frmOptions"};
-    for (const SettingRow &row : settingsTable())
-        step([&] { load(row, stored(row.id)); });
+    forRowsOf(window, [&](const SettingRow &row) { step([&] { load(row, stored(row.id)); }); });
+}
+
+void Options::subSnapShot(SettingsWindow window)
+{
+    forRowsOf(window,
+              [this](const SettingRow &row) { snapshot_[static_cast<std::size_t>(row.id)] = value(row.id); });
+}
+
+bool Options::IsChanged(SettingsWindow window) const
+{
+    bool changed = false;
+    forRowsOf(window, [&](const SettingRow &row) {
+        changed = changed || snapshot_[static_cast<std::size_t>(row.id)] != value(row.id);
+    });
+    return changed;
 }
 
 void Options::load(const SettingRow &row, const QString &text)
@@ -119,26 +141,29 @@ void Options::load(const SettingRow &row, const QString &text)
     }
 }
 
-bool Options::ApplySettings()
+bool Options::ApplySettings(SettingsWindow window)
 {
     Procedure step{log_, "ApplySettings", "frmOptions"};
-    step([&] { FillBlankFields(); });
+    step([&] { FillBlankFields(window); });
     const bool saved = step([&] {
         QMap<QString, QList<QPair<QString, QString>>> sections;
-        for (const SettingRow &row : settingsTable())
+        forRowsOf(window, [&](const SettingRow &row) {
             sections[QLatin1String(row.section)].append({QLatin1String(row.key), value(row.id)});
+        });
         for (auto section = sections.cbegin(); section != sections.cend(); ++section)
             store_.SaveSettings(section.key(), section.value());
     });
-    step([&] { emit applied(); });
+    if (window == SettingsWindow::frmOptions)
+        step([&] { emit applied(); });
     return saved;
 }
 
-void Options::FillBlankFields()
+void Options::FillBlankFields(SettingsWindow window)
 {
-    for (const SettingRow &row : settingsTable())
+    forRowsOf(window, [this](const SettingRow &row) {
         if (row.repair && Trim(value(row.id)).isEmpty())
             change(row.id, withFolder(row.repair));
+    });
 }
 
 QString Options::stored(Setting id) const

@@ -37,21 +37,22 @@ public:
     void setBox(Setting id, int value);
     /// Sets an option and clears the others of its group (scroller position, export layout, difficulty).
     void setOption(Setting id);
-
     /// The same, written to the store at once: chosen outside of the options window.
     void keepOption(Setting id);
 
-    /// Store to run-time copy, for all keys of the table. A stored value that fails its conversion is logged
-    /// and the value from before stays.
-    void GetSettings();
-    /// Repairs blank fields, writes every key to the store and emits `applied`. Returns false if the store
-    /// could not be written.
-    bool ApplySettings();
-    void FillBlankFields();
+    // What an options window does goes for its own rows of the table.
 
-    /// Remembers all values, for `IsChanged`.
-    void subSnapShot() { snapshot_ = values_; }
-    bool IsChanged() const { return values_ != snapshot_; }
+    /// Store to run-time copy. A stored value that fails its conversion is logged and the value from before
+    /// stays.
+    void GetSettings(SettingsWindow window = SettingsWindow::frmOptions);
+    /// Repairs blank fields, writes every key to the store and, for the program's own window, emits
+    /// `applied`. Returns false if the store could not be written.
+    bool ApplySettings(SettingsWindow window = SettingsWindow::frmOptions);
+    void FillBlankFields(SettingsWindow window = SettingsWindow::frmOptions);
+
+    /// Remembers the values, for `IsChanged`.
+    void subSnapShot(SettingsWindow window = SettingsWindow::frmOptions);
+    bool IsChanged(SettingsWindow window = SettingsWindow::frmOptions) const;
 
     /// Straight from the store at the point of use, past the edited value, as some readers do.
     QString stored(Setting id) const;

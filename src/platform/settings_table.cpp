@@ -6,6 +6,7 @@ namespace {
 
 using S = Setting;
 using T = SettingType;
+constexpr auto ofKernling = SettingsWindow::frmKernlingOptions;
 
 // The first-run value of MaxTriesToPlace and its repair value differ on purpose: a new board is placed
 // quickly, while somebody who empties the field wants no limit to be felt. VokalTipTime is never repaired;
@@ -74,6 +75,16 @@ constexpr std::array<SettingRow, static_cast<std::size_t>(Setting::Count)> table
     {S::StartPosTopOnLineUp, "StartPosTopOnLineUp", T::Integer, u"100", u"100", "Text16", "Frame1", S::StartPosTopOnLineUp, u"Start Pos. vert.", nullptr},
     {S::HorizSpaceOnLineUp, "HorizSpaceOnLineUp", T::Integer, u"100", u"100", "Text14", "Frame1", S::HorizSpaceOnLineUp, u"Abstand horizontal", nullptr},
     {S::VertSpaceOnLineUp, "VertSpaceOnLineUp", T::Integer, u"100", u"100", "Text17", "Frame1", S::VertSpaceOnLineUp, u"Abstand vertikal", nullptr},
+    {S::KernlingNumRandomWords, "KernlingNumRandomWords", T::Integer, u"20", u"20", "Text8", "Frame2", S::KernlingNumRandomWords, u"Anzahl der zufällig ausgewählten Wörter, die aus aktuell sichtbaren Morphemen bestehen", nullptr, "Settings", ofKernling},
+    {S::KernlingNumPseudoWords, "KernlingNumPseudoWords", T::Integer, u"20", u"20", "Text11", "Frame2", S::KernlingNumPseudoWords, u"Anzahl der zufällig ausgewählten Unsinnswörter, die aus aktuell sichtbaren Morphemen bestehen", nullptr, "Settings", ofKernling},
+    {S::KernlingNumScrambleWords, "KernlingNumScrambleWords", T::Integer, u"20", u"20", "Text1", "Frame2", S::KernlingNumScrambleWords, u"Morphemscramble: Anzahl Wörter", nullptr, "Settings", ofKernling},
+    {S::KernlingNumLetterMixWords, "KernlingNumLetterMixWords", T::Integer, u"20", u"20", "Text2", "Frame2", S::KernlingNumLetterMixWords, u"Buchstabenmix: Anzahl Wörter", nullptr, "Settings", ofKernling},
+    {S::KernlingGameTime, "KernlingGameTime", T::Integer, u"40", u"40", "Text12", "Frame1", S::KernlingGameTime, u"Zeitbegrenzung (Sekunden)", nullptr, "Settings", ofKernling},
+    {S::KernlingShowLists, "KernlingShowLists", T::Box, u"0", nullptr, "Check6", "Frame1", S::KernlingShowLists, u"Ergebnis-Listen anzeigen", nullptr, "Settings", ofKernling},
+    {S::KernlingShowNoDup, "KernlingShowNoDup", T::Box, u"1", nullptr, "Check1", "Frame1", S::KernlingShowNoDup, u"doppelte Wortele nicht in den Ergebnis-Listen anzeigen", nullptr, "Settings", ofKernling},
+    {S::KernlingShowFalse, "KernlingShowFalse", T::Box, u"0", nullptr, "Check2", "Frame1", S::KernlingShowFalse, u"Falsche Buchstabenauswahl auch anzeigen", nullptr, "Settings", ofKernling},
+    {S::KernlingUseSounds, "KernlingUseSounds", T::Box, u"1", nullptr, "Check5", "Frame1", S::KernlingUseSounds, u"Töne", nullptr, "Settings", ofKernling},
+    {S::KernlingShowTooltip, "KernlingShowTooltip", T::Box, u"1", nullptr, "Check7", "Frame1", S::KernlingShowTooltip, u"Info-Fahne zeigen", nullptr, "Settings", ofKernling},
 }};
 // clang-format on
 

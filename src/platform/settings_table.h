@@ -5,7 +5,7 @@
 #include <array>
 #include <cstddef>
 
-/// The settings that the options window edits, in the order of their table.
+/// The settings that an options window edits, in the order of their table.
 enum class Setting : int {
     NumWortel,
     WortelFile,
@@ -69,8 +69,21 @@ enum class Setting : int {
     StartPosTopOnLineUp,
     HorizSpaceOnLineUp,
     VertSpaceOnLineUp,
+    KernlingNumRandomWords,
+    KernlingNumPseudoWords,
+    KernlingNumScrambleWords,
+    KernlingNumLetterMixWords,
+    KernlingGameTime,
+    KernlingShowLists,
+    KernlingShowNoDup,
+    KernlingShowFalse,
+    KernlingUseSounds,
+    KernlingShowTooltip,
     Count
 };
+
+/// Who edits a setting: the options window of the program, or that of a game.
+enum class SettingsWindow { frmOptions, frmKernlingOptions };
 
 enum class SettingType { Integer, SignedInteger, AnyNumber, Path, Box, Option };
 
@@ -90,6 +103,7 @@ struct SettingRow
     const char16_t *caption;
     const char16_t *tip; ///< nullptr: none
     const char *section = "Settings";
+    SettingsWindow window = SettingsWindow::frmOptions;
 };
 
 /// Settings of which one is on: the option buttons of one frame. `first` to `last` in the order of the table.

@@ -36,6 +36,7 @@ void frmMain::wireCommands()
         r.router.onMenu(list.reset, [&r, game = list.game] { r.scores.ResetScores(game); });
     }
     r.router.onMenu(901, [this] { showOptions(); });
+    r.router.onMenu(1701, [&r] { r.kernling.openModally(); });
     r.router.onMenu(1001, [this] { showHelp(); });
     r.router.onMenu(1003, [this] { showAbout(); });
     r.router.onMenu(1906, [this] { close(); });

@@ -143,9 +143,12 @@ void frmMain::wireModes()
     connect(&r.dictionary, &DictionaryPanel::startRetypeFromList, &r.retype,
             &RetypeMode::mnuStartRetypeFromList);
     connect(&r.chooser, &ListChooser::listsChosen, &r.retype, &RetypeMode::endRun);
+    connect(&r.maker, &WordMaker::retypingToEnd, &r.retype, &RetypeMode::endRun);
     connect(&r.sessions, &Sessions::listsChosen, &r.retype, &RetypeMode::endRun);
     connect(&r.retype, &RetypeMode::chooserWanted, &r.wordChooser, &WordChooser::open);
     connect(&r.wordChooser, &WordChooser::wordsChosen, &r.retype, &RetypeMode::RetypeWithChoosenWortel);
+
+    connect(&r.kernling, &FrmKernling::PrintRTF, this, &frmMain::comesLater);
 
     // The menus are built anew on one signal, whatever has changed.
     connect(this, &frmMain::menusStale, this, [&r] { r.menus.CreateMenus(); });

@@ -9,6 +9,7 @@
 #include "platform/word_lists.h"
 #include "widgets/control_sheet.h"
 #include "widgets/main_controls.h"
+#include "widgets/press_button.h"
 #include "widgets/status_line.h"
 
 #include <QCoreApplication>
@@ -53,6 +54,13 @@ Rooms::Rooms(Ground &ground, const Hall &hall)
     , sessions(ground, hall.controls, hall.lists, {canvas, loader, news})
     , fileType(ground.log, QCoreApplication::applicationFilePath())
     , scores(ground)
+    , kernling(ground,
+               {hall.lists, tests, maker, store, scores,
+                [&controls = hall.controls] {
+                    for (PressButton *box : controls.ChkVokal)
+                        box->setChecked(false);
+                }},
+               hall.controls.form)
     , strip(ground, hall.controls)
     , retype(ground, hall.controls, hall.lists, hall.play,
              {hall.sheet, hall.status, strip, maker, check, tests, dictionary, canvas, news})

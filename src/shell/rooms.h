@@ -18,6 +18,7 @@
 #include "board/tiles/affix_homes.h"
 #include "board/tiles/board_news.h"
 #include "dialogs/msn_style.h"
+#include "games/kernling/frm_kernling.h"
 #include "games/klotar/word_game.h"
 #include "games/retype/retype_mode.h"
 #include "games/retype/strip_control.h"
@@ -107,6 +108,7 @@ struct Rooms
 
     // games
     HighScores scores;
+    FrmKernling kernling;
     StripControl strip;
     RetypeMode retype;
     VowelBoard vowelBoard;

@@ -9,6 +9,8 @@
 #include <QScrollBar>
 #include <QTimer>
 
+#include <algorithm>
+
 /// The rows of a store as a model. A store tells that it has changed, not how; the count that the view works
 /// with is therefore one of the last refresh, and a row that has gone since reads as the empty string.
 class StoreList::Rows : public QAbstractListModel
@@ -23,6 +25,12 @@ public:
         if (role != Qt::DisplayRole || !index.isValid() || store_ == nullptr)
             return {};
         return store_->at(index.row());
+    }
+
+    Qt::ItemFlags flags(const QModelIndex &index) const override
+    {
+        // Whether anything is dragged is the view's business.
+        return QAbstractListModel::flags(index) | Qt::ItemIsDragEnabled;
     }
 
     void show(const WordStore *store)
@@ -99,9 +107,58 @@ void StoreList::refresh() const
         return;
     const int row = currentIndex().row();
     const int top = verticalScrollBar()->value();
-    rows_->reload();
-    selectionModel()->setCurrentIndex(rows_->index(rowOfSelected(row)), QItemSelectionModel::ClearAndSelect);
+    if (selectionMode() == SingleSelection) {
+        rows_->reload();
+        selectionModel()->setCurrentIndex(rows_->index(rowOfSelected(row)),
+                                          QItemSelectionModel::ClearAndSelect);
+    } else {
+        const QItemSelection selected = selectionModel()->selection();
+        QList<std::pair<int, int>> ranges;
+        for (const QItemSelectionRange &range : selected)
+            ranges.append({range.top(), range.bottom()});
+        rows_->reload();
+        select(ranges);
+        selectionModel()->setCurrentIndex(rows_->index(row), QItemSelectionModel::NoUpdate);
+    }
     verticalScrollBar()->setValue(top);
+}
+
+void StoreList::select(const QList<std::pair<int, int>> &ranges) const
+{
+    QItemSelection selection;
+    const int last = rows_->rowCount() - 1;
+    for (const auto &[top, bottom] : ranges)
+        if (top >= 0 && top <= last)
+            selection.append(QItemSelectionRange(rows_->index(top), rows_->index(std::min(bottom, last))));
+    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+}
+
+QList<int> StoreList::selectedRows() const
+{
+    refresh();
+    QList<int> rows;
+    for (const QItemSelectionRange &range : selectionModel()->selection())
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows.append(row);
+    std::sort(rows.begin(), rows.end());
+    return rows;
+}
+
+QStringList StoreList::selectedWords() const
+{
+    QStringList words;
+    for (const int row : selectedRows())
+        words.append(store_ == nullptr ? QString() : store_->at(row));
+    return words;
+}
+
+void StoreList::selectRows(const QList<int> &rows)
+{
+    refresh();
+    QList<std::pair<int, int>> ranges;
+    for (const int row : rows)
+        ranges.append({row, row});
+    select(ranges);
 }
 
 /// The row nearest to `row` that has the selected word, or `row` if there is none.

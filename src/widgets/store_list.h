@@ -9,7 +9,8 @@ class WordStore;
 
 /// A list box that shows a word store. It holds no words of its own: the store is the list, this is its
 /// picture, brought up to date when it is visible. The selection goes with its word when rows come or go
-/// above it; where the word itself has gone the row stays selected.
+/// above it; where the word itself has gone the row stays selected. In a list in which many rows can be
+/// selected the rows stay selected.
 class StoreList : public QListView
 {
     Q_OBJECT
@@ -26,6 +27,11 @@ public:
     int ListIndex() const;
     /// Selects a row and scrolls to it; a row that is not there selects none.
     void setListIndex(int row);
+    /// All selected rows, ascending.
+    QList<int> selectedRows() const;
+    QStringList selectedWords() const;
+    /// Selects these rows and no others; the list must allow it.
+    void selectRows(const QList<int> &rows);
 
 signals:
     /// A left click on a row that exists.
@@ -44,6 +50,7 @@ private:
     class Rows;
     void markStale();
     void refresh() const;
+    void select(const QList<std::pair<int, int>> &ranges) const;
     int rowOfSelected(int row) const;
 
     WordStore *store_ = nullptr;

@@ -10,6 +10,7 @@ wortel_test(e2e SLOW TIMEOUT 300
         tst_games_by_hand.cpp
         tst_interrupted.cpp
         tst_kept_boards.cpp
+        tst_stems_by_hand.cpp
         tst_words_by_hand.cpp
 )
 add_dependencies(tst_e2e wortel)

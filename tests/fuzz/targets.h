@@ -15,8 +15,10 @@ void backup(const QByteArray &bytes);
 void ini(const QByteArray &bytes);
 void link(const QByteArray &bytes);
 void list(const QByteArray &bytes);
+void page(const QByteArray &bytes);
 void session(const QByteArray &bytes);
 void settings(const QByteArray &bytes);
+void text(const QByteArray &bytes);
 
 struct Target
 {
@@ -24,13 +26,15 @@ struct Target
     void (*run)(const QByteArray &bytes);
 };
 
-inline constexpr std::array<Target, 6> targets{{
+inline constexpr std::array<Target, 8> targets{{
     {"backup", backup},
     {"ini", ini},
     {"link", link},
     {"list", list},
+    {"page", page},
     {"session", session},
     {"settings", settings},
+    {"text", text},
 }};
 
 /// Ends the program with a line that says what was promised.

@@ -6,8 +6,10 @@ wortel_test(fuzz
         fuzz_ini.cpp
         fuzz_link.cpp
         fuzz_list.cpp
+        fuzz_page.cpp
         fuzz_session.cpp
         fuzz_settings.cpp
+        fuzz_text.cpp
         targets.cpp
         tst_fuzz_corpus.cpp
 )

@@ -3,6 +3,7 @@
 wortel_test(generators
     SOURCES
         tst_nonsense_rules.cpp
+        tst_scrambled_words.cpp
         tst_seeded_boards.cpp
         tst_word_maker.cpp
 )

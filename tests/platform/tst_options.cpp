@@ -36,7 +36,10 @@ private slots:
             u"AddToSuffixPosition=0/0 MaxTriesToPlace=1/1000 SaveCopyWithLF=True/ SaveCopyWithCol=False/ "
             u"SaveCopyWithColBl=False/ SaveNoColumns=3/3 SaveNoBlocks=3/3 GameDifficult1=True/ "
             u"GameDifficult2=False/ GameDifficult3=False/ ColumnsOnLineUp=5/5 StartPosTopOnLineUp=100/100 "
-            u"HorizSpaceOnLineUp=100/100 VertSpaceOnLineUp=100/100"_s.split(u' ');
+            u"HorizSpaceOnLineUp=100/100 VertSpaceOnLineUp=100/100 KernlingNumRandomWords=20/20 "
+            u"KernlingNumPseudoWords=20/20 KernlingNumScrambleWords=20/20 KernlingNumLetterMixWords=20/20 "
+            u"KernlingGameTime=40/40 KernlingShowLists=0/ KernlingShowNoDup=1/ KernlingShowFalse=0/ "
+            u"KernlingUseSounds=1/ KernlingShowTooltip=1/"_s.split(u' ');
         TestGround t;
         t.options.GetSettings();
         QVERIFY(!t.options.IsChanged());
@@ -47,6 +50,10 @@ private slots:
                 t.options.setText(row.id, row.type == SettingType::Path ? u"  "_s : QString());
         }
         QSignalSpy applied(&t.options, &Options::applied);
+        QVERIFY(t.options.IsChanged(SettingsWindow::frmKernlingOptions));
+        QVERIFY(t.options.ApplySettings(SettingsWindow::frmKernlingOptions));
+        QCOMPARE(applied.count(), 0);
+        QVERIFY(t.store.GetSetting(u"Settings"_s, u"NumWortel"_s, {}).isEmpty()); // another window's
         QVERIFY(t.options.ApplySettings());
         QCOMPARE(applied.count(), 1);
         QCOMPARE(found.size(), rows.size());
@@ -69,9 +76,11 @@ private slots:
             else
                 t.options.setText(row.id, row.type == SettingType::Path ? u"C:\\Bäume\\x y.txt"_s : u"123"_s);
         }
-        QVERIFY(t.options.ApplySettings());
         Options next(t.store, t.AppFolder, t.log);
-        next.GetSettings();
+        for (const auto window : {SettingsWindow::frmOptions, SettingsWindow::frmKernlingOptions}) {
+            QVERIFY(t.options.ApplySettings(window));
+            next.GetSettings(window);
+        }
         for (const SettingRow &row : settingsTable())
             QCOMPARE(next.text(row.id), t.options.text(row.id));
         QVERIFY(next.isOn(Setting::GameDifficult3));

@@ -303,6 +303,8 @@ const Wire wires[] = {
     {"901", ACT(h.windowOf([&] { h.run(From::MainMenu, 901); })), u"frmOptions"_s},
     {"1001", ACT(h.windowOf([&] { h.run(From::MainMenu, 1001); })), u"HelpWindow"_s},
     {"1003", ACT(h.windowOf([&] { h.run(From::MainMenu, 1003); })), u"fAbout"_s},
+    {"1701", ACT(h.windowOf([&] { h.run(From::MainMenu, 1701); })), u"FrmKernling"_s},
+    {"stems, printed", ACT(h.boxOf([&] { emit h.r.kernling.PrintRTF(nullptr); })), later},
     {"1906", ACT(h.run(From::MainMenu, 1906), yes(h.gate.isClosing())), u"yes"_s},
     {"701", ACT(h.run(From::MainMenu, 701), h.state()), u"level 1"_s},
     {"201", ACT(h.dialogOf([&] { h.run(From::MainMenu, 201); })), u"Wortel laden (Multi)"_s},

@@ -188,7 +188,7 @@ public:
     {
         // Whatever comes back without anybody at the screen. The lists stay, and nobody stops a search for
         // words.
-        constexpr std::array leftOut{201, 402, 901, 1001, 1003, 1601, 1607, 1906};
+        constexpr std::array leftOut{201, 402, 901, 1001, 1003, 1601, 1607, 1701, 1906};
         for (const command::Command &row : command::table())
             if (std::ranges::find(leftOut, row.id) == leftOut.end())
                 choices_.push_back(&row);

@@ -94,6 +94,25 @@ private slots:
         QTEST(list.ListIndex(), "expected");
     }
 
+    void manyRowsStaySelected()
+    {
+        WordStore store;
+        store.addAll(words(6));
+        StoreList list;
+        list.setSelectionMode(QAbstractItemView::ExtendedSelection);
+        list.show(&store);
+        list.selectRows({4, 1, 2, 9});
+        QCOMPARE(list.selectedRows(), (QList<int>{1, 2, 4}));
+        QCOMPARE(list.selectedWords(), (QStringList{store.at(1), store.at(2), store.at(4)}));
+        store.add(u"neu"_s);
+        QCOMPARE(list.selectedRows(), (QList<int>{1, 2, 4}));
+        store.clear();
+        store.addAll(words(3));
+        QCOMPARE(list.selectedRows(), (QList<int>{1, 2}));
+        list.setListIndex(0);
+        QCOMPARE(list.selectedRows(), QList<int>{0});
+    }
+
     void clicks()
     {
         WordStore store;

@@ -4,7 +4,10 @@
 
 #include "stage.h"
 
+#include "games/kernling/kernling_controls.h"
+#include "games/kernling/kernling_text.h"
 #include "shell/frm_main.h"
+#include "shell/rooms.h"
 #include "widgets/alpha_panel.h"
 #include "widgets/click_label.h"
 #include "widgets/dropper.h"
@@ -203,6 +206,31 @@ void scenes::options(Stage &stage)
                       Stage::play(300);
                       stage.keep(u"optionen"_s, *dialog, pageWidth);
                       dialog->findChild<QPushButton *>(u"cmdCancel"_s)->click();
+                  });
+    stage.close();
+}
+
+void scenes::stemGame(Stage &stage)
+{
+    stage.open(window);
+    FrmKernling &game = stage.form().rooms().kernling;
+    Stage::during([&] { game.openModally(); },
+                  [&] {
+                      game.resize(853, 470);
+                      const KernlingControls &c = game.controls();
+                      const QString text = u"Die Abfahrt war schön, die Wirkung groß.\n"
+                                           "Wer gern einkauft, verkauft auch gern.\n"
+                                           "Vorsicht: Sie bewirken etwas!"_s;
+                      c.RTF->replaceText(text);
+                      c.Check1->click();
+                      Stage::play(300);
+                      for (const QString &letters : {u"fahr"_s, u"kauf"_s, u"Wirk"_s}) {
+                          c.RTF->select({static_cast<int>(text.indexOf(letters)), 4});
+                          emit c.RTF->marked();
+                      }
+                      Stage::play(500);
+                      stage.keep(u"kernling"_s, game, pageWidth);
+                      game.close();
                   });
     stage.close();
 }

@@ -89,7 +89,8 @@ OptionsView::OptionsView(Options &options, QWidget *parent)
         pages_->addWidget(makePage(text(page.frame)));
     makeFrames();
     for (const SettingRow &row : settingsTable())
-        addField(row);
+        if (row.window == SettingsWindow::frmOptions)
+            addField(row);
     addButtons();
     closeFrames();
     right->addWidget(pages_, 1);

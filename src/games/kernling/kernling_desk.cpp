@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "games/kernling/kernling_desk.h"
+
+#include "games/kernling/kernling_controls.h"
+#include "platform/boxes.h"
+#include "platform/files.h"
+#include "platform/ground.h"
+#include "platform/procedure.h"
+#include "platform/product.h"
+#include "platform/word_lists.h"
+
+#include <QLabel>
+
+using namespace Qt::StringLiterals;
+
+void KernlingDesk::tell(const QString &text) const
+{
+    ground.boxes.ShowInfoBox(text, BoxSign::Info, product::name);
+}
+
+void KernlingDesk::Init() { Init2(mainLists.CurrentWortelFile); }
+
+void KernlingDesk::Init2(const QString &path)
+{
+    Procedure step{ground.log, "Init2", "FrmKernling"};
+    step([&] { lists.wortellist.clear(); });
+    if (IsTextFile(path))
+        step([&] { lists.wortellist.addAll(readListFile(path)); });
+    controls.Label16->setText(listBaseName(path));
+    const int stems = lists.wortellist.count();
+    controls.Label17->setText(stems == 0   ? u"keine Wortstämme"_s
+                              : stems == 1 ? u"1 Wortstamm"_s
+                                           : u"%1 Wortstämme"_s.arg(stems));
+}

@@ -1,0 +1,163 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "games/kernling/stem_marking.h"
+
+#include "games/kernling/kernling_controls.h"
+#include "games/kernling/kernling_desk.h"
+#include "games/kernling/kernling_text.h"
+#include "games/kernling/kernling_work_view.h"
+#include "games/kernling/text_words.h"
+#include "platform/boxes.h"
+#include "platform/ground.h"
+#include "platform/options.h"
+#include "platform/procedure.h"
+#include "platform/product.h"
+#include "platform/sound.h"
+#include "widgets/colour.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+using kernling::Verdict;
+
+namespace {
+
+constexpr auto form = "FrmKernling";
+constexpr int rightSound = 112;
+constexpr std::size_t runsAtOnce = 2000; ///< painted between two looks at the hand
+
+/// Somebody may mark the whole text: no list and no answer shows more of it than this. The longest text of
+/// look-alike stems is shorter.
+QString shortened(const QString &text)
+{
+    constexpr qsizetype mostLetters = 500;
+    return text.size() <= mostLetters ? text : text.left(mostLetters) + QChar(0x2026);
+}
+
+void AppendColoured(QTextEdit &rtf, const QString &text, Colour colour)
+{
+    QTextCharFormat format;
+    format.setForeground(toQColor(colour));
+    rtf.textCursor().insertText(text, format);
+}
+
+} // namespace
+
+StemMarking::StemMarking(KernlingDesk &desk, const WordTests &tests)
+    : desk_(desk)
+    , judge_(desk.lists, tests, desk.ground.AppFolder)
+{}
+
+kernling::VerdictOptions StemMarking::options() const
+{
+    const Options &options = desk_.ground.options;
+    return {.KernlingShowNoDup = options.box(Setting::KernlingShowNoDup),
+            .KernlingShowFalse = options.box(Setting::KernlingShowFalse),
+            .KernlingUseSounds = options.box(Setting::KernlingUseSounds),
+            .storedUseSounds = options.storedIsOn(Setting::KernlingUseSounds)};
+}
+
+void StemMarking::HighLightSelection()
+{
+    Procedure step{desk_.ground.log, "HighLightSelection", form};
+    KernlingText &text = *desk_.controls.RTF;
+    const KernlingText::Run run = text.selection();
+    Verdict verdict;
+    step([&] { verdict = judge_.judge(text.selectedText(), options()); });
+    if (run.length == 0 || verdict.kind == Verdict::Kind::Nothing)
+        return;
+    if (verdict.kind == Verdict::Kind::Stem) {
+        step([&] { text.paintRuns({run}, toQColor(kernling::stemColour)); });
+        text.select({run.start, 0});
+    }
+    step([&] { keep(verdict); });
+    step([&] { show(verdict); });
+}
+
+/// Adds the verdict's rows to the result lists and shows their counts.
+void StemMarking::keep(const Verdict &verdict)
+{
+    if (verdict.foundRow)
+        desk_.lists.UserFoundWortelList.add(*verdict.foundRow);
+    if (verdict.falseRow)
+        desk_.lists.UserFalseWortelList.add(shortened(*verdict.falseRow));
+    const auto showCount = [](QLabel *label, const std::optional<int> &count) {
+        if (count)
+            label->setText(QString::number(*count));
+    };
+    showCount(desk_.controls.Label3, verdict.Label3);
+    showCount(desk_.controls.Label8, verdict.Label8);
+    showCount(desk_.controls.Label14, verdict.Label14);
+}
+
+void StemMarking::show(const Verdict &verdict)
+{
+    QTextEdit &answer = *desk_.controls.rtfResponse;
+    answer.clear();
+    for (const kernling::VerdictPiece &piece : verdict.pieces)
+        AppendColoured(answer, shortened(piece.text), piece.colour);
+    answer.moveCursor(QTextCursor::Start);
+    answer.setAccessibleDescription(answer.toPlainText());
+    desk_.controls.Text1->setText(verdict.Text1);
+    desk_.controls.Image1->setVisible(verdict.Image1);
+    if (verdict.tone == Verdict::Tone::Right)
+        desk_.ground.sound.PlayResourceSound(rightSound);
+    else if (verdict.tone == Verdict::Tone::Beep)
+        QApplication::beep();
+    if (!verdict.complaint.isEmpty())
+        desk_.ground.boxes.plainBox(Boxes::Icon::Warning, product::name, verdict.complaint);
+}
+
+void StemMarking::Locate_and_Higlight(const QStringList &words)
+{
+    Procedure step{desk_.ground.log, "Locate_and_Higlight", form};
+    KernlingText &text = *desk_.controls.RTF;
+    const QString letters = text.text();
+    std::vector<KernlingText::Run> runs;
+    step([&] {
+        for (const QString &word : words)
+            for (const qsizetype hit : kernling::wholeWordHits(letters, word))
+                runs.push_back({static_cast<int>(hit), static_cast<int>(word.size())});
+    });
+    if (runs.empty())
+        return;
+    Work work(desk_.ground, {WorkPlan::Bar | WorkPlan::Cancel, std::max(1, static_cast<int>(runs.size()))},
+              &desk_.view);
+    Verdict last;
+    for (std::size_t begin = 0; begin < runs.size() && work.goesOn(); begin += runsAtOnce) {
+        const std::size_t end = std::min(runs.size(), begin + runsAtOnce);
+        std::vector<KernlingText::Run> painted;
+        for (std::size_t at = begin; at < end; ++at) {
+            const Verdict verdict = judge_.judge(letters.mid(runs[at].start, runs[at].length), options());
+            if (verdict.kind == Verdict::Kind::Stem)
+                painted.push_back(runs[at]);
+            step([&] { keep(verdict); });
+            last = verdict;
+        }
+        step([&] { text.paintRuns(painted, toQColor(kernling::stemColour), begin > 0); });
+        desk_.view.setValue(static_cast<int>(end));
+    }
+    if (last.kind != Verdict::Kind::Nothing && !desk_.ground.gate.isClosing())
+        step([&] { show(last); });
+}
+
+void StemMarking::cmdUnHighlight_Click() { desk_.controls.RTF->unpaint(desk_.controls.RTF->selection()); }
+
+void StemMarking::cmdResetColors_Click() { desk_.controls.RTF->unpaintAll(); }
+
+void StemMarking::clearFound()
+{
+    desk_.lists.UserFoundWortelList.clear();
+    desk_.controls.Label3->setText(u"0"_s);
+    desk_.controls.Label8->setText(u"0"_s);
+}
+
+void StemMarking::clearFalse()
+{
+    desk_.lists.UserFalseWortelList.clear();
+    desk_.controls.Label14->setText(u"0"_s);
+}

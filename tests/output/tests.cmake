@@ -1,0 +1,7 @@
+# SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+# SPDX-License-Identifier: GPL-3.0-or-later
+wortel_test(output
+    SOURCES
+        tst_html_to_text.cpp
+        tst_text_loading.cpp
+)
