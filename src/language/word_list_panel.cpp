@@ -6,17 +6,14 @@
 #include "language/dictionary_panel.h"
 #include "language/list_stand.h"
 #include "language/word_tests.h"
+#include "output/columns/word_list_saving.h"
 #include "platform/boxes.h"
-#include "platform/file_dialogs.h"
-#include "platform/files.h"
 #include "platform/gate.h"
 #include "platform/ground.h"
 #include "platform/options.h"
 #include "platform/play_state.h"
 #include "platform/procedure.h"
 #include "platform/product.h"
-#include "platform/settings_store.h"
-#include "platform/text_encoding.h"
 #include "platform/word_lists.h"
 #include "widgets/gradient.h"
 #include "widgets/main_controls.h"
@@ -30,8 +27,6 @@
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
-
-namespace {} // namespace
 
 WordListPanel::WordListPanel(Ground &ground, const MainControls &controls, WordLists &lists,
                              const PlayState &play, const WordTests &tests, DictionaryPanel &dictionary,
@@ -118,32 +113,10 @@ void WordListPanel::editByMenu()
 
 void WordListPanel::Save_Result()
 {
-    Procedure step{ground_.log, "Save_Result", "frmMain"};
-    if (lists_.CorrectWordList.isEmpty()) {
-        step([&] {
-            ground_.boxes.ShowInfoBox(u"Es gibt noch keine richtigen Wörter zum Speichern !"_s, BoxSign::Info,
-                                      product::name);
-        });
-        return;
-    }
-    const QString folder = ground_.store.GetSetting(u"Path"_s, u"Export"_s, ground_.AppFolder);
-    QString path;
-    step([&] {
-        path = ground_.fileDialogs.saveFile(u"Richtige Wörter Speichern"_s, folder,
-                                            u"Text files (*.txt)|*.txt"_s, u".txt"_s);
-    });
-    if (path.isEmpty())
-        return;
-    const QString text = lists_.CorrectWordList.rows().join(u"\r\n"_s) + u"\r\n"_s;
-    if (!step([&] { writeFileAtomically(path, encodeText(text)); })) {
-        step([&] {
-            ground_.boxes.plainBox(Boxes::Icon::Warning, u"Wortel - Fehler"_s,
-                                   u"Die richtigen Wörter konnten nicht in die Datei geschrieben werden"_s);
-        });
-        return;
-    }
-    step([&] { emit wordListSaved(path); });
-    step([&] { ground_.store.SaveSetting(u"Path"_s, u"Export"_s, path.left(path.lastIndexOf(u'\\'))); });
+    saveWordList(ground_, lists_.CorrectWordList.rows(),
+                 {"frmMain", u"Richtige Wörter Speichern",
+                  u"Es gibt noch keine richtigen Wörter zum Speichern !", u"Wortel - Fehler",
+                  u"Die richtigen Wörter konnten nicht in die Datei geschrieben werden"});
 }
 
 void WordListPanel::CorrectWordsToClip()

@@ -51,6 +51,7 @@ Rooms::Rooms(Ground &ground, const Hall &hall)
     , backup(ground, canvas, news)
     , sessions(ground, hall.controls, hall.lists, {canvas, loader, news})
     , fileType(ground.log, QCoreApplication::applicationFilePath())
+    , printing(ground, hall.controls, hall.lists, canvas)
     , strip(ground, hall.controls)
     , retype(ground, hall.controls, hall.lists, hall.play,
              {hall.sheet, hall.status, strip, maker, check, tests, dictionary, canvas, news})

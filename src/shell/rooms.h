@@ -28,6 +28,7 @@
 #include "language/word_check.h"
 #include "language/word_list_panel.h"
 #include "language/word_tests.h"
+#include "output/printing/printing.h"
 #include "persistence/backup.h"
 #include "persistence/file_type.h"
 #include "persistence/sessions.h"
@@ -99,6 +100,9 @@ struct Rooms
     Backup backup;
     Sessions sessions;
     FileType fileType;
+
+    // output
+    Printing printing;
 
     // games
     StripControl strip;
