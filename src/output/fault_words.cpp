@@ -16,7 +16,7 @@ QString faultWords(const RuntimeError &error)
     case RuntimeError::PermissionDenied:
         return u"Dort darf nicht geschrieben oder gelesen werden."_s;
     case RuntimeError::PathAccess:
-        return u"Unter diesem Namen kann keine Datei geschrieben oder gelesen werden."_s;
+        return u"Diese Datei kann nicht geschrieben oder gelesen werden."_s;
     case RuntimeError::PathNotFound:
         return u"Den Ordner gibt es nicht."_s;
     case RuntimeError::PrinterError:

@@ -18,7 +18,7 @@ constexpr int mostRows = 32767;
 
 const QString lineEnd = u"\r\n"_s;
 
-int withinColumns(int count) { return std::clamp(count, 1, columns::most); }
+int withinColumns(int count) { return std::clamp(count, 1, word_columns::most); }
 
 /// A number field of the options holds digits of any length, or none.
 int numberOf(const Options &options, Setting id)
@@ -26,9 +26,9 @@ int numberOf(const Options &options, Setting id)
     return static_cast<int>(std::clamp(options.number(id), 0.0, double(mostRows)));
 }
 
-QString padded(const columns::Rows &rows)
+QString padded(const word_columns::Rows &rows)
 {
-    std::array<qsizetype, columns::most> widths{};
+    std::array<qsizetype, word_columns::most> widths{};
     for (const QStringList &row : rows)
         for (qsizetype column = 0; column < row.size(); ++column) {
             qsizetype &width = widths[static_cast<std::size_t>(column)];
@@ -47,7 +47,7 @@ void write(const QString &path, const QString &text) { writeFileAtomically(path,
 
 } // namespace
 
-columns::Rows columns::across(const QStringList &words, int count)
+word_columns::Rows word_columns::across(const QStringList &words, int count)
 {
     const int width = withinColumns(count);
     Rows rows;
@@ -56,7 +56,7 @@ columns::Rows columns::across(const QStringList &words, int count)
     return rows;
 }
 
-columns::Rows columns::inBlocks(const QStringList &words, int count, int blockRows)
+word_columns::Rows word_columns::inBlocks(const QStringList &words, int count, int blockRows)
 {
     const qsizetype height = std::max(blockRows, 1);
     const qsizetype block = height * withinColumns(count);
@@ -71,7 +71,7 @@ columns::Rows columns::inBlocks(const QStringList &words, int count, int blockRo
     return rows;
 }
 
-columns::Rows columns::asWished(const QStringList &words, const Options &options)
+word_columns::Rows word_columns::asWished(const QStringList &words, const Options &options)
 {
     const int count = numberOf(options, Setting::SaveNoColumns);
     if (options.isOn(Setting::SaveCopyWithCol))
@@ -81,7 +81,7 @@ columns::Rows columns::asWished(const QStringList &words, const Options &options
     return across(words, 1);
 }
 
-void columns::writeList(const QString &path, const QStringList &words, const Options &options)
+void word_columns::writeList(const QString &path, const QStringList &words, const Options &options)
 {
     write(path, words.isEmpty() ? QString() : words.join(lineEnd) + lineEnd);
     const int count = numberOf(options, Setting::SaveNoColumns);
@@ -93,10 +93,10 @@ void columns::writeList(const QString &path, const QStringList &words, const Opt
 
 void Columnize(const QString &inFile, const QString &outFile, int columnCount)
 {
-    write(outFile, padded(columns::across(readListFile(inFile, true), columnCount)));
+    write(outFile, padded(word_columns::across(readListFile(inFile, true), columnCount)));
 }
 
 void ColumnizeInBlocks(const QString &inFile, const QString &outFile, int columnCount, int blockRows)
 {
-    write(outFile, padded(columns::inBlocks(readListFile(inFile, true), columnCount, blockRows)));
+    write(outFile, padded(word_columns::inBlocks(readListFile(inFile, true), columnCount, blockRows)));
 }

@@ -11,7 +11,7 @@ class Options;
 
 /// Words of a list in columns: as text files, and as what a printer puts on paper. Each row holds its cells
 /// from the left; a short row has fewer.
-namespace columns {
+namespace word_columns {
 
 using Rows = std::vector<QStringList>;
 
@@ -31,7 +31,7 @@ Rows asWished(const QStringList &words, const Options &options);
 /// writeFileAtomically.
 void writeList(const QString &path, const QStringList &words, const Options &options);
 
-} // namespace columns
+} // namespace word_columns
 
 /// Reads the lines of `inFile`, trimmed, and writes them to `outFile` (which may be the same) across as many
 /// columns, each padded with blanks to its longest cell and 5 more, the last one too. Throws RuntimeError as

@@ -33,7 +33,7 @@ void saveWordList(Ground &ground, const QStringList &words, const WordListSaving
     });
     if (path.isEmpty())
         return;
-    if (!step([&] { columns::writeList(path, words, ground.options); })) {
+    if (!step([&] { word_columns::writeList(path, words, ground.options); })) {
         step([&] {
             ground.boxes.plainBox(Boxes::Icon::Warning, text(saving.faultTitle), text(saving.fault));
         });

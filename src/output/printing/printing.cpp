@@ -172,7 +172,7 @@ void Printing::PrintCorrectWords()
     if (!job)
         return;
     print("PrintCorrectWords", *job, [&](QPainter &painter, QPagedPaintDevice &device) {
-        paintWords(painter, device, columns::asWished(words, ground_.options));
+        paintWords(painter, device, word_columns::asWished(words, ground_.options));
     });
 }
 

@@ -3,7 +3,6 @@
 #include "output/printing/text_pages.h"
 
 #include <QAbstractTextDocumentLayout>
-#include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QPageLayout>
 #include <QPagedPaintDevice>
@@ -39,52 +38,65 @@ protected:
     QVariant loadResource(int, const QUrl &) override { return {}; }
 };
 
-/// The page in dots of the screen, in which text is laid out; the origin is where printing begins.
+/// The page in inches, from where printing begins.
 struct Page
 {
     explicit Page(const QPagedPaintDevice &device)
-        : dots(QGuiApplication::primaryScreen()->logicalDotsPerInchY())
-        , scale(device.logicalDpiY() / dots)
     {
         const QMarginsF offset = device.pageLayout().margins(QPageLayout::Inch);
         const QSizeF paper = device.pageLayout().fullRect(QPageLayout::Inch).size();
-        const QRectF inches(
-            QPointF(sideMargin / twipsPerInch - offset.left(), upperMargin / twipsPerInch - offset.top()),
-            QPointF(paper.width() - sideMargin / twipsPerInch - offset.left(),
-                    paper.height() - upperMargin / twipsPerInch - offset.top()));
-        text = QRectF(inches.topLeft() * dots, inches.size() * dots);
-        middle = (paper.width() / 2 - offset.left()) * dots;
+        const double side = sideMargin / twipsPerInch;
+        const double upper = upperMargin / twipsPerInch;
+        text = QRectF(QPointF(side - offset.left(), upper - offset.top()),
+                      QPointF(paper.width() - side - offset.left(), paper.height() - upper - offset.top()));
+        middle = paper.width() / 2 - offset.left();
     }
-    double ofTwips(double twips) const { return twips / twipsPerInch * dots; }
 
-    double dots;  ///< of the screen, an inch
-    double scale; ///< dots of the paper a dot of the screen
     QRectF text;
     double middle; ///< of the paper's width
 };
 
-void printCentred(QPainter &painter, const Page &page, double top, const QString &word)
+/// What stands around the text of a page.
+class Marks
 {
-    const QFontMetricsF metrics(painter.font());
-    painter.drawText(QPointF(page.middle - metrics.horizontalAdvance(word) / 2, top + metrics.ascent()),
-                     word);
-}
+public:
+    Marks(QPainter &painter, const QPagedPaintDevice &device, const Page &page)
+        : painter_(painter)
+        , page_(page)
+        , font_(u"Arial"_s)
+        , dots_(device.logicalDpiY())
+    {
+        font_.setPointSizeF(markSize);
+        font_.setHintingPreference(QFont::PreferNoHinting);
+    }
 
-void printMarks(QPainter &painter, const Page &page, int number, const QString &headerWord,
-                const QString &footerWord)
-{
-    QFont font(u"Arial"_s);
-    font.setPointSizeF(markSize);
-    painter.setFont(font);
-    painter.setPen(Qt::black);
-    const QFontMetricsF metrics(font);
-    const QString mark = u"- %1 -"_s.arg(number);
-    painter.drawText(QPointF(page.text.right() - metrics.horizontalAdvance(mark),
-                             page.ofTwips(markTop) + metrics.ascent()),
-                     mark);
-    printCentred(painter, page, page.ofTwips(upperMargin / 2.0), headerWord);
-    printCentred(painter, page, page.text.bottom() + page.ofTwips(upperMargin / 4.0), footerWord);
-}
+    void print(int number, const QString &headerWord, const QString &footerWord)
+    {
+        painter_.setFont(font_);
+        painter_.setPen(Qt::black);
+        const QString mark = u"- %1 -"_s.arg(number);
+        printAt(page_.text.right() * dots_ - widthOf(mark), markTop / twipsPerInch, mark);
+        printCentred(upperMargin / twipsPerInch / 2, headerWord);
+        printCentred(page_.text.bottom() + upperMargin / twipsPerInch / 4, footerWord);
+    }
+
+private:
+    double widthOf(const QString &word) const { return painter_.fontMetrics().horizontalAdvance(word); }
+    void printCentred(double top, const QString &word)
+    {
+        printAt(page_.middle * dots_ - widthOf(word) / 2, top, word);
+    }
+    /// `left` in dots, `top` in inches.
+    void printAt(double left, double top, const QString &word)
+    {
+        painter_.drawText(QPointF(left, top * dots_ + painter_.fontMetrics().ascent()), word);
+    }
+
+    QPainter &painter_;
+    const Page &page_;
+    QFont font_;
+    double dots_; ///< of the paper, an inch
+};
 
 } // namespace
 
@@ -92,23 +104,28 @@ void paintText(QPainter &painter, QPagedPaintDevice &device, const QTextDocument
                const QString &headerWord, const QString &footerWord)
 {
     const Page page(device);
+    Marks marks(painter, device, page);
+    // The text is laid out in dots of the screen, in which its letters and pictures may be measured.
+    const double dots = QGuiApplication::primaryScreen()->logicalDotsPerInchY();
+    const double scale = device.logicalDpiY() / dots;
+    const QRectF room(page.text.topLeft() * dots, page.text.size() * dots);
     PaperText paper(text);
-    paper.setPageSize(page.text.size());
-    painter.scale(page.scale, page.scale);
+    paper.setPageSize(room.size());
     const int count = paper.pageCount();
     for (int number = 1;; ++number) {
-        const double top = (number - 1) * page.text.height();
-        painter.save();
-        painter.translate(page.text.left(), page.text.top() - top);
+        const double top = (number - 1) * room.height();
         QAbstractTextDocumentLayout::PaintContext context;
         context.palette.setColor(QPalette::Text, Qt::black);
-        context.clip = QRectF(0, top, page.text.width(), page.text.height());
+        context.clip = QRectF(0, top, room.width(), room.height());
+        painter.save();
+        painter.scale(scale, scale);
+        painter.translate(room.left(), room.top() - top);
         painter.setClipRect(context.clip);
         paper.documentLayout()->draw(&painter, context);
         painter.restore();
         if (number >= count)
             break; // the last page deliberately gets no marks
-        printMarks(painter, page, number, headerWord, footerWord);
+        marks.print(number, headerWord, footerWord);
         device.newPage();
     }
 }

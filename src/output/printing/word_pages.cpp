@@ -15,10 +15,10 @@ namespace {
 constexpr double letterSize = 12; ///< points
 constexpr int gap = 2;            ///< average letters between two columns
 
-using Widths = std::array<double, columns::most>;
+using Widths = std::array<double, word_columns::most>;
 
 /// What each column would like to have, with the gap behind it.
-Widths naturalWidths(const columns::Rows &rows, const QFontMetricsF &metrics)
+Widths naturalWidths(const word_columns::Rows &rows, const QFontMetricsF &metrics)
 {
     const double space = gap * metrics.averageCharWidth();
     Widths widths{};
@@ -114,7 +114,7 @@ private:
 
 } // namespace
 
-void paintWords(QPainter &painter, QPagedPaintDevice &device, const columns::Rows &rows)
+void paintWords(QPainter &painter, QPagedPaintDevice &device, const word_columns::Rows &rows)
 {
     QFont font = painter.font();
     font.setPointSizeF(letterSize);

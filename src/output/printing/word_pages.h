@@ -9,4 +9,4 @@ class QPainter;
 
 /// Prints rows of words in their columns, from the top of the page on and on as many pages as they need. A
 /// word that is too long for its column goes on below.
-void paintWords(QPainter &painter, QPagedPaintDevice &device, const columns::Rows &rows);
+void paintWords(QPainter &painter, QPagedPaintDevice &device, const word_columns::Rows &rows);

@@ -31,7 +31,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto form = "FrmSaveAsWeb";
-constexpr QSize wishedSize{800, 420};
+constexpr QSize wishedSize{800, 392};
 
 /// The folder of a stored path, with its backslash.
 QString folderOf(const QString &path) { return path.left(path.lastIndexOf(u'\\') + 1); }

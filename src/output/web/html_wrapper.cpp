@@ -17,7 +17,24 @@ const QByteArray openScript = R"(<SCRIPT LANGUAGE="JavaScript"type=text/javascri
 /// Control characters show nothing, and their numbers mean other letters to a browser.
 bool isShown(char32_t character) { return character >= 0xA0 || (character >= 0x20 && character < 0x7F); }
 
-bool isMarkup(char32_t character) { return QStringView(u"&<>\"'").contains(QChar(char16_t(character))); }
+/// The names of what would be markup.
+QStringView entity(char32_t character)
+{
+    switch (character) {
+    case U'&':
+        return u"&amp;";
+    case U'<':
+        return u"&lt;";
+    case U'>':
+        return u"&gt;";
+    case U'"':
+        return u"&quot;";
+    case U'\'':
+        return u"&#39;";
+    default:
+        return {};
+    }
+}
 
 QString pictureBlock(const PagePicture &picture, const QString &id)
 {
@@ -34,9 +51,11 @@ QString htmlText(const QString &text)
     html.reserve(text.size());
     for (const uint code : text.toUcs4()) {
         const char32_t character = code;
-        if (character == u'\t')
+        if (const QStringView name = entity(character); !name.isEmpty())
+            html += name;
+        else if (character == U'\t')
             html += u' ';
-        else if (character < 0x7F && isShown(character) && !isMarkup(character))
+        else if (character < 0x7F && isShown(character))
             html += QChar(static_cast<char16_t>(character));
         else
             html += u"&#%1;"_s.arg(uint(isShown(character) ? character : unknown));

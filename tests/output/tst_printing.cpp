@@ -1,0 +1,403 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "output/pdf.h"
+#include "output/printing/page_fit.h"
+#include "support/columns.h"
+#include "support/error_of.h"
+#include "support/file_size_limit.h"
+#include "support/registry.h"
+#include "support/test_board.h"
+#include "widgets/gradient.h"
+
+#include <QComboBox>
+#include <QPagedPaintDevice>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTextDocument>
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+using command::From;
+
+namespace {
+
+/// The house with a printer that fills PDF files.
+struct PrintHouse : TestBoard
+{
+    using TestBoard::TestBoard;
+
+    Pdf printed() const { return Pdf(t.printer.file(t.printer.jobs.size())); }
+    Pdf words(const QStringList &list)
+    {
+        lists.CorrectWordList.clear();
+        lists.CorrectWordList.addAll(list);
+        run(From::MainMenu, 504);
+        return printed();
+    }
+    Pdf boardOnPaper()
+    {
+        run(From::MainMenu, 1904);
+        return printed();
+    }
+    QSize boardSize() const { return {controls.picCanvas->width(), controls.Picture1->y()}; }
+    QString told() const
+    {
+        return t.boxes.asked.isEmpty() ? QString()
+                                       : t.boxes.asked.last().title + u'|' + t.boxes.asked.last().text;
+    }
+};
+
+/// The colour of a board pixel on paper, on a page of a hundred dots an inch with margins of 10 mm.
+QColor onPaper(const QImage &page, const QSize &board, QPoint pixel)
+{
+    const double margin = 10 / 25.4 * 100;
+    const double scale =
+        std::min((page.width() - 2 * margin) / board.width(), (page.height() - 2 * margin) / board.height());
+    return page.pixelColor(qRound(margin + pixel.x() * scale), qRound(margin + pixel.y() * scale));
+}
+
+/// Where something is printed within an area.
+QRect inkIn(const QImage &page, const QRect &area)
+{
+    QRect ink;
+    for (int y = area.top(); y <= area.bottom(); ++y)
+        for (int x = area.left(); x <= area.right(); ++x)
+            if (page.pixelColor(x, y).lightness() < 128)
+                ink |= QRect(x, y, 1, 1);
+    return ink;
+}
+
+QStringList numbers(int count)
+{
+    QStringList all;
+    for (int i = 0; i < count; ++i)
+        all << u"w%1"_s.arg(i, 5, 10, QChar(u'0'));
+    return all;
+}
+
+} // namespace
+
+/// What comes out of the printer, page by page.
+class PrintingTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void pictureOnPage_data()
+    {
+        columns<QSizeF, QSizeF, bool, QSizeF>("picture", "page", "across", "size");
+        QTest::newRow("wide") << QSizeF(200, 100) << QSizeF(300, 200) << true << QSizeF(300, 150);
+        QTest::newRow("high") << QSizeF(100, 200) << QSizeF(200, 300) << false << QSizeF(150, 300);
+        QTest::newRow("square goes across") << QSizeF(10, 10) << QSizeF(300, 200) << true << QSizeF(200, 200);
+        QTest::newRow("same shape") << QSizeF(30, 20) << QSizeF(300, 200) << true << QSizeF(300, 200);
+        QTest::newRow("none") << QSizeF(0, 0) << QSizeF(300, 200) << true << QSizeF();
+    }
+    void pictureOnPage()
+    {
+        QFETCH(QSizeF, picture);
+        QFETCH(QSizeF, page);
+        QTEST(page_fit::goesAcross(picture), "across");
+        QTEST(page_fit::fitted(picture, page), "size");
+    }
+
+    // clang-format off
+    void wordsInColumns_data()
+    {
+        columns<int, QString, QString, QStringList>("layout", "count", "rows", "lines");
+        const int lf = int(Setting::SaveCopyWithLF);
+        const int across = int(Setting::SaveCopyWithCol);
+        const int blocks = int(Setting::SaveCopyWithColBl);
+        QTest::newRow("below") << lf << u"3"_s << u"3"_s << QStringList{u"Ähre"_s, u"Bär"_s, u"Clown"_s, u"Dose"_s, u"Esel"_s};
+        QTest::newRow("across") << across << u"3"_s << u"3"_s << QStringList{u"Ähre Bär Clown"_s, u"Dose Esel"_s};
+        QTest::newRow("nine are four") << across << u"9"_s << u"3"_s << QStringList{u"Ähre Bär Clown Dose"_s, u"Esel"_s};
+        QTest::newRow("none is one") << across << u"0"_s << u"3"_s << QStringList{u"Ähre"_s, u"Bär"_s, u"Clown"_s, u"Dose"_s, u"Esel"_s};
+        QTest::newRow("blocks") << blocks << u"2"_s << u"2"_s << QStringList{u"Ähre Clown"_s, u"Bär Dose"_s, u"Esel"_s};
+        QTest::newRow("no rows") << blocks << u"2"_s << u"0"_s << QStringList{u"Ähre Bär"_s, u"Clown Dose"_s, u"Esel"_s};
+        QTest::newRow("many rows") << blocks << u"4"_s << u"9999"_s << QStringList{u"Ähre"_s, u"Bär"_s, u"Clown"_s, u"Dose"_s, u"Esel"_s};
+    }
+    // clang-format on
+    void wordsInColumns()
+    {
+        QFETCH(int, layout);
+        QFETCH(QString, count);
+        QFETCH(QString, rows);
+        PrintHouse house;
+        house.t.options.setOption(static_cast<Setting>(layout));
+        house.t.options.setText(Setting::SaveNoColumns, count);
+        house.t.options.setText(Setting::SaveNoBlocks, rows);
+        const Pdf paper = house.words({u"Clown"_s, u"Ähre"_s, u"Esel"_s, u"Dose"_s, u"Bär"_s});
+        QTEST(paper.lines(1), "lines");
+        QCOMPARE(paper.pages(), 1);
+        QCOMPARE(house.t.printer.jobs.last().title, u"Wörterliste"_s);
+        QCOMPARE(house.t.printer.jobs.last().printer, u"Klasse 3"_s);
+    }
+
+    void manyWordsAndLongOnes()
+    {
+        PrintHouse house;
+        const QStringList many = numbers(10000);
+        const Pdf paper = house.words(many);
+        QVERIFY(paper.pages() > 100);
+        QCOMPARE(paper.words(), many);
+        house.t.options.setOption(Setting::SaveCopyWithCol);
+        house.t.options.setText(Setting::SaveNoColumns, u"4"_s);
+        const Pdf wide = house.words(
+            {QString(500, u'a'), QString(500, u'b'), QString(500, u'c'), QString(500, u'd'), u"kurz"_s});
+        QString all = wide.words().join(QString());
+        QCOMPARE(all.count(u'a'), 500); // nothing is cut off
+        QCOMPARE(all.count(u'd'), 500);
+        QVERIFY(all.endsWith(u"kurz"_s));
+    }
+
+    void noWords()
+    {
+        PrintHouse house;
+        house.t.boxes.willBeRead();
+        house.run(From::MainMenu, 504);
+        QCOMPARE(house.told(), u"Wortel-Meister|Es gibt noch keine richtigen Wörter zum Drucken !"_s);
+        QVERIFY(house.t.printer.jobs.isEmpty());
+    }
+
+    void boardInColour()
+    {
+        PrintHouse house;
+        house.t.options.setBox(Setting::PrintInColor, 1);
+        house.lay(wortelKind, 60, 50, u"läuf"_s);
+        house.lay(prefixKind, 400, 300, u"ver"_s);
+        house.r.store.tiles().front()->Selected = true;
+        const Pdf paper = house.boardOnPaper();
+        const QSize board = house.boardSize();
+        QCOMPARE(paper.pages(), 1);
+        QCOMPARE(paper.pageSize(), u"842 x 595 pts (A4)"_s); // the board is wider than high
+        QCOMPARE(paper.lines(1), (QStringList{u"läuf"_s, u"ver"_s}));
+        QVERIFY2(!paper.holdsPictures(), "a magnified picture is not sharp");
+        const QImage page = paper.picture(1, 100);
+        QCOMPARE(onPaper(page, board, {66, 54}), QColor(255, 0, 0));
+        QCOMPARE(onPaper(page, board, {404, 304}), QColor(255, 255, 0));
+        QCOMPARE(onPaper(page, board, {300, 300}), QColor(0, 128, 192));
+        QCOMPARE(page.pixelColor(15, 15), QColor(Qt::white)); // the margin
+        QVERIFY(!house.r.store.tiles().front()->Selected);
+        QCOMPARE(house.trouble(), QString());
+    }
+
+    void boardBlackOnWhite()
+    {
+        PrintHouse house;
+        house.lay(wortelKind, 60, 50, u"lauf"_s);
+        house.lay(prefixKind, 400, 300, u"ver"_s);
+        house.tool(house.controls.OptType[1]); // prefixes only: black and white takes all tiles nevertheless
+        const Pdf paper = house.boardOnPaper();
+        QCOMPARE(paper.lines(1), (QStringList{u"lauf"_s, u"ver"_s}));
+        const QImage page = paper.picture(1, 100);
+        const QSize board = house.boardSize();
+        QCOMPARE(onPaper(page, board, {66, 54}), QColor(Qt::white));
+        QCOMPARE(onPaper(page, board, {300, 300}), QColor(Qt::white));
+        QVERIFY(onPaper(page, board, {60, 62}).lightness() < 140); // the outline
+        QCOMPARE(house.optTypes->selected(), 1);
+        house.t.options.setBox(Setting::PrintInColor, 1);
+        QCOMPARE(house.boardOnPaper().lines(1), QStringList{u"ver"_s});
+    }
+
+    void backgroundPicture()
+    {
+        PrintHouse house;
+        QImage picture(300, 200, QImage::Format_RGB32);
+        picture.fill(QColor(0, 200, 0));
+        house.controls.picCanvas->setPicture(picture);
+        const QSize board = house.boardSize();
+        const QImage grey = house.boardOnPaper().picture(1, 100);
+        house.t.options.setBox(Setting::PrintInColor, 1);
+        const QImage colour = house.boardOnPaper().picture(1, 100);
+        QCOMPARE(onPaper(colour, board, {150, 100}), QColor(0, 200, 0));
+        QCOMPARE(onPaper(colour, board, {310, 100}), QColor(0, 128, 192));
+        const QColor dull = onPaper(grey, board, {150, 100});
+        QVERIFY(dull.red() == dull.green() && dull.green() == dull.blue() && dull.red() < 200);
+        QCOMPARE(onPaper(grey, board, {310, 100}), QColor(Qt::white));
+    }
+
+    void aHighBoardStandsUpright()
+    {
+        PrintHouse house(1, QSize(480, 900));
+        QCOMPARE(house.boardOnPaper().pageSize(), u"595 x 842 pts (A4)"_s);
+    }
+
+    void highQualityIsFiner()
+    {
+        PrintHouse house;
+        house.boardOnPaper();
+        QVERIFY(!house.t.printer.jobs.last().highQuality);
+        house.t.options.setBox(Setting::PrintHighQuality, 1);
+        house.boardOnPaper();
+        PrintJob job = house.t.printer.jobs.last();
+        job.pdfFile = house.t.AppFolder + u"fein.pdf"_s;
+        QCOMPARE(SystemPrinter().begin(job)->device().logicalDpiX(), 1200);
+        job.highQuality = false;
+        QCOMPARE(SystemPrinter().begin(job)->device().logicalDpiX(), 300);
+    }
+
+    void textPages_data()
+    {
+        columns<int, QString, QString>("lines", "header", "footer");
+        QTest::newRow("nothing") << 0 << u"Wortstamm"_s << u"Kernling"_s;
+        QTest::newRow("one page") << 20 << u"Wortstamm"_s << u"Kernling"_s;
+        QTest::newRow("three pages") << 130 << u"Wortstamm"_s << u"Kernling"_s;
+        QTest::newRow("no words") << 130 << QString() << QString();
+    }
+    void textPages()
+    {
+        QFETCH(int, lines);
+        QFETCH(QString, header);
+        QFETCH(QString, footer);
+        PrintHouse house;
+        QTextDocument text;
+        text.setDefaultFont(QFont(u"Arial"_s, 10));
+        const QStringList words = numbers(lines);
+        text.setPlainText(words.join(u'\n'));
+        house.r.printing.PrintRTF(text, header, footer);
+        const Pdf paper = house.printed();
+        QCOMPARE(paper.pages(), lines > 100 ? 3 : 1);
+        QStringList found;
+        for (int page = 1; page <= paper.pages(); ++page) {
+            QStringList seen = paper.lines(page);
+            if (page < paper.pages()) { // the last page has no marks
+                QCOMPARE(seen.takeFirst().remove(u' '), u"-%1-"_s.arg(page));
+                if (!header.isEmpty())
+                    QCOMPARE(seen.takeFirst(), header);
+                if (!footer.isEmpty())
+                    QCOMPARE(seen.takeLast(), footer);
+            }
+            found << seen;
+        }
+        QCOMPARE(found, words);
+        // Page marks are letters of 10 points, a quarter of an inch below the edge, at the text's right edge.
+        const QRect mark = inkIn(paper.picture(1, 100), QRect(500, 0, 327, 80));
+        if (paper.pages() > 1)
+            QVERIFY2(QRect(690, 60, 40, 18).contains(mark), qPrintable(QDebug::toString(mark)));
+        else
+            QVERIFY(mark.isNull());
+    }
+
+    /// A text may name pictures of this machine: they are not looked for.
+    void textLoadsNothing()
+    {
+        PrintHouse house;
+        QImage secret(50, 50, QImage::Format_RGB32);
+        secret.fill(Qt::red);
+        const QString file = house.t.folder.filePath(u"geheim.png"_s);
+        QVERIFY(secret.save(file));
+        QTextDocument text;
+        text.setHtml(u"<p>vor <img src=\"file://%1\" width=50 height=50> nach</p>"_s.arg(file));
+        house.r.printing.PrintRTF(text, {}, {});
+        const QImage page = house.printed().picture(1, 50);
+        for (int y = 0; y < page.height(); ++y)
+            for (int x = 0; x < page.width(); ++x)
+                QVERIFY(page.pixelColor(x, y) != QColor(Qt::red));
+    }
+
+    void withoutAPrinter()
+    {
+        PrintHouse house;
+        house.t.printer.standard.clear();
+        house.lists.CorrectWordList.add(u"Haus"_s);
+        house.t.boxes.willAnswer(Boxes::Answer::Ok);
+        house.t.boxes.willAnswer(Boxes::Answer::No);
+        house.run(From::MainMenu, 504);
+        QCOMPARE(house.t.boxes.asked.first().title, u"Wortel-Meister - Druckerfehler"_s);
+        QCOMPARE(
+            house.t.boxes.asked.first().text,
+            u"Es kann kein voreingestellter Drucker gefunden werden. Um einen voreingestellten Drucker zu "
+            "installieren und auszuwählen, wählen Sie im Windows Startmenü: Einstellungen/Drucker und machen "
+            "Sie einen Doppelklick auf das Symbol für 'Neuer Drucker'."_s);
+        QVERIFY(house.t.printer.jobs.isEmpty());
+
+        const QString file = house.t.AppFolder + u"wörter.pdf"_s;
+        house.t.boxes.willAnswer(Boxes::Answer::Ok);
+        house.t.boxes.willAnswer(Boxes::Answer::Yes);
+        house.t.fileDialogs.willSave(file);
+        house.t.boxes.willAnswer(Boxes::Answer::Ok);
+        house.run(From::MainMenu, 504);
+        QCOMPARE(Pdf(file).lines(1), QStringList{u"Haus"_s});
+        QCOMPARE(house.told(), u"Wortel-Meister|Die Datei wurde gespeichert als "_s + file);
+        QVERIFY(house.t.ok());
+    }
+
+    void whatCannotBeWritten_data()
+    {
+        columns<QString, bool, QString>("name", "isFull", "reason");
+        QTest::newRow("no folder") << u"fort\\a.pdf"_s << false << u"Den Ordner gibt es nicht."_s;
+        QTest::newRow("a folder") << u"ordner.pdf"_s << false
+                                  << u"Diese Datei kann nicht geschrieben oder gelesen werden."_s;
+        QTest::newRow("full disk") << u"alt.pdf"_s << true << u"Auf dem Datenträger ist kein Platz mehr."_s;
+    }
+    void whatCannotBeWritten()
+    {
+        QFETCH(QString, name);
+        QFETCH(bool, isFull);
+        QFETCH(QString, reason);
+        PrintHouse house;
+        house.t.printer.standard.clear();
+        house.t.writeFile(u"alt.pdf"_s, u"alt"_s);
+        QDir(house.t.folder.path()).mkdir(u"ordner.pdf"_s);
+        for (const Boxes::Answer answer : {Boxes::Answer::Ok, Boxes::Answer::Yes, Boxes::Answer::Ok})
+            house.t.boxes.willAnswer(answer);
+        house.t.fileDialogs.willSave(house.t.AppFolder + name);
+        {
+            std::optional<FileSizeLimit> full;
+            if (isFull)
+                full.emplace(1000);
+            house.run(From::MainMenu, 1904);
+        }
+        QCOMPARE(house.told(),
+                 u"Wortel-Meister - Druckerfehler|Die Seiten konnten nicht gespeichert werden als "_s +
+                     house.t.AppFolder + name + u"\n\n"_s + reason);
+        QCOMPARE(ReadWholeFile(house.t.AppFolder + u"alt.pdf"_s), "alt");
+        QCOMPARE(house.trouble(), QString());
+        QVERIFY(house.t.ok());
+    }
+
+    void aPrinterThatVanishes()
+    {
+        PrintHouse house;
+        house.t.printer.vanishes = true;
+        house.t.boxes.willAnswer(Boxes::Answer::Ok);
+        house.run(From::MainMenu, 1904);
+        QCOMPARE(house.told(), u"Wortel-Meister - Druckerfehler|Die Seiten konnten nicht gedruckt werden.\n\n"
+                               "Der Drucker ist nicht bereit oder nicht mehr da."_s);
+        QCOMPARE(house.trouble(), QString());
+        PrintJob job;
+        job.printer = u"den gibt es nicht"_s;
+        QCOMPARE(errorOf([&] { SystemPrinter().begin(job); }), 482);
+    }
+
+    void printerSetUp()
+    {
+        PrintHouse house;
+        const auto choose = [&](const QString &printer, const QString &paper, const char *button) {
+            QTimer::singleShot(0, &house.form, [=] {
+                QWidget *window = QApplication::activeModalWidget();
+                QCOMPARE(window->windowTitle(), u"Drucker Einstellungen"_s);
+                window->findChild<QComboBox *>(u"cboPrinter"_s)->setCurrentText(printer);
+                auto *papers = window->findChild<QComboBox *>(u"cboPaper"_s);
+                papers->setCurrentIndex(papers->findText(paper, Qt::MatchStartsWith));
+                window->findChild<QRadioButton *>(u"OptOrientation(1)"_s)->click();
+                window->findChild<QPushButton *>(QLatin1String(button))->click();
+            });
+            house.run(From::MainMenu, 1905);
+        };
+        choose(u"PDF-Datei"_s, u"A5"_s, "cmdCancel");
+        QCOMPARE(house.words({u"Haus"_s}).pageSize(), u"595 x 842 pts (A4)"_s);
+        choose(u"Klasse 3"_s, u"A5"_s, "cmdOK");
+        QCOMPARE(house.words({u"Haus"_s}).pageSize(), u"595 x 420 pts (A5)"_s);
+        QCOMPARE(house.boardOnPaper().pageSize(), u"595 x 420 pts (A5)"_s);
+        choose(u"PDF-Datei"_s, u"A3"_s, "cmdOK");
+        const QString file = house.t.AppFolder + u"gewählt.pdf"_s;
+        house.t.fileDialogs.willSave(file);
+        house.t.boxes.willAnswer(Boxes::Answer::Ok);
+        house.words({u"Haus"_s});
+        QCOMPARE(Pdf(file).pageSize(), u"1191 x 842 pts (A3)"_s);
+        QVERIFY(house.t.ok());
+    }
+};
+
+WORTEL_TEST(PrintingTest)
+#include "tst_printing.moc"
