@@ -116,11 +116,12 @@ void paintText(QPainter &painter, QPagedPaintDevice &device, const QTextDocument
         const double top = (number - 1) * room.height();
         QAbstractTextDocumentLayout::PaintContext context;
         context.palette.setColor(QPalette::Text, Qt::black);
-        context.clip = QRectF(0, top, room.width(), room.height());
+        // A line that only touches the edge belongs to the next page.
+        context.clip = QRectF(0, top + 0.5, room.width(), room.height() - 1);
         painter.save();
         painter.scale(scale, scale);
         painter.translate(room.left(), room.top() - top);
-        painter.setClipRect(context.clip);
+        painter.setClipRect(QRectF(0, top, room.width(), room.height()));
         paper.documentLayout()->draw(&painter, context);
         painter.restore();
         if (number >= count)
