@@ -31,7 +31,7 @@ int main(int argc, char *argv[])
         return 0;
     }
     for (const auto scene : {scenes::boardAndBand, scenes::wordOfTiles, scenes::menus, scenes::wordsAndLists,
-                             scenes::retyping, scenes::tip, scenes::options})
+                             scenes::retyping, scenes::tip, scenes::options, scenes::webPage})
         scene(stage);
     return 0;
 }

@@ -16,5 +16,6 @@ void wordsAndLists(Stage &stage);
 void retyping(Stage &stage);
 void tip(Stage &stage);
 void options(Stage &stage);
+void webPage(Stage &stage);
 
 } // namespace scenes

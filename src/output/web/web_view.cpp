@@ -199,7 +199,8 @@ QLineEdit *WebView::makePlace(const char *name, const QString &caption)
     field->setFixedWidth(56);
     field->setMaxLength(5);
     field->setAlignment(Qt::AlignRight);
-    new clsTextBox(field, Integer_Pos);
+    (new clsTextBox(field, Integer_Pos))->pAllowColorChange = false;
+    field->setPalette({});
     return field;
 }
 
