@@ -22,7 +22,7 @@ std::unique_ptr<TestBoard> filledBoard(int count)
     auto board = std::make_unique<TestBoard>(1, fullHd);
     Rnd rnd(2);
     for (int i = 0; i < count; ++i) {
-        const auto [x, y] = places::addedWortel(rnd, fullHd.width(), fullHd.height());
+        const auto [x, y] = places::randomPlace(rnd, places::addedWortel, board->r.measures);
         board->lay(i % 3 == 2 ? prefix : wortel, x, y, stem(i));
     }
     return board;

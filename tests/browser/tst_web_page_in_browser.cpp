@@ -65,7 +65,7 @@ private:
         page.session = storedPath(folder_.filePath(u"brett.wlx"_s));
         page.file = storedPath(folder_.filePath(u"Seite ü.html"_s));
         page.title = u"Für </title><script>document.title='boese'</script>"_s;
-        page.script = QString::fromLatin1(bytesOf(u":/web/drag.js"_s));
+        page.script = bytesOf(u":/web/drag.js"_s);
         return page;
     }
     void show(const WebPage &page)

@@ -215,7 +215,7 @@ WebPage FrmSaveAsWeb::wishes() const
     page.back = view_->Picture1->colour();
     page.tileBack = view_->Picture2->colour();
     page.text = view_->Picture3->colour();
-    page.script = view_->TxtMainJava->toPlainText();
+    page.script = view_->TxtMainJava->toPlainText().toLatin1();
     return page;
 }
 

@@ -2,10 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/colours.h"
-
-#include <QByteArray>
-#include <QString>
+#include "output/web/html_text.h"
 
 #include <optional>
 
@@ -17,57 +14,58 @@ struct PagePicture
     int top = 0;
 };
 
-/// The text as HTML that shows it and can be nothing else, in ASCII whatever its letters are: a browser reads
-/// it the same in every charset. Fits into attributes between double quotes, too.
-QString htmlText(const QString &text);
-/// A colour as HTML has it: "#RRGGBB".
-QString htmlColour(Colour colour);
-
-/// Writes a page of HTML 3.2, one line a call. While no page is open every call does nothing. What is a text
-/// is written by `htmlText`; only magnets and scripts are taken as they are.
+/// Writes a page of HTML 3.2, one line a call. While no page is open every call does nothing. A QString is a
+/// text: it is shown as it is and cannot become markup; bytes are HTML or script already.
 class CHTMLWrapper
 {
 public:
     QString Filename() const { return fileName_; }
     void setFilename(const QString &storedPath) { fileName_ = storedPath; }
-    bool isOpen() const { return open_; }
 
-    void OpenHTMLDoc();
+    /// `expected` is about how many bytes the page will have.
+    void OpenHTMLDoc(qsizetype expected = 0);
     void OpenHTMLHeader(const QString &title);
-    void CloseHTMLHeader();
+    void CloseHTMLHeader() { line("</HEAD>"); }
     void OpenHTMLBody(Colour back, Colour text, const std::optional<PagePicture> &picture = {});
     /// The script, and after it the call, if there is one; then the body's end.
-    void CloseHTMLBody(const QString &script, const QString &call);
-    void CloseHTMLBody2();
+    void CloseHTMLBody(const QByteArray &script, const QByteArray &call);
+    void CloseHTMLBody2() { line("</BODY>"); }
     /// Ends the page and writes the file. Throws RuntimeError as writeFileAtomically.
     void CloseHTMLDoc();
 
-    void InsertBreak();
+    void InsertBreak() { line("<BR>"); }
     void InsertComment(const QString &text);
-    void InsertHorizontalRule();
-    void InsertJavaScript(const QString &code, const QString &noScript);
+    void InsertHorizontalRule() { line("<HR>"); }
+    void InsertJavaScript(const QByteArray &code, const QString &noScript);
     /// A link to a page, or to the address of a person.
     void InsertLink(const QString &address, const QString &text, bool isMail);
     void InsertPicture(const QString &address);
-    void StartTable(int border);
-    void StartTableRow();
-    void EndTableRow();
-    void EndTable();
-    void WriteTableData(const QString &text) { element("TD", text); }
-    void WriteTableHeader(const QString &text) { element("TH", text); }
-    void WriteBoldText(const QString &text) { element("B", text); }
-    void WriteItalicText(const QString &text) { element("I", text); }
-    void WriteParagraph(const QString &text) { element("P", text); }
-    void WritePre(const QString &text) { element("PRE", text); }
-    void WriteHeader(int level, const QString &text) { element("H" + QByteArray::number(level), text); }
-    void WriteMagnet(const QString &html);
+    void StartTable(int border) { line("<TABLE BORDER=", border, ">"); }
+    void StartTableRow() { line("<TR>"); }
+    void EndTableRow() { line("</TR>"); }
+    void EndTable() { line("</TABLE>"); }
+    void WriteTableData(const QString &text) { line("<TD>", text, "</TD>"); }
+    void WriteTableHeader(const QString &text) { line("<TH>", text, "</TH>"); }
+    void WriteBoldText(const QString &text) { line("<B>", text, "</B>"); }
+    void WriteItalicText(const QString &text) { line("<I>", text, "</I>"); }
+    void WriteParagraph(const QString &text) { line("<P>", text, "</P>"); }
+    void WritePre(const QString &text) { line("<PRE>", text, "</PRE>"); }
+    void WriteHeader(int level, const QString &text) { line("<H", level, ">", text, "</H", level, ">"); }
+    /// The parts one behind the other, as `html::append` takes them.
+    template <typename... Parts> void WriteMagnet(const Parts &...parts) { line(parts...); }
 
 private:
-    void line(const QByteArray &html);
-    void line(const QString &html);
-    void element(const QByteArray &name, const QString &text);
+    template <typename... Parts> void line(const Parts &...parts)
+    {
+        if (!open_)
+            return;
+        (html::append(page_, parts), ...);
+        html::append(page_, "\r\n");
+    }
+    void blockOf(const PagePicture &picture, const QByteArray &id, const QByteArray &size);
+    void openScript();
 
     QString fileName_;
-    QByteArray page_;
+    std::string page_;
     bool open_ = false;
 };

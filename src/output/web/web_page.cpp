@@ -5,8 +5,8 @@
 
 #include "board/tiles/tile_kind.h"
 #include "output/web/html_wrapper.h"
+#include "output/web/session_texts.h"
 #include "platform/files.h"
-#include "platform/ini_file.h"
 #include "platform/product.h"
 #include "platform/text.h"
 
@@ -15,27 +15,19 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <array>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr int farthest = 1'000'000; ///< pixels
-constexpr int mostTiles = 32767;    ///< that a session can count
 const QString maker = u"Wortel-Meister contributors"_s;
 
 /// What a session has for a number, within bounds that a browser knows as well.
 int numberOf(const QString &text, int least, int most)
 {
     return static_cast<int>(Fix(std::clamp(Val(text), double(least), double(most))));
-}
-
-/// The count of tiles as text, wherever it stands: sessions are written the first way, some are kept with
-/// section and key exchanged.
-QString countIn(const IniFile &session)
-{
-    const QString count = session.read(u"NumObjects"_s, u"ObjCounter"_s);
-    return count.isEmpty() ? session.read(u"ObjCounter"_s, u"NumObjects"_s) : count;
 }
 
 /// The picture's name alone, or where it lies on this machine.
@@ -51,54 +43,81 @@ QString addressOf(const WebPage &page)
 class TileWriter
 {
 public:
-    TileWriter(const WebPage &page, CHTMLWrapper &html)
+    TileWriter(const WebPage &page, const SessionTexts &session, CHTMLWrapper &html)
         : page_(page)
+        , session_(session)
         , html_(html)
-    {}
-
-    void write(const IniFile &session, int number)
+        , border_(page.framed ? "border:1px solid #ccc; " : "border:0px; ")
+        , size_(page.letterSteps > 0 ? " size=+" + QByteArray::number(page.letterSteps) : QByteArray())
     {
-        const QString section = u"Morpheme"_s + QString::number(number);
-        const QString type = session.read(section, u"Type"_s);
-        const QString left = session.read(section, u"Left"_s);
-        const QString top = session.read(section, u"Top"_s);
-        const QString caption = session.read(section, u"Caption"_s);
-        if (type.isEmpty() || left.isEmpty() || top.isEmpty() || caption.isEmpty())
-            return;
-        takeColours(type);
-        html_.WriteMagnet(
-            u"<div style=\"%1position:absolute; top: %2px; left:%3px;\" id= \"Word%4\"><table cellpadding=1>"_s
-                .arg(page_.framed ? u"border:1px solid #ccc; "_s : u"border:0px; "_s)
-                .arg(numberOf(top, -farthest, farthest))
-                .arg(numberOf(left, -farthest, farthest))
-                .arg(number));
-        html_.WriteMagnet(u"<tr><td bg bgcolor=%1>"_s.arg(htmlColour(back_)));
-        const QString size = page_.letterSteps > 0 ? u" size=+%1"_s.arg(page_.letterSteps) : QString();
-        html_.WriteMagnet(u"<font color=%1%2>"_s.arg(htmlColour(text_), size));
-        html_.WriteMagnet(htmlText(caption));
-        html_.WriteMagnet(u"</font>"_s);
-        html_.WriteMagnet(u"</td></tr></table></div>"_s);
-        ids_ += u"\"Word%1\","_s.arg(number);
+        for (std::size_t i = 0; i < tileKinds.size(); ++i)
+            looks_[i] = {QString::fromUtf16(tileKinds[i].sessionWord).toLatin1(),
+                         lookOf(tileKinds[i].back, tileKinds[i].text)};
     }
 
-    QString ids() const { return ids_; }
+    void write(int number)
+    {
+        const SessionTexts::Tile *tile = session_.tile(number);
+        if (tile == nullptr || !tile->isWhole())
+            return;
+        if (!page_.ownColours)
+            takeLook(tile->type);
+        html_.WriteMagnet("<div style=\"", border_, "position:absolute; top: ", placeOf(tile->top),
+                          "px; left:", placeOf(tile->left), "px;\" id= \"Word", number,
+                          "\"><table cellpadding=1>");
+        html_.WriteMagnet(look_);
+        if (const auto caption = session_.plainText(tile->caption))
+            html_.WriteMagnet(*caption);
+        else
+            html_.WriteMagnet(session_.text(tile->caption));
+        html_.WriteMagnet("</font>\r\n</td></tr></table></div>");
+        html::append(ids_, "\"Word");
+        html::append(ids_, number);
+        html::append(ids_, "\",");
+    }
+
+    QByteArray ids() const { return QByteArray::fromStdString(ids_); }
 
 private:
-    /// A type that is none keeps the colours of the tile before it, as on the board.
-    void takeColours(const QString &type)
+    /// The cell and the letters of a tile, two lines.
+    QByteArray lookOf(Colour back, Colour text) const
     {
-        const TileKind *kind = page_.ownColours ? nullptr : kindOfWord(type);
-        if (kind != nullptr) {
-            back_ = kind->back;
-            text_ = kind->text;
-        }
+        return html::of("<tr><td bg bgcolor=", html::colour(back), ">\r\n<font color=", html::colour(text),
+                        size_, ">");
+    }
+    /// A type that is none keeps the colours of the tile before it, as on the board.
+    void takeLook(QByteArrayView type)
+    {
+        for (const Look &look : looks_)
+            if (type == look.type) {
+                look_ = look.html;
+                return;
+            }
+        if (const TileKind *kind = kindOfWord(session_.text(type)))
+            look_ = lookOf(kind->back, kind->text);
+    }
+    int placeOf(QByteArrayView text) const
+    {
+        int place = 0;
+        const auto [end, error] = std::from_chars(text.begin(), text.end(), place);
+        const bool isNumber = error == std::errc() && end == text.end();
+        return isNumber ? std::clamp(place, -farthest, farthest)
+                        : numberOf(session_.text(text), -farthest, farthest);
     }
 
     const WebPage &page_;
+    const SessionTexts &session_;
     CHTMLWrapper &html_;
-    Colour back_ = page_.tileBack;
-    Colour text_ = page_.text;
-    QString ids_;
+    QByteArray border_;
+    QByteArray size_;
+    struct Look
+    {
+        QByteArray type; ///< as the program writes it
+        QByteArray html;
+    };
+    std::array<Look, tileKinds.size()> looks_;
+    QByteArray look_ = lookOf(page_.tileBack, page_.text);
+    std::string ids_;
 };
 
 void writeHead(const WebPage &page, CHTMLWrapper &html)
@@ -119,27 +138,28 @@ void writeHead(const WebPage &page, CHTMLWrapper &html)
 
 void MakeWebpage(const WebPage &page)
 {
-    const IniFile session(page.session);
+    const SessionTexts session(page.session);
     CHTMLWrapper html;
     html.setFilename(page.file);
-    html.OpenHTMLDoc();
+    constexpr int growth = 3; ///< a tile in HTML is about three times as long
+    html.OpenHTMLDoc(growth * session.size() + page.script.size());
     writeHead(page, html);
     const bool hasPicture = page.addPicture && !page.picture.isEmpty();
     html.OpenHTMLBody(page.back, page.text,
                       hasPicture
                           ? std::optional(PagePicture{addressOf(page), page.pictureLeft, page.pictureTop})
                           : std::nullopt);
-    const QString count = countIn(session);
+    const QString count = session.count();
     if (count.isEmpty()) {
         html.CloseHTMLBody2(); // not a session's tiles: the body stays empty
     } else {
-        TileWriter tiles(page, html);
-        const int last = numberOf(count, 0, mostTiles);
+        TileWriter tiles(page, session, html);
+        const int last = numberOf(count, 0, SessionTexts::mostTiles);
         for (int number = 1; number <= last; ++number)
-            tiles.write(session, number);
-        const QString call = u"SET_DRAGGABLE(CURSOR_POINTER,"_s + tiles.ids() +
-                             (page.addPicture && page.pictureMoves ? u"\"BGPIC\")"_s : u"\"NO\")"_s);
-        html.CloseHTMLBody(page.script, page.tilesMove ? call : QString());
+            tiles.write(number);
+        const QByteArray call = "SET_DRAGGABLE(CURSOR_POINTER," + tiles.ids() +
+                                (page.addPicture && page.pictureMoves ? "\"BGPIC\")" : "\"NO\")");
+        html.CloseHTMLBody(page.script, page.tilesMove ? call : QByteArray());
     }
     html.CloseHTMLDoc();
 }

@@ -4,6 +4,7 @@
 
 #include "platform/colours.h"
 
+#include <QByteArray>
 #include <QDate>
 #include <QString>
 
@@ -31,10 +32,10 @@ struct WebPage
     Colour tileBack = colours::white; ///< of all tiles, with own colours
     Colour text = colours::black;
 
-    QString script; ///< gives the page SET_DRAGGABLE; ASCII
+    QByteArray script; ///< gives the page SET_DRAGGABLE; ASCII
 };
 
 /// Writes the page: the session's tiles at their places, and the script that lets them be dragged. A tile
 /// with a type, place or caption missing is skipped; a place that is no number counts as 0. Throws
-/// RuntimeError as IniFile and writeFileAtomically; the old file then stays.
+/// RuntimeError as ReadWholeFile and writeFileAtomically; the old file then stays.
 void MakeWebpage(const WebPage &page);
