@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bench.h"
 
+#include "games/klotar/game_words.h"
 #include "generators/nonsense_words.h"
 #include "generators/real_words.h"
 #include "language/word_tests.h"
@@ -151,6 +152,41 @@ double growthRatio()
     return bench::ratio([&] { searchRounds(large, rounds); }, [&] { searchRounds(small, rounds); });
 }
 
+/// The hint of the word game on a board that yields no word: all its tries.
+double hintRatio()
+{
+    constexpr int tries = 1000;
+    Board board(largeDictionary);
+    TileList tiles;
+    const auto lay = [&](const WordStore &texts, const TileKind &kind) {
+        for (const QString &text : texts.rows()) {
+            tiles.push_back(std::make_unique<cWortel>());
+            tiles.back()->txt = text + u'x'; // no word of the dictionary has one
+            tiles.back()->BGColor = kind.back;
+        }
+    };
+    lay(board.lists.PrefixReTypeList, prefixKind);
+    lay(board.lists.WortelReTypeList, wortelKind);
+    lay(board.lists.SuffixReTypeList, suffixKind);
+    const QStringList prefixes = board.lists.PrefixReTypeList.rows();
+    const QStringList stems = board.lists.WortelReTypeList.rows();
+    const QStringList suffixes = board.lists.SuffixReTypeList.rows();
+    const QSet<QString> dictionary(board.lists.LexiconList.rows().cbegin(),
+                                   board.lists.LexiconList.rows().cend());
+    const auto draw = [&](const QStringList &list) {
+        return list.at(static_cast<qsizetype>(board.rnd() * static_cast<double>(list.size())));
+    };
+    return bench::ratio([&] { bench::keep(findWordHint(tiles, board.lists, board.tests, board.rnd)); },
+                        [&] {
+                            for (int i = 0; i < tries; ++i) {
+                                const QString word =
+                                    draw(prefixes) + u'x' + draw(stems) + u'x' + draw(suffixes) + u'x';
+                                bench::keep(dictionary.contains(word));
+                            }
+                        },
+                        51);
+}
+
 /// A run of 1,000 accepted words with its sweeps. Returns its rounds.
 int nonsenseRun(Board &board)
 {
@@ -191,6 +227,7 @@ double nonsenseRatio()
 const bench::Row check{"words: check in a dictionary of 32,000", 2.0, checkRatio};
 const bench::Row realWords{"words: a round for real words", 2.0, realWordRatio};
 const bench::Row growth{"words: a round, 32,000 against 1,000 words", 1.5, growthRatio};
+const bench::Row hint{"words: a hint that finds nothing", 2.0, hintRatio};
 const bench::Row nonsenseWords{"words: 1,000 nonsense words", 3.0, nonsenseRatio};
 
 } // namespace

@@ -6,6 +6,8 @@
 #include "widgets/gradient.h"
 #include "widgets/press_button.h"
 
+#include <QApplication>
+#include <QIcon>
 #include <QLineEdit>
 #include <QPainter>
 
@@ -14,8 +16,8 @@ namespace {
 constexpr int entrySize = 20;   ///< pixels, the letters
 constexpr int entryHeight = 40; ///< pixels
 constexpr int entryWidth = 300; ///< pixels, at least
-constexpr boxstyle::Colours wordList{boxstyle::white, paint::ink, paint::activeFrame, paint::face,
-                                     paint::ink};
+constexpr boxstyle::Colours onGradient{boxstyle::white, paint::ink, paint::activeFrame, paint::face,
+                                       paint::ink};
 
 } // namespace
 
@@ -35,6 +37,10 @@ InputBox::InputBox(const boxstyle::Colours &colours, const QString &title, const
     Text1_->selectAll();
     Text1_->setFocus();
     addEntry(Text1_);
+}
+
+void InputBox::addOkAndCancel()
+{
     addButton(QStringLiteral("OK"), 0);
     addButton(QStringLiteral("Abbrechen"), 1);
 }
@@ -49,16 +55,47 @@ IBox::IBox(const QString &prompt, BoxStyle kind, const QString &defaultText, con
     : InputBox(boxstyle::coloursOf(kind), title, prompt, defaultText, owner)
 {
     setObjectName(QStringLiteral("IBox"));
+    addOkAndCancel();
 }
+
+GradientInputBox::GradientInputBox(const QString &title, const QString &prompt, const QString &defaultText,
+                                   QWidget *owner)
+    : InputBox(onGradient, title, prompt, defaultText, owner)
+{
+    message()->setObjectName(QStringLiteral("LblCaption"));
+}
+
+void GradientInputBox::paintBackground(QPainter &painter) { gradient::paint(painter, rect()); }
 
 frmChgCorrectWords::frmChgCorrectWords(const QString &prompt, const QString &defaultText,
                                        const QString &title, QWidget *owner)
-    : InputBox(wordList, title, prompt, defaultText, owner)
+    : GradientInputBox(title, prompt, defaultText, owner)
 {
     setObjectName(QStringLiteral("frmChgCorrectWords"));
-    message()->setObjectName(QStringLiteral("LblCaption"));
+    addOkAndCancel();
     findChild<PressButton *>(QStringLiteral("But1(0)"))->setObjectName(QStringLiteral("Check1"));
     setMessageAlignment(Qt::AlignLeft);
 }
 
-void frmChgCorrectWords::paintBackground(QPainter &painter) { gradient::paint(painter, rect()); }
+frmEnterName::frmEnterName(const QString &title, QWidget *owner)
+    : GradientInputBox(
+          title,
+          QStringLiteral("Herzlichen Glückwunsch !\nDein Name wird in die Bestenliste aufgenommen "
+                         "!\n\nGib bitte deinen Namen ein :"),
+          QStringLiteral("Sieger"), owner)
+{
+    setObjectName(QStringLiteral("frmEnterName"));
+    setWindowFlag(Qt::WindowStaysOnTopHint);
+    Text1()->setMaxLength(longestName);
+    PressButton *tick = addButton({}, 0);
+    tick->setObjectName(QStringLiteral("Check1"));
+    tick->setAccessibleName(QStringLiteral("Eintragen"));
+    tick->setIcon(QIcon(QStringLiteral(":/icons/check-mark.svg")));
+    addButton(QStringLiteral("OK"), 0)->setObjectName(QStringLiteral("Command1"));
+}
+
+void frmEnterName::showEvent(QShowEvent *event)
+{
+    InputBox::showEvent(event);
+    QApplication::beep();
+}

@@ -21,6 +21,8 @@ public:
 
 protected:
     QLineEdit *Text1() const { return Text1_; }
+    /// "OK" and "Abbrechen".
+    void addOkAndCancel();
 
 private:
     QLineEdit *Text1_;
@@ -36,15 +38,40 @@ public:
          QWidget *owner);
 };
 
-/// The word box of the word list, "Wörterliste", on the blue gradient.
-class frmChgCorrectWords : public InputBox
+/// An input box on the blue gradient.
+class GradientInputBox : public InputBox
+{
+    Q_OBJECT
+
+public:
+    GradientInputBox(const QString &title, const QString &prompt, const QString &defaultText, QWidget *owner);
+
+protected:
+    void paintBackground(QPainter &painter) override;
+};
+
+/// The word box of the word list, "Wörterliste".
+class frmChgCorrectWords : public GradientInputBox
 {
     Q_OBJECT
 
 public:
     frmChgCorrectWords(const QString &prompt, const QString &defaultText, const QString &title,
                        QWidget *owner);
+};
+
+/// The window for the name of one who has a place among the best. It cannot be refused: Esc leaves the name
+/// empty.
+class frmEnterName : public GradientInputBox
+{
+    Q_OBJECT
+
+public:
+    /// `longestName`: letters that can be typed.
+    static constexpr int longestName = 40;
+
+    frmEnterName(const QString &title, QWidget *owner);
 
 protected:
-    void paintBackground(QPainter &painter) override;
+    void showEvent(QShowEvent *event) override;
 };

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "dialogs/real_boxes.h"
 
+#include "dialogs/high_score_window.h"
 #include "dialogs/input_box.h"
 #include "dialogs/message_box.h"
 #include "platform/product.h"
@@ -183,4 +184,16 @@ QString RealBoxes::ShowWordBox(const QString &prompt, BoxStyle, const QString &d
 {
     const PlainPointer pointer;
     return frmChgCorrectWords(prompt, defaultText, titleOr(title), owner()).askText(cornerOf(left, top));
+}
+
+QString RealBoxes::ShowEnterName(const QString &title)
+{
+    const PlainPointer pointer;
+    return frmEnterName(title, owner()).askText();
+}
+
+void RealBoxes::ShowHighScores(const HighScoreSheet &sheet)
+{
+    const PlainPointer pointer;
+    frmHighScore(sheet, owner()).exec();
 }

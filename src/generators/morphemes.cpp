@@ -9,8 +9,11 @@
 
 namespace {
 
+enum class Doubles { Dropped, Kept };
+
 /// Walks the tiles and lets `admits(kind, text)` decide which texts join the list of their kind.
-template <typename Admits> void collect(const TileList &tiles, WordLists &lists, Admits &&admits)
+template <typename Admits> 
+void collect(const TileList &tiles, WordLists &lists, Doubles doubles, Admits &&admits)
 {
     WordStore *const stores[] = {&lists.WortelReTypeList, &lists.PrefixReTypeList, &lists.SuffixReTypeList};
     for (WordStore *store : stores)
@@ -21,7 +24,7 @@ template <typename Admits> void collect(const TileList &tiles, WordLists &lists,
             continue;
         WordStore &store = *stores[kind->filterIndex];
         // An empty text counts as not there yet each time it comes up.
-        const bool known = !tile->txt.isEmpty() && store.contains(tile->txt);
+        const bool known = doubles == Doubles::Dropped && !tile->txt.isEmpty() && store.contains(tile->txt);
         if (!known && admits(*kind, tile->txt))
             store.add(tile->txt);
     }
@@ -31,13 +34,18 @@ template <typename Admits> void collect(const TileList &tiles, WordLists &lists,
 
 void collectMorphemes(const TileList &tiles, WordLists &lists)
 {
-    collect(tiles, lists, [](const TileKind &, const QString &) { return true; });
+    collect(tiles, lists, Doubles::Dropped, [](const TileKind &, const QString &) { return true; });
+}
+
+void collectAllMorphemes(const TileList &tiles, WordLists &lists)
+{
+    collect(tiles, lists, Doubles::Kept, [](const TileKind &, const QString &) { return true; });
 }
 
 void collectNonsenseMorphemes(const TileList &tiles, const QString &listName, WordLists &lists)
 {
     const bool nounList = UCase(listName) == QStringView(nonsense::nounListName);
-    collect(tiles, lists, [nounList](const TileKind &kind, const QString &text) {
+    collect(tiles, lists, Doubles::Dropped, [nounList](const TileKind &kind, const QString &text) {
         if (kind.back == colours::prefixBack)
             return !nounList;
         if (kind.back != colours::suffixBack)

@@ -23,6 +23,8 @@ struct Morphemes
 /// Fills the three retype lists with the distinct texts (case ignored) of the tiles, each by its colour. All
 /// tiles count, whatever the filter shows.
 void collectMorphemes(const TileList &tiles, WordLists &lists);
+/// The same with every tile's text, doubles too: what lies there often is drawn often.
+void collectAllMorphemes(const TileList &tiles, WordLists &lists);
 /// The same with the rules of the nonsense words: the stem list `listName` "UNG HEIT KEIT SCHAFT NIS TUM"
 /// allows no prefix and only noun suffixes; with any other the suffixes "s" and "er" are left out.
 void collectNonsenseMorphemes(const TileList &tiles, const QString &listName, WordLists &lists);

@@ -3,13 +3,13 @@
 #include "language/dictionary_panel.h"
 
 #include "board/hand/command_router.h"
-#include "language/list_stand.h"
 #include "platform/gate.h"
 #include "platform/ground.h"
 #include "platform/procedure.h"
 #include "platform/word_lists.h"
 #include "widgets/control_sheet.h"
 #include "widgets/dropper.h"
+#include "widgets/list_stand.h"
 #include "widgets/main_controls.h"
 #include "widgets/opening_press.h"
 #include "widgets/press_button.h"
@@ -138,8 +138,10 @@ QMenu *DictionaryPanel::makeMenu()
     connect(add(u"mnuStartRetypeFromList"_s, u"Abschreiben der Wörterliste starten"_s), &QAction::triggered,
             this, play([this] { emit startRetypeFromList(); }));
     menu->addSeparator();
-    connect(add(u"mnuAddWortelToRetypeList"_s, u"Auswahlfenster"_s), &QAction::triggered, this,
-            play([this] { emit chooserRequested(); }));
+    connect(add(u"mnuAddWortelToRetypeList"_s, u"Auswahlfenster"_s), &QAction::triggered, this, play([this] {
+                close();
+                emit chooserRequested();
+            }));
     menu->addSeparator();
     connect(add(u"mnuCloseLex"_s, u"Schließen"_s), &QAction::triggered, this, play([this] { toggle(); }));
     return menu;

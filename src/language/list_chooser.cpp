@@ -56,10 +56,7 @@ void ListChooser::chooseStemLists()
 {
     Procedure step{ground_.log, "Check2_MouseDown", "frmMain"};
     QStringList paths;
-    step([&] {
-        paths = ground_.fileDialogs.openFiles(u"Wortel laden (Multi)"_s, ground_.AppFolder + u"text"_s,
-                                              u"Text Dateien (*.txt)|*.txt"_s, true);
-    });
+    step([&] { paths = loader_.askForStemLists(); });
     if (paths.isEmpty())
         return;
     const Work work(ground_);

@@ -3,9 +3,11 @@
 #include "language/list_loader.h"
 
 #include "platform/boxes.h"
+#include "platform/file_dialogs.h"
 #include "platform/files.h"
 #include "platform/ground.h"
 #include "platform/options.h"
+#include "platform/play_state.h"
 #include "platform/procedure.h"
 #include "platform/product.h"
 #include "platform/rnd.h"
@@ -141,11 +143,49 @@ void ListLoader::Fill_Lexicon(const QString &path)
 void ListLoader::FillKurzLanglist()
 {
     Procedure step{ground_.log, "FillKurzLanglist", "frmMain"};
-    langVokalFile_ = ground_.AppFolder + u"text kurz lang\\langer Stammvokal.Txt"_s;
-    kurzVokalFile_ = ground_.AppFolder + u"text kurz lang\\kurzer Stammvokal.Txt"_s;
+    langVokalFile_ = vowelFile(Vowels::Long);
+    kurzVokalFile_ = vowelFile(Vowels::Short);
     step([&] { fillVowelList(lists_.langvokalList, langVokalFile_, false, __LINE__); });
     // Blank lines of this file become empty entries: required, odd as it is.
     step([&] { fillVowelList(lists_.kurzvokalList, kurzVokalFile_, true, __LINE__); });
+}
+
+QString ListLoader::vowelFile(Vowels group) const
+{
+    return ground_.AppFolder + (group == Vowels::Long ? u"text kurz lang\\langer Stammvokal.Txt"_s
+                                                      : u"text kurz lang\\kurzer Stammvokal.Txt"_s);
+}
+
+QStringList ListLoader::askForStemLists()
+{
+    return ground_.fileDialogs.openFiles(u"Wortel laden (Multi)"_s, ground_.AppFolder + u"text"_s,
+                                         u"Text Dateien (*.txt)|*.txt"_s, true);
+}
+
+void ListLoader::FillChooseWortelList(WordStore &store, const QString &path)
+{
+    Procedure step{ground_.log, "FillChooseWortelList", "frmChooseWortel"};
+    if (!IsTextFile(path))
+        return;
+    const Busy busyNow(*this);
+    step([&] { append(store, path); });
+    step([&] { store.removeNeighbouringDuplicates(); });
+}
+
+QStringList ListLoader::vowelStems(Vowels group)
+{
+    Procedure step{ground_.log, "vowelStems", "frmChooseWortel", Procedure::Silent};
+    const QString path = vowelFile(group);
+    QStringList stems;
+    step([&] {
+        // The message names the procedure of the start, as it always has.
+        if (IsTextFile(path))
+            stems = read(path, false);
+        else
+            ground_.boxes.plainBox(Boxes::Icon::Warning, product::faultTitle,
+                                   missingIn(path, "ProgInit", __LINE__));
+    });
+    return stems;
 }
 
 void ListLoader::append(WordStore &store, const QString &path) { store.addAll(read(path, false)); }

@@ -5,9 +5,11 @@
 #include <QObject>
 #include <QString>
 
+#include <cstdint>
 #include <optional>
 
 class WordStore;
+enum class Vowels : std::uint8_t;
 struct Ground;
 struct WordLists;
 
@@ -36,6 +38,13 @@ public:
     /// Appends both vowel lists, without words that are there already. A missing file is told in a warning
     /// box, and the other is still read.
     void FillKurzLanglist();
+    /// Asks for one or several stem lists (stored paths); none if nobody chose.
+    QStringList askForStemLists();
+    /// Appends the stem list `path` to `store`, a list of the word chooser, and leaves the game's own lists
+    /// alone. A missing file says nothing.
+    void FillChooseWortelList(WordStore &store, const QString &path);
+    /// The stems of one vowel file, as it stands; a missing file is told as above and has none.
+    QStringList vowelStems(Vowels group);
 
     QString KurzVokalFile() const { return kurzVokalFile_; }
     QString LangVokalFile() const { return langVokalFile_; }
@@ -57,6 +66,7 @@ signals:
 private:
     class Busy;
 
+    QString vowelFile(Vowels group) const;
     void append(WordStore &store, const QString &path);
     QStringList read(const QString &path, bool keepBlank);
     void fillVowelList(WordStore &store, const QString &path, bool keepBlank, int line);

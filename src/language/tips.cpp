@@ -231,6 +231,11 @@ void Tips::startVokalTipTimer()
 void Tips::stopTimers()
 {
     TipTimer_->stop();
+    stopGameTimers();
+}
+
+void Tips::stopGameTimers()
+{
     GameTipTimer_->stop();
     VokalTipTimer_->stop();
 }

@@ -43,6 +43,8 @@ public:
     void startTipTimer();
     void startGameTipTimer();
     void startVokalTipTimer();
+    /// The timers of the game and of the vowel game.
+    void stopGameTimers();
     void stopTimers();
 
     void TipTimer_Tick();

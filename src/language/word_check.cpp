@@ -18,6 +18,7 @@
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QSignalBlocker>
 
 #include <algorithm>
 
@@ -243,6 +244,18 @@ void WordCheck::ChkVokal_Click()
         return;
     step([&] { lists_.CorrectWordList.clear(); });
     step([&] { emit vowelsSwitchedOff(); });
+}
+
+void WordCheck::clearVowelBoxes()
+{
+    const auto isOn = [](const PressButton *box) { return box->isChecked(); };
+    if (std::none_of(controls_.ChkVokal.begin(), controls_.ChkVokal.end(), isOn))
+        return;
+    for (PressButton *box : controls_.ChkVokal) {
+        const QSignalBlocker once(box);
+        box->setChecked(false);
+    }
+    ChkVokal_Click();
 }
 
 /// The word behind a removed one slides into its place and is passed over, and the index runs off the

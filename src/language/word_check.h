@@ -39,6 +39,8 @@ public:
     /// Sets the vowel flags from the two boxes; both on, which no click brings about, leaves them as they
     /// are.
     void readVowelBoxes();
+    /// Switches a box off that is on, as its press does: the vowel board ends.
+    void clearVowelBoxes();
 
 signals:
     /// In retype mode `word` was copied rightly.

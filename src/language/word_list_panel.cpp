@@ -4,9 +4,8 @@
 
 #include "board/hand/command_router.h"
 #include "language/dictionary_panel.h"
-#include "language/list_stand.h"
+#include "language/word_file.h"
 #include "language/word_tests.h"
-#include "output/columns/word_list_saving.h"
 #include "platform/boxes.h"
 #include "platform/gate.h"
 #include "platform/ground.h"
@@ -16,6 +15,7 @@
 #include "platform/product.h"
 #include "platform/word_lists.h"
 #include "widgets/gradient.h"
+#include "widgets/list_stand.h"
 #include "widgets/main_controls.h"
 #include "widgets/opening_press.h"
 #include "widgets/store_list.h"
@@ -113,10 +113,17 @@ void WordListPanel::editByMenu()
 
 void WordListPanel::Save_Result()
 {
-    saveWordList(ground_, lists_.CorrectWordList.rows(),
-                 {"frmMain", u"Richtige Wörter Speichern",
-                  u"Es gibt noch keine richtigen Wörter zum Speichern !", u"Wortel - Fehler",
-                  u"Die richtigen Wörter konnten nicht in die Datei geschrieben werden"});
+    Procedure step{ground_.log, "Save_Result", "frmMain"};
+    if (lists_.CorrectWordList.isEmpty()) {
+        step([&] {
+            ground_.boxes.ShowInfoBox(u"Es gibt noch keine richtigen Wörter zum Speichern !"_s, BoxSign::Info,
+                                      product::name);
+        });
+        return;
+    }
+    saveWords(ground_, step, lists_.CorrectWordList.rows(),
+              {u"Richtige Wörter Speichern"_s, u"Wortel - Fehler"_s,
+               u"Die richtigen Wörter konnten nicht in die Datei geschrieben werden"_s});
 }
 
 void WordListPanel::CorrectWordsToClip()

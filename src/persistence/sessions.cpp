@@ -112,6 +112,7 @@ void Sessions::RestoreObjects(const QString &path)
     if (path.isEmpty())
         step([&] { rememberFolder(ground_, ask, source); });
     const Hourglass hourglass;
+    step([&] { emit boardOpens(); });
     bool whole = false;
     step([&] { whole = readSession(source); });
     step([&] { rooms_.canvas.RecallFilter(TileFilter::all); });

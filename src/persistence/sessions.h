@@ -42,6 +42,8 @@ public:
     QString WebExportName() const { return WebExportName_; }
 
 signals:
+    /// The tiles of a session are about to take the board.
+    void boardOpens();
     /// A session has brought its own stem list.
     void listsChosen();
 

@@ -4,7 +4,20 @@
 
 #include "platform/box_kinds.h"
 
+#include <QList>
 #include <QString>
+
+#include <utility>
+
+/// What the window of a score list shows.
+struct HighScoreSheet
+{
+    QString title;
+    QString heading;                         ///< the game's name
+    QString result;                          ///< of the game that is just over, or empty
+    QList<std::pair<QString, QString>> rows; ///< name and score, place 1 first
+    int place = 0;                           ///< of the new entry, 1 the first; 0 if there is none
+};
 
 /// The seam of everything that asks or tells the user something in a box of its own. The program gives the
 /// rooms the real boxes, a test its own, which answers from a queue and fails on a question it did not
@@ -36,4 +49,9 @@ public:
     /// The word box `frmChgCorrectWords`, with the same arguments.
     virtual QString ShowWordBox(const QString &prompt, BoxStyle kind, const QString &defaultText,
                                 const QString &title, int left = -1, int top = -1) = 0;
+
+    /// The window `frmEnterName`, which congratulates: what was typed, or the empty string.
+    virtual QString ShowEnterName(const QString &title) = 0;
+    /// The window `frmHighScore`, until it is closed.
+    virtual void ShowHighScores(const HighScoreSheet &sheet) = 0;
 };

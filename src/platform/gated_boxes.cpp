@@ -56,6 +56,17 @@ QString GatedBoxes::ShowWordBox(const QString &prompt, BoxStyle kind, const QStr
                           [&] { return boxes_.ShowWordBox(prompt, kind, defaultText, title, left, top); });
 }
 
+QString GatedBoxes::ShowEnterName(const QString &title)
+{
+    return askThroughGate(gate_, QString(), [&] { return boxes_.ShowEnterName(title); });
+}
+
+void GatedBoxes::ShowHighScores(const HighScoreSheet &sheet)
+{
+    if (const Gate::Passage open = gate_.openBox())
+        boxes_.ShowHighScores(sheet);
+}
+
 QStringList GatedFileDialogs::openFiles(const QString &title, const QString &folder, const QString &filter,
                                         bool multiple)
 {

@@ -25,6 +25,8 @@ public:
                      int left, int top) override;
     QString ShowWordBox(const QString &prompt, BoxStyle kind, const QString &defaultText,
                         const QString &title, int left, int top) override;
+    QString ShowEnterName(const QString &title) override;
+    void ShowHighScores(const HighScoreSheet &sheet) override;
 
 private:
     Boxes &boxes_;

@@ -19,27 +19,24 @@ MinuteTimer::MinuteTimer(const Clock &clock, QObject *parent)
     connect(&look_, &QTimer::timeout, this, &MinuteTimer::look);
 }
 
-void MinuteTimer::setTimerMode(TimerMode mode) { mode_ = mode; }
-
-void MinuteTimer::setInterval(int units) { interval_ = std::max(1, units); }
-
 qint64 MinuteTimer::period() const
 {
-    constexpr qint64 minute = 60'000;
-    const qint64 unit = mode_ == TimerMode::Hours ? 60 * minute : mode_ == TimerMode::Minutes ? minute : 1;
-    return unit * interval_;
+    constexpr qint64 minute = 60'000; // milliseconds
+    if (TimerMode_ == TimerMode::Plain)
+        return Interval_;
+    return (qint64(HourInterval_) * 60 + MinuteInterval_) * minute;
 }
 
 void MinuteTimer::setEnabled(bool on)
 {
     due_ = clock_.elapsed() + period();
-    on ? look_.start() : look_.stop();
+    on && period() > 0 ? look_.start() : look_.stop();
 }
 
 void MinuteTimer::look()
 {
     while (Enabled() && clock_.elapsed() >= due_) {
-        due_ += period();
+        due_ += std::max<qint64>(1, period());
         emit Timer();
     }
 }

@@ -7,22 +7,25 @@
 
 class Clock;
 
-/// A timer that counts minutes or hours. It looks at the ground's running clock, which neither a sleeping
+/// The timer `utimerCTL`, which counts minutes. It looks at the ground's running clock, which neither a sleeping
 /// computer nor a clock that is set moves, so a late look loses no minute: each one that has passed is told.
 class MinuteTimer : public QObject
 {
     Q_OBJECT
 
 public:
-    enum class TimerMode { Milliseconds, Minutes, Hours };
+    enum class TimerMode {
+        Minutes = 0, ///< an event each `MinuteInterval` minutes and `HourInterval` hours
+        Plain = 1,   ///< an event each `Interval` milliseconds
+    };
 
     explicit MinuteTimer(const Clock &clock, QObject *parent = nullptr);
 
-    TimerMode mode() const { return mode_; }
-    void setTimerMode(TimerMode mode);
-    /// How many of the mode's units lie between two events, at least 1. Takes effect with the next event.
-    void setInterval(int units);
-    int interval() const { return interval_; }
+    // A change takes effect with the next event. Intervals that are 0 together give no event at all.
+    void setTimerMode(TimerMode mode) { TimerMode_ = mode; }
+    void setInterval(int milliseconds) { Interval_ = milliseconds; }
+    void setMinuteInterval(int minutes) { MinuteInterval_ = minutes; }
+    void setHourInterval(int hours) { HourInterval_ = hours; }
     bool Enabled() const { return look_.isActive(); }
     /// Counts from this moment on, or stops.
     void setEnabled(bool on);
@@ -38,7 +41,9 @@ private:
 
     const Clock &clock_;
     QTimer look_;
-    TimerMode mode_ = TimerMode::Minutes;
-    int interval_ = 1;
+    TimerMode TimerMode_ = TimerMode::Minutes;
+    int Interval_ = 0;
+    int MinuteInterval_ = 1;
+    int HourInterval_ = 0;
     qint64 due_ = 0; ///< milliseconds of the running clock
 };

@@ -86,6 +86,15 @@ void Options::setOption(Setting id)
     change(id, on);
 }
 
+void Options::keepOption(Setting id)
+{
+    setOption(id);
+    const OptionGroup *group = optionGroup(id);
+    for (const SettingRow &row : settingsTable())
+        if (row.id >= group->first && row.id <= group->last)
+            store_.SaveSetting(QLatin1String(row.section), QLatin1String(row.key), value(row.id));
+}
+
 void Options::GetSettings()
 {
     Procedure step{log_, "GetSettings", "frmOptions"};

@@ -38,6 +38,9 @@ public:
     /// Sets an option and clears the others of its group (scroller position, export layout, difficulty).
     void setOption(Setting id);
 
+    /// The same, written to the store at once: chosen outside of the options window.
+    void keepOption(Setting id);
+
     /// Store to run-time copy, for all keys of the table. A stored value that fails its conversion is logged
     /// and the value from before stays.
     void GetSettings();

@@ -21,6 +21,13 @@ void PlayState::startGame(Phase phase, Vowels vowels)
     become({Mode::WordGame, phase, vowels, WordSource::UserWords}, checked_, level_);
 }
 
+void PlayState::endPreparation()
+{
+    Now now = now_;
+    now.phase = Phase::Playing;
+    become(now, checked_, level_);
+}
+
 void PlayState::startRetyping(WordSource source)
 {
     become({Mode::Retyping, Phase::Playing, Vowels::None, source}, checked_, level_);

@@ -58,6 +58,8 @@ public:
     void setLevel(int level);
     void setCheckedVowels(Vowels vowels);
     void startGame(Phase phase, Vowels vowels);
+    /// The words have been built on the board, and are entered now.
+    void endPreparation();
     void startRetyping(WordSource source);
     /// No game and no retyping. The vowel check goes with them.
     void stop();

@@ -6,6 +6,8 @@
 #include "platform/options.h"
 #include "platform/sound.h"
 
+#include <algorithm>
+
 namespace {
 
 struct SoundRow
@@ -22,10 +24,12 @@ constexpr SoundRow sounds[] = {
     {SoundId::Capitals, Setting::SoundOnAllReTyped},
     {SoundId::EntryCleared, Setting::GameSoundOnTimeOut},
     {SoundId::TileDropped, Setting::GameSoundOnTimeOut},
+    {SoundId::GameOver, Setting::GameSoundOnTimeOut},
     {SoundId::TilesShuffled, Setting::SoundOnActions},
     {SoundId::TipShown, Setting::SoundOnActions},
     {SoundId::Welcome, Setting::SoundOnActions},
     {SoundId::GoodBye, Setting::SoundOnActions},
+    {SoundId::GameStarted, Setting::SoundOnActions},
     {SoundId::TilesAdded, Setting::SoundOnActions},
     {SoundId::ListOpened, Setting::SoundOnActions},
     {SoundId::TilesErased, Setting::SoundOnActions},
@@ -37,11 +41,15 @@ constexpr SoundRow sounds[] = {
 
 bool playSound(const Ground &ground, SoundId id)
 {
-    for (const SoundRow &row : sounds) {
-        if (row.id != id || !ground.options.isOn(row.gate))
-            continue;
-        ground.sound.PlayResourceSound(static_cast<int>(id));
-        return true;
-    }
-    return false;
+    const auto row = std::find_if(std::begin(sounds), std::end(sounds),
+                                  [id](const SoundRow &sound) { return sound.id == id; });
+    return row != std::end(sounds) && playSound(ground, id, row->gate);
+}
+
+bool playSound(const Ground &ground, SoundId id, Setting gate)
+{
+    if (!ground.options.isOn(gate))
+        return false;
+    ground.sound.PlayResourceSound(static_cast<int>(id));
+    return true;
 }

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 
+enum class Setting : int;
 struct Ground;
 
 /// The sounds of the program, by the numbers of their resources.
@@ -15,11 +16,13 @@ enum class SoundId : std::uint8_t {
     EntryCleared = 105,
     KeyTyped = 106,
     TileDropped = 107,
+    GameOver = 108,
     TilesShuffled = 109,
     TipShown = 110,
     Capitals = 111,
     Welcome = 117,
     GoodBye = 118,
+    GameStarted = 119,
     TilesAdded = 120,
     ListOpened = 121,
     TilesErased = 122,
@@ -30,3 +33,5 @@ enum class SoundId : std::uint8_t {
 /// Plays the sound if its setting is on. Some answer to the setting of another sound; it has always been so.
 /// True if it was played.
 bool playSound(const Ground &ground, SoundId id);
+/// The same on an occasion that has a setting of its own.
+bool playSound(const Ground &ground, SoundId id, Setting gate);

@@ -263,6 +263,7 @@ void frmMain::Form_QueryUnload()
     if (played)
         step([&] { ground_.clock.wait(1000); });
     step([&] { rooms_->tips.stopTimers(); });
+    step([&] { rooms_->game.stopTimers(); });
     step([&] { crash_filter::remove(); });
     step([&] {
         for (QWidget *window : QApplication::topLevelWidgets())

@@ -22,11 +22,23 @@ void frmMain::wireCommands()
     r.dictionary.registerCommands(r.router);
     r.wordList.registerCommands(r.router);
     r.retype.registerCommands(r.router);
+    r.game.registerCommands(r.router);
     r.sessions.registerCommands(r.router);
     r.undo.registerCommands(r.router);
     r.printing.registerCommands(r.router);
     r.router.onMenu(1907, [this] { saveAsWeb(); });
     r.router.onMenu(601, [&r] { r.check.Command2_MouseDown(Qt::LeftButton); });
+    constexpr struct
+    {
+        ScoredGame game;
+        int show, reset; ///< numbers of the commands
+    } lists[] = {{ScoredGame::Klotar, 2900, 2901},
+                 {ScoredGame::Kernling, 3104, 3105},
+                 {ScoredGame::Tonarin, 3106, 3107}};
+    for (const auto &list : lists) {
+        r.router.onMenu(list.show, [&r, game = list.game] { r.scores.DisplayHighScores(game); });
+        r.router.onMenu(list.reset, [&r, game = list.game] { r.scores.ResetScores(game); });
+    }
     r.router.onMenu(901, [this] { showOptions(); });
     r.router.onMenu(1001, [this] { showHelp(); });
     r.router.onMenu(1003, [this] { showAbout(); });

@@ -88,8 +88,6 @@ void frmMain::wireWords()
     connect(controls_.Dropper1, &Dropper::EnterPress, this,
             whenPlayed([&r] { r.check.Dropper1_EnterPress(); }));
     connect(controls_.Dropper1, &Dropper::keyTyped, &r.check, &WordCheck::Dropper1_KeyPress);
-    for (PressButton *box : controls_.ChkVokal)
-        connect(box, &PressButton::toggled, &r.check, &WordCheck::ChkVokal_Click);
 }
 
 void frmMain::wireLists()
@@ -114,7 +112,7 @@ void frmMain::wireLists()
     });
     connect(&r.loader, &ListLoader::loading, &r.dictionary, &DictionaryPanel::storeLoading);
     connect(&r.dictionary, &DictionaryPanel::tipRequested, &r.tips, &Tips::mnuShowTip_Click);
-    connect(&r.dictionary, &DictionaryPanel::chooserRequested, this, &frmMain::comesLater);
+    connect(&r.dictionary, &DictionaryPanel::chooserRequested, &r.wordChooser, &WordChooser::open);
 }
 
 void frmMain::wireModes()
@@ -122,14 +120,31 @@ void frmMain::wireModes()
     Rooms &r = *rooms_;
     connect(controls_.Check4, &PressButton::mouseDown, &r.retype, &RetypeMode::Check4_MouseDown);
     onPress(
-        controls_.Check3, [this] { comesLater(); }, [this] { comesLater(); });
+        controls_.Check3, [&r] { r.game.Check3_MouseDown(Qt::LeftButton); },
+        [&r] { r.game.Check3_MouseDown(Qt::RightButton); });
+    for (int level = 0; level < 3; ++level)
+        onPress(
+            controls_.Option2[static_cast<std::size_t>(level)],
+            [&r, level] { r.game.Option2_Click(level); }, nothing);
+    for (int box = 0; box < 2; ++box)
+        onPress(
+            controls_.ChkVokal[static_cast<std::size_t>(box)],
+            [&r, box] { r.vowelBoard.ChkVokal_MouseDown(box, Qt::LeftButton); },
+            [&r, box] { r.vowelBoard.ChkVokal_MouseDown(box, Qt::RightButton); });
+    connect(&r.game, &WordGame::vowelBoardWanted, &r.vowelBoard, &VowelBoard::load);
+    connect(&r.game, &WordGame::retypeWanted, &r.retype, &RetypeMode::retypeAfterGame);
+    connect(&r.check, &WordCheck::vowelWordFound, &r.vowelBoard, &VowelBoard::PlayTheVokal);
+    connect(&r.check, &WordCheck::vowelsSwitchedOff, &r.vowelBoard, &VowelBoard::RestoreAfterVokal);
+    connect(&r.sessions, &Sessions::boardOpens, &r.game, &WordGame::boardOpens);
+    connect(&r.sessions, &Sessions::boardOpens, &r.vowelBoard, &VowelBoard::makeRoom);
     connect(&r.check, &WordCheck::retypeWordFound, &r.retype, &RetypeMode::wordCopied);
     connect(&r.wordList, &WordListPanel::wordsEdited, &r.retype, &RetypeMode::wordsEdited);
     connect(&r.dictionary, &DictionaryPanel::startRetypeFromList, &r.retype,
             &RetypeMode::mnuStartRetypeFromList);
     connect(&r.chooser, &ListChooser::listsChosen, &r.retype, &RetypeMode::endRun);
     connect(&r.sessions, &Sessions::listsChosen, &r.retype, &RetypeMode::endRun);
-    connect(&r.retype, &RetypeMode::chooserWanted, this, &frmMain::comesLater);
+    connect(&r.retype, &RetypeMode::chooserWanted, &r.wordChooser, &WordChooser::open);
+    connect(&r.wordChooser, &WordChooser::wordsChosen, &r.retype, &RetypeMode::RetypeWithChoosenWortel);
 
     // The menus are built anew on one signal, whatever has changed.
     connect(this, &frmMain::menusStale, this, [&r] { r.menus.CreateMenus(); });
@@ -158,7 +173,13 @@ void frmMain::wireKeeping()
     });
     connect(&r.options, &frmOptions::registerFileType, this, [&r] { r.fileType.registerSessions(); });
     connect(&r.options, &frmOptions::removeFileType, this, [&r] { r.fileType.removeSessions(); });
-    connect(&r.options, &frmOptions::resetScores, this, &frmMain::comesLater);
+    connect(&r.options, &frmOptions::resetScores, this, [this, &r](frmOptions::Scores table) {
+        if (table == frmOptions::Scores::Paarlon)
+            comesLater();
+        else
+            r.scores.ResetScores(table == frmOptions::Scores::Klotar ? ScoredGame::Klotar
+                                                                     : ScoredGame::Tonarin);
+    });
 }
 
 void frmMain::showOptions()

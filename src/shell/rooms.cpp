@@ -44,6 +44,7 @@ Rooms::Rooms(Ground &ground, const Hall &hall)
     , check(ground, hall.controls, hall.lists, hall.play, tests, dictionary, popup)
     , chooser(ground, hall.controls, hall.lists, loader, store, news,
               {[this] { return bulk.Refill(); }, [this] { pointer.DoOnDrop(); }})
+    , wordChooser(ground, hall.lists, loader, hall.controls.form)
     , tips(ground, hall.controls, hall.lists, hall.play)
     , maker(ground, hall.lists, tests, store)
     , options(ground, hall.controls.form)
@@ -52,9 +53,13 @@ Rooms::Rooms(Ground &ground, const Hall &hall)
     , sessions(ground, hall.controls, hall.lists, {canvas, loader, news})
     , fileType(ground.log, QCoreApplication::applicationFilePath())
     , printing(ground, hall.controls, hall.lists, canvas)
+    , scores(ground)
     , strip(ground, hall.controls)
     , retype(ground, hall.controls, hall.lists, hall.play,
              {hall.sheet, hall.status, strip, maker, check, tests, dictionary, canvas, news})
+    , vowelBoard(ground, hall.controls, hall.lists, {check, bulk, canvas, loader, news})
+    , game(ground, hall.controls, hall.lists, hall.play,
+           {hall.sheet, hall.status, check, tests, dictionary, canvas, pointer, tips, scores})
     , progInit(ground, hall.controls, hall.lists, loader, canvas, bulk, homes)
 {}
 

@@ -18,9 +18,13 @@
 #include "board/tiles/affix_homes.h"
 #include "board/tiles/board_news.h"
 #include "dialogs/msn_style.h"
+#include "games/klotar/word_game.h"
 #include "games/retype/retype_mode.h"
 #include "games/retype/strip_control.h"
+#include "games/scores/high_scores.h"
+#include "games/tonarin/vowel_board.h"
 #include "generators/word_maker.h"
+#include "language/chooser/word_chooser.h"
 #include "language/dictionary_panel.h"
 #include "language/list_chooser.h"
 #include "language/list_loader.h"
@@ -89,6 +93,7 @@ struct Rooms
     WordListPanel wordList;
     WordCheck check;
     ListChooser chooser;
+    WordChooser wordChooser;
     Tips tips;
 
     // generators
@@ -105,8 +110,11 @@ struct Rooms
     Printing printing;
 
     // games
+    HighScores scores;
     StripControl strip;
     RetypeMode retype;
+    VowelBoard vowelBoard;
+    WordGame game;
 
     // shell
     ProgInit progInit;

@@ -22,6 +22,8 @@ enum class Reason : std::uint8_t {
     Preparing,  ///< words for it are searched on the board
     Retype,     ///< retype mode, from its preparing on
     Typing,     ///< the strip runs
+    Game,     ///< the word game, from its start to its end
+    Building, ///< its time to build words on the board: none is entered yet
     Work,
 };
 

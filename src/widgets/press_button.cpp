@@ -126,6 +126,11 @@ void PressButton::paintFace(QPainter &painter, const Look &look) const
         painter.setPen(QPen(QColor(255, 255, 255, 220), 1.5));
         painter.drawRoundedRect(look.face.adjusted(2, 2, -2, -2), cornerRadius - 2, cornerRadius - 2);
     }
+    if (hasFocus()) { // only in a window whose buttons take it
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(look.checked ? look.text : paint::activeFrame, 1.5, Qt::DotLine));
+        painter.drawRoundedRect(look.face.adjusted(4, 4, -4, -4), cornerRadius - 3, cornerRadius - 3);
+    }
 }
 
 void PressButton::paintContent(QPainter &painter, const Look &look) const

@@ -8,7 +8,7 @@
 
 void StatusLine::show(Layer layer, int maximum, const QString &caption)
 {
-    line(layer) = {std::max(1, maximum), caption};
+    line(layer) = {std::max(1, maximum), 0, caption};
     apply();
 }
 
@@ -16,6 +16,14 @@ void StatusLine::setCaption(Layer layer, const QString &caption)
 {
     if (auto &shown = line(layer)) {
         shown->caption = caption;
+        apply();
+    }
+}
+
+void StatusLine::setValue(Layer layer, int value)
+{
+    if (auto &shown = line(layer)) {
+        shown->value = value;
         apply();
     }
 }
@@ -34,7 +42,7 @@ void StatusLine::apply()
         return;
     }
     bar_->setMaximum(top->maximum);
-    bar_->setValue(0);
+    bar_->setValue(top->value);
     bar_->setCaption(top->caption);
     bar_->show();
 }

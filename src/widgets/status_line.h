@@ -25,12 +25,14 @@ public:
     void show(Layer layer, int maximum, const QString &caption);
     /// Nothing if the layer has no line.
     void setCaption(Layer layer, const QString &caption);
+    void setValue(Layer layer, int value);
     void hide(Layer layer);
 
 private:
     struct Line
     {
         int maximum;
+        int value;
         QString caption;
     };
 

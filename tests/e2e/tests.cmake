@@ -5,7 +5,9 @@ wortel_test(e2e SLOW TIMEOUT 300
         desktop.cpp
         known_board.cpp
         tst_board_by_hand.cpp
+        tst_chosen_words.cpp
         tst_first_board.cpp
+        tst_games_by_hand.cpp
         tst_interrupted.cpp
         tst_kept_boards.cpp
         tst_paper_and_page.cpp

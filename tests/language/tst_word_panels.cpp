@@ -212,6 +212,10 @@ private slots:
         w.t.fileDialogs.willSave(path);
         w.r.wordList.Save_Result();
         QCOMPARE(ReadWholeFile(path), QByteArray("Haus\r\nL\xE4ufer\r\n"));
+        w.t.options.setOption(Setting::SaveCopyWithCol);
+        w.t.fileDialogs.willSave(path);
+        w.r.wordList.Save_Result();
+        QCOMPARE(ReadWholeFile(path), QByteArray("Haus     L\xE4ufer     \r\n"));
         QCOMPARE(w.t.store.GetSetting(u"Path"_s, u"Export"_s, {}) + u'\\', w.t.AppFolder);
         QCOMPARE(w.t.fileDialogs.asked.last().title, u"Richtige Wörter Speichern"_s);
         QVERIFY(w.t.ok());

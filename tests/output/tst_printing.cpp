@@ -369,6 +369,17 @@ private slots:
         QCOMPARE(errorOf([&] { SystemPrinter().begin(job); }), 482);
     }
 
+    void aClosingWindowPrintsNothing()
+    {
+        PrintHouse house;
+        house.t.pump.onYield = [&house] { house.form.close(); };
+        house.run(From::MainMenu, 1904);
+        house.t.pump.onYield = nullptr;
+        QVERIFY(house.t.printer.jobs.isEmpty());
+        TestHouse::settle();
+        QVERIFY(house.form.isHidden());
+    }
+
     void printerSetUp()
     {
         PrintHouse house;

@@ -63,7 +63,16 @@ struct House : TestHouse
 
     // What is seen
     QString report() { return takeReports(*this).value(0).section(u'|', 0, 0); }
-    QString state() const { return play.RetypeActive() ? u"retyping"_s : u"free"_s; }
+    QString state() const
+    {
+        return play.RetypeActive() ? u"retyping"_s
+               : play.GameActive() ? u"level %1"_s.arg(play.GameLevel())
+                                   : u"free"_s;
+    }
+    QString stored(const char *key) const
+    {
+        return t.store.GetSetting(u"Settings"_s, QLatin1String(key), {});
+    }
     bool isBackedUp() const { return IsTextFile(Backup::file(t.ground)); }
     static bool sessionsAreKnown()
     {
@@ -90,8 +99,24 @@ struct House : TestHouse
     template <typename Act> QString boxOf(Act act)
     {
         t.boxes.willBeRead();
+        t.boxes.willPress(1);
+        t.boxes.willCloseScores();
         act();
         return t.boxes.asked.isEmpty() ? QString() : t.boxes.asked.last().text.left(20);
+    }
+    /// The heading of the list of the best that `act` shows.
+    template <typename Act> QString listOf(Act act)
+    {
+        t.boxes.willCloseScores();
+        act();
+        return t.boxes.asked.last().style;
+    }
+    /// The file that the menu's entry writes.
+    QString listReset(int id)
+    {
+        t.boxes.willPress(0);
+        run(From::MainMenu, id);
+        return QDir(t.folder.path()).entryList({u"*.lst"_s}).join(u' ');
     }
     /// The title of the file dialog that `act` brings up, and that is cancelled.
     template <typename Act> QString dialogOf(Act act)
@@ -198,9 +223,20 @@ const Wire wires[] = {
     {"Command3 right", ACT(h.dialogOf([&] { h.tool(h.c.Command3, Qt::RightButton); })), u"Wörterbuch laden (multi)"_s},
     {"Command4 left", ACT(h.tool(h.c.Command4), h.visible(u"CorrectWordList"_s)), u"CorrectWordList"_s},
     {"Command4 right", ACT(h.dialogOf([&] { h.tool(h.c.Command4, Qt::RightButton); })), u"Richtige Wörter Speichern"_s},
-    {"Check3 left", ACT(h.boxOf([&] { h.tool(h.c.Check3); })), later},
-    {"Check3 right", ACT(h.boxOf([&] { h.tool(h.c.Check3, Qt::RightButton); })), later},
+    {"Check3 left", ACT(h.tool(h.c.Check3), h.state()), u"level 1"_s},
+    {"Check3 right", ACT(h.listOf([&] { h.tool(h.c.Check3, Qt::RightButton); })), u"Klotar"_s},
+    {"Option2(1)", ACT(h.tool(h.c.Option2[1]), h.tool(h.c.Check3), h.state()), u"level 2"_s},
+    {"Option2(2)", ACT(h.tool(h.c.Option2[2]), h.stored("GameDifficult3")), u"True"_s},
     {"Check4", ACT(h.tool(h.c.Check4), h.state()), u"retyping"_s},
+    {"ChkVokal right", ACT(h.windowOf([&] { h.tool(h.c.ChkVokal[1], Qt::RightButton); })), u"FrmPlayVokal"_s},
+    {"vowel said", ACT(emit h.r.check.vowelWordFound(u"bahn"_s), h.t.sound.files.value(0).right(7)), u"\\la.wav"_s},
+    {"vowel board left", ACT(h.tool(h.c.ChkVokal[0]), h.tool(h.c.ChkVokal[0]), h.firstRows().section(u' ', 0, 0)), u"halt"_s},
+    {"vowel board", ACT(h.tool(h.c.ChkVokal[0]), h.firstRows().section(u' ', 0, 0)), u"ball"_s},
+    {"session on a vowel board", ACT(h.tool(h.c.ChkVokal[0]), emit h.r.sessions.boardOpens(), yes(h.play.KurzVokalMode())), u"no"_s},
+    {"session in a vowel game", ACT(h.tool(h.c.ChkVokal[0]), h.tool(h.c.Check3), emit h.r.sessions.boardOpens(), h.state()), u"free"_s},
+    {"copying after the game", ACT(h.lists.CorrectWordList.add(u"Haus"_s), emit h.r.game.retypeWanted(), h.state()), u"retyping"_s},
+    {"1702", ACT(h.run(From::MainMenu, 1702), yes(h.play.GameShortVowels())), u"yes"_s},
+    {"1703", ACT(h.run(From::MainMenu, 1703), h.firstRows().section(u' ', 0, 0)), u"ball"_s},
     {"ChkVokal(0)", ACT(h.tool(h.c.ChkVokal[0]), yes(h.play.KurzVokalMode())), u"yes"_s},
     {"ChkVokal(1)", ACT(h.tool(h.c.ChkVokal[1]), yes(h.play.LangVokalMode())), u"yes"_s},
     {"Enter", ACT(h.typed(Qt::Key_Return), h.report()), u"Richtig !"_s},
@@ -216,14 +252,16 @@ const Wire wires[] = {
     {"hourglass of a list that is read", ACT(h.shapesWhileRead()), u"yes no"_s},
     {"dictionary that is read closes", ACT(h.tool(h.c.Command3), h.shapesWhileRead(), yes(h.r.dictionary.isOpen())), u"no"_s},
     {"mnuShowTip", ACT(h.entry("mnuShowTip"), yes(h.r.tips.isShown())), u"yes"_s},
-    {"mnuAddWortelToRetypeList", ACT(h.boxOf([&] { h.entry("mnuAddWortelToRetypeList"); })), later},
+    {"mnuAddWortelToRetypeList", ACT(h.windowOf([&] { h.entry("mnuAddWortelToRetypeList"); })), u"frmChooseWortel"_s},
+    {"the chooser closes the dictionary", ACT(h.tool(h.c.Command3), h.windowOf([&] { h.entry("mnuAddWortelToRetypeList"); }), yes(h.r.dictionary.isOpen())), u"no"_s},
 
     {"copied word", ACT(h.tool(h.c.Check4), h.r.check.retypeWordFound(u"Haus"_s), QString::number(h.c.Scroller->ListCount())), u"1"_s},
     {"edited list", ACT(h.tool(h.c.Check4), h.r.wordList.wordsEdited({u"a"_s}, true), h.c.Scroller->List(1)), u"a"_s},
     {"mnuStartRetypeFromList", ACT(h.entry("mnuStartRetypeFromList"), h.state()), u"retyping"_s},
     {"lists chosen in a run", ACT(h.tool(h.c.Check4), h.r.chooser.listsChosen(), h.state()), u"free"_s},
     {"lists of a session in a run", ACT(h.tool(h.c.Check4), h.r.sessions.listsChosen(), h.state()), u"free"_s},
-    {"chooser", ACT(h.boxOf([&] { h.run(From::MainMenu, 1608); })), later},
+    {"chooser", ACT(h.windowOf([&] { h.run(From::MainMenu, 1608); })), u"frmChooseWortel"_s},
+    {"chosen words", ACT(h.r.wordChooser.wordsChosen(), h.state()), u"retyping"_s},
     {"menus follow the mode", ACT(h.tool(h.c.Check4), yes(h.offers(1901))), u"no"_s},
     {"menus follow undo", ACT(h.r.news.Commit(), yes(h.offers(2801))), u"yes"_s},
     {"menus follow a filter's press", ACT(h.r.news.Commit(), h.store("UseUndo", "0"), h.tool(h.c.OptType[1]), yes(h.offers(2801))), u"no"_s},
@@ -244,14 +282,21 @@ const Wire wires[] = {
     {"undo", ACT(h.r.news.Commit(), h.t.options.setBox(Setting::UseUndo, 0), h.t.options.ApplySettings(), yes(h.r.undo.CanUndo())), u"no"_s},
     {"file type", ACT(h.r.options.registerFileType(), yes(h.sessionsAreKnown())), u"yes"_s},
     {"no file type", ACT(h.r.fileType.registerSessions(), h.r.options.removeFileType(), yes(h.sessionsAreKnown())), u"no"_s},
-    {"scores", ACT(h.boxOf([&] { emit h.r.options.resetScores(frmOptions::Scores::Klotar); })), later},
+    {"scores", ACT(h.boxOf([&] { emit h.r.options.resetScores(frmOptions::Scores::Klotar); })), u"Möchtest du die Best"_s},
 
+    {"scores of Tonarin", ACT(h.boxOf([&] { emit h.r.options.resetScores(frmOptions::Scores::Tonarin); })), u"Möchtest du die Best"_s},
+    {"2900", ACT(h.listOf([&] { h.run(From::MainMenu, 2900); })), u"Klotar"_s},
+    {"3104", ACT(h.listOf([&] { h.run(From::MainMenu, 3104); })), u"Kernling"_s},
+    {"3106", ACT(h.listOf([&] { h.run(From::MainMenu, 3106); })), u"Tonarin"_s},
+    {"2901", ACT(h.listReset(2901)), u"scores.lst"_s},
+    {"3105", ACT(h.listReset(3105)), u"ScoresKernling.lst"_s},
+    {"3107", ACT(h.listReset(3107)), u"ScoresVokal.lst"_s},
     {"601", ACT(h.run(From::MainMenu, 601), h.report()), u"Richtig !"_s},
     {"901", ACT(h.windowOf([&] { h.run(From::MainMenu, 901); })), u"frmOptions"_s},
     {"1001", ACT(h.windowOf([&] { h.run(From::MainMenu, 1001); })), u"HelpWindow"_s},
     {"1003", ACT(h.windowOf([&] { h.run(From::MainMenu, 1003); })), u"fAbout"_s},
     {"1906", ACT(h.run(From::MainMenu, 1906), yes(h.gate.isClosing())), u"yes"_s},
-    {"701", ACT(h.boxOf([&] { h.run(From::MainMenu, 701); })), later},
+    {"701", ACT(h.run(From::MainMenu, 701), h.state()), u"level 1"_s},
     {"201", ACT(h.dialogOf([&] { h.run(From::MainMenu, 201); })), u"Wortel laden (Multi)"_s},
     {"275", ACT(h.run(From::MainMenu, 275), yes(h.r.tips.isShown())), u"yes"_s},
     {"401", ACT(h.run(From::MainMenu, 401), h.visible(u"LexiconList"_s)), u"LexiconList"_s},

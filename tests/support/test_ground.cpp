@@ -89,7 +89,7 @@ template <typename A> A QueuedBoxes::answer(const Question &question, Answers<A>
 bool QueuedBoxes::allTaken() const
 {
     return plain_.isEmpty() && pressed_.isEmpty() && notices_.isEmpty() && typed_.isEmpty() &&
-           words_.isEmpty();
+           words_.isEmpty() && names_.isEmpty() && scores_.isEmpty();
 }
 
 Boxes::Answer QueuedBoxes::plainBox(Icon icon, const QString &title, const QString &text, Buttons buttons)
@@ -120,6 +120,19 @@ QString QueuedBoxes::ShowWordBox(const QString &prompt, BoxStyle kind, const QSt
                                  const QString &title, int, int)
 {
     return answer({u"ShowWordBox"_s, title, prompt, defaultText, static_cast<int>(kind)}, words_, QString());
+}
+
+QString QueuedBoxes::ShowEnterName(const QString &title)
+{
+    return answer({u"ShowEnterName"_s, title, {}, {}, 0}, names_, QString());
+}
+
+void QueuedBoxes::ShowHighScores(const HighScoreSheet &sheet)
+{
+    QStringList lines{sheet.result};
+    for (const auto &[name, score] : sheet.rows)
+        lines << name + u' ' + score;
+    answer({u"ShowHighScores"_s, sheet.title, lines.join(u'\n'), sheet.heading, sheet.place}, scores_, true);
 }
 
 QStringList QueuedFileDialogs::openFiles(const QString &title, const QString &folder, const QString &filter,

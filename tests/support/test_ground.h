@@ -60,6 +60,9 @@ public:
     void willBeRead(int result = 0) { notices_.add(result); }
     void willType(const QString &text) { typed_.add(text); }
     void willTypeWord(const QString &text) { words_.add(text); }
+    void willEnterName(const QString &name) { names_.add(name); }
+    /// The list of the best is closed.
+    void willCloseScores() { scores_.add(true); }
 
     QList<Question> asked;
     int unexpected = 0;
@@ -76,6 +79,9 @@ public:
                      int left, int top) override;
     QString ShowWordBox(const QString &prompt, BoxStyle kind, const QString &defaultText,
                         const QString &title, int left, int top) override;
+    QString ShowEnterName(const QString &title) override;
+    /// Its question has the heading as style, and as text the result and the rows, one a line.
+    void ShowHighScores(const HighScoreSheet &sheet) override;
 
 private:
     template <typename A> A answer(const Question &question, Answers<A> &answers, const A &otherwise);
@@ -85,6 +91,8 @@ private:
     Answers<int> notices_;
     Answers<QString> typed_;
     Answers<QString> words_;
+    Answers<QString> names_;
+    Answers<bool> scores_;
 };
 
 /// The file dialogs of a test. An empty answer is a cancelled dialog.

@@ -194,16 +194,21 @@ QString TestHouse::trouble() const
         return u"the pointer is still the hourglass"_s;
     if (!controls.Label4->isHidden())
         return u"the cancel sign is still there"_s;
-    const bool plays = play.RetypeActive();
+    const bool retypes = play.RetypeActive();
+    const bool game = play.GameActive();
+    const bool builds = game && play.phase() == PlayState::Phase::Preparing;
+    const bool plays = retypes || game;
     if (controls.GameProgress->isHidden() == plays)
         return u"the status line is wrong"_s;
     const bool dictionaryOpen = r.dictionary.isOpen();
     if (controls.Check2->isHidden() != plays || !controls.Check2->isEnabled() ||
-        !controls.Command5->isEnabled() || controls.Command2->isEnabled() == dictionaryOpen ||
-        controls.Command3->isEnabled() == plays || controls.Check3->isEnabled() == plays ||
-        controls.Check3->isHidden() || controls.Check4->isHidden() || !controls.Check4->isEnabled() ||
-        controls.Picture3->isHidden() || !controls.Dropper1->isEnabled() ||
-        controls.Option1[0]->isEnabled() == (plays || dictionaryOpen))
+        controls.Command5->isEnabled() == builds ||
+        controls.Command2->isEnabled() == (builds || dictionaryOpen) ||
+        controls.Command3->isEnabled() == plays || controls.Check3->isEnabled() == retypes ||
+        controls.Check3->isHidden() || controls.Check4->isHidden() || controls.Check4->isEnabled() == game ||
+        controls.Picture3->isHidden() || controls.Dropper1->isEnabled() == builds ||
+        controls.Label1->isHidden() == game ||
+        controls.Option1[0]->isEnabled() == (retypes || builds || dictionaryOpen))
         return u"tools are not as the state wants them"_s;
     const QImage seen = controls.picCanvas->image().copy();
     r.canvas.repaint();

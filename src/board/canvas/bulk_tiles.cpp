@@ -198,6 +198,24 @@ void BulkTiles::RefillWithSpecNum(int n)
     step([&] { showFresh(std::move(fresh), filter); });
 }
 
+void BulkTiles::Refill_Vokals(int n)
+{
+    Procedure step{ground_.log, "Refill_Vokals", form};
+    const int filter = store_.filter().selected();
+    Work work(ground_);
+    TileList fresh;
+    {
+        const FrozenBoard frozen(canvas_.surface());
+        step([&] { layWortels(n, false, fresh, work, Placement::noBound); });
+    }
+    step([&] {
+        for (auto &tile : store_.copies())
+            if (tile->BGColor != wortelKind.back)
+                fresh.push_back(std::move(tile));
+    });
+    step([&] { showFresh(std::move(fresh), filter); });
+}
+
 /// The rows at their homes, or above the band where it would hide them. The counters tell the whole lists,
 /// though only the first entries have a home: the rows are made so.
 void BulkTiles::layAffixRows(TileList &fresh, int bandTop)

@@ -45,6 +45,8 @@ public:
     /// The same with `n` Wortel tiles at random places. 0 empties the board, affix rows too; a negative `n`
     /// only refreshes the filter.
     void RefillWithSpecNum(int n);
+    /// `Refill` for a board of the vowels: `n` Wortel tiles from the current list; the affixes stay.
+    void Refill_Vokals(int n);
     /// A left press on the button "Wortel": `Refill` with its sound and the commit.
     void Check2_LeftPress();
 

@@ -135,7 +135,7 @@ void RetypeMode::openChooser()
         return;
     controls_.CorrectWordList->hide();
     rooms_.dictionary.close();
-    step([&] { emit chooserWanted(u"Abschreiben: Alle Wörter"_s, u"Abschreiben: Ausgewählte Wörter"_s); });
+    step([&] { emit chooserWanted(); });
 }
 
 void RetypeMode::startFromList(WordSource words)

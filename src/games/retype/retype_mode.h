@@ -73,6 +73,8 @@ public:
     /// The word list was edited by hand: the strip takes it over, unless nonsense words run in it. A list
     /// that was emptied ends a run without praise.
     void wordsEdited(const QStringList &words, bool fillEmptyStrip);
+    /// A game has ended with its words in the word list: they are copied.
+    void retypeAfterGame() { leftPress(WordSource::UserWords); }
     /// Other lists were chosen: a run ends.
     void endRun();
 
@@ -80,8 +82,8 @@ public:
     const QStringList &KeptWords() const { return KeptWords_; }
 
 signals:
-    /// The chooser is to open, with these captions on its two start buttons.
-    void chooserWanted(const QString &allWords, const QString &chosenWords);
+    /// The word chooser is to open.
+    void chooserWanted();
 
 private:
     enum class State { Rest, Preparing, Ending };
@@ -104,8 +106,6 @@ private:
     void removeWord(const QString &word, WordStore &words) const;
     void eraseTile(const QString &word);
     void finish(const RetypeSource &source);
-    void clearVowelBoxes();
-    void showWordList();
 
     Ground &ground_;
     const MainControls &controls_;

@@ -10,7 +10,6 @@
 #include "games/retype/retype_sources.h"
 #include "games/retype/strip_control.h"
 #include "generators/word_maker.h"
-#include "language/list_stand.h"
 #include "language/word_check.h"
 #include "language/word_tests.h"
 #include "platform/boxes.h"
@@ -24,7 +23,7 @@
 #include "platform/work.h"
 #include "widgets/control_sheet.h"
 #include "widgets/dropper.h"
-#include "widgets/gradient.h"
+#include "widgets/list_stand.h"
 #include "widgets/main_controls.h"
 #include "widgets/msg_scroller.h"
 #include "widgets/press_button.h"
@@ -34,9 +33,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QScopedValueRollback>
-#include <QSignalBlocker>
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -44,7 +40,6 @@ namespace {
 
 using C = MainControls;
 
-constexpr int lowestList = 60; ///< pixels
 constexpr QColor runningFace{0xFF, 0xC8, 0x3C};
 
 /// While the strip runs: the board is switched to typing.
@@ -241,29 +236,9 @@ void RetypeMode::finish(const RetypeSource &source)
     if (answer != 1) {
         lists_.PseudoWordList.clear();
         controls_.Scroller->Clear();
-        step([&] { clearVowelBoxes(); });
+        step([&] { rooms_.check.clearVowelBoxes(); });
     }
     leave();
     if (!lists_.CorrectWordList.isEmpty())
-        showWordList();
-}
-
-void RetypeMode::clearVowelBoxes()
-{
-    const auto isOn = [](const PressButton *box) { return box->isChecked(); };
-    if (std::none_of(controls_.ChkVokal.begin(), controls_.ChkVokal.end(), isOn))
-        return;
-    for (PressButton *box : controls_.ChkVokal) {
-        const QSignalBlocker once(box);
-        box->setChecked(false);
-    }
-    rooms_.check.ChkVokal_Click();
-}
-
-void RetypeMode::showWordList()
-{
-    StoreList *list = controls_.CorrectWordList;
-    standOnBand(controls_, list);
-    list->resize(list->width(), std::max(lowestList, controls_.Picture1->y() - list->y()));
-    list->show();
+        showDownToBand(controls_, controls_.CorrectWordList);
 }

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "games/retype/strip_control.h"
 
-#include "games/retype/scroller_place.h"
+#include "board/canvas/scroller_place.h"
 #include "platform/ground.h"
 #include "platform/options.h"
 #include "platform/procedure.h"

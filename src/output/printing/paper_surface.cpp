@@ -12,11 +12,11 @@
 #include <utility>
 
 PaperSurface::PaperSurface(QPainter &painter, const QSize &board, double scale, const QFont &letters,
-                           Ground ground)
+                           Underlay underlay)
     : painter_(painter)
     , board_(board)
     , scale_(scale)
-    , ground_(std::move(ground))
+    , underlay_(std::move(underlay))
 {
     QFont font = letters;
     font.setBold(true);
@@ -54,7 +54,8 @@ void PaperSurface::printText(int x, int y, const QString &text, Colour colour)
 
 void PaperSurface::clear()
 {
-    painter_.fillRect(onPaper(0, 0, board_.width(), board_.height()), ground_.colour);
-    if (!ground_.picture.isNull())
-        painter_.drawImage(onPaper(0, 0, ground_.picture.width(), ground_.picture.height()), ground_.picture);
+    painter_.fillRect(onPaper(0, 0, board_.width(), board_.height()), underlay_.colour);
+    if (!underlay_.picture.isNull())
+        painter_.drawImage(onPaper(0, 0, underlay_.picture.width(), underlay_.picture.height()),
+                           underlay_.picture);
 }

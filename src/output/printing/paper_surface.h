@@ -15,14 +15,15 @@ class PaperSurface : public TileSurface
 {
 public:
     /// What lies under the tiles.
-    struct Ground
+    struct Underlay
     {
         QColor colour;
         QImage picture; ///< at the top left corner, one picture point a pixel of the board; may be null
     };
 
     /// `board` in pixels of the board, `scale` in dots of the device a pixel, `letters` as on the board.
-    PaperSurface(QPainter &painter, const QSize &board, double scale, const QFont &letters, Ground ground);
+    PaperSurface(QPainter &painter, const QSize &board, double scale, const QFont &letters,
+                 Underlay underlay);
 
     void fillBox(int left, int top, int right, int bottom, Colour colour) override;
     void outlineBox(int left, int top, int right, int bottom, Colour colour) override;
@@ -36,5 +37,5 @@ private:
     QSize board_;
     double scale_;
     double ascent_;
-    Ground ground_;
+    Underlay underlay_;
 };

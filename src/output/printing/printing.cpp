@@ -192,12 +192,13 @@ void Printing::PrintOut()
     if (!job)
         return;
     canvas_.CanvasUnSelectAllWortel();
+    if (ground_.gate.isClosing())
+        return;
     // The band covers the lower end of the board.
     const QSize board(controls_.picCanvas->width(), controls_.Picture1->y() - controls_.picCanvas->y());
     PrintPictureToFitPage("PrintOut", *job, board,
                           [&](QPainter &painter, double scale) { paintBoard(painter, board, scale); });
-    if (!ground_.gate.isClosing())
-        canvas_.repaint();
+    canvas_.repaint();
 }
 
 void Printing::PrintPictureToFitPage(const char *procedure, PrintJob job, const QSizeF &picture,

@@ -153,7 +153,7 @@ QWidget *WebView::makeColours()
     auto *box = new QGroupBox(u"Farben"_s, this);
     auto *lines = new QVBoxLayout(box);
     Option2[0] = makeOption(u"Option2(0)"_s, u"Farben des &Programms"_s, u"Farben des Programms"_s);
-    Option2[1] = makeOption(u"Option2(1)"_s, u"&Eigene Farben"_s, u"Eigene Farben"_s);
+    Option2[1] = makeOption(u"Option2(1)"_s, u"Eige&ne Farben"_s, u"Eigene Farben"_s);
     lines->addLayout(lineOf({Option2[0], Option2[1]}));
     auto *swatches = new QHBoxLayout;
     addSwatch(*swatches, Picture1, "Picture1", u"Webseite"_s);

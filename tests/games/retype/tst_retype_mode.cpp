@@ -195,9 +195,9 @@ private slots:
     void aCopiedStemLeavesTheBoard()
     {
         Desk desk;
+        desk.tool(desk.controls.ChkVokal[0]);
         desk.lay(wortelKind, 10, 50, u"Bild"_s);
         desk.lay(wortelKind, 90, 50, u"hand"_s);
-        desk.tool(desk.controls.ChkVokal[0]);
         desk.right();
         QVERIFY2(!desk.play.RetypeActive(), "the right button knows no vowels");
         desk.fillVowels();

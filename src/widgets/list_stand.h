@@ -9,3 +9,5 @@ struct MainControls;
 /// that, on the band's upper edge, so that it never covers the tool that closes it. Brings it before the
 /// board.
 void standOnBand(const MainControls &controls, StoreList *list);
+/// Shows it there, with its height reaching from its top down to the band.
+void showDownToBand(const MainControls &controls, StoreList *list);

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "language/list_stand.h"
+#include "widgets/list_stand.h"
 
 #include "widgets/gradient.h"
 #include "widgets/main_controls.h"
@@ -19,4 +19,12 @@ void standOnBand(const MainControls &controls, StoreList *list)
     const int bottom = fitsBeside ? band.bottom() + 1 : band.top();
     list->move(std::max(0, left), std::max(0, bottom - list->height()));
     list->raise();
+}
+
+void showDownToBand(const MainControls &controls, StoreList *list)
+{
+    constexpr int lowest = 60; // pixels
+    standOnBand(controls, list);
+    list->resize(list->width(), std::max(lowest, controls.Picture1->y() - list->y()));
+    list->show();
 }

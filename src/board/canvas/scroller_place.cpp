@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "games/retype/scroller_place.h"
+#include "board/canvas/scroller_place.h"
 
 #include "board/canvas/placement.h"
-#include "language/list_stand.h"
+#include "widgets/list_stand.h"
 #include "platform/options.h"
 #include "platform/rnd.h"
 #include "widgets/gradient.h"

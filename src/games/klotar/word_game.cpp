@@ -1,0 +1,416 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "games/klotar/word_game.h"
+
+#include "board/canvas/canvas.h"
+#include "board/canvas/scroller_place.h"
+#include "board/hand/board_pointer.h"
+#include "board/hand/command_router.h"
+#include "board/tiles/tile_store.h"
+#include "games/klotar/game_sign.h"
+#include "games/klotar/game_words.h"
+#include "games/scores/high_scores.h"
+#include "language/dictionary_panel.h"
+#include "language/tips.h"
+#include "language/word_check.h"
+#include "language/word_tests.h"
+#include "platform/boxes.h"
+#include "platform/gate.h"
+#include "platform/ground.h"
+#include "platform/options.h"
+#include "platform/procedure.h"
+#include "platform/product.h"
+#include "platform/sounds.h"
+#include "platform/text.h"
+#include "platform/word_lists.h"
+#include "platform/work.h"
+#include "widgets/control_sheet.h"
+#include "widgets/dropper.h"
+#include "widgets/list_stand.h"
+#include "widgets/main_controls.h"
+#include "widgets/picture_box.h"
+#include "widgets/press_button.h"
+#include "widgets/status_line.h"
+#include "widgets/store_list.h"
+
+#include <QLabel>
+#include <QSignalBlocker>
+
+#include <algorithm>
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using C = MainControls;
+
+constexpr auto form = "frmMain";
+constexpr QColor runningFace{0xFF, 0xC8, 0x3C};
+constexpr int hintStays = 5000; ///< milliseconds
+
+/// From the start to the end: the board is for the game alone, and words are entered as they are checked.
+constexpr SheetRow gameSheet[] = {
+    {tool<&C::Check1>, SheetRow::Hidden},
+    {tool<&C::Check2>, SheetRow::Hidden},
+    {tool<&C::Label3>, SheetRow::Hidden},
+    {tool<&C::Label6>, SheetRow::Hidden},
+    {tool<&C::Text1>, SheetRow::Hidden},
+    {tool<&C::Command6>, SheetRow::Hidden},
+    {tool<&C::Command3>, SheetRow::Disabled},
+    {tool<&C::Command4>, SheetRow::Disabled},
+    {tool<&C::Check4>, SheetRow::Disabled},
+    {tool<&C::Option2, 0>, SheetRow::Disabled},
+    {tool<&C::Option2, 1>, SheetRow::Disabled},
+    {tool<&C::Option2, 2>, SheetRow::Disabled},
+    {tool<&C::ChkVokal, 0>, SheetRow::Disabled},
+    {tool<&C::ChkVokal, 1>, SheetRow::Disabled},
+    {tool<&C::Label1>, SheetRow::Shown},
+    {tool<&C::Check3>, SheetRow::None, u"Spielmodus abbrechen"},
+    {tool<&C::Command2>, SheetRow::None, u"Wortkontrolle"},
+};
+/// While words are only built.
+constexpr SheetRow buildingSheet[] = {
+    {tool<&C::Dropper1>, SheetRow::Disabled},
+    {tool<&C::Command2>, SheetRow::Disabled},
+    {tool<&C::Command5>, SheetRow::Disabled},
+    {tool<&C::Option1, 0>, SheetRow::Disabled},
+};
+
+/// Seconds as a timer takes them; 0 and less are none.
+void startOnce(QTimer &timer, double seconds)
+{
+    const double milliseconds = std::min(seconds * 1000, double(std::numeric_limits<int>::max()));
+    if (milliseconds >= 1)
+        timer.start(static_cast<int>(milliseconds));
+}
+
+} // namespace
+
+WordGame::WordGame(Ground &ground, const MainControls &controls, WordLists &lists, PlayState &play,
+                   const Rooms &rooms)
+    : ground_(ground)
+    , controls_(controls)
+    , lists_(lists)
+    , play_(play)
+    , rooms_(rooms)
+    , PreparationTimer_(ground.clock, this)
+    , GameTimer_(ground.clock, this)
+    , sign_(new GameSign(controls.picCanvas))
+{
+    connect(&PreparationTimer_, &MinuteTimer::Timer, this,
+            [this] { minutePassed(&WordGame::PreparationTimer_Timer); });
+    connect(&GameTimer_, &MinuteTimer::Timer, this, [this] { minutePassed(&WordGame::GameTimer_Timer); });
+    PreparationTimer_.setObjectName(u"PreparationTimer"_s);
+    GameTimer_.setObjectName(u"GameTimer"_s);
+    GameWordHintTimer_.setSingleShot(true);
+    connect(&GameWordHintTimer_, &QTimer::timeout, this,
+            [this] { minutePassed(&WordGame::ShowGameWordHint); });
+    TimerWordHint_.setSingleShot(true);
+    TimerWordHint_.setInterval(hintStays);
+    connect(&TimerWordHint_, &QTimer::timeout, controls_.TxtWordHint, &QWidget::hide);
+}
+
+// The button and the menu
+// ------------------------------------------------------------------------------------------------------------
+
+void WordGame::Check3_MouseDown(Qt::MouseButton button)
+{
+    Procedure step{ground_.log, "Check3_MouseDown", form};
+    if (button == Qt::RightButton) {
+        if (play_.GameActive())
+            return;
+        const ScoredGame game = chosenVowels() == Vowels::None ? ScoredGame::Klotar : ScoredGame::Tonarin;
+        step([&] { rooms_.scores.DisplayHighScores(game); });
+        if (!ground_.gate.isClosing())
+            step([&] { rooms_.canvas.store().filter().select(TileFilter::all); });
+    } else if (play_.GameActive()) {
+        step([&] { StopTheGame(); });
+    } else {
+        step([&] { StartTheGame(chosenLevel()); });
+    }
+}
+
+void WordGame::registerCommands(CommandRouter &router)
+{
+    router.onMenu(701, [this] {
+        rooms_.check.clearVowelBoxes();
+        Check3_MouseDown(Qt::LeftButton);
+    });
+    router.onMenu(1702, [this] { startVowelGame(Vowels::Short); });
+    router.onMenu(1703, [this] { startVowelGame(Vowels::Long); });
+}
+
+void WordGame::Option2_Click(int index)
+{
+    Procedure step{ground_.log, "Option2_Click", form};
+    constexpr Setting levels[] = {Setting::GameDifficult1, Setting::GameDifficult2, Setting::GameDifficult3};
+    play_.setLevel(index + 1);
+    step([&] { ground_.options.keepOption(levels[index]); });
+}
+
+void WordGame::startVowelGame(Vowels vowels)
+{
+    if (play_.RetypeActive())
+        return;
+    for (PressButton *box : controls_.ChkVokal) {
+        const QSignalBlocker quietly(box); // the game's start loads the board
+        box->setChecked(box == controls_.ChkVokal[vowels == Vowels::Short ? 0 : 1]);
+    }
+    Check3_MouseDown(Qt::LeftButton);
+}
+
+Vowels WordGame::chosenVowels() const
+{
+    const bool shortOn = controls_.ChkVokal[0]->isChecked();
+    const bool longOn = controls_.ChkVokal[1]->isChecked();
+    return shortOn ? Vowels::Short : longOn ? Vowels::Long : Vowels::None;
+}
+
+int WordGame::chosenLevel() const
+{
+    for (std::size_t level = 0; level < controls_.Option2.size(); ++level)
+        if (controls_.Option2[level]->isChecked())
+            return static_cast<int>(level) + 1;
+    return 1;
+}
+
+// Start
+// ------------------------------------------------------------------------------------------------------------
+
+void WordGame::StartTheGame(int Level)
+{
+    Procedure step{ground_.log, "StartTheGame", form};
+    if (play_.RetypeActive())
+        return;
+    const Vowels vowels = chosenVowels();
+    const GameStage &stage = game_stages::first(Level);
+    play_.setLevel(Level);
+    play_.startGame(stage.phase, vowels);
+    step([&] { playSound(ground_, SoundId::GameStarted); });
+    step([&] { rooms_.dictionary.close(); });
+    rooms_.sheet.lay(Reason::Game, gameSheet);
+    controls_.Check3->setFace(runningFace);
+    if (vowels != Vowels::None)
+        step([&] { emit vowelBoardWanted(); });
+    if (ground_.gate.isClosing())
+        return;
+    step([&] { GameTimeOut_ = CInt(ground_.options.number(Setting::GameTimeOut)); });
+    step([&] { GamePrepareTimeOut_ = CInt(Fix(ground_.options.number(Setting::GamePrepareTimeOut))); });
+    step([&] { startTips(vowels); });
+    step([&] { enter(stage); });
+}
+
+void WordGame::startTips(Vowels vowels)
+{
+    if (vowels != Vowels::None) {
+        rooms_.tips.startVokalTipTimer();
+        return;
+    }
+    rooms_.tips.startGameTipTimer();
+    controls_.TxtWordHint->clear();
+    if (!ground_.options.isOn(Setting::GameShowWordHint))
+        return;
+    GetGameWordHint();
+    startOnce(GameWordHintTimer_, ground_.options.number(Setting::GameShowWordHintTime));
+}
+
+void WordGame::clearWords()
+{
+    lists_.GameCollectedList.clear();
+    lists_.CorrectWordList.clear();
+    controls_.CorrectWordList->hide();
+    controls_.Label1->clear();
+}
+
+void WordGame::enter(const GameStage &stage)
+{
+    Procedure step{ground_.log, "StartTheGame", form, Procedure::Silent};
+    const bool builds = stage.phase == PlayState::Phase::Preparing;
+    stage_ = &stage;
+    minutes_ = StageMinutes(builds ? GamePrepareTimeOut_ : GameTimeOut_);
+    ++run_;
+    clearWords();
+    rooms_.sheet.set(Reason::Building, buildingSheet, builds);
+    controls_.Option1[static_cast<std::size_t>(stage.dragMode)]->setChecked(true);
+    rooms_.status.show(StatusLine::Layer::Mode, minutes_.maximum(),
+                       game_stages::startCaption(stage, minutes_.maximum()));
+    tellTime();
+    MinuteTimer &timer = builds ? PreparationTimer_ : GameTimer_;
+    timer.setTimerMode(MinuteTimer::TimerMode::Minutes);
+    timer.setMinuteInterval(1);
+    timer.setEnabled(true);
+    if (builds)
+        controls_.picCanvas->setFocus();
+    else
+        step([&] { controls_.Dropper1->takeFocus(); });
+}
+
+// Minutes
+// ------------------------------------------------------------------------------------------------------------
+
+/// Nothing ticks behind a box, nor in the middle of something else.
+void WordGame::minutePassed(void (WordGame::*tick)())
+{
+    ground_.gate.whenFree([this, tick, run = run_] {
+        if (run == run_ && play_.GameActive())
+            (this->*tick)();
+    });
+}
+
+void WordGame::tellTime()
+{
+    sign_->tell(QString::fromUtf16(stage_->task), minutes_.left());
+    sign_->raise();
+}
+
+void WordGame::GameProgress_ValueChanged()
+{
+    rooms_.status.setValue(StatusLine::Layer::Mode, minutes_.value());
+    rooms_.status.setCaption(StatusLine::Layer::Mode,
+                             game_stages::valueCaption(minutes_.maximum(), minutes_.value()));
+    tellTime();
+}
+
+void WordGame::PreparationTimer_Timer()
+{
+    Procedure step{ground_.log, "PreparationTimer_Timer", form};
+    const bool over = minutes_.pass();
+    step([&] { GameProgress_ValueChanged(); });
+    if (!over) {
+        rooms_.status.setCaption(StatusLine::Layer::Mode, game_stages::buildingCaption(minutes_.left()));
+        return;
+    }
+    step([&] { playSound(ground_, SoundId::AllCopied, Setting::GameSoundOnTimeOut); });
+    step([&] { restBoard(); });
+    stopClock();
+    rooms_.sheet.takeOff(Reason::Building);
+    step([&] {
+        ground_.boxes.ShowInfoBox(
+            u"Die Vorbereitungszeit ist zu Ende.\nDu kannst deine Wörter jetzt zur Kontrolle ins "
+            "Schreibfenster hineinziehen oder eintippen."_s,
+            BoxSign::Info, product::name);
+    });
+    if (ground_.gate.isClosing())
+        return;
+    play_.endPreparation();
+    step([&] { enter(game_stages::entering); });
+}
+
+void WordGame::GameTimer_Timer()
+{
+    Procedure step{ground_.log, "GameTimer_Timer", form};
+    const bool over = minutes_.pass();
+    step([&] { GameProgress_ValueChanged(); });
+    if (over)
+        step([&] { endWithScore(); });
+}
+
+void WordGame::stopClock()
+{
+    for (MinuteTimer *timer : {&PreparationTimer_, &GameTimer_}) {
+        timer->setTimerMode(MinuteTimer::TimerMode::Plain);
+        timer->setEnabled(false);
+        timer->setMinuteInterval(0);
+    }
+    ++run_;
+}
+
+void WordGame::stopTimers()
+{
+    stopClock();
+    GameWordHintTimer_.stop();
+    TimerWordHint_.stop();
+}
+
+// The end
+// ------------------------------------------------------------------------------------------------------------
+
+/// Whatever a hand holds is let go.
+void WordGame::restBoard()
+{
+    const int filter = rooms_.canvas.store().filter().selected();
+    rooms_.pointer.letGo();
+    rooms_.canvas.CanvasUnSelectAllWortel();
+    rooms_.canvas.RecallFilter(filter);
+}
+
+/// Every way out: timers, tools and colours as they were. Whoever leaves announces it.
+void WordGame::leave()
+{
+    stopTimers();
+    rooms_.tips.stopGameTimers();
+    controls_.TxtWordHint->hide();
+    sign_->hide();
+    rooms_.status.hide(StatusLine::Layer::Mode);
+    rooms_.sheet.takeOff(Reason::Building);
+    rooms_.sheet.takeOff(Reason::Game);
+    controls_.Check3->setFace({});
+    controls_.Option1[1]->setChecked(true);
+}
+
+void WordGame::StopTheGame()
+{
+    Procedure step{ground_.log, "StopTheGame", form};
+    controls_.Label1->clear();
+    step([&] { leave(); });
+    play_.stop();
+    rooms_.check.readVowelBoxes(); // a vowel board stays
+}
+
+void WordGame::boardOpens()
+{
+    if (play_.GameShortVowels() || play_.GameLongVowels())
+        StopTheGame();
+}
+
+void WordGame::endWithScore()
+{
+    Procedure step{ground_.log, "GameTimer_Timer", form, Procedure::Silent};
+    step([&] { playSound(ground_, SoundId::GameOver); });
+    step([&] { restBoard(); });
+    step([&] { leave(); });
+    const bool vowels = play_.GameShortVowels() || play_.GameLongVowels();
+    step([&] {
+        const int points = GetPoints(lists_);
+        rooms_.scores.CheckForHighScore(vowels ? ScoredGame::Tonarin : ScoredGame::Klotar, points,
+                                        rooms_.tests.GetCorrectNumWords(vowels));
+    });
+    if (ground_.gate.isClosing())
+        return;
+    rooms_.canvas.store().filter().select(TileFilter::all);
+    play_.stop();
+    controls_.Label1->clear();
+    step([&] { rooms_.check.clearVowelBoxes(); });
+    if (ground_.options.isOn(Setting::ShowCorrectListAfterGame) &&
+        !ground_.options.isOn(Setting::ShowCorrectListAfterReType) && !lists_.CorrectWordList.isEmpty())
+        showDownToBand(controls_, controls_.CorrectWordList);
+    if (ground_.options.isOn(Setting::ReTypeAfterGame))
+        step([&] { emit retypeWanted(); });
+}
+
+// The hint
+// ------------------------------------------------------------------------------------------------------------
+
+void WordGame::GetGameWordHint()
+{
+    Procedure step{ground_.log, "GetGameWordHint", form};
+    const Work work(ground_, {WorkPlan::Bar, 10});
+    controls_.TxtWordHint->clear();
+    controls_.TxtWordHint->hide();
+    step([&] {
+        controls_.TxtWordHint->setText(
+            findWordHint(rooms_.canvas.store().tiles(), lists_, rooms_.tests, ground_.rnd));
+    });
+    controls_.TxtWordHint->adjustSize();
+    step([&] { placeOverBoard(controls_, ground_.options, ground_.rnd, *controls_.TxtWordHint); });
+}
+
+void WordGame::ShowGameWordHint()
+{
+    if (controls_.TxtWordHint->text().isEmpty())
+        return;
+    controls_.TxtWordHint->show();
+    controls_.TxtWordHint->raise();
+    TimerWordHint_.start();
+}
