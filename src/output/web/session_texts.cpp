@@ -30,10 +30,11 @@ int tileNumber(QByteArrayView name)
 {
     constexpr QByteArrayView word = "MORPHEME";
     const QByteArrayView digits = name.sliced(std::min(name.size(), word.size()));
-    const bool isPlain =
-        !digits.isEmpty() && digits.size() <= 5 && digits.front() != '0' &&
+    const bool isNumbered =
+        isSame(name.first(name.size() - digits.size()), word) && !digits.isEmpty() && digits.size() <= 5 &&
+        digits.front() != '0' &&
         std::all_of(digits.begin(), digits.end(), [](char c) { return c >= '0' && c <= '9'; });
-    if (!isPlain)
+    if (!isNumbered)
         return 0;
     const int number = digits.toInt();
     return number <= SessionTexts::mostTiles ? number : 0;
@@ -52,7 +53,8 @@ public:
         if (!isAscii(name_))
             decoded_ = UCase(texts.text(name).trimmed()).toUtf8();
     }
-    bool is(QByteArrayView upperCase) const { return isSame(decoded_ ? *decoded_ : name_, upperCase); }
+    QByteArrayView bytes() const { return decoded_ ? QByteArrayView(*decoded_) : name_; }
+    bool is(QByteArrayView upperCase) const { return isSame(bytes(), upperCase); }
 
 private:
     QByteArrayView name_;
@@ -106,7 +108,7 @@ void SessionTexts::enterSection(QByteArrayView text)
         count.isOpen = !count.isSeen && name.is(count.section);
         count.isSeen = count.isSeen || count.isOpen;
     }
-    const auto number = static_cast<std::size_t>(tileNumber(IniLine::trimmed(text)));
+    const auto number = static_cast<std::size_t>(tileNumber(name.bytes()));
     if (number == 0)
         return;
     if (tiles_.size() <= number)
