@@ -36,7 +36,7 @@ double webPage()
     MakeWebpage(page);
     const QByteArray bytes = ReadWholeFile(page.file);
     const QString beside = storedPath(folder.filePath(u"same.bytes"_s));
-    return bench::ratio([&] { MakeWebpage(page); }, [&] { writeFileAtomically(beside, bytes); }, 100);
+    return bench::ratio([&] { MakeWebpage(page); }, [&] { writeFileAtomically(beside, bytes); }, 300);
 }
 
 /// The painter calls that tiles come down to, and nothing else.

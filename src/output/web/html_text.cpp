@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "output/web/html_text.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr char32_t unknown = 0xFFFD; ///< for what is no character
@@ -55,8 +57,16 @@ void html::append(std::string &page, const QString &text)
 
 void html::append(std::string &page, QLatin1StringView text)
 {
-    for (const char letter : text)
-        appendUnit(page, static_cast<unsigned char>(letter));
+    const auto isPlain = [](char c) {
+        return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+    };
+    for (const char *at = text.begin(); at != text.end();) {
+        const char *const run = std::find_if_not(at, text.end(), isPlain);
+        page.append(at, run);
+        at = run;
+        if (at != text.end())
+            appendUnit(page, static_cast<unsigned char>(*at++));
+    }
 }
 
 QByteArray html::colour(Colour colour)

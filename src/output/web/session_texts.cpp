@@ -82,7 +82,7 @@ void SessionTexts::take(QByteArrayView line)
     const IniLine parts = IniLine::of(line);
     if (parts.kind == IniLine::Kind::Section)
         enterSection(parts.name);
-    if (parts.kind != IniLine::Kind::Entry)
+    if (parts.kind != IniLine::Kind::Entry || !(tile_ != nullptr || counts_[0].isOpen || counts_[1].isOpen))
         return;
     const Name name(*this, parts.name);
     const auto keep = [&](QByteArrayView &value, QByteArrayView key) {

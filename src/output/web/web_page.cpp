@@ -47,8 +47,11 @@ public:
         : page_(page)
         , session_(session)
         , html_(html)
-        , border_(page.framed ? "border:1px solid #ccc; " : "border:0px; ")
+        , start_(html::of("<div style=\"",
+                          QByteArray(page.framed ? "border:1px solid #ccc; " : "border:0px; "),
+                          "position:absolute; top: "))
         , size_(page.letterSteps > 0 ? " size=+" + QByteArray::number(page.letterSteps) : QByteArray())
+        , ownLook_(lookOf(page.tileBack, page.text))
     {
         for (std::size_t i = 0; i < tileKinds.size(); ++i)
             looks_[i] = {QString::fromUtf16(tileKinds[i].sessionWord).toLatin1(),
@@ -62,15 +65,10 @@ public:
             return;
         if (!page_.ownColours)
             takeLook(tile->type);
-        html_.WriteMagnet("<div style=\"", border_, "position:absolute; top: ", placeOf(tile->top),
-                          "px; left:", placeOf(tile->left), "px;\" id= \"Word", number,
-                          "\"><table cellpadding=1>");
-        html_.WriteMagnet(look_);
         if (const auto caption = session_.plainText(tile->caption))
-            html_.WriteMagnet(*caption);
+            write(*tile, number, *caption);
         else
-            html_.WriteMagnet(session_.text(tile->caption));
-        html_.WriteMagnet("</font>\r\n</td></tr></table></div>");
+            write(*tile, number, session_.text(tile->caption));
         html::append(ids_, "\"Word");
         html::append(ids_, number);
         html::append(ids_, "\",");
@@ -79,22 +77,28 @@ public:
     QByteArray ids() const { return QByteArray::fromStdString(ids_); }
 
 private:
-    /// The cell and the letters of a tile, two lines.
+    /// A tile's lines in one piece: there may be thousands.
+    template <typename Text> void write(const SessionTexts::Tile &tile, int number, const Text &caption)
+    {
+        html_.WriteMagnet(start_, placeOf(tile.top), "px; left:", placeOf(tile.left), "px;\" id= \"Word",
+                          number, *look_, caption, "\r\n</font>\r\n</td></tr></table></div>");
+    }
+    /// From behind a tile's number to before its caption.
     QByteArray lookOf(Colour back, Colour text) const
     {
-        return html::of("<tr><td bg bgcolor=", html::colour(back), ">\r\n<font color=", html::colour(text),
-                        size_, ">");
+        return html::of("\"><table cellpadding=1>\r\n<tr><td bg bgcolor=", html::colour(back),
+                        ">\r\n<font color=", html::colour(text), size_, ">\r\n");
     }
     /// A type that is none keeps the colours of the tile before it, as on the board.
     void takeLook(QByteArrayView type)
     {
-        for (const Look &look : looks_)
-            if (type == look.type) {
-                look_ = look.html;
-                return;
-            }
-        if (const TileKind *kind = kindOfWord(session_.text(type)))
-            look_ = lookOf(kind->back, kind->text);
+        const auto named = [type](const Look &look) { return type == look.type; };
+        auto found = std::find_if(looks_.begin(), looks_.end(), named);
+        if (found == looks_.end()) // in capitals, perhaps
+            if (const TileKind *kind = kindOfWord(session_.text(type)))
+                found = looks_.begin() + (kind - tileKinds.data());
+        if (found != looks_.end())
+            look_ = &found->html;
     }
     int placeOf(QByteArrayView text) const
     {
@@ -108,7 +112,7 @@ private:
     const WebPage &page_;
     const SessionTexts &session_;
     CHTMLWrapper &html_;
-    QByteArray border_;
+    QByteArray start_;
     QByteArray size_;
     struct Look
     {
@@ -116,7 +120,8 @@ private:
         QByteArray html;
     };
     std::array<Look, tileKinds.size()> looks_;
-    QByteArray look_ = lookOf(page_.tileBack, page_.text);
+    QByteArray ownLook_; ///< with own colours, and before the first kind
+    const QByteArray *look_ = &ownLook_;
     std::string ids_;
 };
 
@@ -141,7 +146,7 @@ void MakeWebpage(const WebPage &page)
     const SessionTexts session(page.session);
     CHTMLWrapper html;
     html.setFilename(page.file);
-    constexpr int growth = 3; ///< a tile in HTML is about three times as long
+    constexpr int growth = 4; ///< a tile in HTML is at most about four times as long
     html.OpenHTMLDoc(growth * session.size() + page.script.size());
     writeHead(page, html);
     const bool hasPicture = page.addPicture && !page.picture.isEmpty();
