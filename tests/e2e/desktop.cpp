@@ -71,7 +71,6 @@ QProcessEnvironment Desktop::environment() const
     environment.insert(u"XDG_DATA_HOME"_s, home() + u"/.local/share"_s);
     environment.insert(u"XDG_RUNTIME_DIR"_s, home() + u"/run"_s);
     environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
-    environment.insert(u"CUPS_SERVER"_s, u"/nowhere"_s); // nothing comes out of a real printer
     environment.remove(u"WAYLAND_DISPLAY"_s);
     environment.remove(u"PULSE_SERVER"_s);
     return environment;

@@ -10,7 +10,6 @@ wortel_test(e2e SLOW TIMEOUT 300
         tst_games_by_hand.cpp
         tst_interrupted.cpp
         tst_kept_boards.cpp
-        tst_paper_and_page.cpp
         tst_words_by_hand.cpp
 )
 add_dependencies(tst_e2e wortel)

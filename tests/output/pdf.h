@@ -15,58 +15,52 @@ public:
         : path_(nativePath(storedPath))
     {}
 
-    int pages() const { return fact(QStringLiteral("Pages")).toInt(); }
+    int pages() const { return fact("Pages:").toInt(); }
     /// "595 x 842 pts (A4)"
-    QString pageSize() const { return fact(QStringLiteral("Page size")); }
+    QString pageSize() const { return QString::fromLatin1(fact("Page size:")); }
     /// The lines of a page (from 1), each without blanks at its ends and with single ones between its words.
     QStringList lines(int page) const
     {
-        const QString number = QString::number(page);
         QStringList result;
-        const QString text =
-            run(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), QStringLiteral("-f"), number,
-                                              QStringLiteral("-l"), number, path_, QStringLiteral("-")});
-        for (const QString &line : text.split(u'\n'))
-            if (const QString words = line.simplified(); !words.isEmpty())
+        for (const QByteArray &line : run({"pdftotext", "-layout"}, page, {"-"}).split('\n'))
+            if (const QString words = QString::fromUtf8(line).simplified(); !words.isEmpty())
                 result << words;
         return result;
     }
     /// All words in their order.
     QStringList words() const
     {
-        return run(QStringLiteral("pdftotext"), {QStringLiteral("-raw"), path_, QStringLiteral("-")})
+        return QString::fromUtf8(run({"pdftotext", "-raw"}, 0, {"-"}))
             .simplified()
             .split(u' ', Qt::SkipEmptyParts);
     }
-    bool holdsPictures() const
+    bool holdsPictures() const { return run({"pdfimages", "-list"}).count('\n') > 2; }
+    /// A page of a hundred dots an inch.
+    QImage picture(int page) const
     {
-        return run(QStringLiteral("pdfimages"), {QStringLiteral("-list"), path_}).count(u'\n') > 2;
-    }
-    QImage picture(int page, int dotsPerInch) const
-    {
-        QProcess process;
-        const QString number = QString::number(page);
-        process.start(QStringLiteral("pdftoppm"),
-                      {QStringLiteral("-r"), QString::number(dotsPerInch), QStringLiteral("-f"), number,
-                       QStringLiteral("-l"), number, path_});
-        process.waitForFinished();
-        return QImage::fromData(process.readAllStandardOutput(), "PPM").convertToFormat(QImage::Format_RGB32);
+        const QByteArray points = run({"pdftoppm", "-r", "100"}, page);
+        return QImage::fromData(points, "PPM").convertToFormat(QImage::Format_RGB32);
     }
 
 private:
-    static QString run(const QString &program, const QStringList &arguments)
+    QByteArray run(QByteArrayList command, int page = 0, const QByteArrayList &after = {}) const
     {
+        if (page > 0)
+            command << "-f" << QByteArray::number(page) << "-l" << QByteArray::number(page);
+        command << path_.toUtf8() << after;
+        QStringList arguments;
+        for (const QByteArray &argument : command)
+            arguments << QString::fromUtf8(argument);
         QProcess process;
-        process.start(program, arguments);
+        process.start(arguments.takeFirst(), arguments);
         process.waitForFinished();
-        return QString::fromUtf8(process.readAllStandardOutput());
+        return process.readAllStandardOutput();
     }
-    QString fact(const QString &name) const
+    QByteArray fact(const QByteArray &name) const
     {
-        return run(QStringLiteral("pdfinfo"), {path_})
-            .section(name + u':', 1, 1)
-            .section(u'\n', 0, 0)
-            .trimmed();
+        const QByteArray facts = run({"pdfinfo"});
+        const qsizetype at = facts.indexOf(name) + name.size();
+        return facts.mid(at, facts.indexOf('\n', at) - at).trimmed();
     }
 
     QString path_;
