@@ -59,8 +59,7 @@ private:
     QByteArray fact(const QByteArray &name) const
     {
         const QByteArray facts = run({"pdfinfo"});
-        const qsizetype at = facts.indexOf(name) + name.size();
-        return facts.mid(at, facts.indexOf('\n', at) - at).trimmed();
+        return facts.mid(facts.indexOf(name) + name.size()).split('\n').first().trimmed();
     }
 
     QString path_;

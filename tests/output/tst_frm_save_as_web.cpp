@@ -4,7 +4,6 @@
 #include "output/web/frm_save_as_web.h"
 #include "platform/files.h"
 #include "support/columns.h"
-#include "support/file_size_limit.h"
 #include "support/registry.h"
 #include "support/test_house.h"
 
@@ -72,23 +71,19 @@ struct Window
     }
 };
 
-/// The browser that shows pages.
-class Browser : public QObject
-{
-    Q_OBJECT
-
-public:
-    QList<QUrl> shown;
-public slots:
-    void show(const QUrl &address) { shown << address; }
-};
-
 } // namespace
 
 /// The window "Sitzung speichern als Webseite".
 class FrmSaveAsWebTest : public QObject
 {
     Q_OBJECT
+
+public slots:
+    /// What the browser does with an address.
+    void browse(const QUrl &address) { shown_ << address; }
+
+private:
+    QList<QUrl> shown_;
 
 private slots:
     void firstTime()
@@ -117,17 +112,13 @@ private slots:
 
     void wishesAreKeptOnClosing()
     {
+        // clang-format off
         const std::initializer_list<std::array<const char *, 3>> wishes{
-            {"ChkAddDate", "WebAddDate", "1"},
-            {"chkAddBGPic", "WebAddBGPic", "1"},
-            {"ChkStripExt", "WebStripPicExt", "0"},
-            {"ChkMovePic", "WebMovePic", "1"},
-            {"ChkMoveable", "WebMoveWords", "0"},
-            {"ChkUseBorder", "WebUseBorderOnWords", "0"},
-            {"ChkMoveTitle", "WebMoveTitle", "1"},
-            {"ChkKeepTitle", "WebUseTitle", "1"},
-            {"OptFontSize(3)", "WebFontUsePlus3", "True"},
+            {"ChkAddDate", "WebAddDate", "1"}, {"chkAddBGPic", "WebAddBGPic", "1"}, {"ChkStripExt", "WebStripPicExt", "0"},
+            {"ChkMovePic", "WebMovePic", "1"}, {"ChkMoveable", "WebMoveWords", "0"}, {"ChkUseBorder", "WebUseBorderOnWords", "0"},
+            {"ChkMoveTitle", "WebMoveTitle", "1"}, {"ChkKeepTitle", "WebUseTitle", "1"}, {"OptFontSize(3)", "WebFontUsePlus3", "True"},
             {"Option2(1)", "WebUseCustomColors", "True"}};
+        // clang-format on
         Window w;
         w.control<ColourSwatch>("Picture2")->setColour(0x123456);
         w.type("TextWebTitle", u"Größe"_s);
@@ -143,9 +134,7 @@ private slots:
         QCOMPARE(w.stored("WebFontUseDefaultSize") + w.stored("WebWordBGColor") + w.stored("WebTitle"),
                  u"False1193046Größe"_s);
 
-        Window again;
-        again.t.store = w.t.store;
-        FrmSaveAsWeb next(again.t.ground, {}, {});
+        const FrmSaveAsWeb next(w.t.ground, {}, {});
         QCOMPARE(next.findChild<QLineEdit *>(u"LimitedPosX"_s)->text(), u"12"_s);
         QCOMPARE(next.findChild<ColourSwatch *>(u"Picture2"_s)->colour(), Colour(0x123456));
         for (const QString &name : on)
@@ -170,11 +159,10 @@ private slots:
         for (const char *part : {"<td bg bgcolor=#00FF00>", "SET_DRAGGABLE(CURSOR_POINTER,\"Word1\"",
                                  "<BODY bgcolor=#FFFFFF", "2026</TITLE>"})
             QVERIFY2(html.contains(part), part);
-        Browser browser;
-        QDesktopServices::setUrlHandler(u"file"_s, &browser, "show");
+        QDesktopServices::setUrlHandler(u"file"_s, this, "browse");
         w.press("cmdViewWebpage");
         QDesktopServices::unsetUrlHandler(u"file"_s);
-        QCOMPARE(browser.shown, QList<QUrl>{QUrl::fromLocalFile(nativePath(w.page))});
+        QCOMPARE(shown_, QList<QUrl>{QUrl::fromLocalFile(nativePath(w.page))});
 
         w.t.writeFile(u"BRETT.html"_s, u"alt"_s);
         QCOMPARE(
@@ -203,6 +191,7 @@ private slots:
         QTest::newRow("name of the session") << u"brett.wlx.html"_s << u"Brett.WLX.html"_s << QString() << same;
         QTest::newRow("name of the picture") << u"brett.wlx"_s << u"a.htm.gif"_s << u"a.htm.gif"_s << same;
         QTest::newRow("picture of a wrong kind") << u"brett.wlx"_s << u"a.html"_s << u"bild.png"_s << u"Wortel-Meister - Fehler: Format|Bitte ein Bild im Format Gif, JPG oder BMP !\nDieses Bild hat das Format: PNG"_s;
+        QTest::newRow("page is a folder") << u"brett.wlx"_s << u"ordner.htm"_s << QString() << notSaved + u"ordner.htm\n\nDiese Datei kann nicht geschrieben oder gelesen werden."_s;
         QTest::newRow("no such folder") << u"brett.wlx"_s << u"fort\\a.html"_s << QString() << notSaved + u"fort\\a.html\n\nDen Ordner gibt es nicht."_s;
     }
     // clang-format on
@@ -218,79 +207,45 @@ private slots:
         w.t.writeFile(u"a.htm.gif"_s, u"Bild"_s);
         QDir folder(w.t.folder.path());
         folder.mkdir(u"ordner.wlx"_s);
+        folder.mkdir(u"ordner.htm"_s);
+        w.t.log.enable(w.t.AppFolder + u"errors.log"_s);
         for (const auto &[field, name] :
              {std::pair{"TxtInfile", session}, {"txtoutfile", page}, {"txtbgpic", picture}})
             w.type(field, name.isEmpty() ? name : w.t.AppFolder + name);
         w.press("chkAddBGPic");
-        const auto before = folder.entryInfoList(QDir::Files);
+        if (page == u"ordner.htm"_s) // the question whether to replace it
+            w.t.boxes.willAnswer(Boxes::Answer::Ok);
         QCOMPARE(w.make(), told.replace(u"%APP%"_s, w.t.AppFolder));
-        folder.refresh();
-        QCOMPARE(folder.entryInfoList(QDir::Files), before);
+        QCOMPARE(ReadWholeFile(w.t.AppFolder + u"errors.log"_s)
+                     .contains("Module:modBQVToWeb::Sub MakeWebpage Error "),
+                 told.contains(u"gespeichert"_s));
+        QVERIFY(!IsTextFile(w.t.AppFolder + u"a.html"_s));
         QCOMPARE(ReadWholeFile(w.t.AppFolder + u"brett.wlx.html"_s), "Sitzung");
-        QVERIFY(w.t.ok());
-    }
-
-    void aFolderOrAFullDisk()
-    {
-        Window w;
-        QDir(w.t.folder.path()).mkdir(u"seiten.htm"_s);
-        w.t.writeFile(u"alt.html"_s, u"alt"_s);
-        w.t.log.enable(w.t.AppFolder + u"errors.log"_s);
-        w.type("txtoutfile", u"seiten.htm"_s); // beside the session
-        const QString reason = u"Diese Datei kann nicht geschrieben oder gelesen werden."_s;
-        QVERIFY(w.make({Boxes::Answer::Ok, Boxes::Answer::Ok}).endsWith(reason));
-        w.type("txtoutfile", u"alt.html"_s);
-        {
-            const FileSizeLimit full(1500);
-            QVERIFY(w.make({Boxes::Answer::Ok, Boxes::Answer::Ok}).endsWith(reason));
-        }
-        QCOMPARE(ReadWholeFile(w.t.AppFolder + u"alt.html"_s), "alt");
-        QVERIFY(ReadWholeFile(w.t.AppFolder + u"errors.log"_s)
-                    .contains("Module:modBQVToWeb::Sub MakeWebpage Error 75 (Path/File access error)"));
         QVERIFY(w.t.ok());
     }
 
     void filesAreChosenOrDropped()
     {
         Window w;
+        const auto asked = [&w] {
+            return w.t.fileDialogs.asked.last().title + u'|' + w.t.fileDialogs.asked.last().text;
+        };
         w.t.fileDialogs.willSave(u"C:\\neu.html"_s);
         w.press("Command1");
-        QCOMPARE(w.text("txtoutfile"), u"C:\\neu.html"_s);
-        QCOMPARE(w.t.fileDialogs.asked.last().title + w.t.fileDialogs.asked.last().text,
-                 u"Wortel-Meister - Webseite öffnenWebpage(*.html)|*.html"_s);
+        QCOMPARE(asked(), u"Wortel-Meister - Webseite öffnen|Webpage(*.html)|*.html"_s);
         w.t.fileDialogs.willOpen({u"C:\\b.gif"_s});
         w.press("Command5");
-        QCOMPARE(w.text("txtbgpic"), u"C:\\b.gif"_s);
-        QCOMPARE(w.t.fileDialogs.asked.last().title + w.t.fileDialogs.asked.last().text,
-                 u"Wortel-Meister - Bild wählenGIF-Pictures(*.gif)|*.gif|JPG-Pictures(*.jpg)|*.jpg"_s);
-        w.drop("txtbgpic", u"/bilder/b.jpg"_s);
-        QCOMPARE(w.text("txtbgpic"), u"\\bilder\\b.jpg"_s);
+        QCOMPARE(asked(),
+                 u"Wortel-Meister - Bild wählen|GIF-Pictures(*.gif)|*.gif|JPG-Pictures(*.jpg)|*.jpg"_s);
+        QCOMPARE(w.text("txtoutfile") + w.text("txtbgpic"), u"C:\\neu.htmlC:\\b.gif"_s);
         w.t.boxes.willAnswer(Boxes::Answer::Ok);
-        w.drop("TxtInfile", u"/bilder/b.jpg"_s);
+        for (const char *field : {"txtbgpic", "TxtInfile"})
+            w.drop(field, u"/bilder/b.jpg"_s);
         QCOMPARE(
             w.told(),
             u"Wortel - Unsupported File Format|Only Wortel-Sitzungen (.WLX) are supported\nExtension of file is JPG"_s);
-        QCOMPARE(w.text("TxtInfile"), w.session);
+        QCOMPARE(w.text("txtbgpic") + w.text("TxtInfile"), u"\\bilder\\b.jpg"_s + w.session);
         QVERIFY(w.t.ok());
-    }
-
-    /// The menu's command saves first; the window goes with the program, and then keeps nothing.
-    void commandOfTheMenu()
-    {
-        TestHouse house;
-        house.lay(wortelKind, 10, 20, u"lauf"_s);
-        house.t.fileDialogs.willSave(house.t.AppFolder + u"stunde.wlx"_s);
-        QString page;
-        QTimer::singleShot(0, &house.form, [&] {
-            page = QApplication::activeModalWidget()->findChild<QLineEdit *>(u"txtoutfile"_s)->text();
-            house.form.close();
-        });
-        house.run(command::From::MainMenu, 1907);
-        QCOMPARE(page, house.t.AppFolder + u"STUNDE.html"_s);
-        QCOMPARE(house.t.store.GetSetting(u"Web"_s, u"WebTitle"_s, u"-"_s), u"-"_s);
-        TestHouse::settle();
-        QVERIFY(house.form.isHidden());
-        QVERIFY(house.t.ok());
     }
 };
 
