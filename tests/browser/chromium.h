@@ -10,41 +10,21 @@
 #include <QUrl>
 #include <QtTest>
 
-#include <array>
-#include <fcntl.h>
-#include <poll.h>
-#include <unistd.h>
-
 using namespace Qt::StringLiterals;
 
-/// A real browser without a window, driven over its own protocol through a pair of pipes. Every wait has an
-/// end: what does not come fails the running test.
+/// A real browser without a window, driven over its own protocol through its input and output. Every wait has
+/// an end: what does not come fails the running test.
 class Chromium
 {
 public:
     Chromium()
     {
-        std::array<int, 2> to{};
-        std::array<int, 2> from{};
-        if (pipe2(to.data(), O_CLOEXEC) != 0 || pipe2(from.data(), O_CLOEXEC) != 0)
-            qFatal("no pipes");
-        toBrowser_ = to[1];
-        fromBrowser_ = from[0];
-        process_.setChildProcessModifier([in = to[0], out = from[1]] {
-            constexpr int outOfTheWay = 10;
-            const int output = fcntl(out, F_DUPFD, outOfTheWay);
-            dup2(fcntl(in, F_DUPFD, outOfTheWay), 3); // where the browser reads
-            dup2(output, 4);                          // and writes
-        });
-        process_.setStandardErrorFile(QProcess::nullDevice());
-        process_.start("chromium"_L1, QString("--headless=new --no-sandbox --disable-gpu --no-first-run "
-                                              "--disable-dev-shm-usage --remote-debugging-pipe "
-                                              "--window-size=1000,700 about:blank --user-data-dir="_L1 +
-                                              home_.path())
-                                          .split(u' '));
-        process_.waitForStarted();
-        close(to[0]);
-        close(from[1]);
+        // The browser reads from file 3 and writes to file 4.
+        process_.start("sh"_L1, {"-c"_L1,
+                                 "exec 3<&0 4>&1 </dev/null >/dev/null 2>&1; exec chromium --headless=new "
+                                 "--no-sandbox --disable-gpu --no-first-run --disable-dev-shm-usage "
+                                 "--remote-debugging-pipe --window-size=1000,700 --user-data-dir=$0"_L1,
+                                 home_.path()});
         const QJsonValue target = call("Target.createTarget", {{"url"_L1, "about:blank"_L1}})["targetId"_L1];
         session_ =
             call("Target.attachToTarget", {{"targetId"_L1, target}, {"flatten"_L1, true}})["sessionId"_L1];
@@ -53,13 +33,11 @@ public:
     }
     ~Chromium()
     {
-        close(toBrowser_);
-        close(fromBrowser_);
+        process_.closeWriteChannel();
         if (!process_.waitForFinished(3000))
             process_.kill();
         process_.waitForFinished(3000);
     }
-    Q_DISABLE_COPY_MOVE(Chromium)
 
     /// Loads a page and waits until it is there.
     void open(const QString &path)
@@ -114,13 +92,9 @@ private:
     {
         constexpr int patience = 30000; // milliseconds
         while (!pending_.contains('\0')) {
-            pollfd ready{fromBrowser_, POLLIN, 0};
-            std::array<char, 65536> bytes{};
-            const ssize_t count =
-                poll(&ready, 1, patience) > 0 ? ::read(fromBrowser_, bytes.data(), bytes.size()) : 0;
-            if (count <= 0)
+            if (!process_.waitForReadyRead(patience))
                 return {};
-            pending_.append(bytes.data(), count);
+            pending_ += process_.readAllStandardOutput();
         }
         const qsizetype end = pending_.indexOf('\0');
         const QJsonObject message = QJsonDocument::fromJson(pending_.first(end)).object();
@@ -144,11 +118,10 @@ private:
             {"id"_L1, ++lastId_}, {"method"_L1, QLatin1String(method)}, {"params"_L1, parameters}};
         if (!session_.isUndefined())
             request["sessionId"_L1] = session_;
-        const QByteArray bytes = QJsonDocument(request).toJson() + '\0';
-        QJsonObject answer;
-        if (write(toBrowser_, bytes.constData(), static_cast<size_t>(bytes.size())) == bytes.size())
-            for (answer = read(); !answer.isEmpty() && answer["id"_L1].toInt() != lastId_; answer = read())
-                note(answer);
+        process_.write(QJsonDocument(request).toJson() + '\0');
+        QJsonObject answer = read();
+        for (; !answer.isEmpty() && answer["id"_L1].toInt() != lastId_; answer = read())
+            note(answer);
         if (!answer.contains("result"_L1))
             QTest::qFail(method, __FILE__, __LINE__);
         return answer["result"_L1].toObject();
@@ -156,8 +129,6 @@ private:
 
     QTemporaryDir home_;
     QProcess process_;
-    int toBrowser_ = -1;
-    int fromBrowser_ = -1;
     QByteArray pending_;
     QJsonValue session_ = QJsonValue::Undefined;
     int lastId_ = 0;

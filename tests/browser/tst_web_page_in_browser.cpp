@@ -16,21 +16,20 @@ namespace {
 struct TileRow
 {
     const char *type;
-    int left;
-    int top;
+    QPoint corner;
     const char *caption; ///< UTF-8
 };
 
 // Captions that would be markup, script or another letter if they were not written as text.
-constexpr TileRow rows[] = {
-    {"Prefix", 40, 60, "auf"},
-    {"Wortel", 300, 60, "läuf"},
-    {"Suffix", 560, 60, "ung"},
-    {"Wortel", 40, 200, "</td><script>document.title='boese'</script>"},
-    {"Prefix", 40, 260, "<img src=x onerror=\"document.title='boese'\">"},
-    {"Suffix", 40, 320, "&amp; &#66; \" ' --> \xF0\x9F\x98\x80"},
-    {"Wortel", 40, 380, "שלום \xE2\x80\xAE rückwärts"},
-    {"Prefix", 40, 440, "*/ //--> </SCRIPT><!--"},
+const TileRow rows[] = {
+    {"Prefix", {40, 60}, "auf"},
+    {"Wortel", {300, 60}, "läuf"},
+    {"Suffix", {560, 60}, "ung"},
+    {"Wortel", {40, 200}, "</td><script>document.title='boese'</script>"},
+    {"Prefix", {40, 260}, "<img src=x onerror=\"document.title='boese'\">"},
+    {"Suffix", {40, 320}, "&amp; &#66; \" ' --> \xF0\x9F\x98\x80"},
+    {"Wortel", {40, 380}, "שלום \xE2\x80\xAE rückwärts"},
+    {"Prefix", {40, 440}, "*/ //--> </SCRIPT><!--"},
 };
 
 QByteArray session()
@@ -39,12 +38,10 @@ QByteArray session()
     int count = 0;
     for (const TileRow &row : rows)
         text += "[Morpheme" + QByteArray::number(++count) + "]\r\nType=" + row.type +
-                "\r\nLeft=" + QByteArray::number(row.left) + "\r\nTop=" + QByteArray::number(row.top) +
-                "\r\nCaption=\"" + row.caption + "\"\r\n";
+                "\r\nLeft=" + QByteArray::number(row.corner.x()) +
+                "\r\nTop=" + QByteArray::number(row.corner.y()) + "\r\nCaption=\"" + row.caption + "\"\r\n";
     return text + "[NumObjects]\r\nObjCounter=" + QByteArray::number(count) + "\r\n";
 }
-
-QPoint cornerOf(const TileRow &row) { return {row.left, row.top}; }
 
 } // namespace
 
@@ -107,12 +104,12 @@ private slots:
         int number = 0;
         for (const TileRow &row : rows) {
             const QString id = u"Word%1"_s.arg(++number);
-            QCOMPARE(placeOf(id), cornerOf(row));
+            QCOMPARE(placeOf(id), row.corner);
             QCOMPARE(
                 browser_->value(u"document.getElementById('%1').innerText.trim()"_s.arg(id)).simplified(),
                 QString::fromUtf8(row.caption).simplified());
             const char kind = row.type[0];
-            QCOMPARE(picture.pixelColor(cornerOf(row) + QPoint(5, 5)),
+            QCOMPARE(picture.pixelColor(row.corner + QPoint(5, 5)),
                      QColor(kind == 'S' ? 0 : 255, kind == 'P' ? 255 : 0, kind == 'S' ? 255 : 0));
         }
         QCOMPARE(browser_->value(u"document.title"_s),

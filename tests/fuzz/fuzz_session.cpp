@@ -44,17 +44,16 @@ void compareWithKeys(const QString &path)
 {
     const IniFile file(path);
     const SessionTexts texts(path);
-    const auto same = [&](int number, const QString &key, QByteArrayView SessionTexts::Tile::*value) {
-        const SessionTexts::Tile *tile = texts.tile(number);
-        return file.read(u"Morpheme%1"_s.arg(number), key) ==
-               (tile != nullptr ? texts.text(tile->*value) : QString());
-    };
     for (int number = 1; number <= 12; ++number)
-        fuzz::promise(same(number, u"Type"_s, &SessionTexts::Tile::type) &&
-                          same(number, u"Left"_s, &SessionTexts::Tile::left) &&
-                          same(number, u"Top"_s, &SessionTexts::Tile::top) &&
-                          same(number, u"Caption"_s, &SessionTexts::Tile::caption),
-                      "both ways of reading agree");
+        for (const auto &[key, value] : {std::pair{u"Type"_s, &SessionTexts::Tile::type},
+                                         {u"Left"_s, &SessionTexts::Tile::left},
+                                         {u"Top"_s, &SessionTexts::Tile::top},
+                                         {u"Caption"_s, &SessionTexts::Tile::caption}}) {
+            const SessionTexts::Tile *tile = texts.tile(number);
+            fuzz::promise(file.read(u"Morpheme%1"_s.arg(number), key) ==
+                              (tile != nullptr ? texts.text(tile->*value) : QString()),
+                          "both ways of reading agree");
+        }
     const QString count = file.read(u"NumObjects"_s, u"ObjCounter"_s);
     fuzz::promise(count.isEmpty() || count == texts.count(), "both ways of counting agree");
 }

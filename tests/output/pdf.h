@@ -16,7 +16,6 @@ public:
     {}
 
     int pages() const { return fact("Pages:").toInt(); }
-    /// "595 x 842 pts (A4)"
     QString pageSize() const { return QString::fromLatin1(fact("Page size:")); }
     /// The lines of a page (from 1), each without blanks at its ends and with single ones between its words.
     QStringList lines(int page) const

@@ -23,7 +23,6 @@ private slots:
         const QByteArray seven = "a\r\nbb\r\nccc\r\nd\r\ne\r\nf\r\ng\r\n";
         const QByteArray inFour = "a     bb     ccc     d     \r\ne     f      g       \r\n";
         QTest::newRow("nothing") << QByteArray() << 3 << -1 << QByteArray();
-        QTest::newRow("one word") << QByteArray("Haus") << 3 << -1 << QByteArray("Haus     \r\n");
         QTest::newRow("one column") << QByteArray(" a \r\nb\r\n") << 1 << -1 << QByteArray("a     \r\nb     \r\n");
         QTest::newRow("three") << seven << 3 << -1 << QByteArray("a     bb     ccc     \r\nd     e      f       \r\ng     \r\n");
         QTest::newRow("four") << seven << 4 << -1 << inFour;

@@ -66,6 +66,11 @@ public:
 
     QList<Question> asked;
     int unexpected = 0;
+    /// Title and text of the last box, or nothing.
+    QString told() const
+    {
+        return asked.isEmpty() ? QString() : asked.last().title + u'|' + asked.last().text;
+    }
     /// Called before a box gives its answer: a test may look at the window, or act while the box is open.
     std::function<void(const Question &)> whileOpen;
 
