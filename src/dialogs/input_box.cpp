@@ -94,6 +94,12 @@ frmEnterName::frmEnterName(const QString &title, QWidget *owner)
     addButton(QStringLiteral("OK"), 0)->setObjectName(QStringLiteral("Command1"));
 }
 
+QString frmEnterName::askName()
+{
+    ask();
+    return Text1()->text();
+}
+
 void frmEnterName::showEvent(QShowEvent *event)
 {
     InputBox::showEvent(event);

@@ -60,8 +60,7 @@ public:
                        QWidget *owner);
 };
 
-/// The window for the name of one who has a place among the best. It cannot be refused: Esc leaves the name
-/// empty.
+/// The window for the name of one who has a place among the best. It cannot be refused.
 class frmEnterName : public GradientInputBox
 {
     Q_OBJECT
@@ -71,6 +70,9 @@ public:
     static constexpr int longestName = 40;
 
     frmEnterName(const QString &title, QWidget *owner);
+
+    /// What was typed, however the window was left.
+    QString askName();
 
 protected:
     void showEvent(QShowEvent *event) override;

@@ -189,7 +189,7 @@ QString RealBoxes::ShowWordBox(const QString &prompt, BoxStyle, const QString &d
 QString RealBoxes::ShowEnterName(const QString &title)
 {
     const PlainPointer pointer;
-    return frmEnterName(title, owner()).askText();
+    return frmEnterName(title, owner()).askName();
 }
 
 void RealBoxes::ShowHighScores(const HighScoreSheet &sheet)

@@ -2,16 +2,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "games/klotar/game_sign.h"
 
-#include <QEvent>
+#include <QMouseEvent>
 #include <QPainter>
 
 #include <algorithm>
 
 namespace {
 
-constexpr QColor face{255, 255, 255, 120};
+constexpr QColor face{255, 255, 255, 95};
 constexpr QColor ink{0x10, 0x28, 0x60};
-constexpr QColor lastFace{200, 0, 0, 170};
+constexpr QColor lastFace{200, 0, 0, 130};
 constexpr int smallestLetters = 18; ///< pixels
 constexpr int largestLetters = 54;
 constexpr int margin = 8;
@@ -49,13 +49,23 @@ void GameSign::place()
     setFont(letters);
     const QSize size = QFontMetrics(letters).size(Qt::TextSingleLine, text_) + QSize(3 * margin, margin);
     const QRect board = board_->geometry();
-    setGeometry(QRect(QPoint(board.right() - size.width() - margin, board.top() + belowPrefixes), size));
+    const int left = atLeft_ ? board.left() + margin : board.right() - size.width() - margin;
+    setGeometry(QRect(QPoint(left, board.top() + belowPrefixes), size));
 }
 
 bool GameSign::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::Resize && !isHidden())
+    if (isHidden())
+        return false;
+    if (event->type() == QEvent::Resize) {
         place();
+    } else if (event->type() == QEvent::MouseMove || event->type() == QEvent::MouseButtonPress) {
+        const QPoint pointer = static_cast<QMouseEvent *>(event)->position().toPoint();
+        if (geometry().contains(board_->mapToParent(pointer))) {
+            atLeft_ = !atLeft_;
+            place();
+        }
+    }
     return QWidget::eventFilter(watched, event);
 }
 

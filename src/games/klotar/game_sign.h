@@ -5,8 +5,8 @@
 #include <QWidget>
 
 /// What a class reads from the back row while a game runs: what is to be done, and how many minutes are left.
-/// It lies translucent under the prefixes at the board's right, in letters that grow with the board, and lets every
-/// press through.
+/// It lies translucent under the prefixes at the board's right, in letters that grow with the board, lets
+/// every press through, and moves over to the left when the pointer comes to what lies under it.
 class GameSign : public QWidget
 {
     Q_OBJECT
@@ -28,4 +28,5 @@ private:
     QWidget *board_;
     QString text_;
     bool lastMinute_ = false;
+    bool atLeft_ = false;
 };

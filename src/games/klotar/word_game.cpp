@@ -96,6 +96,7 @@ WordGame::WordGame(Ground &ground, const MainControls &controls, WordLists &list
     , rooms_(rooms)
     , PreparationTimer_(ground.clock, this)
     , GameTimer_(ground.clock, this)
+    , GameWordHintTimer_(this)
     , sign_(new GameSign(controls.picCanvas))
 {
     connect(&PreparationTimer_, &MinuteTimer::Timer, this,
@@ -103,9 +104,14 @@ WordGame::WordGame(Ground &ground, const MainControls &controls, WordLists &list
     connect(&GameTimer_, &MinuteTimer::Timer, this, [this] { minutePassed(&WordGame::GameTimer_Timer); });
     PreparationTimer_.setObjectName(u"PreparationTimer"_s);
     GameTimer_.setObjectName(u"GameTimer"_s);
+    GameWordHintTimer_.setObjectName(u"GameWordHintTimer"_s);
     GameWordHintTimer_.setSingleShot(true);
-    connect(&GameWordHintTimer_, &QTimer::timeout, this,
-            [this] { minutePassed(&WordGame::ShowGameWordHint); });
+    connect(&GameWordHintTimer_, &QTimer::timeout, this, [this] {
+        ground_.gate.whenFree([this, game = game_] {
+            if (game == game_)
+                ShowGameWordHint();
+        });
+    });
     TimerWordHint_.setSingleShot(true);
     TimerWordHint_.setInterval(hintStays);
     connect(&TimerWordHint_, &QTimer::timeout, controls_.TxtWordHint, &QWidget::hide);
@@ -189,12 +195,17 @@ void WordGame::StartTheGame(int Level)
     play_.startGame(stage.phase, vowels);
     step([&] { playSound(ground_, SoundId::GameStarted); });
     step([&] { rooms_.dictionary.close(); });
-    rooms_.sheet.lay(Reason::Game, gameSheet);
-    controls_.Check3->setFace(runningFace);
+    rooms_.tips.hideTip();
     if (vowels != Vowels::None)
         step([&] { emit vowelBoardWanted(); });
     if (ground_.gate.isClosing())
         return;
+    if (chosenVowels() != vowels) { // there is no such board, and the player has been told
+        play_.stop();
+        return;
+    }
+    rooms_.sheet.lay(Reason::Game, gameSheet);
+    controls_.Check3->setFace(runningFace);
     step([&] { GameTimeOut_ = CInt(ground_.options.number(Setting::GameTimeOut)); });
     step([&] { GamePrepareTimeOut_ = CInt(Fix(ground_.options.number(Setting::GamePrepareTimeOut))); });
     step([&] { startTips(vowels); });
@@ -339,6 +350,8 @@ void WordGame::restBoard()
 void WordGame::leave()
 {
     stopTimers();
+    ++game_;
+    rooms_.tips.hideTip();
     rooms_.tips.stopGameTimers();
     controls_.TxtWordHint->hide();
     sign_->hide();

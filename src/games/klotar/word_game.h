@@ -106,5 +106,6 @@ private:
     StageMinutes minutes_;
     int GameTimeOut_ = 7; ///< minutes; a setting past 16 bits leaves the last one
     int GamePrepareTimeOut_ = 7;
-    int run_ = 0; ///< counts stages: a minute of one that is over counts no more
+    int run_ = 0;  ///< counts stages: a minute of one that is over counts no more
+    int game_ = 0; ///< counts games: the hint of one that is over is not shown any more
 };

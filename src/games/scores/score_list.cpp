@@ -8,6 +8,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -28,7 +29,7 @@ double countedScore(const QString &text)
 {
     constexpr double beyondAllGames = 1e9;
     const double score = Val(text);
-    return score < beyondAllGames ? score : 0;
+    return std::abs(score) < beyondAllGames ? score : 0;
 }
 
 } // namespace

@@ -64,11 +64,12 @@ FrmPlayVokal::FrmPlayVokal(const Ground &ground, QWidget *owner)
     setModal(true);
     auto *panel = new GradientPanel(this);
     auto *column = new QVBoxLayout(panel);
-    auto *marks = new QButtonGroup(this);
     for (const bool longOnes : {false, true})
         column->addWidget(makeGroup(longOnes ? u"Lange Vokale"_s : u"Kurze Vokale"_s, longOnes));
+    auto *arrows = new QButtonGroup(this); // the arrow keys walk through it
+    arrows->setExclusive(false);
     for (QPushButton *label : findChildren<QPushButton *>())
-        marks->addButton(label);
+        arrows->addButton(label);
     auto *close = new QPushButton(u"Abbrechen"_s, panel);
     close->setObjectName(u"Command1"_s);
     close->setMinimumSize(120, 34);
@@ -113,13 +114,16 @@ QPushButton *FrmPlayVokal::makeLabel(const char16_t *file, const QString &captio
     const QString name = QString::fromUtf16(file);
     const QString length = name.startsWith(u'k') ? u"kurz"_s : u"lang"_s;
     label->setAccessibleName(isWord ? caption : caption + u' ' + length);
-    connect(label, &QPushButton::clicked, this, [this, name] { LblPlaySound_Click(name); });
+    connect(label, &QPushButton::clicked, this, [this, label, name] { LblPlaySound_Click(label, name); });
     return label;
 }
 
-void FrmPlayVokal::LblPlaySound_Click(const QString &file)
+void FrmPlayVokal::LblPlaySound_Click(QPushButton *label, const QString &file)
 {
-    if (!ground_.sound.playFile(vowel_stems::soundFile(ground_.AppFolder, file)))
+    const bool plays = ground_.sound.playFile(vowel_stems::soundFile(ground_.AppFolder, file));
+    for (QPushButton *other : findChildren<QPushButton *>())
+        other->setChecked(other == label && plays);
+    if (!plays)
         ground_.boxes.plainBox(Boxes::Icon::Warning, product::faultTitle,
                                u"Can not play the sound for this vokal"_s);
 }

@@ -20,7 +20,7 @@ public:
 private:
     QWidget *makeGroup(const QString &title, bool longOnes);
     QPushButton *makeLabel(const char16_t *file, const QString &caption, bool isWord);
-    void LblPlaySound_Click(const QString &file);
+    void LblPlaySound_Click(QPushButton *label, const QString &file);
 
     const Ground &ground_;
     int count_ = 0; ///< labels made so far

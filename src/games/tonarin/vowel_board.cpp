@@ -21,6 +21,7 @@
 #include "platform/sounds.h"
 #include "platform/word_lists.h"
 #include "platform/work.h"
+#include "widgets/alpha_panel.h"
 #include "widgets/dropper.h"
 #include "widgets/main_controls.h"
 #include "widgets/plain_tool_tip.h"
@@ -81,26 +82,29 @@ void VowelBoard::load()
     rooms_.check.readVowelBoxes();
     const QStringList stems = lists_.kurzvokalList.rows() + lists_.langvokalList.rows();
     if (stems.isEmpty()) {
-        switchOff();
+        giveUp();
         ground_.boxes.ShowInfoBox(u"Die Listen mit kurzen und langen Vokalen sind leer"_s, BoxSign::Info,
                                   product::name);
         return;
     }
     const std::optional<int> count = rooms_.bulk.countInText1();
     if (!count) {
-        switchOff();
+        giveUp();
         return;
     }
-    const Work work(ground_);
     if (usedBefore_.isEmpty())
         usedBefore_ = lists_.CurrentWortelFile;
-    step([&] { lists_.WortelList.clear(); });
-    step([&] { lists_.WortelList.addAll(stems); });
-    step([&] { rooms_.bulk.Refill_Vokals(*count); });
-    step([&] { rooms_.news.Commit(); });
-    step([&] { removeAffixes(); });
+    controls_.PicAlpha->hide(); // a tip shows the board that was
+    step([&] {
+        const Work work(ground_);
+        lists_.WortelList.clear();
+        lists_.WortelList.addAll(stems);
+        rooms_.bulk.Refill_Vokals(*count);
+        rooms_.news.Commit();
+        removeAffixes();
+    });
     step([&] { lists_.CorrectWordList.clear(); });
-    controls_.Dropper1->takeFocus();
+    controls_.Dropper1->takeFocus(); // it rests in a work
 }
 
 void VowelBoard::removeAffixes()
@@ -114,13 +118,19 @@ void VowelBoard::removeAffixes()
     }
 }
 
-/// The box was pressed, but there is no board for it.
+/// The box was pressed, but there is no board for it. The stems of one that stood are no list to go on with.
+void VowelBoard::giveUp()
+{
+    if (!usedBefore_.isEmpty())
+        restoreLists();
+    switchOff();
+}
+
 void VowelBoard::switchOff()
 {
     for (PressButton *box : controls_.ChkVokal)
         check(box, false);
     rooms_.check.readVowelBoxes();
-    usedBefore_.clear();
 }
 
 void VowelBoard::restoreLists()
@@ -145,6 +155,7 @@ void VowelBoard::RestoreAfterVokal()
     if (usedBefore_.isEmpty())
         return; // there was no such board
     const Work work(ground_);
+    controls_.PicAlpha->hide();
     step([&] { restoreLists(); });
     bool dealt = false;
     step([&] { dealt = rooms_.bulk.Refill(); });

@@ -52,6 +52,7 @@ public:
 
 private:
     bool isOn() const;
+    void giveUp();
     void switchOff();
     void restoreLists();
     void removeAffixes();

@@ -140,10 +140,30 @@ private slots:
         desk.t.boxes.willBeRead();
         desk.tool(desk.controls.ChkVokal[1]);
         QVERIFY(!desk.controls.ChkVokal[1]->isChecked());
+        desk.t.boxes.willBeRead();
+        desk.run(command::From::MainMenu, 1702);
+        QVERIFY2(!desk.play.GameActive(), "no game without its board");
         QCOMPARE(desk.play.checkedVowels(), Vowels::None);
         QCOMPARE(desk.lists.WortelList.at(0), u"halt"_s);
         QCOMPARE(desk.texts(), (QStringList{u"ver"_s, u"halt"_s, u"en"_s}));
+        QCOMPARE(desk.trouble(), QString());
         QVERIFY(desk.t.ok());
+    }
+
+    void theOtherBoxIsRefused()
+    {
+        Desk desk;
+        desk.r.tips.mnuShowTip_Click();
+        desk.form.show();
+        QVERIFY(QTest::qWaitForWindowActive(&desk.form));
+        desk.tool(desk.controls.ChkVokal[0]);
+        QVERIFY2(!desk.r.tips.isShown(), "it shows the board that was");
+        QVERIFY(desk.controls.Dropper1->isActiveControl());
+        desk.controls.Text1->clear();
+        desk.t.boxes.willBeRead();
+        desk.tool(desk.controls.ChkVokal[1]);
+        QCOMPARE(desk.lists.WortelList.at(0), u"halt"_s);
+        QCOMPARE(desk.play.checkedVowels(), Vowels::None);
     }
 
     /// The list of the options may be gone: then the one that was in use comes back.
