@@ -24,6 +24,7 @@
 #include "widgets/main_controls.h"
 #include "widgets/picture_box.h"
 
+#include <QApplication>
 #include <QPagedPaintDevice>
 #include <QPainter>
 
@@ -107,7 +108,8 @@ void Printing::setUpPrinter()
         const Gate::Passage open = ground_.gate.openBox();
         if (!open)
             return;
-        frmPrinterSetUp window(ground_.printer, setUp_, controls_.form);
+        QWidget *const inUse = QApplication::activeModalWidget();
+        frmPrinterSetUp window(ground_.printer, setUp_, inUse != nullptr ? inUse : controls_.form);
         if (window.exec() == QDialog::Accepted)
             setUp_ = window.chosen();
     });
