@@ -6,7 +6,7 @@ set -euo pipefail
 cd "$(dirname "$(realpath "$0")")"
 . tools/setup/packages.sh
 preset=${1:-dev}
-install_missing "${build_packages[@]}" "${display_packages[@]}"
+install_missing "${build_packages[@]}" "${display_packages[@]}" "${test_packages[@]}"
 build_preset "$preset"
 cd "build/$preset"
 mkdir -p Testing

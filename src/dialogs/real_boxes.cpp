@@ -50,6 +50,9 @@ struct PlainButton
 };
 
 constexpr std::array okButtons{PlainButton{Boxes::Answer::Ok, u"OK", QMessageBox::AcceptRole}};
+constexpr std::array okCancelButtons{
+    PlainButton{Boxes::Answer::Ok, u"OK", QMessageBox::AcceptRole},
+    PlainButton{Boxes::Answer::Cancel, u"Abbrechen", QMessageBox::RejectRole}};
 constexpr std::array yesNoButtons{PlainButton{Boxes::Answer::Yes, u"Ja", QMessageBox::YesRole},
                                   PlainButton{Boxes::Answer::No, u"Nein", QMessageBox::NoRole}};
 constexpr std::array yesNoCancelButtons{
@@ -63,6 +66,8 @@ std::pair<const PlainButton *, const PlainButton *> plainButtons(Boxes::Buttons 
     switch (buttons) {
     case Boxes::Buttons::Ok:
         break;
+    case Boxes::Buttons::OkCancel:
+        return {okCancelButtons.data(), okCancelButtons.data() + okCancelButtons.size()};
     case Boxes::Buttons::YesNo:
         return {yesNoButtons.data(), yesNoButtons.data() + yesNoButtons.size()};
     case Boxes::Buttons::YesNoCancel:

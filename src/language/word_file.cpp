@@ -2,17 +2,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "language/word_file.h"
 
+#include "output/columns/columns.h"
 #include "platform/boxes.h"
 #include "platform/file_dialogs.h"
-#include "platform/files.h"
 #include "platform/ground.h"
 #include "platform/procedure.h"
 #include "platform/settings_store.h"
-#include "platform/text_encoding.h"
 
 using namespace Qt::StringLiterals;
 
-QString saveWords(Ground &ground, Procedure &step, const QStringList &words, const WordFileTexts &texts)
+void saveWords(Ground &ground, Procedure &step, const QStringList &words, const WordFileTexts &texts)
 {
     const QString folder = ground.store.GetSetting(u"Path"_s, u"Export"_s, ground.AppFolder);
     QString path;
@@ -20,12 +19,10 @@ QString saveWords(Ground &ground, Procedure &step, const QStringList &words, con
         path = ground.fileDialogs.saveFile(texts.title, folder, u"Text files (*.txt)|*.txt"_s, u".txt"_s);
     });
     if (path.isEmpty())
-        return {};
-    const QString text = words.join(u"\r\n"_s) + u"\r\n"_s;
-    if (!step([&] { writeFileAtomically(path, encodeText(text)); })) {
+        return;
+    if (!step([&] { word_columns::writeList(path, words, ground.options); })) {
         step([&] { ground.boxes.plainBox(Boxes::Icon::Warning, texts.faultTitle, texts.fault); });
-        return {};
+        return;
     }
     step([&] { ground.store.SaveSetting(u"Path"_s, u"Export"_s, path.left(path.lastIndexOf(u'\\'))); });
-    return path;
 }

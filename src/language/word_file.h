@@ -16,6 +16,6 @@ struct WordFileTexts
     QString fault;
 };
 
-/// Asks for a file and writes the words into it, one a line. Returns its path (stored form), or the empty
-/// string if nothing was written; a failure is told in a box. The folder is remembered after a success.
-QString saveWords(Ground &ground, Procedure &step, const QStringList &words, const WordFileTexts &texts);
+/// Asks for a file and writes the words into it as the options wish: one a line, in columns or in blocks. A
+/// failure is told in a box. The folder is remembered after a success.
+void saveWords(Ground &ground, Procedure &step, const QStringList &words, const WordFileTexts &texts);

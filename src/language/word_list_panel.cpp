@@ -121,11 +121,9 @@ void WordListPanel::Save_Result()
         });
         return;
     }
-    const QString path = saveWords(ground_, step, lists_.CorrectWordList.rows(),
-                                   {u"Richtige Wörter Speichern"_s, u"Wortel - Fehler"_s,
-                                    u"Die richtigen Wörter konnten nicht in die Datei geschrieben werden"_s});
-    if (!path.isEmpty())
-        step([&] { emit wordListSaved(path); });
+    saveWords(ground_, step, lists_.CorrectWordList.rows(),
+              {u"Richtige Wörter Speichern"_s, u"Wortel - Fehler"_s,
+               u"Die richtigen Wörter konnten nicht in die Datei geschrieben werden"_s});
 }
 
 void WordListPanel::CorrectWordsToClip()

@@ -29,8 +29,7 @@ public:
     void Show_Result();
     /// The menu command "Bearbeiten": flips the list, above the band, and opens its menu.
     void editByMenu();
-    /// Saves the list as a text file, one word a line (the right press on `Command4`). A failure is told in a
-    /// box, and the folder is remembered only after a success.
+    /// Saves the list as a text file (the right press on `Command4`).
     void Save_Result();
     /// The words, each with a line end, go to the clipboard; an empty list leaves that as it is.
     void CorrectWordsToClip();
@@ -40,8 +39,6 @@ public:
 signals:
     /// The words were edited by hand: a running strip takes them over, an empty one only if `fillEmptyStrip`.
     void wordsEdited(const QStringList &words, bool fillEmptyStrip);
-    /// The list was saved, one word a line, to `path` (stored form); column layouts rewrite the file.
-    void wordListSaved(const QString &path);
 
 private:
     enum class Entry { Add, Edit };

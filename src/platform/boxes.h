@@ -28,7 +28,7 @@ public:
     virtual ~Boxes() = default;
 
     enum class Icon { Information, Warning, Critical, Question };
-    enum class Buttons { Ok, YesNo, YesNoCancel };
+    enum class Buttons { Ok, OkCancel, YesNo, YesNoCancel };
     enum class Answer { Ok, Yes, No, Cancel };
 
     /// The platform's plain message box: start-up paths, file and printer errors, the export dialog's checks.

@@ -2,8 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/colours.h"
+
 #include <QString>
 #include <QStringList>
+
+#include <optional>
 
 /// The seam of the file, colour, font and printer dialogs. Folders and paths are in the stored form
 /// (backslashes).
@@ -19,4 +23,6 @@ public:
     /// replaced.
     virtual QString saveFile(const QString &title, const QString &folder, const QString &filter,
                              const QString &suffix, const QString &suggestedName = {}) = 0;
+    /// The chosen colour, or nothing.
+    virtual std::optional<Colour> chooseColour(const QString &title, Colour present) = 0;
 };

@@ -80,3 +80,9 @@ QString GatedFileDialogs::saveFile(const QString &title, const QString &folder, 
     return askThroughGate(gate_, QString(),
                           [&] { return dialogs_.saveFile(title, folder, filter, suffix, suggestedName); });
 }
+
+std::optional<Colour> GatedFileDialogs::chooseColour(const QString &title, Colour present)
+{
+    return askThroughGate(gate_, std::optional<Colour>(),
+                          [&] { return dialogs_.chooseColour(title, present); });
+}

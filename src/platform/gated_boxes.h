@@ -46,6 +46,7 @@ public:
                           bool multiple) override;
     QString saveFile(const QString &title, const QString &folder, const QString &filter,
                      const QString &suffix, const QString &suggestedName) override;
+    std::optional<Colour> chooseColour(const QString &title, Colour present) override;
 
 private:
     FileDialogs &dialogs_;

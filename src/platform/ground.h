@@ -11,6 +11,7 @@ class FileDialogs;
 class Gate;
 class Log;
 class Options;
+class Printer;
 class Rnd;
 class SettingsStore;
 class Sound;
@@ -23,6 +24,7 @@ struct Ground
     Log &log;
     Boxes &boxes;
     FileDialogs &fileDialogs;
+    Printer &printer;
     Rnd &rnd;
     Sound &sound;
     Clock &clock;

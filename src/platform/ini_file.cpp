@@ -3,6 +3,7 @@
 #include "platform/ini_file.h"
 
 #include "platform/files.h"
+#include "platform/ini_lines.h"
 #include "platform/text.h"
 #include "platform/windows1252.h"
 
@@ -55,34 +56,21 @@ IniFile::IniFile(const QString &path)
 
 void IniFile::parse(const QByteArray &bytes)
 {
-    qsizetype from = 0;
-    while (from < bytes.size()) {
-        qsizetype to = from;
-        while (to < bytes.size() && bytes[to] != '\r' && bytes[to] != '\n')
-            ++to;
-        if (to < bytes.size())
-            to += bytes[to] == '\r' && to + 1 < bytes.size() && bytes[to + 1] == '\n' ? 2 : 1;
-        addLine(bytes.mid(from, to - from));
-        from = to;
-    }
+    forEachIniLine(bytes, [this](QByteArrayView line) { addLine(line.toByteArray()); });
 }
 
 void IniFile::addLine(const QByteArray &line)
 {
-    const QByteArray text = line.trimmed();
-    const qsizetype end = text.startsWith('[') ? text.lastIndexOf(']') : -1;
-    if (end > 0)
-        addSection(decode(text.mid(1, end - 1)));
+    const IniLine parts = IniLine::of(line);
+    if (parts.kind == IniLine::Kind::Section)
+        addSection(decode(parts.name.toByteArray()));
     sections_.back().push_back(line);
-    if (end > 0)
+    if (parts.kind != IniLine::Kind::Entry)
         return;
-    const qsizetype equals = text.startsWith(';') ? -1 : text.indexOf('=');
-    if (equals >= 0) {
-        const int section = static_cast<int>(sections_.size()) - 1;
-        const std::pair key{section, foldedName(decode(text.first(equals)))};
-        if (!keyIndex_.contains(key))
-            keyIndex_.insert(key, static_cast<int>(sections_.back().size()) - 1);
-    }
+    const int section = static_cast<int>(sections_.size()) - 1;
+    const std::pair key{section, foldedName(decode(parts.name.toByteArray()))};
+    if (!keyIndex_.contains(key))
+        keyIndex_.insert(key, static_cast<int>(sections_.back().size()) - 1);
 }
 
 int IniFile::addSection(const QString &name)
@@ -104,10 +92,7 @@ QString IniFile::read(const QString &section, const QString &key, const QString 
     if (row == keyIndex_.cend())
         return fallback.left(limit);
     const QByteArray &line = sections_[static_cast<std::size_t>(*place)][static_cast<std::size_t>(*row)];
-    QByteArray value = line.mid(line.indexOf('=') + 1).trimmed();
-    if (value.size() >= 2 && value.startsWith('"') && value.endsWith('"'))
-        value = value.mid(1, value.size() - 2);
-    return decode(value).remove(QChar::Null).left(limit);
+    return decode(IniLine::of(line).value.toByteArray()).remove(QChar::Null).left(limit);
 }
 
 void IniFile::write(const QString &section, const QString &key, const QString &value)

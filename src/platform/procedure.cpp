@@ -45,6 +45,6 @@ void Procedure::report(unsigned line)
 {
     failed_ = true;
     const RuntimeError error = currentError();
-    log_.WriteLog(u"Error %1 ("_s.arg(error.number()) + error.description() + u") %1 in"_s.arg(line) +
-                  place(name_, form_) + suffix_);
+    log_.WriteLog(prefix_ + u"Error %1 ("_s.arg(error.number()) + error.description() +
+                  u") %1 in"_s.arg(line) + place(name_, form_) + suffix_);
 }

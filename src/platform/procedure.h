@@ -35,6 +35,8 @@ public:
 
     /// Text that the error line carries at its end, such as ". Index: 12".
     void setErrorSuffix(const QString &suffix) { suffix_ = suffix; }
+    /// Text that the error line begins with.
+    void setErrorPrefix(const QString &prefix) { prefix_ = prefix; }
     /// True once a step has failed.
     bool failed() const { return failed_; }
 
@@ -44,6 +46,7 @@ private:
     Log &log_;
     const char *name_;
     const char *form_; ///< a form's name, or "" for the procedures of modMain
+    QString prefix_;
     QString suffix_;
     bool failed_ = false;
 };

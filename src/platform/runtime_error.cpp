@@ -12,7 +12,7 @@ struct Description
     const char16_t *text;
 };
 
-constexpr std::array<Description, 21> descriptions{{
+constexpr std::array<Description, 22> descriptions{{
     {5, u"Invalid procedure call or argument"},
     {6, u"Overflow"},
     {7, u"Out of memory"},
@@ -34,6 +34,7 @@ constexpr std::array<Description, 21> descriptions{{
     {76, u"Path not found"},
     {457, u"This key is already associated with an element of this collection"},
     {481, u"Invalid picture"},
+    {482, u"Printer error"},
 }};
 
 } // namespace

@@ -30,8 +30,10 @@ public:
     static constexpr int FileNotFound = 53;
     static constexpr int DiskFull = 61;
     static constexpr int PermissionDenied = 70;
+    static constexpr int PathAccess = 75;
     static constexpr int PathNotFound = 76;
     static constexpr int DuplicateKey = 457;
+    static constexpr int PrinterError = 482;
 
     /// The error `number` with its usual description ("Overflow", "File not found").
     static RuntimeError of(int number);

@@ -5,6 +5,7 @@
 #include "platform/files.h"
 
 #include <QApplication>
+#include <QColorDialog>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -106,4 +107,16 @@ QString WindowFileDialogs::saveFile(const QString &title, const QString &folder,
             return storedPath(file);
     }
     return {};
+}
+
+std::optional<Colour> WindowFileDialogs::chooseColour(const QString &title, Colour present)
+{
+    const auto part = [present](int shift) { return static_cast<int>(present >> shift & 0xFF); };
+    QColorDialog dialog(QColor(part(0), part(8), part(16)), QApplication::activeWindow());
+    dialog.setOption(QColorDialog::DontUseNativeDialog);
+    dialog.setWindowTitle(title);
+    if (dialog.exec() != QDialog::Accepted)
+        return {};
+    const QColor chosen = dialog.selectedColor();
+    return static_cast<Colour>(chosen.red() | chosen.green() << 8 | chosen.blue() << 16);
 }

@@ -13,6 +13,7 @@ public:
                           bool multiple) override;
     QString saveFile(const QString &title, const QString &folder, const QString &filter,
                      const QString &suffix, const QString &suggestedName) override;
+    std::optional<Colour> chooseColour(const QString &title, Colour present) override;
 
     /// `filter` in the toolkit's form, one entry for each name.
     static QStringList nameFilters(const QString &filter);

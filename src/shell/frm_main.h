@@ -59,6 +59,7 @@ public:
     void showOptions();
     void showAbout();
     void showHelp();
+    void saveAsWeb();
 
 signals:
     void unloaded();

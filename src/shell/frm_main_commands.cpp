@@ -3,7 +3,9 @@
 // The commands of the menus: each room registers its own numbers, the window those that are its own.
 #include "shell/frm_main.h"
 
+#include "output/web/frm_save_as_web.h"
 #include "platform/boxes.h"
+#include "platform/gate.h"
 #include "platform/ground.h"
 #include "platform/product.h"
 #include "platform/word_lists.h"
@@ -23,6 +25,8 @@ void frmMain::wireCommands()
     r.game.registerCommands(r.router);
     r.sessions.registerCommands(r.router);
     r.undo.registerCommands(r.router);
+    r.printing.registerCommands(r.router);
+    r.router.onMenu(1907, [this] { saveAsWeb(); });
     r.router.onMenu(601, [&r] { r.check.Command2_MouseDown(Qt::LeftButton); });
     constexpr struct
     {
@@ -44,6 +48,14 @@ void frmMain::wireCommands()
         comesLater();
         return Ending::Whole;
     });
+}
+
+void frmMain::saveAsWeb()
+{
+    Sessions &sessions = rooms_->sessions;
+    sessions.SaveObjects();
+    if (!ground_.gate.isClosing())
+        FrmSaveAsWeb(ground_, sessions.CurrentSessionFile(), sessions.WebExportName(), this).edit();
 }
 
 void frmMain::comesLater()

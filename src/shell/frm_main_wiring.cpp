@@ -8,6 +8,7 @@
 #include "platform/gate.h"
 #include "platform/ground.h"
 #include "platform/options.h"
+#include "platform/printer.h"
 #include "shell/about_window.h"
 #include "shell/rooms.h"
 #include "widgets/alpha_panel.h"
@@ -113,7 +114,6 @@ void frmMain::wireLists()
     connect(&r.loader, &ListLoader::loading, &r.dictionary, &DictionaryPanel::storeLoading);
     connect(&r.dictionary, &DictionaryPanel::tipRequested, &r.tips, &Tips::mnuShowTip_Click);
     connect(&r.dictionary, &DictionaryPanel::chooserRequested, &r.wordChooser, &WordChooser::open);
-    connect(&r.wordChooser, &WordChooser::wordListSaved, &r.wordList, &WordListPanel::wordListSaved);
 }
 
 void frmMain::wireModes()
@@ -148,7 +148,10 @@ void frmMain::wireModes()
     connect(&r.retype, &RetypeMode::chooserWanted, &r.wordChooser, &WordChooser::open);
     connect(&r.wordChooser, &WordChooser::wordsChosen, &r.retype, &RetypeMode::RetypeWithChoosenWortel);
 
-    connect(&r.kernling, &FrmKernling::PrintRTF, this, &frmMain::comesLater);
+    connect(&r.kernling, &FrmKernling::PrintRTF, this, [this, &r](const QTextDocument *text) {
+        if (ground_.printer.names().isEmpty() || r.printing.setUpPrinter())
+            r.printing.PrintRTF(*text, u"Wortstamm"_s, u"Kernling"_s);
+    });
 
     // The menus are built anew on one signal, whatever has changed.
     connect(this, &frmMain::menusStale, this, [&r] { r.menus.CreateMenus(); });

@@ -12,6 +12,7 @@
 #include "platform/settings_file.h"
 #include "platform/sound_player.h"
 #include "platform/system_clock.h"
+#include "platform/system_printer.h"
 #include "platform/window_file_dialogs.h"
 
 /// The ground of the real program: every seam with what it stands for.
@@ -31,6 +32,7 @@ private:
     GatedBoxes gatedBoxes_{boxes_, gate_};
     WindowFileDialogs fileDialogs_;
     GatedFileDialogs gatedDialogs_{fileDialogs_, gate_};
+    SystemPrinter printer_;
     Rnd rnd_;
     SoundPlayer sound_;
     SystemClock clock_{gate_};

@@ -53,6 +53,7 @@ Rooms::Rooms(Ground &ground, const Hall &hall)
     , backup(ground, canvas, news)
     , sessions(ground, hall.controls, hall.lists, {canvas, loader, news})
     , fileType(ground.log, QCoreApplication::applicationFilePath())
+    , printing(ground, hall.controls, hall.lists, canvas)
     , scores(ground)
     , kernling(ground,
                {hall.lists, tests, maker, store, scores,

@@ -33,6 +33,7 @@
 #include "language/word_check.h"
 #include "language/word_list_panel.h"
 #include "language/word_tests.h"
+#include "output/printing/printing.h"
 #include "persistence/backup.h"
 #include "persistence/file_type.h"
 #include "persistence/sessions.h"
@@ -105,6 +106,9 @@ struct Rooms
     Backup backup;
     Sessions sessions;
     FileType fileType;
+
+    // output
+    Printing printing;
 
     // games
     HighScores scores;

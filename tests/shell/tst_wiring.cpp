@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QSignalSpy>
 #include <QTimer>
+#include <QTextDocument>
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
@@ -145,13 +146,6 @@ struct House : TestHouse
             }
         return name;
     }
-    /// The file of words whose saving `act` tells to who lays it out in columns.
-    template <typename Act> QString savedBy(Act act)
-    {
-        const QSignalSpy saved(&r.wordList, &WordListPanel::wordListSaved);
-        act();
-        return saved.value(0).value(0).toString();
-    }
     QString cancelled()
     {
         const Work work(t.ground, {WorkPlan::Cancel, 1});
@@ -269,7 +263,6 @@ const Wire wires[] = {
     {"lists of a session in a run", ACT(h.tool(h.c.Check4), h.r.sessions.listsChosen(), h.state()), u"free"_s},
     {"chooser", ACT(h.windowOf([&] { h.run(From::MainMenu, 1608); })), u"frmChooseWortel"_s},
     {"chosen words", ACT(h.r.wordChooser.wordsChosen(), h.state()), u"retyping"_s},
-    {"saved words of the chooser", ACT(h.savedBy([&] { h.r.wordChooser.wordListSaved(u"a.txt"_s); })), u"a.txt"_s},
     {"menus follow the mode", ACT(h.tool(h.c.Check4), yes(h.offers(1901))), u"no"_s},
     {"menus follow undo", ACT(h.r.news.Commit(), yes(h.offers(2801))), u"yes"_s},
     {"menus follow a filter's press", ACT(h.r.news.Commit(), h.store("UseUndo", "0"), h.tool(h.c.OptType[1]), yes(h.offers(2801))), u"no"_s},
@@ -304,13 +297,17 @@ const Wire wires[] = {
     {"1001", ACT(h.windowOf([&] { h.run(From::MainMenu, 1001); })), u"HelpWindow"_s},
     {"1003", ACT(h.windowOf([&] { h.run(From::MainMenu, 1003); })), u"fAbout"_s},
     {"1701", ACT(h.windowOf([&] { h.run(From::MainMenu, 1701); })), u"FrmKernling"_s},
-    {"stems, printed", ACT(h.boxOf([&] { emit h.r.kernling.PrintRTF(nullptr); })), later},
+    {"stems, page set-up", ACT(h.windowOf([&] { QTextDocument text(u"Kern"_s); emit h.r.kernling.PrintRTF(&text); })), u"frmPrinterSetUp"_s},
     {"1906", ACT(h.run(From::MainMenu, 1906), yes(h.gate.isClosing())), u"yes"_s},
     {"701", ACT(h.run(From::MainMenu, 701), h.state()), u"level 1"_s},
     {"201", ACT(h.dialogOf([&] { h.run(From::MainMenu, 201); })), u"Wortel laden (Multi)"_s},
     {"275", ACT(h.run(From::MainMenu, 275), yes(h.r.tips.isShown())), u"yes"_s},
     {"401", ACT(h.run(From::MainMenu, 401), h.visible(u"LexiconList"_s)), u"LexiconList"_s},
     {"501", ACT(h.run(From::MainMenu, 501), h.visible(u"CorrectWordList"_s)), u"CorrectWordList"_s},
+    {"504", ACT(h.run(From::MainMenu, 504), QString::number(h.t.printer.jobs.size())), u"1"_s},
+    {"1904", ACT(h.run(From::MainMenu, 1904), QString::number(h.t.printer.jobs.size())), u"1"_s},
+    {"1905", ACT(h.windowOf([&] { h.run(From::MainMenu, 1905); })), u"frmPrinterSetUp"_s},
+    {"1907", ACT(h.windowOf([&] { h.t.fileDialogs.willSave({}); h.run(From::MainMenu, 1907); })), u"FrmSaveAsWeb"_s},
     {"1600", ACT(h.run(From::MainMenu, 1600), h.state()), u"retyping"_s},
     {"1901", ACT(h.dialogOf([&] { h.run(From::MainMenu, 1901); })), u"Wortel - Sitzung laden"_s},
     {"2801", ACT(h.key(Qt::Key_A), h.run(From::MainMenu, 2801), QString::number(h.r.store.count())), u"1"_s},

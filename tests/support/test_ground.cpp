@@ -3,6 +3,7 @@
 #include "support/test_ground.h"
 
 #include "platform/files.h"
+#include "platform/runtime_error.h"
 #include "platform/text_encoding.h"
 #include "support/watchful_application.h"
 
@@ -93,7 +94,9 @@ bool QueuedBoxes::allTaken() const
 
 Boxes::Answer QueuedBoxes::plainBox(Icon icon, const QString &title, const QString &text, Buttons buttons)
 {
-    const Answer otherwise = buttons == Buttons::Ok ? Answer::Ok : Answer::No;
+    const Answer otherwise = buttons == Buttons::Ok         ? Answer::Ok
+                             : buttons == Buttons::OkCancel ? Answer::Cancel
+                                                            : Answer::No;
     return answer({u"plainBox"_s, title, text, {}, static_cast<int>(icon)}, plain_, otherwise);
 }
 
@@ -154,11 +157,32 @@ QString QueuedFileDialogs::saveFile(const QString &title, const QString &folder,
     return {};
 }
 
+std::optional<Colour> QueuedFileDialogs::chooseColour(const QString &title, Colour)
+{
+    asked.append({u"chooseColour"_s, title, {}, {}, 0});
+    if (const std::optional<std::optional<Colour>> given = colours_.take())
+        return *given;
+    ++unexpected;
+    failUnexpected(asked.last());
+    return {};
+}
+
+std::unique_ptr<PrintedDocument> PrinterOfPdf::begin(const PrintJob &job)
+{
+    jobs.append(job);
+    if (vanishes)
+        throw RuntimeError::of(RuntimeError::PrinterError);
+    PrintJob toFile = job;
+    if (toFile.pdfFile.isEmpty())
+        toFile.pdfFile = file(jobs.size());
+    return system_.begin(toFile);
+}
+
 TestGround::TestGround(quint64 seed)
     : AppFolder(storedPath(folder.path()) + u'\\')
     , rnd(seed)
     , options(store, AppFolder, log)
-    , ground{AppFolder, log, gatedBoxes, gatedDialogs, rnd, sound, clock, pump, store, options, gate}
+    , ground{AppFolder, log, gatedBoxes, gatedDialogs, printer, rnd, sound, clock, pump, store, options, gate}
 {}
 
 bool TestGround::ok() const

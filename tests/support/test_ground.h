@@ -13,6 +13,7 @@
 #include "platform/rnd.h"
 #include "platform/settings_store.h"
 #include "platform/sound.h"
+#include "platform/system_printer.h"
 
 #include <QHash>
 #include <QList>
@@ -65,6 +66,11 @@ public:
 
     QList<Question> asked;
     int unexpected = 0;
+    /// Title and text of the last box, or nothing.
+    QString told() const
+    {
+        return asked.isEmpty() ? QString() : asked.last().title + u'|' + asked.last().text;
+    }
     /// Called before a box gives its answer: a test may look at the window, or act while the box is open.
     std::function<void(const Question &)> whileOpen;
 
@@ -100,20 +106,45 @@ class QueuedFileDialogs : public FileDialogs
 public:
     void willOpen(const QStringList &paths) { opened_.add(paths); }
     void willSave(const QString &path) { saved_.add(path); }
+    void willChoose(std::optional<Colour> colour) { colours_.add(colour); }
 
     QList<Question> asked;
     int unexpected = 0;
 
-    bool allTaken() const { return opened_.isEmpty() && saved_.isEmpty(); }
+    bool allTaken() const { return opened_.isEmpty() && saved_.isEmpty() && colours_.isEmpty(); }
 
     QStringList openFiles(const QString &title, const QString &folder, const QString &filter,
                           bool multiple) override;
     QString saveFile(const QString &title, const QString &folder, const QString &filter,
                      const QString &suffix, const QString &suggestedName) override;
+    std::optional<Colour> chooseColour(const QString &title, Colour present) override;
 
 private:
     Answers<QStringList> opened_;
     Answers<QString> saved_;
+    Answers<std::optional<Colour>> colours_;
+};
+
+/// The printer of a test: each document becomes the next PDF file, "seiten1.pdf" and so on.
+class PrinterOfPdf : public Printer
+{
+public:
+    explicit PrinterOfPdf(const QString &folder)
+        : folder_(folder)
+    {}
+
+    QString standard = QStringLiteral("Klasse 3"); ///< empty: there is no printer
+    bool vanishes = false;                         ///< between the question for it and the first page
+    QList<PrintJob> jobs;
+
+    QStringList names() const override { return standard.isEmpty() ? QStringList() : QStringList{standard}; }
+    QString defaultName() const override { return standard; }
+    std::unique_ptr<PrintedDocument> begin(const PrintJob &job) override;
+    QString file(qsizetype number) const { return folder_ + QStringLiteral("seiten%1.pdf").arg(number); }
+
+private:
+    SystemPrinter system_;
+    QString folder_;
 };
 
 /// Keeps what would have been heard.
@@ -203,6 +234,7 @@ struct TestGround
     Gate gate;
     QueuedBoxes boxes;
     QueuedFileDialogs fileDialogs;
+    PrinterOfPdf printer{AppFolder};
     Rnd rnd;
     RecordedSound sound;
     TestClock clock{gate};

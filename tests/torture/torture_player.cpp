@@ -24,6 +24,7 @@
 #include "platform/settings_file.h"
 #include "platform/sound.h"
 #include "platform/system_clock.h"
+#include "platform/system_printer.h"
 #include "shell/frm_main.h"
 #include "shell/rooms.h"
 #include "shell/start_steps.h"
@@ -119,6 +120,7 @@ public:
     {
         return path_;
     }
+    std::optional<Colour> chooseColour(const QString &, Colour) override { return {}; }
 
 private:
     QString path_;
@@ -157,6 +159,7 @@ struct QuickGround
     Gate gate;
     QuickBoxes boxes;
     QuickDialogs dialogs;
+    SystemPrinter printer;
     Rnd rnd;
     NoSound sound;
     QuickClock clock;
@@ -165,7 +168,8 @@ struct QuickGround
     Options options;
     GatedBoxes gatedBoxes{boxes, gate};
     GatedFileDialogs gatedDialogs{dialogs, gate};
-    Ground ground{AppFolder, log, gatedBoxes, gatedDialogs, rnd, sound, clock, pump, store, options, gate};
+    Ground ground{AppFolder, log,   gatedBoxes, gatedDialogs, printer, rnd,
+                  sound,     clock, pump,       store,        options, gate};
 };
 
 /// The tiles in their order, in a form that has nothing to do with the backup's.
@@ -188,7 +192,8 @@ public:
     {
         // Whatever comes back without anybody at the screen. The lists stay, and nobody stops a search for
         // words.
-        constexpr std::array leftOut{201, 402, 901, 1001, 1003, 1601, 1607, 1701, 1906};
+        constexpr std::array leftOut{201,  402,  504,  901,  1001, 1003, 1601,
+                                     1607, 1701, 1904, 1905, 1906, 1907};
         for (const command::Command &row : command::table())
             if (std::ranges::find(leftOut, row.id) == leftOut.end())
                 choices_.push_back(&row);

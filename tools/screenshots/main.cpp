@@ -30,8 +30,9 @@ int main(int argc, char *argv[])
         scenes::wholeBoard(stage);
         return 0;
     }
-    for (const auto scene : {scenes::boardAndBand, scenes::wordOfTiles, scenes::menus, scenes::wordsAndLists,
-                             scenes::retyping, scenes::tip, scenes::options, scenes::stemGame})
+    for (const auto scene :
+         {scenes::boardAndBand, scenes::wordOfTiles, scenes::menus, scenes::wordsAndLists, scenes::retyping,
+          scenes::tip, scenes::options, scenes::stemGame, scenes::webPage})
         scene(stage);
     return 0;
 }

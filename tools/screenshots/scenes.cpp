@@ -19,6 +19,7 @@
 #include "widgets/store_list.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QFile>
 #include <QLineEdit>
 #include <QMenu>
@@ -232,5 +233,24 @@ void scenes::stemGame(Stage &stage)
                       stage.keep(u"kernling"_s, game, pageWidth);
                       game.close();
                   });
+    stage.close();
+}
+
+void scenes::webPage(Stage &stage)
+{
+    stage.open(window);
+    QTimer::singleShot(4000, [&] {
+        QWidget *dialog = QApplication::activeModalWidget();
+        if (dialog == nullptr || dialog->objectName() != u"FrmSaveAsWeb"_s)
+            qFatal("The window of the web page has not opened.");
+        dialog->findChild<QLineEdit *>(u"TxtInfile"_s)->setText(u"Stunden\\Vorsilben.wlx"_s);
+        dialog->findChild<QLineEdit *>(u"txtoutfile"_s)->setText(u"Stunden\\VORSILBEN.html"_s);
+        Stage::play(300);
+        stage.keep(u"webseite"_s, *dialog, pageWidth);
+        dialog->findChild<QPushButton *>(u"cmdClose"_s)->click();
+    });
+    // The session is not saved: the dialog that asks for its name comes first.
+    Stage::during([&] { stage.form().saveAsWeb(); },
+                  [] { qobject_cast<QDialog *>(QApplication::activeModalWidget())->reject(); });
     stage.close();
 }

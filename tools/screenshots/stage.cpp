@@ -10,6 +10,7 @@
 #include "platform/options.h"
 #include "platform/sound.h"
 #include "platform/system_clock.h"
+#include "platform/system_printer.h"
 #include "platform/window_file_dialogs.h"
 #include "shell/application_folder.h"
 #include "shell/frm_main.h"
@@ -48,7 +49,8 @@ struct Stage::Run
 {
     Run(const QString &appFolder, Rnd &rnd, SettingsStore &store)
         : options(store, appFolder, log)
-        , ground{appFolder, log, gatedBoxes, gatedDialogs, rnd, sound, clock, pump, store, options, gate}
+        , ground{appFolder, log,   gatedBoxes, gatedDialogs, printer, rnd,
+                 sound,     clock, pump,       store,        options, gate}
         , form(ground, StartFacts{})
     {
         boxes.setMainWindow(&form);
@@ -60,6 +62,7 @@ struct Stage::Run
     GatedBoxes gatedBoxes{boxes, gate};
     WindowFileDialogs fileDialogs;
     GatedFileDialogs gatedDialogs{fileDialogs, gate};
+    SystemPrinter printer;
     Silence sound;
     SystemClock clock{gate};
     LoopPump pump{gate};

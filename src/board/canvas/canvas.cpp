@@ -102,16 +102,17 @@ void Canvas::repaint()
 
 void Canvas::drawTiles(const TileList &tiles) { draw(tiles, false); }
 
-void Canvas::DrawMonoChrome()
+void Canvas::drawShown(TileSurface &paper) const
 {
-    Procedure step{ground_.log, "DrawMonoChrome", form};
-    step([&] {
-        surface_.clear();
-        const CanvasSurface::Batch batch(surface_);
-        for (const auto &tile : store_.tiles())
-            tile->DrawBAndW(surface_);
-    });
-    step([&] { ground_.pump.yield(); });
+    for (const auto &tile : store_.tiles())
+        if (optTypes_.shows(tile->BGColor))
+            tile->Draw(paper);
+}
+
+void Canvas::DrawMonoChrome(TileSurface &paper) const
+{
+    for (const auto &tile : store_.tiles())
+        tile->DrawBAndW(paper);
 }
 
 void Canvas::RecallFilter(int index)

@@ -40,8 +40,10 @@ public:
     void repaint();
     /// Draws other tiles than those of the store, over nothing: what a work has laid so far.
     void drawTiles(const TileList &tiles);
-    /// Black on white, for printing.
-    void DrawMonoChrome();
+    /// Draws what the filter shows on another surface: on paper.
+    void drawShown(TileSurface &paper) const;
+    /// Draws every tile black on white on another surface.
+    void DrawMonoChrome(TileSurface &paper) const;
     /// Removes the first tile with `Inside(x, y)`, or the first of the kind with that back colour. The kind's
     /// own counter stays: the callers lower it.
     void CanvasEraseWortel(int x, int y, std::optional<Colour> kind = {});

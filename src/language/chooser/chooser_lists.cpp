@@ -240,9 +240,7 @@ void frmChooseWortel::Save_Result()
 
 void frmChooseWortel::saveTo(Procedure &step, const QStringList &words)
 {
-    const QString path = saveWords(ground_, step, words,
-                                   {u"Ausgewählte Wörter speichern"_s, product::faultTitle,
-                                    u"Could not write the selected words to file."_s});
-    if (!path.isEmpty())
-        emit wordListSaved(path);
+    saveWords(ground_, step, words,
+              {u"Ausgewählte Wörter speichern"_s, product::faultTitle,
+               u"Could not write the selected words to file."_s});
 }

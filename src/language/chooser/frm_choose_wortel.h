@@ -38,10 +38,6 @@ public:
 
     void done(int result) override;
 
-signals:
-    /// Words were saved, one a line, to `path` (stored form); column layouts rewrite the file.
-    void wordListSaved(const QString &path);
-
 protected:
     void keyPressEvent(QKeyEvent *event) override;
 

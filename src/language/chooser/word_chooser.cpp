@@ -24,7 +24,6 @@ void WordChooser::open()
     step([&] {
         if (const Gate::Passage open = ground_.gate.openBox()) {
             frmChooseWortel window(ground_, lists_, loader_, form_);
-            connect(&window, &frmChooseWortel::wordListSaved, this, &WordChooser::wordListSaved);
             words = window.choose();
         }
     });

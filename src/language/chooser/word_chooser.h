@@ -25,8 +25,6 @@ public:
 signals:
     /// `CorrectWordList` holds the words that are to be retyped, and no others.
     void wordsChosen();
-    /// Words were saved, one a line, to `path` (stored form).
-    void wordListSaved(const QString &path);
 
 private:
     Ground &ground_;

@@ -14,14 +14,12 @@
 #include "platform/product.h"
 #include "platform/settings_store.h"
 #include "platform/text.h"
+#include "widgets/file_drop.h"
 #include "widgets/guards.h"
 
 #include <QCloseEvent>
-#include <QDropEvent>
-#include <QMimeData>
 #include <QPushButton>
 #include <QScreen>
-#include <QUrl>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -47,9 +45,8 @@ frmOptions::frmOptions(Ground &ground, QWidget *parent)
     whole->setContentsMargins(0, 0, 0, 0);
     whole->addWidget(view_);
     connectButtons();
-    QWidget *stemFile = view_->field(Setting::WortelFile);
-    stemFile->setAcceptDrops(true);
-    stemFile->installEventFilter(this);
+    connect(new FileDrop(view_->field(Setting::WortelFile)), &FileDrop::dropped, this,
+            &frmOptions::Text2_OLEDragDrop);
 }
 
 void frmOptions::connectButtons()
@@ -173,25 +170,6 @@ void frmOptions::Text2_OLEDragDrop(const QString &path)
     else
         ground_.boxes.plainBox(Boxes::Icon::Warning, product::name + u" - Fehler: Format"_s,
                                u"Hier passt nur eine Text-Datei (*.txt)."_s);
-}
-
-bool frmOptions::eventFilter(QObject *watched, QEvent *event)
-{
-    if (event->type() != QEvent::DragEnter && event->type() != QEvent::DragMove &&
-        event->type() != QEvent::Drop)
-        return QDialog::eventFilter(watched, event);
-    auto *drop = static_cast<QDropEvent *>(event);
-    if (!drop->mimeData()->hasUrls())
-        return QDialog::eventFilter(watched, event);
-    drop->setDropAction(Qt::CopyAction); // a source that moves would delete its file
-    drop->accept();
-    const QUrl url = drop->mimeData()->urls().value(0);
-    // From the event loop: whoever drops waits until the drop has come back.
-    if (event->type() == QEvent::Drop && url.isLocalFile())
-        QMetaObject::invokeMethod(
-            this, [this, path = storedPath(url.toLocalFile())] { Text2_OLEDragDrop(path); },
-            Qt::QueuedConnection);
-    return true;
 }
 
 void frmOptions::fitToScreen()

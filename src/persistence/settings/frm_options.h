@@ -31,7 +31,6 @@ signals:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
     /// The Escape key is the button "Abbrechen".
     void reject() override { cmdCancel_Click(); }
 

@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "output/window_style.h"
+
+#include <QDialog>
+#include <QFormLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QColor paper{234, 243, 255};
+constexpr int buttonWidth = 96;
+
+const QString style = uR"(
+QGroupBox { font-weight: bold; border: 1px solid #9cc3f5; border-radius: 6px; margin-top: 7px; padding: 6px 8px 3px 8px; }
+QGroupBox::title { subcontrol-origin: margin; left: 10px; padding: 0 4px; color: #1a4f9c; }
+)"_s;
+
+} // namespace
+
+void window_style::dress(QDialog &window)
+{
+    QPalette colours = window.palette();
+    colours.setColor(QPalette::Window, paper);
+    window.setPalette(colours);
+    window.setStyleSheet(style);
+    window.setModal(true);
+}
+
+void window_style::name(QWidget &control, const char *objectName, const QString &caption)
+{
+    control.setObjectName(QLatin1String(objectName));
+    control.setAccessibleName(QString(caption).remove(u'&'));
+}
+
+void window_style::addRow(QFormLayout &form, const QString &caption, QWidget *control, const char *objectName)
+{
+    control->setObjectName(QLatin1String(objectName));
+    if (caption.isEmpty()) {
+        form.addRow(QString(), control);
+        return;
+    }
+    name(*control, objectName, caption);
+    form.addRow(caption, control);
+}
+
+QHBoxLayout *window_style::addFoot(QVBoxLayout &whole)
+{
+    auto *line = new QHBoxLayout;
+    line->addStretch(1);
+    whole.addLayout(line);
+    return line;
+}
+
+QPushButton *window_style::addButton(QHBoxLayout &line, const QString &caption, const char *objectName)
+{
+    auto *button = new QPushButton(caption);
+    name(*button, objectName, caption);
+    button->setMinimumWidth(buttonWidth);
+    button->setAutoDefault(false);
+    line.addWidget(button);
+    return button;
+}
