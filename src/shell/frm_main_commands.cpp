@@ -21,6 +21,7 @@ void frmMain::wireCommands()
     r.wordList.registerCommands(r.router);
     r.retype.registerCommands(r.router);
     r.game.registerCommands(r.router);
+    r.paarlon.registerCommands(r.router);
     r.sessions.registerCommands(r.router);
     r.undo.registerCommands(r.router);
     r.router.onMenu(601, [&r] { r.check.Command2_MouseDown(Qt::LeftButton); });
