@@ -19,6 +19,7 @@ constexpr int smallestLetterSize = 120;
 constexpr int markSize = 180;
 constexpr int rightMargin = 20;
 constexpr int lowestText = 960;
+constexpr int cornerSize = 220; ///< of the focus
 
 QFont letters(QFont font, double pixels)
 {
@@ -114,10 +115,17 @@ void MemoryCard::paintText(QPainter &painter) const
                      look_.print.mark);
 }
 
-/// White between two dark lines stands out on every colour of card.
+/// White beside black stands out on every colour of card. Only the corners, so that no line runs through the
+/// text.
 void MemoryCard::paintFocus(QPainter &painter) const
 {
     const int line = std::max(2, static_cast<int>(pixels(30)));
+    const QRect inner = rect().adjusted(0, 0, -1, -1);
+    const int corner = static_cast<int>(pixels(cornerSize));
+    QRegion corners;
+    for (const QPoint &at : {inner.topLeft(), inner.topRight(), inner.bottomLeft(), inner.bottomRight()})
+        corners += QRect(at - QPoint(corner, corner), at + QPoint(corner, corner));
+    painter.setClipRegion(corners);
     painter.setBrush(Qt::NoBrush);
     for (const auto &[inset, colour] :
          {std::pair{0, QColor(Qt::black)}, std::pair{line, QColor(Qt::white)}}) {

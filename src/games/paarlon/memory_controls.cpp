@@ -126,6 +126,8 @@ MemoryControls makeMemoryControls(QWidget *form)
     c.Anfangen->setEnabled(false);
     c.Abbrechen = make<QPushButton>(c.Picture1, u"cmdCommand(3)"_s, u"Abbrechen"_s);
     c.Label2 = makeLabel(c.Picture1, u"Label2"_s);
+    c.Label2->setAlignment(Qt::AlignLeft | Qt::AlignTop); // it wanders off to the right
+    c.Label2->setWordWrap(false);
     c.LblCurrentScore = makeLabel(c.Picture1, u"LblCurrentScore"_s, u"0"_s);
     c.LblCurrentScore->hide();
     c.Label1 = makeLabel(c.Picture1, u"Label1"_s, u"MEMORY- MASTER"_s);
