@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "dialogs/real_boxes.h"
 
+#include "dialogs/best_times_window.h"
 #include "dialogs/high_score_window.h"
 #include "dialogs/input_box.h"
 #include "dialogs/message_box.h"
@@ -191,4 +192,10 @@ void RealBoxes::ShowHighScores(const HighScoreSheet &sheet)
 {
     const PlainPointer pointer;
     frmHighScore(sheet, owner()).exec();
+}
+
+void RealBoxes::ShowBestTimes(const HighScoreSheet &sheet)
+{
+    const PlainPointer pointer;
+    frmBestTimes(sheet, owner()).exec();
 }

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "games/paarlon/best_lists.h"
 
-#include "games/paarlon/frm_best_times.h"
 #include "platform/boxes.h"
 #include "platform/gate.h"
 #include "platform/ground.h"
@@ -15,36 +14,40 @@ BestLists::BestLists(Ground &ground)
     , scores_(ground.store)
 {}
 
-void BestLists::GetBestTimes(const MemoryKind &kind, int clicks, const QString &message, QWidget *owner)
+void BestLists::GetBestTimes(const MemoryKind &kind, int clicks, const QString &message)
 {
     Procedure step{ground_.log, "GetBestTimes", "frmMemory"};
     TopTen list = scores_.topTen(kind);
     if (const std::optional<int> place = list.placeOf(clicks)) {
-        const QString name = askName(kind);
+        QString name;
+        step([&] {
+            name = ground_.boxes.ShowEnterName(
+                u"Bestenliste Paarlon (%1)"_s.arg(QString::fromUtf16(kind.tile->plural)));
+        });
         if (ground_.gate.isClosing())
             return;
         list.enter(*place, clicks, name);
+        const TopTen::Record entry = list.records().at(*place);
         step([&] { scores_.saveTopTen(kind, list); });
-        ShowBestTimes(message, kind, owner);
+        list = TopTen::fromText(list.text()); // where it stands among its equals
+        step([&] { ShowBestTimes(message, kind, static_cast<int>(list.records().indexOf(entry)) + 1); });
         if (ground_.gate.isClosing())
             return;
     }
     step([&] { scores_.saveTopTen(kind, list); });
 }
 
-QString BestLists::askName(const MemoryKind &kind)
+void BestLists::ShowBestTimes(const QString &message, const MemoryKind &kind, int place)
 {
-    return ground_.boxes.ShowIBox(
-        u"Herzlichen Glückwunsch !\nDein Name wird in die Bestenliste aufgenommen !\n\n"
-        u"Gib bitte deinen Namen ein :"_s,
-        kind.tile->box, u"Sieger"_s,
-        u"Bestenliste Paarlon (%1)"_s.arg(QString::fromUtf16(kind.tile->plural)));
-}
-
-void BestLists::ShowBestTimes(const QString &message, const MemoryKind &kind, QWidget *owner)
-{
-    if (const Gate::Passage open = ground_.gate.openBox())
-        frmBestTimes(message, kind, scores_.topTen(kind), owner).exec();
+    HighScoreSheet sheet{u"Bestenliste - Paarlon (%1)"_s.arg(QString::fromUtf16(kind.label)),
+                         u"Paarlon"_s,
+                         message,
+                         {},
+                         place};
+    const TopTen list = scores_.topTen(kind);
+    for (const TopTen::Record &record : list.records())
+        sheet.rows.append({record.name, QString::number(record.score)});
+    ground_.boxes.ShowBestTimes(sheet);
 }
 
 void BestLists::ResetMemoryMaster(const MemoryKind *kind)

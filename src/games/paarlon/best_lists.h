@@ -4,7 +4,6 @@
 
 #include "games/paarlon/memory_scores.h"
 
-class QWidget;
 struct Ground;
 
 /// The lists of the best of the three games, as they are shown, reset, and taken further at the end of a
@@ -18,14 +17,13 @@ public:
 
     /// Puts `clicks` into the list of `kind` if it beats the tenth place, asks for the name and shows the
     /// list with `message`. The list is stored, sorted, in any case.
-    void GetBestTimes(const MemoryKind &kind, int clicks, const QString &message, QWidget *owner);
-    void ShowBestTimes(const QString &message, const MemoryKind &kind, QWidget *owner);
+    void GetBestTimes(const MemoryKind &kind, int clicks, const QString &message);
+    /// `place` is that of a new entry, 1 the first; 0 if there is none.
+    void ShowBestTimes(const QString &message, const MemoryKind &kind, int place = 0);
     /// Asks and resets the list of `kind`; nullptr: of all kinds.
     void ResetMemoryMaster(const MemoryKind *kind);
 
 private:
-    QString askName(const MemoryKind &kind);
-
     Ground &ground_;
     MemoryScores scores_;
 };

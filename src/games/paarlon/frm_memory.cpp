@@ -79,7 +79,7 @@ void frmMemory::wireControls()
     connect(controls_.Abbrechen, &QPushButton::clicked, this, &QWidget::close);
     connect(controls_.Command2, &QPushButton::clicked, this, whenPlayed([this](bool) { Command2_Click(); }));
     connect(controls_.Command3, &QPushButton::clicked, this,
-            whenPlayed([this](bool) { best_.ShowBestTimes({}, checkedKind(), this); }));
+            whenPlayed([this](bool) { best_.ShowBestTimes({}, checkedKind()); }));
     for (int card = 0; card < MemoryRules::cards; ++card) {
         MemoryCard *const control = controls_.picMorphemeCard[static_cast<std::size_t>(card)];
         connect(control, &MemoryCard::clicked, this,
@@ -94,7 +94,7 @@ void frmMemory::Command2_Click()
     Procedure step{ground_.log, "Command2_Click", form};
     const QString answer = ground_.boxes.ShowIBox(u"Enter a score"_s, BoxStyle::Plain, u"80"_s, u"Score"_s);
     step([&] { rules_.setClicks(CLng(CDbl(answer))); });
-    step([&] { best_.GetBestTimes(prefixMemory, rules_.Clicks(), answer + u"very good: "_s, this); });
+    step([&] { best_.GetBestTimes(prefixMemory, rules_.Clicks(), answer + u"very good: "_s); });
 }
 
 const MemoryKind &frmMemory::checkedKind() const
@@ -160,8 +160,9 @@ void frmMemory::openOnScreen()
         move(room.left() + (room.width() - width()) / 2,
              room.top() + (room.height() - titleBarHeight - height()) / 2);
     }
+    if (isVisible())
+        raise();
     show();
-    raise();
     activateWindow();
 }
 

@@ -220,7 +220,7 @@ void frmMemory::finishGame()
     if (clicks < BestScore_ || BestScore_ == 0) {
         message += u"\n\nDU HAST EINEN NEUEN REKORD AUFGESTELLT !!"_s;
         step([&] { best_.scores().saveRecord(clicks); });
-        step([&] { best_.GetBestTimes(*kind_, clicks, message, this); });
+        step([&] { best_.GetBestTimes(*kind_, clicks, message); });
         BestScore_ = clicks;
         controls_.txtScores[4]->setText(QString::number(clicks));
     }

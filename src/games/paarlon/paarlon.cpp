@@ -18,7 +18,7 @@ void Paarlon::registerCommands(CommandRouter &router)
 {
     for (const MemoryKind &kind : memoryKinds) {
         router.onMenu(kind.startId, [this, &kind] { Display(kind); });
-        router.onMenu(kind.showId, [this, &kind] { best_.ShowBestTimes({}, kind, owner_); });
+        router.onMenu(kind.showId, [this, &kind] { best_.ShowBestTimes({}, kind); });
         router.onMenu(kind.resetId, [this, &kind] { best_.ResetMemoryMaster(&kind); });
     }
 }
