@@ -108,13 +108,16 @@ RealBoxes::RealBoxes(QWidget *mainWindow)
 
 RealBoxes::~RealBoxes() = default;
 
-QWidget *RealBoxes::owner() const
+/// Between two boxes no window is active yet; the second belongs to the owner of the first.
+QWidget *RealBoxes::owner()
 {
     if (QWidget *modal = QApplication::activeModalWidget())
         return modal;
     QWidget *active = QApplication::activeWindow();
     if (active != nullptr && active->isVisible() && active->windowType() != Qt::SplashScreen)
-        return active;
+        return lastOwner_ = active;
+    if (active == nullptr && lastOwner_ != nullptr && lastOwner_->isVisible())
+        return lastOwner_;
     return mainWindow_ != nullptr && mainWindow_->isVisible() ? mainWindow_.data() : nullptr;
 }
 

@@ -31,9 +31,10 @@ public:
     void ShowBestTimes(const HighScoreSheet &sheet) override;
 
 private:
-    QWidget *owner() const;
+    QWidget *owner();
 
     QPointer<QWidget> mainWindow_;
+    QPointer<QWidget> lastOwner_; ///< in use when the last box came up
 };
 
 /// A text cut to what a plain message box can show on a small screen: at most a dozen lines, and long words

@@ -96,16 +96,20 @@ void Desktop::makePortableCopy()
     }
 }
 
-void Desktop::setSetting(const QString &key, const QString &value)
+void Desktop::setSetting(const QString &key, const QString &value, const QString &section)
 {
     const QString folder = home() + u"/.config/Wortel-Meister"_s;
     QDir().mkpath(folder);
     QFile file(folder + u"/settings.ini"_s);
     if (!file.open(QIODevice::Append))
         return;
-    if (file.size() == 0)
-        file.write("[Settings]\n");
-    file.write((key + u'=' + value + u'\n').toUtf8());
+    file.write(u"[%1]\n%2=%3\n"_s.arg(section, key, value).toUtf8());
+}
+
+QString Desktop::storedSettings() const
+{
+    QFile file(home() + u"/.config/Wortel-Meister/settings.ini"_s);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
 QString Desktop::writeFile(const QString &name, const QByteArray &content)

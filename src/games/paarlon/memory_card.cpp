@@ -19,6 +19,7 @@ constexpr int smallestLetterSize = 120;
 constexpr int markSize = 180;
 constexpr int rightMargin = 20;
 constexpr int lowestText = 960;
+constexpr int haloWidth = 15;
 constexpr int cornerSize = 220; ///< of the focus
 
 QFont letters(QFont font, double pixels)
@@ -105,8 +106,19 @@ void MemoryCard::paintText(QPainter &painter) const
     if (wide > box.width())
         size = std::max(smallest, size * box.width() / wide - 1);
     painter.setFont(letters(font(), size));
-    painter.drawText(box, Qt::AlignLeft | Qt::AlignTop | Qt::TextWrapAnywhere,
-                     cutToFit(look_.print.text, painter.fontMetrics(), box));
+    const QString text = cutToFit(look_.print.text, painter.fontMetrics(), box);
+    const auto draw = [&](const QPoint &by) {
+        painter.drawText(box.translated(by), Qt::AlignLeft | Qt::AlignTop | Qt::TextWrapAnywhere, text);
+    };
+    if (look_.side == Side::Solved) { // black alone could not be read on blue
+        const int halo = std::max(1, static_cast<int>(pixels(haloWidth)));
+        painter.setPen(look_.back.lighter(170));
+        for (int x = -halo; x <= halo; x += halo)
+            for (int y = -halo; y <= halo; y += halo)
+                draw({x, y});
+        painter.setPen(look_.text);
+    }
+    draw({});
     if (look_.print.mark.isEmpty())
         return;
     painter.setFont(letters(font(), pixels(markSize)));

@@ -83,9 +83,9 @@ void setLetters(QWidget *widget, int pixels, bool bold)
 
 QRect MemoryControls::Scale::pixels(const QRect &twips) const
 {
-    // Edge by edge, so that equal gaps stay equal to a pixel.
-    return QRect(QPoint(pixels(twips.left()), pixels(twips.top())),
-                 QPoint(pixels(twips.left() + twips.width()) - 1, pixels(twips.top() + twips.height()) - 1));
+    // What is of one size stays so to the pixel, wherever it lies.
+    return {QPoint(pixels(twips.left()), pixels(twips.top())),
+            QSize(pixels(twips.width()), pixels(twips.height()))};
 }
 
 MemoryControls::Scale MemoryControls::scaleFor(const QSize &window)
