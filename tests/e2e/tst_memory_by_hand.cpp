@@ -28,7 +28,7 @@ struct Game
 
 constexpr Game stems{u"Wortel-Memory", u"Down Return", colour::red, u"Wortel", u"Wortele", u"Mia", false};
 constexpr Game suffixes{
-    u"Suffix-Memory", u"Down Down Return", colour::blue, u"Suffixe", u"Suffixe", u"Änne", true};
+    u"Suffix-Memory", u"Down Down Return", colour::blue, u"Suffixe", u"Suffixe", u"Anne", true};
 
 } // namespace
 
