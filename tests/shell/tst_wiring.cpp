@@ -109,8 +109,6 @@ struct House : TestHouse
     {
         t.boxes.willCloseScores();
         act();
-        return t.boxes.asked.last().style;
-        run(From::MainMenu, id);
         return t.boxes.asked.last().style + t.boxes.asked.last().title.section(u'(', 1);
     }
     /// The card game's list that the menu's entry resets.
@@ -314,15 +312,12 @@ const Wire wires[] = {
     {"250", ACT(h.windowOf([&] { h.run(From::MainMenu, 250); })), u"frmMemory"_s},
     {"350", ACT(h.windowOf([&] { h.run(From::MainMenu, 350); })), u"frmMemory"_s},
     {"menus follow the card game", ACT(h.r.news.Commit(), h.store("UseUndo", "0"), h.run(From::MainMenu, 150), yes(h.offers(2801))), u"no"_s},
-    {"2902", ACT(h.listOf(2902)), u"PaarlonWortel)"_s},
-    {"2904", ACT(h.listOf(2904)), u"PaarlonPräfixe)"_s},
-    {"2906", ACT(h.listOf(2906)), u"PaarlonSuffixe)"_s},
+    {"2902", ACT(h.listOf([&] { h.run(From::MainMenu, 2902); })), u"PaarlonWortel)"_s},
+    {"2904", ACT(h.listOf([&] { h.run(From::MainMenu, 2904); })), u"PaarlonPräfixe)"_s},
+    {"2906", ACT(h.listOf([&] { h.run(From::MainMenu, 2906); })), u"PaarlonSuffixe)"_s},
     {"2903", ACT(h.memoryReset(2903)), u"Wortel"_s},
     {"2905", ACT(h.memoryReset(2905)), u"Präfixe"_s},
     {"2907", ACT(h.memoryReset(2907)), u"Suffixe"_s},
-    {"2900", ACT(h.listOf(2900)), u"Klotar"_s},
-    {"3104", ACT(h.listOf(3104)), u"Kernling"_s},
-    {"3106", ACT(h.listOf(3106)), u"Tonarin"_s},
     {"2901", ACT(h.listReset(2901)), u"scores.lst"_s},
     {"3105", ACT(h.listReset(3105)), u"ScoresKernling.lst"_s},
     {"3107", ACT(h.listReset(3107)), u"ScoresVokal.lst"_s},

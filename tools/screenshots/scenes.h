@@ -17,5 +17,6 @@ void retyping(Stage &stage);
 void tip(Stage &stage);
 void options(Stage &stage);
 void stemGame(Stage &stage);
+void cards(Stage &stage);
 
 } // namespace scenes

@@ -60,10 +60,8 @@ frmMemory::frmMemory(Ground &ground, const WordLists &lists, BestLists &best, QW
     MemoryScores &scores = best_.scores();
     step([&] { tmrFlipMorpheme_.setInterval(scores.visibleTime()); });
     step([&] { BestScore_ = scores.Score(); });
-    step([&] { BestTime_ = scores.Time(); });
-    step([&] { LeaderName_ = scores.Name(); });
     controls_.txtScores[4]->setText(QString::number(BestScore_));
-    controls_.txtScores[5]->setText(u"%1 seconds"_s.arg(BestTime_));
+    step([&] { controls_.txtScores[5]->setText(u"%1 seconds"_s.arg(scores.Time())); });
 }
 
 void frmMemory::wireControls()
@@ -162,6 +160,8 @@ void frmMemory::openOnScreen()
     }
     if (isVisible())
         raise();
+    if (isMinimized())
+        showNormal();
     show();
     activateWindow();
 }
@@ -231,9 +231,7 @@ void frmMemory::paintEvent(QPaintEvent *event)
 void frmMemory::resizeEvent(QResizeEvent *)
 {
     layOutMemoryControls(controls_, size());
-    const double scale = MemoryControls::scaleFor(size()).pixelsPerTwip;
-    CanvasWidth_ = static_cast<int>(width() / scale);
-    CanvasHeight_ = static_cast<int>(height() / scale);
+    CanvasHeight_ = static_cast<int>(height() / MemoryControls::scaleFor(size()).pixelsPerTwip);
 }
 
 // End

@@ -87,17 +87,13 @@ private:
     MemoryRules rules_;
     const MemoryKind *kind_ = &wortelMemory; ///< of the cards
     MemoryScores::CardColours colours_;
-    QString MorphemeFile_;
     WordStore MorphemeList_;
     int BestScore_ = 0;
-    int BestTime_ = 0;
-    QString LeaderName_;
     int currentCard_ = 0;
 
     std::optional<BouncingBall> ball_; ///< while the intro runs
     qint64 ballMoved_ = 0;             ///< milliseconds of the running clock
-    int CanvasWidth_ = 0;
-    int CanvasHeight_ = 0;
+    int CanvasHeight_ = 0;             ///< twips of the design
     bool waitsForList_ = false;
     bool isUnloaded_ = false;
     QTimer intro_;

@@ -66,7 +66,6 @@ bool frmMemory::EnoughWortelInFile()
 bool frmMemory::readMorphemeFile(const QString &path, QStringList &lines)
 {
     MorphemeList_.clear();
-    MorphemeFile_ = path;
     if (!IsTextFile(path)) {
         ground_.boxes.plainBox(Boxes::Icon::Critical, product::faultTitle,
                                missingListFile(path, "ProgInit", __LINE__));
@@ -160,7 +159,6 @@ void frmMemory::DisplayLeader(const MemoryKind &kind)
     const TopTen list = best_.scores().topTen(kind);
     const TopTen::Record &leader = list.records().first();
     BestScore_ = leader.score;
-    LeaderName_ = leader.name;
     const QString text =
         u"MEMORY-\nMEISTER\n\n"_s + leader.name + u'\n' + QString::number(leader.score) + u" Klicks"_s;
     controls_.Label1->setText(text);

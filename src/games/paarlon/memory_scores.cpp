@@ -50,8 +50,6 @@ int MemoryScores::Score() const { return wholeNumber(read(u"Score", u"0"_s)); }
 
 int MemoryScores::Time() const { return wholeNumber(read(u"Time", u"0"_s)); }
 
-QString MemoryScores::Name() const { return read(u"Name", firstLeader); }
-
 void MemoryScores::saveRecord(int clicks)
 {
     store_.SaveSettings(section, {{u"Score"_s, QString::number(clicks)}, {u"Name"_s, QString()}});

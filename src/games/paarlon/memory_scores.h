@@ -22,7 +22,6 @@ public:
 
     int Score() const;
     int Time() const; ///< seconds
-    QString Name() const;
     void saveRecord(int clicks);
 
     /// For how many milliseconds two cards without a pair stay up. A value that no timer takes (0 or less,

@@ -130,7 +130,7 @@ private slots:
             }
             scores.saveRecord(33);
             QCOMPARE(scores.Score(), 33);
-            QCOMPARE(scores.Name(), QString());
+            QCOMPARE(stored(u"Name"_s), QString());
             scores.reset(&memoryKinds[one]);
             for (std::size_t i = 0; i < 3; ++i)
                 QCOMPARE(stored(keys[qsizetype(i)]), i == one ? seed : full);
