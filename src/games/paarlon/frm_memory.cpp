@@ -73,7 +73,7 @@ void frmMemory::wireControls()
     const auto whenPlayed = [this](auto action) {
         return throughGate(ground_.gate, Gate::Way::Play, action);
     };
-    connect(controls_.Anfangen, &QPushButton::clicked, this, whenPlayed([this](bool) { startGame(); }));
+    connect(controls_.Anfangen, &QPushButton::clicked, this, &frmMemory::Anfangen_Click);
     connect(controls_.Abbrechen, &QPushButton::clicked, this, &QWidget::close);
     connect(controls_.Command2, &QPushButton::clicked, this, whenPlayed([this](bool) { Command2_Click(); }));
     connect(controls_.Command3, &QPushButton::clicked, this,
@@ -83,6 +83,19 @@ void frmMemory::wireControls()
         connect(control, &MemoryCard::clicked, this,
                 whenPlayed([this, card](bool) { picMorphemeCard_Click(card); }));
         connect(control, &MemoryCard::arrowPressed, this, &frmMemory::moveCurrentCard);
+    }
+}
+
+void frmMemory::Anfangen_Click()
+{
+    if (waitsForList_) { // with another kind, perhaps
+        ground_.gate.cancelWork();
+        ground_.gate.whenFree([this, self = QPointer(this)] {
+            if (!self.isNull() && isVisible())
+                startGame();
+        });
+    } else if (const Gate::Passage passage = ground_.gate.enter(Gate::Way::Play)) {
+        startGame();
     }
 }
 

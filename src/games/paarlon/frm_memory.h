@@ -59,6 +59,7 @@ protected:
 
 private:
     void wireControls();
+    void Anfangen_Click();
     void Command2_Click();
     void openOnScreen();
     void setKindColours(const MemoryKind &kind);

@@ -34,7 +34,8 @@ constexpr auto form = "frmMemory";
 constexpr int lookEvery = 20; ///< milliseconds
 
 const QString listTooShort = u"Für 18 Paare sind in dieser Liste zu wenig Einträge.\n\n"
-                             u"Schließe das Fenster mit „Abbrechen“ und wähle eine längere Liste."_s;
+                             u"Wähle andere Karten und „Anfangen“, oder schließe das Fenster mit "
+                             u"„Abbrechen“ und nimm eine längere Liste."_s;
 
 } // namespace
 

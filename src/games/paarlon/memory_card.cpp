@@ -97,8 +97,9 @@ void MemoryCard::paintEvent(QPaintEvent *)
 void MemoryCard::paintText(QPainter &painter) const
 {
     painter.setPen(look_.text);
+    const int lowest = look_.print.mark.isEmpty() ? lowestText : markPlace.y();
     const QRect box(QPointF(pixels(textPlace.x()), pixels(textPlace.y())).toPoint(),
-                    QPointF(pixels(side - rightMargin), pixels(lowestText)).toPoint());
+                    QPointF(pixels(side - rightMargin), pixels(lowest)).toPoint());
     // A long text gets smaller letters, and then several lines.
     double size = pixels(letterSize);
     const double smallest = pixels(smallestLetterSize);

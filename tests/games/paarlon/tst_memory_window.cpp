@@ -258,6 +258,22 @@ private slots:
         QVERIFY(!m.window()->AllreadyExists(u"worta"_s) && m.t.ok());
     }
 
+    void anotherKindWhileItWaits()
+    {
+        MemoryTable m;
+        m.setList(u"affix\\prefix.afx"_s, u"vor#x"_s, 3);
+        m.t.pump.waiting = true;
+        m.t.pump.onServe = [&m, rounds = 0]() mutable {
+            if (++rounds == 5) {
+                m.window()->controls().OptMorphemeType[2]->click();
+                m.window()->controls().Anfangen->click();
+            }
+        };
+        m.deal(150);
+        QVERIFY(m.rules().isDealt() && m.window()->controls().lblNotice->isHidden());
+        QCOMPARE(m.window()->windowTitle(), u"Suffix-Memory"_s);
+    }
+
     void aListVanishesBetweenGames()
     {
         MemoryTable m;
