@@ -1,38 +1,144 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "games/paarlon/memory_table.h"
+#include "games/paarlon/frm_memory.h"
+#include "games/paarlon/memory_card.h"
 #include "support/columns.h"
 #include "support/registry.h"
+#include "support/test_board.h"
 
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalSpy>
+#include <QtTest>
 
-using Act = std::function<void(MemoryTable &)>;
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString seedFrom991 = u"~990,Wortel~991,Wortel~992,Wortel~993,Wortel~994,Wortel~995,Wortel~996,Wortel~"
+/// The house with lists that are long enough, and a player at the card game's window.
+struct MemoryTable : TestBoard
+{
+    explicit MemoryTable(quint64 seed = 1)
+        : TestBoard(seed)
+    {
+        setList(250, 24);
+        setList(150, 24);
+        setList(350, 24);
+        form.show();
+        settle();
+    }
+
+    /// The list of the game with that number: stems are twins, and all texts of a kind begin alike.
+    void setList(int id, int lines)
+    {
+        const bool stems = id == 250;
+        const QString file = stems ? u"text\\Hauptbausteine.Txt"_s
+                                   : u"affix\\%1fix.afx"_s.arg(id == 150 ? u"pre"_s : u"suf"_s);
+        QString text;
+        for (int i = 0; i < lines; ++i)
+            text += (stems       ? u" stamm"_s
+                     : id == 150 ? u"vor"_s
+                                 : u"nach"_s) +
+                    QChar(u'a' + i % 24) + (stems ? u"2 \r\n"_s : u"x\r\n"_s);
+        t.writeFile(file, text);
+    }
+    void store(const QString &key, const QString &value) { t.store.SaveSetting(u"MemoryGame"_s, key, value); }
+    QString stored(const QString &key) const { return t.store.GetSetting(u"MemoryGame"_s, key, u"-"_s); }
+
+    frmMemory *window() const { return r.paarlon.window(); }
+    const MemoryRules &rules() const { return window()->rules(); }
+    const MemoryControls &c() const { return window()->controls(); }
+    MemoryCard *card(int index) const { return c().picMorphemeCard[static_cast<std::size_t>(index)]; }
+
+    /// Chooses the game in the menu.
+    void open(int id)
+    {
+        run(command::From::MainMenu, id);
+        settle();
+    }
+    /// So many milliseconds of the intro.
+    void intro(int milliseconds)
+    {
+        for (int passed = 0; passed < milliseconds && window() != nullptr; passed += 50) {
+            t.clock.moment = t.clock.moment.addMSecs(50);
+            window()->moveBall();
+        }
+        settle();
+    }
+    void deal(int id)
+    {
+        open(id);
+        intro(4000);
+        t.sound.resources.clear();
+    }
+    void click(int index) { QTest::mouseClick(card(index), Qt::LeftButton); }
+    void press(Qt::Key key) { QTest::keyClick(window()->focusWidget(), key); }
+    /// Another card with the same morpheme, or one with another.
+    int twinOf(int index, bool same = true) const
+    {
+        int other = 0;
+        while (other == index || (rules().CardMorpheme(other) == rules().CardMorpheme(index)) != same)
+            ++other;
+        return other;
+    }
+    /// Two up that are no pair.
+    void miss(int index = 0) { click(index), click(twinOf(index, false)); }
+    /// The whole game, after so many turns without a pair.
+    void solve(int misses = 0, bool byKeys = false)
+    {
+        for (int index = 0; index < misses; ++index)
+            miss(index), window()->tmrFlipMorpheme_Timer();
+        for (int index = 0; index < 36; ++index)
+            for (const int turned : {index, twinOf(index)})
+                if (!rules().isSolved(turned))
+                    byKeys ? (card(turned)->setFocus(), press(Qt::Key_Space)) : click(turned);
+    }
+};
+
+using Act = std::function<void(MemoryTable &)>;
+
+const QString seedFrom990 = u"~990,Wortel~991,Wortel~992,Wortel~993,Wortel~994,Wortel~995,Wortel~996,Wortel~"
                             u"997,Wortel~998,Wortel"_s;
 
-const Act openIntro = [](MemoryTable &m) { m.open(150), m.intro(500); };
-const Act oneUp = [](MemoryTable &m) { m.deal(150), m.click(0); };
-const Act twoUp = [](MemoryTable &m) { m.deal(150), m.click(0), m.click(m.twinOf(0, false)); };
-const Act abandon = [](MemoryTable &m) { m.window()->controls().Abbrechen->click(); };
-const Act escape = [](MemoryTable &m) { QTest::keyClick(m.window(), Qt::Key_Escape); };
-const Act quit = [](MemoryTable &m) { m.form.close(); };
-
-/// Closes while the game waits for a list that never fills.
-Act inWaiting(const Act &close)
+struct WholeGame
 {
-    return [close](MemoryTable &m) {
-        m.setList(u"affix\\prefix.afx"_s, u"vor#x"_s, 18);
+    const char *name;
+    int id;
+    bool byKeys;
+    const char16_t *caption, *plural, *label;
+    QRgb back;
+};
+
+// clang-format off
+constexpr WholeGame wholeGames[] = {
+    {"prefixes",     150, false, u"Präfix-Memory", u"Präfixe", u"Präfixe", qRgb(255, 255, 0)},
+    {"stems",        250, false, u"Wortel-Memory", u"Wortele", u"Wortel",  qRgb(255, 0, 0)},
+    {"suffixes",     350, false, u"Suffix-Memory", u"Suffixe", u"Suffixe", qRgb(0, 0, 255)},
+    {"stems, keys",  250, true,  u"Wortel-Memory", u"Wortele", u"Wortel",  qRgb(255, 0, 0)},
+};
+
+const std::pair<const char *, Act> moments[] = {
+    {"intro",      [](MemoryTable &m) { m.open(150), m.intro(500); }},
+    {"one up",     [](MemoryTable &m) { m.deal(150), m.click(0); }},
+    {"two up",     [](MemoryTable &m) { m.deal(150), m.miss(); }},
+};
+const Act cancels = [](MemoryTable &m) { m.c().Abbrechen->click(); };
+const Act escapes = [](MemoryTable &m) { QTest::keyClick(m.window(), Qt::Key_Escape); };
+const Act quits = [](MemoryTable &m) { m.form.close(); };
+const Act nothing = [](MemoryTable &) {};
+// clang-format on
+
+/// Acts while the game waits for a list that never fills.
+Act inWaiting(const Act &act)
+{
+    return [act](MemoryTable &m) {
+        m.setList(150, 18);
         m.t.pump.waiting = true;
-        m.t.pump.onServe = [&m, close, rounds = 0]() mutable {
+        m.t.pump.onServe = [&m, act, rounds = 0]() mutable {
             if (m.window() != nullptr && ++rounds == 5) {
-                QVERIFY(m.window()->controls().lblNotice->text().startsWith(u"Für 18 Paare"_s));
-                close(m);
+                QVERIFY(m.c().lblNotice->text().startsWith(u"Für 18 Paare"_s));
+                act(m);
             }
         };
         m.deal(150);
@@ -48,72 +154,56 @@ class MemoryWindowTest : public QObject
 private slots:
     void wholeGame_data()
     {
-        columns<int, bool, QString, QString, QString, QRgb>("id", "byKeys", "caption", "plural", "label",
-                                                            "back");
-        QTest::newRow("prefixes") << 150 << false << u"Präfix-Memory"_s << u"Präfixe"_s << u"Präfixe"_s
-                                  << qRgb(255, 255, 0);
-        QTest::newRow("stems") << 250 << false << u"Wortel-Memory"_s << u"Wortele"_s << u"Wortel"_s
-                               << qRgb(255, 0, 0);
-        QTest::newRow("suffixes") << 350 << false << u"Suffix-Memory"_s << u"Suffixe"_s << u"Suffixe"_s
-                                  << qRgb(0, 0, 255);
-        QTest::newRow("stems, by keys")
-            << 250 << true << u"Wortel-Memory"_s << u"Wortele"_s << u"Wortel"_s << qRgb(255, 0, 0);
+        QTest::addColumn<int>("row");
+        for (int row = 0; row < int(std::size(wholeGames)); ++row)
+            QTest::newRow(wholeGames[row].name) << row;
     }
     void wholeGame()
     {
-        QFETCH(int, id);
-        QFETCH(bool, byKeys);
-        QFETCH(QString, plural);
-        QFETCH(QString, label);
-        QFETCH(QRgb, back);
+        QFETCH(int, row);
+        const WholeGame &game = wholeGames[row];
+        const QString label = QString::fromUtf16(game.label);
         MemoryTable m(4711);
-        m.t.store.SaveSetting(u"MemoryGame"_s, label + u"Top 10:"_s, u"20,Alt~ 21,Uwe"_s);
-        m.open(id);
-        QVERIFY(QTest::qWaitForWindowActive(m.window()));
-        const MemoryControls &c = m.window()->controls();
-        QTEST(m.window()->windowTitle(), "caption");
-        QVERIFY(!c.Anfangen->isEnabled() && c.Abbrechen->isEnabled() && !m.card(0)->isVisible());
+        m.store(label + u"Top 10:"_s, u"20,Alt~ 21,Uwe"_s);
+        m.t.sound.resources.clear();
+        m.open(game.id);
+        QVERIFY(QTest::qWaitForWindowActive(m.window()) && !m.c().Anfangen->isEnabled());
+        QCOMPARE(m.window()->windowTitle(), QString::fromUtf16(game.caption));
         m.intro(4000);
         QCOMPARE(m.t.sound.resources, QList<int>(10, 113));
-        m.t.sound.resources.clear();
-        QVERIFY(c.Anfangen->isEnabled() && m.card(35)->isVisible() && c.Command3->isHidden());
-        QCOMPARE(c.Label1->text(), u"MEMORY-\nMEISTER\n\nAlt\n20 Klicks"_s);
-        QCOMPARE(m.card(7)->accessibleName(), u"Reihe 2, Karte 2: verdeckt"_s);
+        QVERIFY(m.c().Anfangen->isEnabled() && m.card(35)->isVisible() && m.c().Command3->isHidden());
+        QCOMPARE(m.c().Label1->text(), u"MEMORY-\nMEISTER\n\nAlt\n20 Klicks"_s);
 
         m.t.boxes.willEnterName(u"Mia"_s);
         m.t.boxes.willCloseScores();
         m.t.clock.moment = m.t.clock.moment.addMSecs(75999);
-        m.solve(2, 0, [&m, byKeys](int index) { byKeys ? m.turnByKeys(index) : m.click(index); });
-
-        QCOMPARE(c.LblCurrentScore->text(), u"20"_s);
+        m.solve(2, game.byKeys);
+        QCOMPARE(m.c().LblCurrentScore->text(), u"20"_s);
         QCOMPARE(m.t.sound.resources.count(112), 18);
         QCOMPARE(m.t.sound.resources.count(114), 20);
         QCOMPARE(m.t.sound.resources.count(115), 2);
         const QImage picture = m.card(3)->grab().toImage();
-        QCOMPARE(picture.pixel(picture.width() / 2, picture.height() / 8), back);
-        QVERIFY2(m.card(3)->accessibleName().endsWith(u", gefunden"_s),
-                 qPrintable(m.card(3)->accessibleName()));
-        QCOMPARE(m.t.boxes.asked.size(), 2);
-        QCOMPARE(m.t.boxes.asked[0].title, u"Bestenliste Paarlon (%1)"_s.arg(plural));
-        QCOMPARE(m.t.boxes.asked[1].title, u"Bestenliste - Paarlon (%1)"_s.arg(label));
-        QVERIFY2(m.t.boxes.asked[1].text.startsWith(
-                     u"Herzlichen Glückwunsch !\n\nDu hast nur 20 Klicks benötigt, und es hat 75 Sekunden "
-                     u"gedauert.\n\nDU HAST EINEN NEUEN REKORD AUFGESTELLT !!\nAlt 20\nMia 20\nUwe 21\n"_s),
-                 qPrintable(m.t.boxes.asked[1].text));
-        QCOMPARE(m.t.boxes.asked[1].code, 2);
+        QCOMPARE(picture.pixel(picture.width() / 2, picture.height() / 8), game.back);
+        const auto &asked = m.t.boxes.asked;
+        QCOMPARE(asked.size(), 2);
+        QCOMPARE(asked[0].title, u"Bestenliste Paarlon (%1)"_s.arg(QString::fromUtf16(game.plural)));
+        QCOMPARE(asked[1].title, u"Bestenliste - Paarlon (%1)"_s.arg(label));
+        QCOMPARE(asked[1].text.section(u'\n', 0, 8).replace(u'\n', u'|'),
+                 u"Herzlichen Glückwunsch !||Du hast nur 20 Klicks benötigt, und es hat 75 Sekunden gedauert."
+                 u"||DU HAST EINEN NEUEN REKORD AUFGESTELLT !!|Alt 20|Mia 20|Uwe 21|Wortel 992"_s);
+        QCOMPARE(asked[1].code, 2); // the new entry
         QVERIFY(m.stored(label + u"Top 10:"_s).startsWith(u" 20,Alt~ 20,Mia~ 21,Uwe~992,Wortel~"_s));
         QCOMPARE(m.stored(u"Score"_s) + m.stored(u"Name"_s), u"20"_s);
-        QVERIFY(m.t.ok());
-
-        c.Anfangen->click();
-        QCOMPARE(c.LblCurrentScore->text(), u"0"_s);
+        m.c().Anfangen->click();
+        QCOMPARE(m.c().LblCurrentScore->text(), u"0"_s);
         QCOMPARE(m.card(3)->accessibleName(), u"Reihe 1, Karte 4: verdeckt"_s);
+        QVERIFY(m.t.ok());
     }
 
     void outsideTheTenItEndsInSilence()
     {
         MemoryTable m;
-        m.t.store.SaveSetting(u"MemoryGame"_s, u"SuffixeTop 10:"_s, (u"18,a~"_s.repeated(10)));
+        m.store(u"SuffixeTop 10:"_s, u"18,a~"_s.repeated(10));
         m.deal(350);
         m.solve();
         QVERIFY(m.t.boxes.asked.isEmpty() && m.t.ok());
@@ -127,37 +217,23 @@ private slots:
         m.deal(250);
         const QString morpheme = m.rules().printOf(0).text;
         QVERIFY(morpheme.startsWith(u"stamm"_s));
+        {
+            const Gate::Passage work = m.gate.stay();
+            m.click(0);
+            QVERIFY(!m.rules().FirstCardTurned());
+        }
         m.click(0);
         QCOMPARE(m.card(0)->accessibleName(), u"Reihe 1, Karte 1: %1 2"_s.arg(morpheme));
         QCOMPARE(m.card(0)->look().text, QColor(Qt::white));
-        const int other = m.twinOf(0, false);
         m.t.options.setBox(Setting::UseSoundsInMemory, 0);
-        m.click(other);
-        for (int i = 0; i < 1000; ++i)
-            m.click(i % 36);
-        QVERIFY(m.card(other)->look().side == MemoryCard::Side::Up);
-        QCOMPARE(m.t.sound.resources, QList<int>{114});
+        m.click(m.twinOf(0, false));
         m.window()->tmrFlipMorpheme_Timer();
         QVERIFY(!m.card(0)->accessibleName().contains(morpheme));
         m.click(0);
         m.click(m.twinOf(0));
         QCOMPARE(m.card(0)->accessibleName(), u"Reihe 1, Karte 1: %1, gefunden"_s.arg(morpheme));
         QCOMPARE(m.card(0)->look().text, QColor(Qt::black));
-    }
-
-    void theyAreDownAgainInTime()
-    {
-        MemoryTable m;
-        m.t.store.SaveSetting(u"MemoryGame"_s, u"MemoryVisibleTime"_s, u"0.2"_s);
-        m.deal(150);
-        m.click(0);
-        m.click(m.twinOf(0, false));
-        QElapsedTimer timer;
-        timer.start();
-        while (m.rules().isWaiting() && timer.elapsed() < 5000)
-            m.click(int(timer.elapsed()) % 36), QCoreApplication::processEvents();
-        QVERIFY2(timer.elapsed() >= 150 && timer.elapsed() < 2000,
-                 qPrintable(QString::number(timer.elapsed())));
+        QCOMPARE(m.t.sound.resources, QList<int>{114});
     }
 
     void keys()
@@ -165,48 +241,39 @@ private slots:
         MemoryTable m;
         m.deal(150);
         QVERIFY(QTest::qWaitForWindowActive(m.window()));
-        const auto press = [&m](Qt::Key key) { QTest::keyClick(m.window()->focusWidget(), key); };
         const auto at = [&m] { return m.window()->focusWidget()->objectName(); };
-        press(Qt::Key_Up), press(Qt::Key_Left);
+        m.press(Qt::Key_Up), m.press(Qt::Key_Left);
         QCOMPARE(at(), u"picMorphemeCard(0)"_s);
         for (int i = 0; i < 8; ++i)
-            press(Qt::Key_Right), press(Qt::Key_Down);
+            m.press(Qt::Key_Right), m.press(Qt::Key_Down);
         QCOMPARE(at(), u"picMorphemeCard(35)"_s);
         QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, {}, u"\r"_s, true);
         QCoreApplication::sendEvent(m.card(35), &held);
         QVERIFY(!m.rules().FirstCardTurned());
-        press(Qt::Key_Return);
+        m.press(Qt::Key_Return);
         QVERIFY(m.rules().isUp(35));
-        press(Qt::Key_Tab);
-        QCOMPARE(at(), u"cmdCommand(0)"_s);
-        press(Qt::Key_Enter);
-        QVERIFY(m.rules().isDealt() && !m.rules().FirstCardTurned());
-        QCOMPARE(at(), u"picMorphemeCard(0)"_s);
+        m.press(Qt::Key_Tab), m.press(Qt::Key_Enter); // on "Anfangen"
+        QVERIFY(!m.rules().FirstCardTurned() && at() == u"picMorphemeCard(0)"_s);
     }
 
+    // clang-format off
     void closing_data()
     {
-        columns<Act, Act, QString>("before", "close", "colours");
-        const Act none = [](MemoryTable &) {};
-        const QString kept = u"65535 65535 16711680 65535 65535"_s;
-        for (const auto &[name, act] :
-             {std::pair{"intro", openIntro}, {"one up", oneUp}, {"two up", twoUp}}) {
-            QTest::addRow("%s: Abbrechen", name) << act << abandon << kept;
-            QTest::addRow("%s: Esc", name) << act << escape << kept;
-            QTest::addRow("%s: the program", name) << act << quit << u"- - - - -"_s;
-        }
-        QTest::newRow("waiting for a list: Abbrechen") << inWaiting(abandon) << none << kept;
-        QTest::newRow("waiting for a list: the program") << inWaiting(quit) << none << u"- - - - -"_s;
-        QTest::newRow("waiting for a list: the work is cancelled")
-            << inWaiting([](MemoryTable &m) { m.gate.cancelWork(); }) << abandon << kept;
-        const Act name = [](MemoryTable &m) {
+        columns<Act, Act>("before", "close");
+        for (const auto &[moment, act] : moments)
+            for (const auto &[way, close] : {std::pair{"Abbrechen", cancels}, {"Esc", escapes}, {"the program", quits}})
+                QTest::addRow("%s: %s", moment, way) << act << close;
+        QTest::newRow("waiting: Abbrechen") << inWaiting(cancels) << nothing;
+        QTest::newRow("waiting: the program") << inWaiting(quits) << nothing;
+        QTest::newRow("waiting: X") << inWaiting([](MemoryTable &m) { m.gate.cancelWork(); }) << cancels;
+        QTest::newRow("name entry: the program") << Act([](MemoryTable &m) {
             m.deal(150);
             m.t.boxes.whileOpen = [&m](const Question &) { m.form.close(); };
             m.t.boxes.willEnterName(u"Mia"_s);
             m.solve();
-        };
-        QTest::newRow("name entry: the program") << name << none << u"- - - - -"_s;
+        }) << nothing;
     }
+    // clang-format on
     /// Nothing is stored but the colours, and nothing of it goes on.
     void closing()
     {
@@ -217,61 +284,46 @@ private slots:
         before(m);
         close(m);
         m.settle();
-        QStringList colours;
-        for (const auto *key : {u"Current", u"BG", u"Fore", u"Morpheme1", u"Morpheme2"})
-            colours << m.stored(QString::fromUtf16(key));
-        QTEST(colours.join(u' '), "colours");
+        const bool ended = m.gate.isClosing();
+        QCOMPARE(m.stored(u"Current"_s) + m.stored(u"BG"_s) + m.stored(u"Morpheme1"_s) +
+                     m.stored(u"Morpheme2"_s),
+                 ended ? u"----"_s : u"65535655356553565535"_s);
+        QCOMPARE(m.stored(u"Fore"_s), ended ? u"-"_s : u"16711680"_s);
         QCOMPARE(m.stored(u"PräfixeTop 10:"_s), u"-"_s);
-        QCOMPARE(unloaded.size(), m.gate.isClosing() ? 1 : 0);
-        QVERIFY(m.gate.isFree() && m.t.ok());
-        QVERIFY(QGuiApplication::overrideCursor() == nullptr);
-        if (m.gate.isClosing())
-            return;
-        QVERIFY(m.window() == nullptr);
-        m.setList(u"affix\\prefix.afx"_s, u"vor#x"_s, 24);
-        m.deal(150); // a new window
-        QVERIFY(m.rules().isDealt());
+        QCOMPARE(unloaded.size(), ended ? 1 : 0);
+        QVERIFY(m.gate.isFree() && m.t.ok() && QGuiApplication::overrideCursor() == nullptr);
+        QVERIFY(ended || m.window() == nullptr);
     }
 
-    void lists_data()
-    {
-        columns<int, int, bool>("id", "lines", "isDealt");
-        for (const auto &[lines, isDealt] :
-             {std::pair{0, false}, {1, false}, {9, false}, {10, true}, {18, true}, {19, true}, {40000, true}})
-            QTest::addRow("%d stems", lines) << 250 << lines << isDealt;
-        QTest::newRow("18 suffixes") << 350 << 18 << false;
-        QTest::newRow("19 suffixes") << 350 << 19 << true;
-    }
     void lists()
     {
-        QFETCH(int, id);
-        QFETCH(int, lines);
-        MemoryTable m;
-        m.setList(id == 250 ? u"text\\Hauptbausteine.Txt"_s : u"affix\\suffix.afx"_s, u" wort# "_s, lines);
-        int rounds = 0;
-        m.t.pump.waiting = true;
-        m.t.pump.onServe = [&] { ++rounds == 100 ? m.gate.cancelWork() : void(); };
-        m.deal(id);
-        QTEST(m.rules().isDealt(), "isDealt");
-        QCOMPARE(rounds, m.rules().isDealt() ? 0 : 100);
-        QCOMPARE(m.window()->EnoughWortelInFile(), id == 350 || lines >= 19);
-        QVERIFY(!m.window()->AllreadyExists(u"worta"_s) && m.t.ok());
+        for (const auto &[id, lines, isDealt] : {std::tuple{250, 0, false},
+                                                 {250, 1, false},
+                                                 {250, 9, false},
+                                                 {250, 10, true},
+                                                 {250, 18, true},
+                                                 {250, 19, true},
+                                                 {250, 40000, true},
+                                                 {350, 18, false},
+                                                 {350, 19, true}}) {
+            MemoryTable m;
+            m.setList(id, lines);
+            int rounds = 0;
+            m.t.pump.waiting = true;
+            m.t.pump.onServe = [&] { ++rounds == 100 ? m.gate.cancelWork() : void(); };
+            m.deal(id);
+            QVERIFY2(m.rules().isDealt() == isDealt, qPrintable(u"%1: %2"_s.arg(id).arg(lines)));
+            QCOMPARE(rounds, isDealt ? 0 : 100);
+            QCOMPARE(m.window()->EnoughWortelInFile(), id == 350 || lines >= 19);
+            QVERIFY(!m.window()->AllreadyExists(u"stamma2"_s) && m.t.ok());
+        }
     }
 
     void anotherKindWhileItWaits()
     {
         MemoryTable m;
-        m.setList(u"affix\\prefix.afx"_s, u"vor#x"_s, 3);
-        m.t.pump.waiting = true;
-        m.t.pump.onServe = [&m, rounds = 0]() mutable {
-            if (++rounds == 5) {
-                m.window()->controls().OptMorphemeType[2]->click();
-                m.window()->controls().Anfangen->click();
-            }
-        };
-        m.deal(150);
-        QVERIFY(m.rules().isDealt() && m.window()->controls().lblNotice->isHidden());
-        QCOMPARE(m.window()->windowTitle(), u"Suffix-Memory"_s);
+        inWaiting([](MemoryTable &w) { w.c().OptMorphemeType[2]->click(), w.c().Anfangen->click(); })(m);
+        QVERIFY(m.rules().isDealt() && m.window()->windowTitle() == u"Suffix-Memory"_s);
     }
 
     void aListVanishesBetweenGames()
@@ -281,12 +333,10 @@ private slots:
         m.click(0);
         QVERIFY(QFile::remove(m.t.folder.filePath(u"affix/prefix.afx"_s)));
         m.t.boxes.willAnswer(Boxes::Answer::Ok);
-        m.window()->controls().Anfangen->click();
+        m.c().Anfangen->click();
         QCOMPARE(m.t.boxes.asked.last().title, u"Wortel-Meister - Fehler"_s);
-        const QString told = m.t.boxes.asked.last().text;
-        QVERIFY2(told.startsWith(u"Datei "_s) &&
-                     told.contains(u"prefix.afx fehlt\n\nBreche ab...\n\nSub: ProgInit Line: "_s),
-                 qPrintable(told));
+        QVERIFY(m.t.boxes.asked.last().text.contains(
+            u"prefix.afx fehlt\n\nBreche ab...\n\nSub: ProgInit Line: "_s));
         QVERIFY(m.rules().isUp(0) && m.t.ok()); // the game goes on
     }
 
@@ -295,86 +345,62 @@ private slots:
     {
         MemoryTable m;
         m.deal(150);
-        m.window()->controls().OptMorphemeType[2]->click();
-        m.t.store.SaveSetting(u"MemoryGame"_s, u"SuffixeTop 10:"_s, u"19,Uwe"_s);
+        m.c().OptMorphemeType[2]->click();
+        m.store(u"SuffixeTop 10:"_s, u"19,Uwe"_s);
         m.t.boxes.willEnterName(u"Mia"_s);
         m.t.boxes.willCloseScores();
         m.solve();
-        QCOMPARE(m.stored(u"PräfixeTop 10:"_s), u" 18,Mia"_s + seedFrom991);
-        QCOMPARE(m.window()->controls().Label1->text(), u"MEMORY-\nMEISTER\n\nUwe\n19 Klicks"_s);
+        QCOMPARE(m.stored(u"PräfixeTop 10:"_s), u" 18,Mia"_s + seedFrom990);
+        QCOMPARE(m.c().Label1->text(), u"MEMORY-\nMEISTER\n\nUwe\n19 Klicks"_s);
         QCOMPARE(m.window()->windowTitle(), u"Präfix-Memory"_s);
-        m.window()->controls().Anfangen->click();
-        QCOMPARE(m.window()->windowTitle(), u"Suffix-Memory"_s);
+        m.c().Anfangen->click();
         m.click(0);
         QVERIFY(m.card(0)->accessibleName().contains(u"nach"_s));
     }
 
-    void openedAgain()
+    void downInTimeAndOpenedAgain()
     {
         MemoryTable m;
+        m.store(u"MemoryVisibleTime"_s, u"0.1"_s);
         m.deal(150);
         const frmMemory *first = m.window();
-        m.click(0);
-        m.click(m.twinOf(0, false));
+        m.miss();
+        QElapsedTimer timer;
+        for (timer.start(); m.rules().isWaiting() && timer.elapsed() < 5000;
+             QCoreApplication::processEvents())
+            m.click(int(timer.elapsed()) % 36);
+        QVERIFY2(timer.elapsed() >= 70 && timer.elapsed() < 3000,
+                 qPrintable(QString::number(timer.elapsed())));
+        m.miss();
         m.open(350);
         m.intro(100); // the button acts already, so the cards are dealt at once
-        QCOMPARE(m.window(), first);
-        QVERIFY(!m.rules().isWaiting() && m.window()->windowTitle() == u"Suffix-Memory"_s);
-        QTest::qWait(20);
+        QVERIFY(m.window() == first && !m.rules().isWaiting());
+        m.click(0);
+        QTest::qWait(200);
+        QVERIFY(m.rules().isUp(0)); // the old turn's time is nothing to the new game
         m.window()->close();
         m.run(command::From::MainMenu, 250); // before the old one is dropped
         QVERIFY(m.window() != first && m.window()->isVisible());
-    }
-
-    void theGateIsAsked()
-    {
-        MemoryTable m;
-        m.deal(150);
-        {
-            const Gate::Passage work = m.gate.stay();
-            m.click(0);
-            m.window()->controls().Anfangen->click();
-        }
-        QVERIFY(!m.rules().FirstCardTurned());
     }
 
     void developersScore()
     {
         MemoryTable m;
         m.deal(350);
-        m.t.boxes.willType(u"80"_s);
-        m.t.boxes.willEnterName({});
-        m.t.boxes.willCloseScores();
-        m.window()->controls().Command2->click();
-        QCOMPARE(m.t.boxes.asked.first().text, u"Enter a score"_s);
+        m.t.boxes.willType(u"80"_s), m.t.boxes.willEnterName({}), m.t.boxes.willCloseScores();
+        m.c().Command2->click();
         QVERIFY(m.t.boxes.asked.last().text.startsWith(u"80very good: \nWortel 80\n"_s));
-        QCOMPARE(m.stored(u"PräfixeTop 10:"_s), u" 80,Wortel"_s + seedFrom991);
     }
 
-    void sizes_data()
-    {
-        columns<QSize, QSize>("room", "window");
-        QTest::newRow("853x480") << QSize(853, 450) << QSize(594, 450);
-        QTest::newRow("1366x768") << QSize(1366, 738) << QSize(974, 738);
-        QTest::newRow("1920x1080: twice the size") << QSize(1920, 1050) << QSize(1070, 810);
-        QTest::newRow("upright") << QSize(540, 1920) << QSize(540, 408);
-    }
     void sizes()
     {
-        QFETCH(QSize, room);
-        QFETCH(QSize, window);
-        const QSize opened = MemoryControls::openingSize(room);
-        QVERIFY2(qAbs(opened.width() - window.width()) < 2 && qAbs(opened.height() - window.height()) < 2,
-                 qPrintable(u"%1x%2"_s.arg(opened.width()).arg(opened.height())));
+        QCOMPARE(MemoryControls::openingSize({853, 450}), QSize(594, 450));
+        QCOMPARE(MemoryControls::openingSize({1920, 1050}), QSize(1070, 810)); // twice the size
         MemoryTable m;
         m.deal(150);
-        m.window()->resize(room);
-        for (int index = 0; index < 36; ++index) {
-            const QRect place = m.card(index)->geometry();
-            QVERIFY(m.window()->rect().contains(place) && qAbs(place.width() - place.height()) <= 1);
-            for (int other = 0; other < index; ++other)
-                QVERIFY(!place.intersects(m.card(other)->geometry()));
-        }
+        m.window()->resize(540, 1920);
+        for (const MemoryCard *card : m.c().picMorphemeCard)
+            QVERIFY(m.window()->rect().contains(card->geometry()) && card->width() == card->height());
     }
 };
 
