@@ -111,17 +111,6 @@ struct House : TestHouse
         act();
         return t.boxes.asked.last().style + t.boxes.asked.last().title.section(u'(', 1);
     }
-    /// The card game's list that the menu's entry resets.
-    QString memoryReset(int id)
-    {
-        const QString key = u"Top 10:"_s;
-        t.boxes.willPress(0);
-        run(From::MainMenu, id);
-        for (const auto *label : {u"Wortel", u"Präfixe", u"Suffixe"})
-            if (!t.store.GetSetting(u"MemoryGame"_s, QString::fromUtf16(label) + key, {}).isEmpty())
-                return QString::fromUtf16(label);
-        return {};
-    }
     /// The file that the menu's entry writes.
     QString listReset(int id)
     {
@@ -312,9 +301,6 @@ const Wire wires[] = {
     {"2902", ACT(h.listOf([&] { h.run(From::MainMenu, 2902); })), u"PaarlonWortel)"_s},
     {"2904", ACT(h.listOf([&] { h.run(From::MainMenu, 2904); })), u"PaarlonPräfixe)"_s},
     {"2906", ACT(h.listOf([&] { h.run(From::MainMenu, 2906); })), u"PaarlonSuffixe)"_s},
-    {"2903", ACT(h.memoryReset(2903)), u"Wortel"_s},
-    {"2905", ACT(h.memoryReset(2905)), u"Präfixe"_s},
-    {"2907", ACT(h.memoryReset(2907)), u"Suffixe"_s},
     {"2901", ACT(h.listReset(2901)), u"scores.lst"_s},
     {"3105", ACT(h.listReset(3105)), u"ScoresKernling.lst"_s},
     {"3107", ACT(h.listReset(3107)), u"ScoresVokal.lst"_s},

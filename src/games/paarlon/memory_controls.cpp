@@ -170,7 +170,11 @@ void layOutMemoryControls(const MemoryControls &c, const QSize &window)
     place(c.Label2, label2);
     place(c.LblCurrentScore, currentScore);
     place(c.Label1, label1);
-    for (std::size_t i = 0; i < options.size(); ++i)
+    for (std::size_t i = 0; i < options.size(); ++i) {
         place(c.OptMorphemeType[i], options[i]);
+        // The style's own circle stays small beside large letters.
+        c.OptMorphemeType[i]->setStyleSheet(u"QRadioButton::indicator { width: %1px; height: %1px; }"_s.arg(
+            scale.pixels(options[i].letters)));
+    }
     place(c.Command3, command3);
 }

@@ -37,16 +37,14 @@ struct Game
     TestGround t;
     MemoryRules rules{t.rnd, t.clock};
 
-    /// The first card of the morpheme 1 to 18 from `start` on.
-    int cardOf(int morpheme, int start = 0) const
-    {
-        while (rules.CardMorpheme(start) != morpheme)
-            ++start;
-        return start;
-    }
+    /// The cards of the morpheme 1 to 18.
     std::pair<int, int> cardsOf(int morpheme) const
     {
-        return {cardOf(morpheme), cardOf(morpheme, cardOf(morpheme) + 1)};
+        std::vector<int> found;
+        for (int card = 0; card < 36; ++card)
+            if (rules.CardMorpheme(card) == morpheme)
+                found.push_back(card);
+        return {found.at(0), found.at(1)};
     }
 };
 
@@ -118,8 +116,7 @@ private slots:
         QCOMPARE(told(r.click(a)), u"0 0 0 open"_s); // itself: costs nothing
         QCOMPARE(told(r.click(b)), u"3 1 0 open waits"_s);
         for (int i = 0; i < 1000; ++i)
-            QCOMPARE(r.click(i % 36), Turn::Ignored);
-        QVERIFY(r.isUp(a) && r.isUp(b));
+            QVERIFY(r.click(i % 36) == Turn::Ignored && r.isUp(a) && r.isUp(b));
         r.turnDown();
         QCOMPARE(told(Turn::Ignored), u"0 1 0 shut"_s);
         r.click(a);
@@ -131,18 +128,8 @@ private slots:
         QCOMPARE(told(r.click(b2)), u"4 4 2 shut"_s);
         r.deal(numbered(18));
         QVERIFY(r.Clicks() == 0 && !r.isSolved(a) && !r.isSolved(b));
-    }
-
-    void seconds()
-    {
-        Game game;
-        const auto after = [&game](int milliseconds) {
-            game.t.clock.moment = game.t.clock.moment.addMSecs(milliseconds);
-            return game.rules.seconds();
-        };
-        QCOMPARE(after(2999), 2);
-        QCOMPARE(after(1), 3);
-        QCOMPARE(after(-60000), 0); // the clock is set back
+        game.t.clock.moment = game.t.clock.moment.addSecs(-60);
+        QCOMPARE(r.seconds(), 0); // the clock was set back
     }
 
     /// A player without any memory, who tries all cards behind the first one, and keeps his own count.

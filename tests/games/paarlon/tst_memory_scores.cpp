@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "games/paarlon/memory_scores.h"
-#include "support/columns.h"
 #include "support/registry.h"
 #include "support/test_ground.h"
 
@@ -30,47 +29,38 @@ class MemoryScoresTest : public QObject
 
 private slots:
     // clang-format off
-    void reads_data()
-    {
-        columns<QString, QString>("stored", "list");
-        QTest::newRow("the seed") << QString::fromUtf16(TopTen::seed) << seedFrom(990).mid(1);
-        QTest::newRow("three places before two") << full << full;
-        QTest::newRow("equal scores by name, whatever its case") << u" 40,zoe~ 40,Anna~ 40,Bo"_s << u" 40,Anna~ 40,Bo~ 40,zoe"_s + seedFrom(993);
-        QTest::newRow("empty") << QString() << seedFrom(990).mid(1);
-        QTest::newRow("cut in a record") << u" 36,Anna~ 4"_s << u" 36,Anna"_s + seedFrom(991);
-        QTest::newRow("no record at all") << u"abc~,x~-5,y~0,z~1e99,a~~"_s << seedFrom(990).mid(1);
-        QTest::newRow("without its blanks") << u"99,B~100,C~9,A"_s << u"  9,A~ 99,B~100,C"_s + seedFrom(993);
-        QTest::newRow("comma in a name") << u" 36,Max, Moritz"_s << u" 36,Max, Moritz"_s + seedFrom(991);
-        QTest::newRow("5000") << u"999,x~"_s.repeated(4990) + full << full;
-    }
-    void enters_data()
-    {
-        columns<int, QString, QString>("clicks", "name", "list");
-        const QString rest = u"~ 50,Ee~ 60,Ff~ 70,Gg~ 80,Hh~ 90,Ii"_s;
-        QTest::newRow("first") << 18 << u"Neu"_s << u" 18,Neu~ 20,Aa~ 30,Bb~ 40,Cc~ 40,Dd"_s + rest;
-        QTest::newRow("behind its equals") << 40 << u"Neu"_s << u" 20,Aa~ 30,Bb~ 40,Cc~ 40,Dd~ 40,Neu"_s + rest;
-        QTest::newRow("pushes the tenth out") << 99 << u"Neu"_s << full.chopped(6) + u" 99,Neu"_s;
-        QTest::newRow("equal to the tenth") << 100 << QString() << QString();
-        QTest::newRow("beyond it") << 1200 << QString() << QString();
-        QTest::newRow("no name") << 25 << QString() << u" 20,Aa~ 25,Bb~ 30,Bb~ 40,Cc~ 40,Dd"_s + rest;
-        QTest::newRow("the sign between records") << 19 << u"Max~1,Moritz"_s << u" 19,Max-1,Moritz~ 20,Aa~ 30,Bb~ 40,Cc~ 40,Dd"_s + rest;
-    }
-    // clang-format on
     void reads()
     {
-        QFETCH(QString, stored);
-        QTEST(TopTen::fromText(stored).text(), "list");
+        const QString seed = seedFrom(990).mid(1);
+        for (const auto &[stored, list] :
+             {std::pair{QString::fromUtf16(TopTen::seed), seed}, {full, full}, {QString(), seed},
+              {u" 40,zoe~ 40,Anna~ 40,Bo"_s, u" 40,Anna~ 40,Bo~ 40,zoe"_s + seedFrom(993)}, // by name, whatever its case
+              {u" 36,Anna~ 4"_s, u" 36,Anna"_s + seedFrom(991)},                            // cut in a record
+              {u"abc~,x~-5,y~0,z~1e99,a~~"_s, seed},
+              {u"99,B~100,C~9,A"_s, u"  9,A~ 99,B~100,C"_s + seedFrom(993)},                // without its blanks
+              {u" 36,Max, Moritz"_s, u" 36,Max, Moritz"_s + seedFrom(991)},
+              {u"999,x~"_s.repeated(4990) + full, full}})
+            QCOMPARE(TopTen::fromText(stored).text(), list);
     }
+
     void enters()
     {
-        QFETCH(int, clicks);
-        QFETCH(QString, name);
-        TopTen ten = TopTen::fromText(full);
-        const std::optional<int> place = ten.placeOf(clicks);
-        if (place)
-            ten.enter(*place, clicks, name);
-        QTEST(place ? ten.text() : QString(), "list");
+        const QString start = u" 20,Aa~ 30,Bb~ 40,Cc~ 40,Dd"_s;
+        const QString rest = u"~ 50,Ee~ 60,Ff~ 70,Gg~ 80,Hh~ 90,Ii"_s;
+        for (const auto &[clicks, name, list] :
+             {std::tuple{18, u"Neu"_s, u" 18,Neu~"_s + start + rest},
+              {40, u"Neu"_s, start + u"~ 40,Neu"_s + rest}, // behind its equals
+              {99, u"Neu"_s, start + rest + u"~ 99,Neu"_s}, {100, u"Neu"_s, QString()}, {1200, u"Neu"_s, QString()},
+              {25, QString(), u" 20,Aa~ 25,Bb~ 30,Bb~ 40,Cc~ 40,Dd"_s + rest}, // the name that stood there
+              {19, u"Max~1,Moritz"_s, u" 19,Max-1,Moritz~"_s + start + rest}}) {
+            TopTen ten = TopTen::fromText(full);
+            const std::optional<int> place = ten.placeOf(clicks);
+            if (place)
+                ten.enter(*place, clicks, name);
+            QCOMPARE(place ? ten.text() : QString(), list);
+        }
     }
+    // clang-format on
 
     void visibleTime()
     {
