@@ -33,6 +33,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto form = "frmMemory";
+/// Window systems keep a dialog above its owner, and other windows not.
+constexpr Qt::WindowFlags windowKind = Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                                       Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint;
 constexpr int frameTime = 16;        ///< milliseconds; the ball moves once each millisecond
 constexpr int longestFrame = 100;    ///< after a longer halt the ball goes on where it was
 constexpr int labelBelowBall = 1200; ///< twips
@@ -41,7 +44,7 @@ constexpr int titleBarHeight = 30;   ///< pixels, about what window managers tak
 } // namespace
 
 frmMemory::frmMemory(Ground &ground, const WordLists &lists, BestLists &best, QWidget *owner)
-    : Backdrop(owner, Qt::Window)
+    : Backdrop(owner, windowKind)
     , ground_(ground)
     , lists_(lists)
     , best_(best)
@@ -134,6 +137,8 @@ void frmMemory::setInk(const QColor &ink)
     QPalette palette = controls_.Picture1->palette();
     palette.setColor(QPalette::WindowText, ink);
     controls_.Picture1->setPalette(palette);
+    for (QRadioButton *option : controls_.OptMorphemeType) // they have a style sheet, which inherits nothing
+        option->setPalette(palette);
 }
 
 // Intro
