@@ -96,14 +96,16 @@ void Desktop::makePortableCopy()
     }
 }
 
-void Desktop::setSetting(const QString &key, const QString &value, const QString &section)
+void Desktop::setSetting(const QString &key, const QString &value)
 {
     const QString folder = home() + u"/.config/Wortel-Meister"_s;
     QDir().mkpath(folder);
     QFile file(folder + u"/settings.ini"_s);
     if (!file.open(QIODevice::Append))
         return;
-    file.write(u"[%1]\n%2=%3\n"_s.arg(section, key, value).toUtf8());
+    if (file.size() == 0)
+        file.write("[Settings]\n");
+    file.write((key + u'=' + value + u'\n').toUtf8());
 }
 
 QString Desktop::storedSettings() const

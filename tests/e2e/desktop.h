@@ -26,8 +26,7 @@ public:
     QString home() const { return place_.filePath(QStringLiteral("home")); }
 
     /// Adds a setting to those the program finds at its next start.
-    void setSetting(const QString &key, const QString &value,
-                    const QString &section = QStringLiteral("Settings"));
+    void setSetting(const QString &key, const QString &value);
     /// The settings as the program has written them.
     QString storedSettings() const;
     /// Writes a file into the program's folder and returns its name.

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 # SPDX-License-Identifier: GPL-3.0-or-later
-wortel_test(e2e SLOW TIMEOUT 480
+wortel_test(e2e SLOW TIMEOUT 600
     SOURCES
         desktop.cpp
         known_board.cpp

@@ -103,7 +103,6 @@ private:
             desktop.keepPicture(u"memory-%1-%2"_s.arg(label, QLatin1String(moment)));
         };
         quiet(desktop);
-        desktop.setSetting(u"MemoryVisibleTime"_s, u"1.2"_s, u"MemoryGame"_s);
         desktop.start({desktop.writeFile(u"brett.wlx"_s, knownBoard())});
         QVERIFY(!desktop.waitForWindow(mainWindow).isEmpty());
         Desktop::pause(1200);
