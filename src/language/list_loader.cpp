@@ -199,7 +199,10 @@ QStringList ListLoader::vowelStems(Vowels group)
     return stems;
 }
 
-void ListLoader::append(WordStore &store, const QString &path) { store.addAll(readListOrTell(ground_, path)); }
+void ListLoader::append(WordStore &store, const QString &path)
+{
+    store.addAll(readListOrTell(ground_, path));
+}
 
 void ListLoader::fillVowelList(WordStore &store, const QString &path, bool keepBlank, int line)
 {

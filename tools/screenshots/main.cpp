@@ -31,8 +31,7 @@ int main(int argc, char *argv[])
         return 0;
     }
     for (const auto scene : {scenes::boardAndBand, scenes::wordOfTiles, scenes::menus, scenes::wordsAndLists,
-                             scenes::retyping, scenes::tip, scenes::options, scenes::stemGame})
-                             scenes::retyping, scenes::tip, scenes::options, scenes::cards})
+                             scenes::retyping, scenes::tip, scenes::options, scenes::stemGame, scenes::cards})
         scene(stage);
     return 0;
 }

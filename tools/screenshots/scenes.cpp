@@ -234,26 +234,26 @@ void scenes::stemGame(Stage &stage)
                       stage.keep(u"kernling"_s, game, pageWidth);
                       game.close();
                   });
-/// Six pairs are found, and the first card of a turn is up.
-void scenes::cards(Stage &stage)
-{
-    stage.open(window);
-    Paarlon &paarlon = stage.form().rooms().paarlon;
-    paarlon.Display(wortelMemory);
-    Stage::play(5000);
-    const MemoryRules &rules = paarlon.window()->rules();
-    const auto &cards = paarlon.window()->controls().picMorphemeCard;
-    for (int first = 0; rules.PairsFound() < 6; ++first) {
-        for (int second = first + 1; second < MemoryRules::cards; ++second) {
-            if (rules.CardMorpheme(first) != rules.CardMorpheme(second))
-                continue;
-            cards[static_cast<std::size_t>(first)]->click();
-            cards[static_cast<std::size_t>(second)]->click();
+    /// Six pairs are found, and the first card of a turn is up.
+    void scenes::cards(Stage & stage)
+    {
+        stage.open(window);
+        Paarlon &paarlon = stage.form().rooms().paarlon;
+        paarlon.Display(wortelMemory);
+        Stage::play(5000);
+        const MemoryRules &rules = paarlon.window()->rules();
+        const auto &cards = paarlon.window()->controls().picMorphemeCard;
+        for (int first = 0; rules.PairsFound() < 6; ++first) {
+            for (int second = first + 1; second < MemoryRules::cards; ++second) {
+                if (rules.CardMorpheme(first) != rules.CardMorpheme(second))
+                    continue;
+                cards[static_cast<std::size_t>(first)]->click();
+                cards[static_cast<std::size_t>(second)]->click();
+            }
         }
+        for (int card = MemoryRules::cards - 1; !rules.FirstCardTurned(); --card)
+            cards[static_cast<std::size_t>(card)]->click();
+        Stage::play(300);
+        stage.keep(u"paarlon"_s, *paarlon.window(), pageWidth);
+        stage.close();
     }
-    for (int card = MemoryRules::cards - 1; !rules.FirstCardTurned(); --card)
-        cards[static_cast<std::size_t>(card)]->click();
-    Stage::play(300);
-    stage.keep(u"paarlon"_s, *paarlon.window(), pageWidth);
-    stage.close();
-}

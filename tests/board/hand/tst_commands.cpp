@@ -58,13 +58,7 @@ private slots:
         QCOMPARE(rows[From::Key], (QSet<int>{1, 2, 4, 5, 6, 8, 9, 10}));
         QCOMPARE(rows[From::Pointer], (QSet<int>{103, 204, 303}));
         std::sort(later.begin(), later.end());
-        QCOMPARE(later, (QList<int>{150, 250, 350, 504, 1602, 1603, 1604, 1605, 1606, 1904, 1905, 1907, 2902,
-                                    2903, 2904, 2905, 2906, 2907}));
-        QCOMPARE(later, (QList<int>{150,  250,  350,  504,   1602, 1603, 1604, 1605, 1606, 1701,
-                                    1904, 1905, 1907, 2902, 2903, 2904, 2905, 2906, 2907}));
-        QCOMPARE(later,
-                 (QList<int>{504, 701, 1602, 1603, 1604, 1605, 1606, 1701, 1702, 1703, 1904, 1905, 1907}));
-        QCOMPARE(later, (QList<int>{504, 1602, 1603, 1604, 1605, 1606, 1701, 1904, 1905, 1907}));
+        QCOMPARE(later, (QList<int>{504, 1602, 1603, 1604, 1605, 1606, 1904, 1905, 1907}));
     }
 
     /// On an empty board a command that needs tiles says so and does nothing else.
