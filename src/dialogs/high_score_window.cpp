@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "dialogs/high_score_window.h"
 
+#include "dialogs/score_table.h"
 #include "platform/boxes.h"
-#include "widgets/colour.h"
 #include "widgets/gradient.h"
 
 #include <QGridLayout>
@@ -17,53 +17,9 @@ namespace {
 constexpr int headingSize = 26; ///< pixels, the letters
 constexpr int rowSize = 16;
 constexpr int resultSize = 18;
-constexpr int nameWidth = 260; ///< pixels
 constexpr int side = 22;
 
-QLabel *label(const QString &text, int pixels, bool bold, QWidget *parent)
-{
-    auto *label = new QLabel(text, parent);
-    label->setTextFormat(Qt::PlainText);
-    QFont letters = label->font();
-    letters.setPixelSize(pixels);
-    letters.setBold(bold);
-    label->setFont(letters);
-    QPalette colours = label->palette();
-    colours.setColor(QPalette::WindowText, paint::ink);
-    label->setPalette(colours);
-    return label;
-}
-
-/// The new entry stands out.
-void mark(QLabel *label)
-{
-    label->setAutoFillBackground(true);
-    QPalette colours = label->palette();
-    colours.setColor(QPalette::Window, QColor(0xFF, 0xF2, 0x9E));
-    label->setPalette(colours);
-}
-
-void addRow(QGridLayout *table, const HighScoreSheet &sheet, int place, QWidget *parent)
-{
-    const auto &[name, score] = sheet.rows.at(place - 1);
-    const bool isNew = place == sheet.place;
-    QLabel *rank = label(QString::number(place) + u'.', rowSize, isNew, parent);
-    QLabel *who = label({}, rowSize, isNew, parent);
-    QLabel *points = label(score, rowSize, isNew, parent);
-    who->setText(who->fontMetrics().elidedText(name.simplified(), Qt::ElideRight, nameWidth));
-    who->setFixedWidth(nameWidth);
-    who->setObjectName(u"LblName(%1)"_s.arg(place - 1));
-    points->setObjectName(u"LblScore(%1)"_s.arg(place - 1));
-    rank->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    points->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    QLabel *const cells[] = {rank, who, points};
-    for (int column = 0; column < 3; ++column) {
-        cells[column]->setContentsMargins(6, 1, 6, 1);
-        if (isNew)
-            mark(cells[column]);
-        table->addWidget(cells[column], place - 1, column);
-    }
-}
+constexpr score_table::Names names{u"LblRank(%1)", u"LblName(%1)", u"LblScore(%1)", 1, 1, u"."};
 
 } // namespace
 
@@ -80,17 +36,13 @@ frmHighScore::frmHighScore(const HighScoreSheet &sheet, QWidget *owner)
     auto *column = new QVBoxLayout(panel);
     column->setContentsMargins(side, 10, side, 12);
     column->setSpacing(6);
-    QLabel *heading = label(sheet.heading, headingSize, true, panel);
+    QLabel *heading = score_table::makeLabel(sheet.heading, headingSize, true, panel);
     heading->setObjectName(u"Label1"_s);
     column->addWidget(heading, 0, Qt::AlignHCenter);
 
-    auto *table = new QGridLayout;
-    table->setSpacing(0);
-    for (int place = 1; place <= sheet.rows.size(); ++place)
-        addRow(table, sheet, place, panel);
-    column->addLayout(table);
+    column->addLayout(score_table::make(sheet, names, rowSize, panel));
 
-    QLabel *result = label(sheet.result, resultSize, true, panel);
+    QLabel *result = score_table::makeLabel(sheet.result, resultSize, true, panel);
     result->setObjectName(u"Label2"_s);
     result->setAlignment(Qt::AlignHCenter);
     result->setVisible(!sheet.result.isEmpty());

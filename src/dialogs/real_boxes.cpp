@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "dialogs/real_boxes.h"
 
+#include "dialogs/best_times_window.h"
 #include "dialogs/high_score_window.h"
 #include "dialogs/input_box.h"
 #include "dialogs/message_box.h"
@@ -112,13 +113,16 @@ RealBoxes::RealBoxes(QWidget *mainWindow)
 
 RealBoxes::~RealBoxes() = default;
 
-QWidget *RealBoxes::owner() const
+/// Between two boxes no window is active yet; the second belongs to the owner of the first.
+QWidget *RealBoxes::owner()
 {
     if (QWidget *modal = QApplication::activeModalWidget())
         return modal;
     QWidget *active = QApplication::activeWindow();
     if (active != nullptr && active->isVisible() && active->windowType() != Qt::SplashScreen)
-        return active;
+        return lastOwner_ = active;
+    if (active == nullptr && lastOwner_ != nullptr && lastOwner_->isVisible())
+        return lastOwner_;
     return mainWindow_ != nullptr && mainWindow_->isVisible() ? mainWindow_.data() : nullptr;
 }
 
@@ -196,4 +200,10 @@ void RealBoxes::ShowHighScores(const HighScoreSheet &sheet)
 {
     const PlainPointer pointer;
     frmHighScore(sheet, owner()).exec();
+}
+
+void RealBoxes::ShowBestTimes(const HighScoreSheet &sheet)
+{
+    const PlainPointer pointer;
+    frmBestTimes(sheet, owner()).exec();
 }

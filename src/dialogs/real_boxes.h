@@ -28,11 +28,13 @@ public:
                         const QString &title, int left, int top) override;
     QString ShowEnterName(const QString &title) override;
     void ShowHighScores(const HighScoreSheet &sheet) override;
+    void ShowBestTimes(const HighScoreSheet &sheet) override;
 
 private:
-    QWidget *owner() const;
+    QWidget *owner();
 
     QPointer<QWidget> mainWindow_;
+    QPointer<QWidget> lastOwner_; ///< in use when the last box came up
 };
 
 /// A text cut to what a plain message box can show on a small screen: at most a dozen lines, and long words

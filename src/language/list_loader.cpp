@@ -40,13 +40,24 @@ constexpr std::array<StartList, 4> startLists{{
 
 QString missing(const QString &path) { return u"Datei "_s + path + u" fehlt"_s; }
 
-QString missingIn(const QString &path, const char *procedure, int line)
+} // namespace
+
+QString missingListFile(const QString &path, const char *procedure, int line)
 {
     return missing(path) + u"\n\nBreche ab...\n\nSub: "_s + QLatin1String(procedure) + u" Line: "_s +
            QString::number(line);
 }
 
-} // namespace
+QStringList readListOrTell(const Ground &ground, const QString &path, bool keepBlank)
+{
+    try {
+        return readListFile(path, keepBlank);
+    } catch (const RuntimeError &) {
+        ground.boxes.plainBox(Boxes::Icon::Warning, product::faultTitle,
+                              u"Datei "_s + path + u" kann nicht gelesen werden"_s);
+        throw;
+    }
+}
 
 /// Tells that the loader is at work while one of these lives.
 class ListLoader::Busy
@@ -98,7 +109,7 @@ std::optional<QString> ListLoader::loadAtStart()
     for (const StartList &row : startLists) {
         const QString &path = lists_.*row.path;
         if (!IsTextFile(path)) {
-            fatal = missingIn(path, "ProgInit", __LINE__);
+            fatal = missingListFile(path, "ProgInit", __LINE__);
             break;
         }
         WordStore &store = lists_.*row.store;
@@ -180,38 +191,29 @@ QStringList ListLoader::vowelStems(Vowels group)
     step([&] {
         // The message names the procedure of the start, as it always has.
         if (IsTextFile(path))
-            stems = read(path, false);
+            stems = readListOrTell(ground_, path);
         else
             ground_.boxes.plainBox(Boxes::Icon::Warning, product::faultTitle,
-                                   missingIn(path, "ProgInit", __LINE__));
+                                   missingListFile(path, "ProgInit", __LINE__));
     });
     return stems;
 }
 
-void ListLoader::append(WordStore &store, const QString &path) { store.addAll(read(path, false)); }
-
-/// Without the message an unreadable list would look like an empty one.
-QStringList ListLoader::read(const QString &path, bool keepBlank)
+void ListLoader::append(WordStore &store, const QString &path)
 {
-    try {
-        return readListFile(path, keepBlank);
-    } catch (const RuntimeError &) {
-        ground_.boxes.plainBox(Boxes::Icon::Warning, product::faultTitle,
-                               u"Datei "_s + path + u" kann nicht gelesen werden"_s);
-        throw;
-    }
+    store.addAll(readListOrTell(ground_, path));
 }
 
 void ListLoader::fillVowelList(WordStore &store, const QString &path, bool keepBlank, int line)
 {
     if (!IsTextFile(path)) {
         ground_.boxes.plainBox(Boxes::Icon::Warning, product::faultTitle,
-                               missingIn(path, "FillKurzLanglist", line));
+                               missingListFile(path, "FillKurzLanglist", line));
         return;
     }
     QSet<QString> seen;
     QStringList fresh;
-    for (const QString &word : read(path, keepBlank)) {
+    for (const QString &word : readListOrTell(ground_, path, keepBlank)) {
         const QString folded = UCase(word);
         if (!word.isEmpty() && (seen.contains(folded) || store.contains(word)))
             continue;

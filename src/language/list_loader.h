@@ -13,6 +13,12 @@ enum class Vowels : std::uint8_t;
 struct Ground;
 struct WordLists;
 
+/// What is told of a list file that is missing where nothing goes on without it.
+QString missingListFile(const QString &path, const char *procedure, int line);
+/// The entries of a list file, as `readListFile` gives them. A file that cannot be read is told in a warning
+/// box, for it would look like an empty one, and its RuntimeError is passed on.
+QStringList readListOrTell(const Ground &ground, const QString &path, bool keepBlank = false);
+
 /// Fills the word stores from the list files that lie beside the program: the four lists of the start, a stem
 /// list with the dictionary that goes with it, a dictionary alone, the two vowel lists. Files are never
 /// written. What a window has to do meanwhile (hourglass, hide the list) is told by signals.
@@ -68,7 +74,6 @@ private:
 
     QString vowelFile(Vowels group) const;
     void append(WordStore &store, const QString &path);
-    QStringList read(const QString &path, bool keepBlank);
     void fillVowelList(WordStore &store, const QString &path, bool keepBlank, int line);
 
     Ground &ground_;

@@ -54,4 +54,6 @@ public:
     virtual QString ShowEnterName(const QString &title) = 0;
     /// The window `frmHighScore`, until it is closed.
     virtual void ShowHighScores(const HighScoreSheet &sheet) = 0;
+    /// The window `frmBestTimes` of the card game, until it is closed.
+    virtual void ShowBestTimes(const HighScoreSheet &sheet) = 0;
 };

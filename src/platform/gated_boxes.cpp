@@ -67,6 +67,12 @@ void GatedBoxes::ShowHighScores(const HighScoreSheet &sheet)
         boxes_.ShowHighScores(sheet);
 }
 
+void GatedBoxes::ShowBestTimes(const HighScoreSheet &sheet)
+{
+    if (const Gate::Passage open = gate_.openBox())
+        boxes_.ShowBestTimes(sheet);
+}
+
 QStringList GatedFileDialogs::openFiles(const QString &title, const QString &folder, const QString &filter,
                                         bool multiple)
 {

@@ -27,6 +27,7 @@ public:
                         const QString &title, int left, int top) override;
     QString ShowEnterName(const QString &title) override;
     void ShowHighScores(const HighScoreSheet &sheet) override;
+    void ShowBestTimes(const HighScoreSheet &sheet) override;
 
 private:
     Boxes &boxes_;

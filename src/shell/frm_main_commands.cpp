@@ -23,6 +23,7 @@ void frmMain::wireCommands()
     r.wordList.registerCommands(r.router);
     r.retype.registerCommands(r.router);
     r.game.registerCommands(r.router);
+    r.paarlon.registerCommands(r.router);
     r.sessions.registerCommands(r.router);
     r.undo.registerCommands(r.router);
     r.printing.registerCommands(r.router);

@@ -158,6 +158,7 @@ void frmMain::wireModes()
     connect(&play_, &PlayState::changed, this, &frmMain::menusStale);
     connect(&r.undo, &UndoRing::changed, this, &frmMain::menusStale);
     connect(&r.morphemeLists, &MorphemeLists::menuRestoreWanted, this, &frmMain::menusStale);
+    connect(&r.paarlon, &Paarlon::displayed, this, &frmMain::menusStale);
 }
 
 void frmMain::wireKeeping()
@@ -180,9 +181,9 @@ void frmMain::wireKeeping()
     });
     connect(&r.options, &frmOptions::registerFileType, this, [&r] { r.fileType.registerSessions(); });
     connect(&r.options, &frmOptions::removeFileType, this, [&r] { r.fileType.removeSessions(); });
-    connect(&r.options, &frmOptions::resetScores, this, [this, &r](frmOptions::Scores table) {
+    connect(&r.options, &frmOptions::resetScores, this, [&r](frmOptions::Scores table) {
         if (table == frmOptions::Scores::Paarlon)
-            comesLater();
+            r.paarlon.resetAll();
         else
             r.scores.ResetScores(table == frmOptions::Scores::Klotar ? ScoredGame::Klotar
                                                                      : ScoredGame::Tonarin);

@@ -68,6 +68,7 @@ Rooms::Rooms(Ground &ground, const Hall &hall)
     , vowelBoard(ground, hall.controls, hall.lists, {check, bulk, canvas, loader, news})
     , game(ground, hall.controls, hall.lists, hall.play,
            {hall.sheet, hall.status, check, tests, dictionary, canvas, pointer, tips, scores})
+    , paarlon(ground, hall.lists, hall.controls.form)
     , progInit(ground, hall.controls, hall.lists, loader, canvas, bulk, homes)
 {}
 

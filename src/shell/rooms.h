@@ -20,6 +20,7 @@
 #include "dialogs/msn_style.h"
 #include "games/kernling/frm_kernling.h"
 #include "games/klotar/word_game.h"
+#include "games/paarlon/paarlon.h"
 #include "games/retype/retype_mode.h"
 #include "games/retype/strip_control.h"
 #include "games/scores/high_scores.h"
@@ -117,6 +118,7 @@ struct Rooms
     RetypeMode retype;
     VowelBoard vowelBoard;
     WordGame game;
+    Paarlon paarlon;
 
     // shell
     ProgInit progInit;

@@ -108,6 +108,12 @@ void Desktop::setSetting(const QString &key, const QString &value)
     file.write((key + u'=' + value + u'\n').toUtf8());
 }
 
+QString Desktop::storedSettings() const
+{
+    QFile file(home() + u"/.config/Wortel-Meister/settings.ini"_s);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
 QString Desktop::writeFile(const QString &name, const QByteArray &content)
 {
     QFile file(programFolder() + u'/' + name);

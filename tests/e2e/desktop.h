@@ -27,6 +27,8 @@ public:
 
     /// Adds a setting to those the program finds at its next start.
     void setSetting(const QString &key, const QString &value);
+    /// The settings as the program has written them.
+    QString storedSettings() const;
     /// Writes a file into the program's folder and returns its name.
     QString writeFile(const QString &name, const QByteArray &content);
 

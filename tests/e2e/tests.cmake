@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 # SPDX-License-Identifier: GPL-3.0-or-later
-wortel_test(e2e SLOW TIMEOUT 300
+wortel_test(e2e SLOW TIMEOUT 600
     SOURCES
         desktop.cpp
         known_board.cpp
@@ -11,6 +11,7 @@ wortel_test(e2e SLOW TIMEOUT 300
         tst_interrupted.cpp
         tst_kept_boards.cpp
         tst_stems_by_hand.cpp
+        tst_memory_by_hand.cpp
         tst_words_by_hand.cpp
 )
 add_dependencies(tst_e2e wortel)

@@ -9,6 +9,9 @@ wortel_test(games
         kernling/tst_stem_marking.cpp
         kernling/tst_stem_verdict.cpp
         kernling/tst_text_words.cpp
+        paarlon/tst_memory_rules.cpp
+        paarlon/tst_memory_scores.cpp
+        paarlon/tst_memory_window.cpp
         retype/tst_retype_mode.cpp
         retype/tst_retype_ways.cpp
         retype/tst_strip_control.cpp

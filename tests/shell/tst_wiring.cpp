@@ -110,7 +110,7 @@ struct House : TestHouse
     {
         t.boxes.willCloseScores();
         act();
-        return t.boxes.asked.last().style;
+        return t.boxes.asked.last().style + t.boxes.asked.last().title.section(u'(', 1);
     }
     /// The file that the menu's entry writes.
     QString listReset(int id)
@@ -289,6 +289,11 @@ const Wire wires[] = {
     {"2900", ACT(h.listOf([&] { h.run(From::MainMenu, 2900); })), u"Klotar"_s},
     {"3104", ACT(h.listOf([&] { h.run(From::MainMenu, 3104); })), u"Kernling"_s},
     {"3106", ACT(h.listOf([&] { h.run(From::MainMenu, 3106); })), u"Tonarin"_s},
+    {"scores of Paarlon", ACT(h.boxOf([&] { emit h.r.options.resetScores(frmOptions::Scores::Paarlon); })), u"Möchtest du Paarlon\n"_s},
+    {"menus follow the card game", ACT(h.r.news.Commit(), h.store("UseUndo", "0"), h.run(From::MainMenu, 150), yes(h.offers(2801))), u"no"_s},
+    {"2902", ACT(h.listOf([&] { h.run(From::MainMenu, 2902); })), u"PaarlonWortel)"_s},
+    {"2904", ACT(h.listOf([&] { h.run(From::MainMenu, 2904); })), u"PaarlonPräfixe)"_s},
+    {"2906", ACT(h.listOf([&] { h.run(From::MainMenu, 2906); })), u"PaarlonSuffixe)"_s},
     {"2901", ACT(h.listReset(2901)), u"scores.lst"_s},
     {"3105", ACT(h.listReset(3105)), u"ScoresKernling.lst"_s},
     {"3107", ACT(h.listReset(3107)), u"ScoresVokal.lst"_s},

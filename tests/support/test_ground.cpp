@@ -127,12 +127,16 @@ QString QueuedBoxes::ShowEnterName(const QString &title)
     return answer({u"ShowEnterName"_s, title, {}, {}, 0}, names_, QString());
 }
 
-void QueuedBoxes::ShowHighScores(const HighScoreSheet &sheet)
+void QueuedBoxes::ShowHighScores(const HighScoreSheet &sheet) { showList(u"ShowHighScores"_s, sheet); }
+
+void QueuedBoxes::ShowBestTimes(const HighScoreSheet &sheet) { showList(u"ShowBestTimes"_s, sheet); }
+
+void QueuedBoxes::showList(const QString &kind, const HighScoreSheet &sheet)
 {
     QStringList lines{sheet.result};
     for (const auto &[name, score] : sheet.rows)
         lines << name + u' ' + score;
-    answer({u"ShowHighScores"_s, sheet.title, lines.join(u'\n'), sheet.heading, sheet.place}, scores_, true);
+    answer({kind, sheet.title, lines.join(u'\n'), sheet.heading, sheet.place}, scores_, true);
 }
 
 QStringList QueuedFileDialogs::openFiles(const QString &title, const QString &folder, const QString &filter,

@@ -87,8 +87,10 @@ public:
     QString ShowEnterName(const QString &title) override;
     /// Its question has the heading as style, and as text the result and the rows, one a line.
     void ShowHighScores(const HighScoreSheet &sheet) override;
+    void ShowBestTimes(const HighScoreSheet &sheet) override;
 
 private:
+    void showList(const QString &kind, const HighScoreSheet &sheet);
     template <typename A> A answer(const Question &question, Answers<A> &answers, const A &otherwise);
 
     Answers<Answer> plain_;

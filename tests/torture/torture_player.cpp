@@ -98,6 +98,7 @@ public:
     }
     QString ShowEnterName(const QString &) override { return u"Kind: 3"_s; }
     void ShowHighScores(const HighScoreSheet &) override {}
+    void ShowBestTimes(const HighScoreSheet &) override {}
 
 private:
     Random &random_;

@@ -6,6 +6,8 @@
 
 #include "games/kernling/kernling_controls.h"
 #include "games/kernling/kernling_text.h"
+#include "games/paarlon/frm_memory.h"
+#include "games/paarlon/memory_card.h"
 #include "shell/frm_main.h"
 #include "shell/rooms.h"
 #include "widgets/alpha_panel.h"
@@ -252,5 +254,29 @@ void scenes::webPage(Stage &stage)
     // The session is not saved: the dialog that asks for its name comes first.
     Stage::during([&] { stage.form().saveAsWeb(); },
                   [] { qobject_cast<QDialog *>(QApplication::activeModalWidget())->reject(); });
+    stage.close();
+}
+
+/// Six pairs are found, and the first card of a turn is up.
+void scenes::cards(Stage &stage)
+{
+    stage.open(window);
+    Paarlon &paarlon = stage.form().rooms().paarlon;
+    paarlon.Display(wortelMemory);
+    Stage::play(5000);
+    const MemoryRules &rules = paarlon.window()->rules();
+    const auto &cards = paarlon.window()->controls().picMorphemeCard;
+    for (int first = 0; rules.PairsFound() < 6; ++first) {
+        for (int second = first + 1; second < MemoryRules::cards; ++second) {
+            if (rules.CardMorpheme(first) != rules.CardMorpheme(second))
+                continue;
+            cards[static_cast<std::size_t>(first)]->click();
+            cards[static_cast<std::size_t>(second)]->click();
+        }
+    }
+    for (int card = MemoryRules::cards - 1; !rules.FirstCardTurned(); --card)
+        cards[static_cast<std::size_t>(card)]->click();
+    Stage::play(300);
+    stage.keep(u"paarlon"_s, *paarlon.window(), pageWidth);
     stage.close();
 }

@@ -18,5 +18,6 @@ void tip(Stage &stage);
 void options(Stage &stage);
 void stemGame(Stage &stage);
 void webPage(Stage &stage);
+void cards(Stage &stage);
 
 } // namespace scenes
