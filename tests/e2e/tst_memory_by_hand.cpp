@@ -114,6 +114,7 @@ private:
         keep("intro");
         const QPoint panel = window.bottomRight() - QPoint(20, 20);
         QVERIFY(desktop.waitForPicture([&](const QImage &seen) { return seen.pixel(panel) != back; }));
+        Desktop::pause(1000); // until the cards take keys, on a busy machine too
         keep("dealt");
 
         Player player{desktop, back, byKeys, {}, {}, {}, 0, 0, false};
