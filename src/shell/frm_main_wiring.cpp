@@ -113,7 +113,7 @@ void frmMain::wireLists()
     });
     connect(&r.loader, &ListLoader::loading, &r.dictionary, &DictionaryPanel::storeLoading);
     connect(&r.dictionary, &DictionaryPanel::tipRequested, &r.tips, &Tips::mnuShowTip_Click);
-    connect(&r.dictionary, &DictionaryPanel::chooserRequested, &r.wordChooser, &WordChooser::open);
+    connect(&r.dictionary, &DictionaryPanel::chooserRequested, &r.retype, &RetypeMode::openChooser);
 }
 
 void frmMain::wireModes()

@@ -261,6 +261,7 @@ const Wire wires[] = {
     {"mnuStartRetypeFromList", ACT(h.entry("mnuStartRetypeFromList"), h.state()), u"retyping"_s},
     {"lists chosen in a run", ACT(h.tool(h.c.Check4), h.r.chooser.listsChosen(), h.state()), u"free"_s},
     {"lists of a session in a run", ACT(h.tool(h.c.Check4), h.r.sessions.listsChosen(), h.state()), u"free"_s},
+    {"no chooser on a vowel board", ACT(h.tool(h.c.ChkVokal[0]), h.boxOf([&] { emit h.r.dictionary.chooserRequested(); })), u"Die Auswahl von Wört"_s},
     {"chooser", ACT(h.windowOf([&] { h.run(From::MainMenu, 1608); })), u"frmChooseWortel"_s},
     {"chosen words", ACT(h.r.wordChooser.wordsChosen(), h.state()), u"retyping"_s},
     {"menus follow the mode", ACT(h.tool(h.c.Check4), yes(h.offers(1901))), u"no"_s},

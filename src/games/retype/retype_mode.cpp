@@ -131,8 +131,10 @@ void RetypeMode::rightPress(bool shift)
 void RetypeMode::openChooser()
 {
     Procedure step(ground_.log, "openChooser", "frmMain", Procedure::Silent);
-    if (play_.checkedVowels() != Vowels::None)
+    if (play_.checkedVowels() != Vowels::None) {
+        step([&] { notice(u"Die Auswahl von Wörtern geht nicht, solange \"kurz\" oder \"lang\" an ist"_s); });
         return;
+    }
     controls_.CorrectWordList->hide();
     rooms_.dictionary.close();
     step([&] { emit chooserWanted(); });

@@ -78,6 +78,9 @@ public:
     /// Other lists were chosen: a run ends.
     void endRun();
 
+    /// Lets the chooser open, unless one group of vowels is practised, which only knows stems.
+    void openChooser();
+
     bool isPreparing() const { return state_ == State::Preparing; }
     const QStringList &KeptWords() const { return KeptWords_; }
 
@@ -90,7 +93,6 @@ private:
 
     void leftPress(WordSource words);
     void rightPress(bool shift);
-    void openChooser();
     void startFromList(WordSource words);
     void leave();
     void notice(const QString &text);
