@@ -25,6 +25,26 @@ bool isUndo(const QKeyEvent *event)
     return event->matches(QKeySequence::Undo) || event->matches(QKeySequence::Redo);
 }
 
+bool isTyping(const QKeyEvent *event)
+{
+    const QString letters = event->text();
+    return !letters.isEmpty() && (letters.front().isPrint() || letters.front() == u'\r');
+}
+
+/// Puts a blank where letters of `inserted` would touch those beside it.
+QString apart(const QString &inserted, QChar before, QChar behind)
+{
+    const auto touch = [](QChar one, QChar other) {
+        return one.isLetterOrNumber() && other.isLetterOrNumber();
+    };
+    QString result = inserted;
+    if (!inserted.isEmpty() && touch(before, inserted.front()))
+        result.prepend(u' ');
+    if (!inserted.isEmpty() && touch(inserted.back(), behind))
+        result.append(u' ');
+    return result;
+}
+
 } // namespace
 
 /// Keeps the first visible line where it is, and the window from drawing, while the text is changed. A change
@@ -183,7 +203,7 @@ void KernlingText::paintRuns(const std::vector<Run> &runs, const QColor &backgro
     cursor.endEditBlock();
 }
 
-void KernlingText::unpaint(const Run &run)
+void KernlingText::unpaint(const Run &run, bool goesOnFrom)
 {
     struct Piece
     {
@@ -206,7 +226,7 @@ void KernlingText::unpaint(const Run &run)
         return;
     const KeptView view(*this, painted.back().end - painted.front().start);
     QTextCursor cursor(document());
-    cursor.beginEditBlock();
+    goesOnFrom ? cursor.joinPreviousEditBlock() : cursor.beginEditBlock();
     for (Piece &piece : painted) {
         piece.format.clearBackground();
         piece.format.clearForeground(); // white letters would be lost on the paper
@@ -284,28 +304,33 @@ void KernlingText::keyPressEvent(QKeyEvent *event)
             return;
         }
     }
-    if (!event->text().isEmpty())
-        typeUnpainted();
     if (event->key() == Qt::Key_Shift && !event->isAutoRepeat())
         beforeShift_ = selection();
-    QTextEdit::keyPressEvent(event);
+    if (isTyping(event))
+        typeUnpainted([&] { QTextEdit::keyPressEvent(event); });
+    else
+        QTextEdit::keyPressEvent(event);
 }
 
 void KernlingText::inputMethodEvent(QInputMethodEvent *event)
 {
-    typeUnpainted();
-    QTextEdit::inputMethodEvent(event);
+    typeUnpainted([&] { QTextEdit::inputMethodEvent(event); });
 }
 
-/// What is typed behind a painted run is no part of it.
-void KernlingText::typeUnpainted()
+/// What is typed is no part of a painted run, neither behind one nor in its place.
+void KernlingText::typeUnpainted(const std::function<void()> &type)
 {
+    const Run replaced = selection();
     QTextCharFormat format = currentCharFormat();
-    if (locked_ || textCursor().hasSelection() || !format.hasProperty(QTextFormat::BackgroundBrush))
-        return;
-    format.clearBackground();
-    format.clearForeground();
-    setCurrentCharFormat(format);
+    if (!locked_ && replaced.length == 0 && format.hasProperty(QTextFormat::BackgroundBrush)) {
+        format.clearBackground();
+        format.clearForeground();
+        setCurrentCharFormat(format);
+    }
+    type();
+    const Run now = selection();
+    if (!locked_ && replaced.length > 0 && now.length == 0 && now.start > replaced.start)
+        unpaint({replaced.start, now.start - replaced.start}, true);
 }
 
 void KernlingText::keyReleaseEvent(QKeyEvent *event)
@@ -352,7 +377,9 @@ void KernlingText::dragMoveEvent(QDragMoveEvent *event)
 void KernlingText::dropEvent(QDropEvent *event)
 {
     if (!event->mimeData()->hasUrls()) {
+        dropping_ = true;
         QTextEdit::dropEvent(event);
+        dropping_ = false;
         return;
     }
     event->setDropAction(Qt::CopyAction);
@@ -369,6 +396,12 @@ bool KernlingText::canInsertFromMimeData(const QMimeData *source) const
 
 void KernlingText::insertFromMimeData(const QMimeData *source)
 {
-    if (canInsertFromMimeData(source))
-        textCursor().insertText(textForBox(source->text()), QTextCharFormat());
+    if (!canInsertFromMimeData(source))
+        return;
+    QString inserted = textForBox(source->text());
+    const Run place = selection();
+    if (dropping_) // words, not letters for the middle of one
+        inserted = apart(inserted, document()->characterAt(place.start - 1),
+                         document()->characterAt(place.start + place.length));
+    textCursor().insertText(inserted, QTextCharFormat());
 }

@@ -5,6 +5,7 @@
 #include <QTextEdit>
 #include <QTimer>
 
+#include <functional>
 #include <vector>
 
 /// The text of the stem game, the control `RTF`: rich text in which runs of letters are marked, painted and
@@ -47,8 +48,8 @@ public:
     /// one step of undo; with `goesOnFrom` as a part of the last step.
     void paintRuns(const std::vector<Run> &runs, const QColor &background, bool goesOnFrom = false);
     /// Takes every background within `run` away. What is painted outside of it stays, and so does what is
-    /// seen of the text.
-    void unpaint(const Run &run);
+    /// seen of the text. One step of undo; with `goesOnFrom` a part of the last step.
+    void unpaint(const Run &run, bool goesOnFrom = false);
     void unpaintAll();
 
     /// Letters larger (positive) or smaller by so many steps.
@@ -85,7 +86,7 @@ private:
     class KeptView;
 
     void hideCaret();
-    void typeUnpainted();
+    void typeUnpainted(const std::function<void()> &type);
     void applyLetterSize();
 
     bool locked_ = false;
@@ -94,4 +95,5 @@ private:
     Run beforeShift_{0, 0};
     QTimer longPress_;
     QPoint pressedAt_;
+    bool dropping_ = false;
 };

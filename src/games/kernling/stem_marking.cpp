@@ -4,7 +4,6 @@
 
 #include "games/kernling/kernling_controls.h"
 #include "games/kernling/kernling_desk.h"
-#include "games/kernling/kernling_text.h"
 #include "games/kernling/kernling_work_view.h"
 #include "games/kernling/text_words.h"
 #include "platform/boxes.h"
@@ -29,6 +28,7 @@ namespace {
 constexpr auto form = "FrmKernling";
 constexpr int rightSound = 112;
 constexpr std::size_t runsAtOnce = 2000; ///< painted between two looks at the hand
+constexpr int halfBar = 1000;            ///< of the search; the other half is the painting
 
 /// Somebody may mark the whole text: no list and no answer shows more of it than this. The longest text of
 /// look-alike stems is shorter.
@@ -115,22 +115,52 @@ void StemMarking::show(const Verdict &verdict)
 void StemMarking::Locate_and_Higlight(const QStringList &words)
 {
     Procedure step{desk_.ground.log, "Locate_and_Higlight", form};
-    KernlingText &text = *desk_.controls.RTF;
-    const QString letters = text.text();
-    std::vector<KernlingText::Run> runs;
-    step([&] {
-        for (const QString &word : words)
-            for (const qsizetype hit : kernling::wholeWordHits(letters, word))
-                runs.push_back({static_cast<int>(hit), static_cast<int>(word.size())});
-    });
-    if (runs.empty())
+    const QString letters = desk_.controls.RTF->text();
+    Verdict last;
+    bool found = true;
+    {
+        Work work(desk_.ground, {WorkPlan::Bar | WorkPlan::Cancel, 2 * halfBar}, &desk_.view);
+        work.appear();
+        Runs runs;
+        step([&] { runs = hitsOf(words, letters, work); });
+        if (!work.isCancelled()) {
+            found = !runs.empty();
+            last = paintHits(runs, letters, work);
+        }
+    }
+    if (desk_.ground.gate.isClosing())
         return;
-    Work work(desk_.ground, {WorkPlan::Bar | WorkPlan::Cancel, std::max(1, static_cast<int>(runs.size()))},
-              &desk_.view);
+    if (last.kind != Verdict::Kind::Nothing)
+        step([&] { show(last); });
+    else if (!found)
+        desk_.tell(words.size() == 1 ? u"„%1“ steht nicht als Wort im Text"_s.arg(words.first())
+                                     : u"Von diesen Wortstämmen steht keiner als Wort im Text"_s);
+}
+
+/// The places of each word after those of the one before it.
+StemMarking::Runs StemMarking::hitsOf(const QStringList &words, const QString &letters, Work &work)
+{
+    Runs runs;
+    int done = 0;
+    for (const QString &word : words) {
+        desk_.view.setValue(static_cast<int>(halfBar * done++ / words.size()));
+        for (const qsizetype hit :
+             kernling::wholeWordHits(letters, word, [&work](qsizetype) { return work.goesOn(); }))
+            runs.push_back({static_cast<int>(hit), static_cast<int>(word.size())});
+        if (work.isCancelled())
+            break;
+    }
+    return runs;
+}
+
+/// The last verdict. A cancel leaves what is painted.
+Verdict StemMarking::paintHits(const Runs &runs, const QString &letters, Work &work)
+{
+    Procedure step{desk_.ground.log, "Locate_and_Higlight", form};
     Verdict last;
     for (std::size_t begin = 0; begin < runs.size() && work.goesOn(); begin += runsAtOnce) {
         const std::size_t end = std::min(runs.size(), begin + runsAtOnce);
-        std::vector<KernlingText::Run> painted;
+        Runs painted;
         for (std::size_t at = begin; at < end; ++at) {
             const Verdict verdict = judge_.judge(letters.mid(runs[at].start, runs[at].length), options());
             if (verdict.kind == Verdict::Kind::Stem)
@@ -138,11 +168,12 @@ void StemMarking::Locate_and_Higlight(const QStringList &words)
             step([&] { keep(verdict); });
             last = verdict;
         }
-        step([&] { text.paintRuns(painted, toQColor(kernling::stemColour), begin > 0); });
-        desk_.view.setValue(static_cast<int>(end));
+        std::sort(painted.begin(), painted.end(),
+                  [](const auto &one, const auto &other) { return one.start < other.start; });
+        step([&] { desk_.controls.RTF->paintRuns(painted, toQColor(kernling::stemColour), begin > 0); });
+        desk_.view.setValue(halfBar + static_cast<int>(halfBar * end / runs.size()));
     }
-    if (last.kind != Verdict::Kind::Nothing && !desk_.ground.gate.isClosing())
-        step([&] { show(last); });
+    return last;
 }
 
 void StemMarking::cmdUnHighlight_Click() { desk_.controls.RTF->unpaint(desk_.controls.RTF->selection()); }

@@ -139,17 +139,26 @@ QString asLines(const QStringList &words)
     return lines;
 }
 
-std::vector<qsizetype> wholeWordHits(const QString &text, const QString &word)
+std::vector<qsizetype> wholeWordHits(const QString &text, const QString &word, const PassStep &step)
 {
     std::vector<qsizetype> hits;
     if (word.isEmpty())
         return hits;
     const QStringMatcher matcher(word, Qt::CaseInsensitive);
-    for (qsizetype at = matcher.indexIn(text); at >= 0;) {
-        const bool whole = !isInWord(text, at - 1) && !isInWord(text, at + word.size());
-        if (whole)
-            hits.push_back(at);
-        at = matcher.indexIn(text, at + (whole ? word.size() : 1));
+    qsizetype from = 0; // where the next hit may begin
+    for (qsizetype piece = 0; piece < text.size(); piece += hitStride) {
+        if (step && !step(piece))
+            break;
+        // A word that begins in the piece may end behind it.
+        const qsizetype end = std::min(text.size(), piece + hitStride + word.size() - 1);
+        const QStringView seen = QStringView(text).first(end);
+        for (qsizetype at; (at = matcher.indexIn(seen, from)) >= 0;) {
+            const bool whole = !isInWord(text, at - 1) && !isInWord(text, at + word.size());
+            if (whole)
+                hits.push_back(at);
+            from = at + (whole ? word.size() : 1);
+        }
+        from = std::max(from, piece + hitStride);
     }
     return hits;
 }

@@ -25,8 +25,10 @@ std::optional<QStringList> GetWordsFromText(const QString &text, int wordLength,
 QString asLines(const QStringList &words);
 
 /// The places at which `word` stands as a whole word, case ignored: neither letter nor digit before it nor
-/// behind it. Ascending; they do not overlap. None for an empty word.
-std::vector<qsizetype> wholeWordHits(const QString &text, const QString &word);
+/// behind it. Ascending; they do not overlap. None for an empty word. `step` is asked every `hitStride`
+/// characters; if it ends the pass, the places that were found until then come back.
+std::vector<qsizetype> wholeWordHits(const QString &text, const QString &word, const PassStep &step = {});
+inline constexpr qsizetype hitStride = 100 * passStride; ///< a matcher passes it in less than a millisecond
 
 /// A new order of the list, by `RandomArray`.
 void ShuffleAllWords(WordStore &list, Rnd &rnd);
