@@ -22,6 +22,6 @@ QString faultWords(const RuntimeError &error)
     case RuntimeError::PrinterError:
         return u"Der Drucker ist nicht bereit oder nicht mehr da."_s;
     default:
-        return error.description();
+        return u"Es ist ein unerwarteter Fehler aufgetreten."_s;
     }
 }

@@ -6,5 +6,5 @@
 
 class RuntimeError;
 
-/// Why a file or a page did not come out, as a sentence for the user.
+/// Why a file or a page did not come out, as a sentence for the user; the error itself goes to the log.
 QString faultWords(const RuntimeError &error);

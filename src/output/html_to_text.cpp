@@ -177,7 +177,8 @@ void PagePass::take(const Token &token)
         tag(token.view);
         break;
     case Token::Title:
-        title_ = titleOf(token.view);
+        if (title_.isEmpty())
+            title_ = titleOf(token.view);
         break;
     case Token::Text: // piece by piece
     case Token::End:

@@ -26,12 +26,13 @@ constexpr std::array<Ending, 5> endings{{{"LEX"_L1, TextKind::Dictionary},
                                          {"HTM"_L1, TextKind::Page},
                                          {"HTML"_L1, TextKind::Page}}};
 
-/// What no text box shows and a word must not hold: NULs, the place of an object, a mark of the byte order,
-/// and the two by which a text box marks its frames.
+/// What no text box shows and a word must not hold: control characters, the place of an object, a mark of the
+/// byte order, and the two by which a text box marks its frames.
 bool isNoLetter(QChar character)
 {
-    return character == QChar::Null || character == QChar::ObjectReplacementCharacter ||
-           character == QChar::ByteOrderMark || character == QChar(0xFDD0) || character == QChar(0xFDD1);
+    return (character < u' ' && character != u'\t' && character != u'\n') ||
+           character == QChar::ObjectReplacementCharacter || character == QChar::ByteOrderMark ||
+           character == QChar(0xFDD0) || character == QChar(0xFDD1);
 }
 
 /// Line ends of all kinds become one.

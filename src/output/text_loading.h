@@ -23,7 +23,8 @@ struct LoadedText
     QString complaint; ///< as of `PageText`
 };
 
-/// The text of a file of any kind as it is to be shown, with "\n" for line ends and without NULs. Whether
+/// The text of a file of any kind as it is to be shown, with "\n" for line ends and without other control
+/// characters below 32 but the tab. Whether
 /// plain text or rich text is told by what the file holds, not by its name. A line longer than
 /// `longestLine` is broken at a blank, because a text box is slow with one line of megabytes; not a character
 /// is lost. Throws RuntimeError as ReadWholeFile. If `step` ends the pass, what has been read until then

@@ -105,6 +105,7 @@ private slots:
         page("title and body", u"<TITLE>\r\nEin\nTitel &uuml;ber &foo;</TITLE>a<body BGCOLOR=white>b"_s,
              u"b"_s, u"Ein Titel über"_s);
         page("title without an end", u"<BODY>a<title>b"_s, u"a"_s, u"b"_s);
+        page("two titles", u"<title>A</title><body>a<svg><title>B</title></svg>"_s, u"a"_s, u"A"_s);
     }
     void pages()
     {
