@@ -66,7 +66,10 @@ void FrmKernling::Form_Load()
     step([&] { showToolTips(); });
     step([&] { showLists(); });
     step([&] { showWayOfMarking(); });
+    if (!parts_->controls.RTF->isEmpty())
+        return; // a text that was kept is judged by the stems it had
     step([&] { parts_->desk.Init(); });
+    parts_->desk.showTitle({});
 }
 
 void FrmKernling::openModally()

@@ -9,7 +9,9 @@
 #include "platform/procedure.h"
 #include "platform/product.h"
 #include "platform/word_lists.h"
+#include "widgets/store_list.h"
 
+#include <QGroupBox>
 #include <QLabel>
 
 using namespace Qt::StringLiterals;
@@ -17,6 +19,13 @@ using namespace Qt::StringLiterals;
 void KernlingDesk::tell(const QString &text) const
 {
     ground.boxes.ShowInfoBox(text, BoxSign::Info, product::name);
+}
+
+void KernlingDesk::showTitle(const QString &title) const
+{
+    constexpr int mostLetters = 60;
+    const QString shown = title.simplified().left(mostLetters).replace(u'&', u"&&"_s);
+    controls.textGroup->setTitle(shown.isEmpty() ? u"Text"_s : u"Text: "_s + shown);
 }
 
 void KernlingDesk::Init() { Init2(mainLists.CurrentWortelFile); }
@@ -27,6 +36,7 @@ void KernlingDesk::Init2(const QString &path)
     step([&] { lists.wortellist.clear(); });
     if (IsTextFile(path))
         step([&] { lists.wortellist.addAll(readListFile(path)); });
+    controls.wortellist->setListIndex(-1); // the rows are other stems now
     controls.Label16->setText(listBaseName(path));
     const int stems = lists.wortellist.count();
     controls.Label17->setText(stems == 0   ? u"keine Wortstämme"_s

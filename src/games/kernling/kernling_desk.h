@@ -34,6 +34,8 @@ struct KernlingDesk
 
     /// A notice with the game's sign.
     void tell(const QString &text) const;
+    /// The frame round the text says what is in it; an empty title says nothing.
+    void showTitle(const QString &title) const;
     /// Fills `wortellist` with the stem list of the main window; empty if the file is missing.
     void Init();
     /// The same from `path` (stored form).

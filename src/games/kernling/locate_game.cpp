@@ -18,6 +18,7 @@
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QRadioButton>
 
 #include <optional>
@@ -84,6 +85,8 @@ void LocateGame::start()
     desk_.controls.OptAutoHighlight->setChecked(true);
     desk_.controls.Label8->setText(u"0"_s);
     desk_.controls.rtfResponse->clear();
+    desk_.controls.Text1->clear();
+    desk_.controls.Image1->hide();
     desk_.controls.Picture2->start(desk_.ground.clock, time);
     LocateGameTimer_.start(time);
     emit changed();
@@ -106,7 +109,7 @@ void LocateGame::layOut(bool running)
     const KernlingControls &c = desk_.controls;
     for (QLabel *count : {c.Label3, c.Label14})
         count->setVisible(!running);
-    for (PressButton *tool : {c.Command4, c.Command8, c.cmdResetColors})
+    for (PressButton *tool : {c.Command4, c.Command5, c.Command8, c.Command11, c.Command12, c.cmdResetColors})
         tool->setEnabled(!running);
     for (QLabel *points : {c.Label13, c.Label8})
         points->setVisible(running);
@@ -130,7 +133,10 @@ void LocateGame::LocateGameTimer_Tick()
     stop();
     desk_.controls.Label3->show();
     desk_.controls.rtfResponse->show();
-    desk_.controls.RTF->setLocked(false);
+    KernlingText &text = *desk_.controls.RTF;
+    text.setLocked(false);
+    text.select(
+        {text.selection().start + text.selection().length, 0}); // a key would replace the last marking
     std::optional<int> wrong;
     if (desk_.ground.options.isOn(Setting::KernlingShowFalse))
         wrong = desk_.lists.UserFalseWortelList.count();

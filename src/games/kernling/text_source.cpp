@@ -7,6 +7,7 @@
 #include "games/kernling/kernling_text.h"
 #include "games/kernling/kernling_work_view.h"
 #include "games/kernling/text_words.h"
+#include "output/fault_words.h"
 #include "output/text_loading.h"
 #include "platform/boxes.h"
 #include "platform/file_dialogs.h"
@@ -21,7 +22,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFileInfo>
-#include <QGroupBox>
 
 #include <algorithm>
 #include <source_location>
@@ -69,8 +69,12 @@ void TextSource::load(const QString &path)
     if (!loaded.complaint.isEmpty())
         desk_.ground.boxes.plainBox(Boxes::Icon::Warning, u"Wortel - Fehler [Out Of Memory]"_s,
                                     loaded.complaint);
+    if (loaded.text.trimmed().isEmpty()) {
+        desk_.tell(u"Die Datei enthält keinen Text: "_s + GetOnlyFileName(path));
+        return;
+    }
     desk_.controls.RTF->replaceText(loaded.text);
-    showTitle(loaded.title.isEmpty() ? GetOnlyFileName(path) : loaded.title);
+    desk_.showTitle(loaded.title.isEmpty() ? GetOnlyFileName(path) : loaded.title);
     takeStemsFor(path);
     if (desk_.controls.Check8->isChecked())
         GetWordsFromText(
@@ -94,26 +98,18 @@ bool TextSource::readInto(LoadedText &text, const QString &path)
         });
         return !work.isCancelled();
     } catch (const RuntimeError &error) {
-        complain(path, error.description(), std::source_location::current().line());
+        complain(path, error, std::source_location::current().line());
     }
     return false;
 }
 
-void TextSource::complain(const QString &path, const QString &description, unsigned line)
+void TextSource::complain(const QString &path, const RuntimeError &error, unsigned line)
 {
     desk_.ground.log.WriteLog(
-        u"(Module) FrmKernling::Sub Command5_Click (Line: %1) %2"_s.arg(line).arg(description));
+        u"(Module) FrmKernling::Sub Command5_Click (Line: %1) %2"_s.arg(line).arg(error.description()));
     desk_.ground.boxes.plainBox(Boxes::Icon::Warning, u"Wortel - Fehler"_s,
                                 u"Die Datei konnte nicht gelesen werden:\n"_s + GetOnlyFileName(path) +
-                                    u"\n\n"_s + description);
-}
-
-/// The frame round the text says what is in it.
-void TextSource::showTitle(const QString &title)
-{
-    constexpr int mostLetters = 60;
-    const QString shown = title.simplified().left(mostLetters).replace(u'&', u"&&"_s);
-    desk_.controls.textGroup->setTitle(shown.isEmpty() ? u"Text"_s : u"Text: "_s + shown);
+                                    u"\n\n"_s + faultWords(error));
 }
 
 /// Which stems the text is judged by depends on what it is; a web page leaves them as they are.
@@ -151,8 +147,9 @@ void TextSource::GetWordsFromText(int wordLength)
     });
     if (!words || desk_.ground.gate.isClosing())
         return;
-    if (words->isEmpty() && wordLength > 0) {
-        desk_.tell(u"Im Text steht kein Wort mit %1 Buchstaben."_s.arg(wordLength));
+    if (words->isEmpty()) {
+        desk_.tell(wordLength > 0 ? u"Im Text steht kein Wort mit %1 Buchstaben."_s.arg(wordLength)
+                                  : u"Im Text steht kein Wort."_s);
         return;
     }
     desk_.controls.RTF->setTextFont(u"Arial"_s);
@@ -166,5 +163,5 @@ void TextSource::Command4_Click()
         return;
     }
     desk_.controls.RTF->replaceText(QString());
-    showTitle({});
+    desk_.showTitle({});
 }

@@ -4,6 +4,7 @@
 
 #include <QString>
 
+class RuntimeError;
 struct KernlingDesk;
 struct LoadedText;
 
@@ -17,17 +18,17 @@ public:
 
     /// "Text auswählen": asks for a file and loads it.
     void Command5_Click();
-    /// Loads a file (stored path) as if it had been chosen.
+    /// Loads a file (stored path) as if it had been chosen. One that gives no text leaves the old one.
     void load(const QString &path);
-    /// Replaces the text by its words of that length, each once; 0 takes all. A cancel leaves the text.
+    /// Replaces the text by its words of that length, each once; 0 takes all. A cancel leaves the text,
+    /// and so does a text without such words.
     void GetWordsFromText(int wordLength);
     /// "Löschen": empties the text.
     void Command4_Click();
 
 private:
     bool readInto(LoadedText &text, const QString &path);
-    void showTitle(const QString &title);
-    void complain(const QString &path, const QString &description, unsigned line);
+    void complain(const QString &path, const RuntimeError &error, unsigned line);
     void takeStemsFor(const QString &path);
 
     KernlingDesk &desk_;

@@ -137,6 +137,7 @@ void WorkList::intoText(const QStringList &words)
 {
     Procedure step{desk_.ground.log, "intoText", form};
     step([&] { desk_.controls.RTF->replaceText(words.join(u'\n')); });
+    desk_.showTitle({}); // they are of no file
 }
 
 void WorkList::Command9_Click()

@@ -22,7 +22,8 @@ private slots:
         w.c().OptManualHighlight->click();
         w.c().Check5->setChecked(false);
         QCOMPARE(state(w),
-                 u"manual check7 Label3=1 Label14=0 Command4 Command8 cmdResetColors Frame1 free"_s);
+                 u"manual check7 Label3=1 Label14=0 Image1 wirk Command4 Command5 Command8 Command11 "
+                 u"Command12 cmdResetColors Frame1 free"_s);
         w.press(w.c().Command10);
         QCOMPARE(state(w), u"auto Label8=0 Check5 Picture2 locked Spiel abbrechen"_s);
         QCOMPARE(w.paint(), QString(9, u'.'));
@@ -30,8 +31,8 @@ private slots:
         QVERIFY(w.answer().isEmpty());
         QCOMPARE(timer(w)->interval(), 40000);
         w.press(w.c().Command10);
-        QCOMPARE(state(w), u"manual check7 Label3=0 Label14=0 Check5 Command4 Command8 cmdResetColors "
-                           u"Frame1 free"_s);
+        QCOMPARE(state(w), u"manual check7 Label3=0 Label14=0 Check5 Command4 Command5 Command8 "
+                           u"Command11 Command12 cmdResetColors Frame1 free"_s);
         QVERIFY(!timer(w)->isActive());
         QVERIFY(w.t.ok()); // no look at the score
     }
@@ -44,8 +45,8 @@ private slots:
         w.press(w.c().Command10);
         w.mark(5, 9);
         w.mark(0, 4);
-        w.mark(10, 17);
         w.mark(18, 22); // found already
+        w.mark(10, 17);
         QCOMPARE(w.c().Label8->text(), u"2"_s);
         w.t.boxes.willEnterName(u"Ada"_s);
         w.t.boxes.willCloseScores();
@@ -56,6 +57,8 @@ private slots:
                  u"Punkte: 2\n(1 falsche Wortele). Sehr gut !"_s);
         QVERIFY(ReadWholeFile(w.t.AppFolder + u"ScoresKernling.lst"_s).contains("Ada:2\r\n"));
         QVERIFY(!w.text().isLocked() && !w.c().Label3->isHidden() && w.c().OptManualHighlight->isChecked());
+        QTest::keyClicks(&w.text(), u"x"_s); // replaces nothing
+        QCOMPARE(w.text().text(), u"halt wirk quatschx wirk"_s);
         emit timer(w)->timeout({}); // a late one
         Workshop::settle();
         w.t.boxes.willCloseScores();
@@ -159,9 +162,11 @@ private:
         add(!c.Label8->isHidden() && !c.Label13->isHidden(), u"Label8="_s + c.Label8->text());
         add(c.Check5->isChecked(), u"Check5"_s);
         add(c.Picture2->isVisible(), u"Picture2"_s);
-        add(c.Command4->isEnabled(), u"Command4"_s);
-        add(c.Command8->isEnabled(), u"Command8"_s);
-        add(c.cmdResetColors->isEnabled(), u"cmdResetColors"_s);
+        add(!c.Image1->isHidden(), u"Image1"_s);
+        add(!c.Text1->text().isEmpty(), c.Text1->text());
+        for (PressButton *one :
+             {c.Command4, c.Command5, c.Command8, c.Command11, c.Command12, c.cmdResetColors})
+            add(one->isEnabled(), one->objectName());
         add(w.k.findChild<frmKernlingOptions *>()->Frame1()->isEnabled(), u"Frame1"_s);
         now << (w.text().isLocked() ? u"locked"_s : u"free"_s);
         add(c.Command10->toolTip() != u"Spiel starten / Bestenliste zeigen"_s, c.Command10->toolTip());
