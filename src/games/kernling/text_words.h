@@ -28,7 +28,7 @@ QString asLines(const QStringList &words);
 /// behind it. Ascending; they do not overlap. None for an empty word. `step` is asked every `hitStride`
 /// characters; if it ends the pass, the places that were found until then come back.
 std::vector<qsizetype> wholeWordHits(const QString &text, const QString &word, const PassStep &step = {});
-inline constexpr qsizetype hitStride = 100 * passStride; ///< a matcher passes it in less than a millisecond
+inline constexpr qsizetype hitStride = 100 * passStride; ///< a matcher passes it in a millisecond or two
 
 /// A new order of the list, by `RandomArray`.
 void ShuffleAllWords(WordStore &list, Rnd &rnd);

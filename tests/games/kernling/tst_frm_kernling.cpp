@@ -135,8 +135,10 @@ private slots:
         Workshop w;
         w.lists.CorrectWordList.addAll({u"a"_s, u"b"_s, u"c"_s, u"d"_s});
         w.press(w.c().Command3);
+        w.c().textGroup->setTitle(u"Text: a.txt"_s);
         w.press(w.c().Command11);
         QCOMPARE(w.text().text(), u"a\nb\nc\nd"_s);
+        QCOMPARE(w.c().textGroup->title(), u"Text"_s);
         w.t.boxes.willBeRead();
         w.press(w.c().Command12);
         QCOMPARE(w.lastBox(), u"Wortel-Meister|Es wurden keine Wörter ausgewählt"_s);

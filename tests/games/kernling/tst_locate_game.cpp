@@ -162,8 +162,7 @@ private:
         add(!c.Label8->isHidden() && !c.Label13->isHidden(), u"Label8="_s + c.Label8->text());
         add(c.Check5->isChecked(), u"Check5"_s);
         add(c.Picture2->isVisible(), u"Picture2"_s);
-        add(!c.Image1->isHidden(), u"Image1"_s);
-        add(!c.Text1->text().isEmpty(), c.Text1->text());
+        add(!c.Image1->isHidden() || !c.Text1->text().isEmpty(), u"Image1 "_s + c.Text1->text());
         for (PressButton *one :
              {c.Command4, c.Command5, c.Command8, c.Command11, c.Command12, c.cmdResetColors})
             add(one->isEnabled(), one->objectName());

@@ -72,17 +72,8 @@ private slots:
         QFETCH(QString, word);
         const std::vector<qsizetype> found = wholeWordHits(text, word);
         QTEST(QList<qsizetype>(found.begin(), found.end()), "hits");
-        // The same where a piece of the pass ends
-        if (!word.isEmpty()) {
-            const QString longText = QString(hitStride - 1, u' ') + word + u'\n' + text;
-            qsizetype last = 0;
-            const auto all =
-                wholeWordHits(longText, word, [&](qsizetype done) { return (last = done) >= 0; });
-            QCOMPARE(all.size(), found.size() + 1);
-            QCOMPARE(all.front(), hitStride - 1);
-            QCOMPARE(last, hitStride);
-            QVERIFY(wholeWordHits(longText, word, [](qsizetype) { return false; }).empty());
-        }
+        const QString pieces = QString(hitStride - 1, u' ') + word + u'\n' + text; // `word` stands in two
+        QCOMPARE(wholeWordHits(pieces, word).size(), found.size() + (word.isEmpty() ? 0 : 1));
     }
 
     void shuffle()
