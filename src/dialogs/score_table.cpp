@@ -13,6 +13,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int nameWidth = 260; ///< pixels
+constexpr int cellMargin = 6;
 constexpr QColor newEntry{0xFF, 0xF2, 0x9E};
 
 void mark(QLabel *label)
@@ -50,7 +51,7 @@ QGridLayout *score_table::make(const HighScoreSheet &sheet, const Names &names, 
         QLabel *rank = makeLabel(number + QString::fromUtf16(names.rankEnd), pixels, isNew, parent);
         QLabel *who = makeLabel({}, pixels, isNew, parent);
         QLabel *points = makeLabel(score, pixels, isNew, parent);
-        who->setText(who->fontMetrics().elidedText(name.simplified(), Qt::ElideRight, nameWidth));
+        who->setText(who->fontMetrics().elidedText(name.simplified(), Qt::ElideRight, nameWidth - 2 * cellMargin));
         who->setFixedWidth(nameWidth);
         rank->setObjectName(QString::fromUtf16(names.rank).arg(place - names.rankLess));
         who->setObjectName(QString::fromUtf16(names.name).arg(place - names.othersLess));
@@ -59,7 +60,7 @@ QGridLayout *score_table::make(const HighScoreSheet &sheet, const Names &names, 
         points->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         QLabel *const cells[] = {rank, who, points};
         for (int column = 0; column < 3; ++column) {
-            cells[column]->setContentsMargins(6, 1, 6, 1);
+            cells[column]->setContentsMargins(cellMargin, 1, cellMargin, 1);
             if (isNew)
                 mark(cells[column]);
             table->addWidget(cells[column], place - 1, column);

@@ -134,6 +134,7 @@ void frmMemory::setKindColours(const MemoryKind &kind)
 /// The letters of the side panel.
 void frmMemory::setInk(const QColor &ink)
 {
+    ink_ = ink;
     QPalette palette = controls_.Picture1->palette();
     palette.setColor(QPalette::WindowText, ink);
     controls_.Picture1->setPalette(palette);
@@ -249,6 +250,7 @@ void frmMemory::paintEvent(QPaintEvent *event)
 void frmMemory::resizeEvent(QResizeEvent *)
 {
     layOutMemoryControls(controls_, size());
+    setInk(ink_); // the style sheets that were laid anew have taken it
     CanvasHeight_ = static_cast<int>(height() / MemoryControls::scaleFor(size()).pixelsPerTwip);
 }
 
@@ -275,6 +277,10 @@ void frmMemory::closeEvent(QCloseEvent *event)
     if (waitsForList_)
         ground_.gate.cancelWork();
     event->accept();
+    if (ground_.gate.isClosing()) { // nothing waits at the gate any more
+        Form_Unload();
+        return;
+    }
     ground_.gate.whenFree([this, self = QPointer(this)] {
         if (!self.isNull())
             Form_Unload();

@@ -10,6 +10,7 @@
 #include "games/paarlon/memory_scores.h"
 #include "platform/word_store.h"
 
+#include <QColor>
 #include <QPointer>
 #include <QTimer>
 
@@ -89,6 +90,7 @@ private:
     const MemoryKind *kind_ = &wortelMemory; ///< of the cards
     MemoryScores::CardColours colours_;
     WordStore MorphemeList_;
+    QColor ink_; ///< of the side panel
     int BestScore_ = 0;
     int currentCard_ = 0;
 

@@ -59,7 +59,7 @@ int MemoryScores::visibleTime() const
 {
     constexpr double usual = 2000;
     constexpr double longest = 65535;
-    QString seconds = read(u"MemoryVisibleTime", u"2"_s);
+    QString seconds = read(u"MorphemeVisibleTime", u"2"_s);
     const double wanted = Round(Val(seconds.replace(u',', u'.')) * 1000);
     return static_cast<int>(wanted >= 1 && wanted <= longest ? wanted : usual);
 }

@@ -75,7 +75,7 @@ private slots:
                                                    {u"abc"_s, 2000},
                                                    {u"1e9"_s, 2000},
                                                    {u""_s, 2000}}) {
-            t.store.SaveSetting(u"MemoryGame"_s, u"MemoryVisibleTime"_s, stored);
+            t.store.SaveSetting(u"MemoryGame"_s, u"MorphemeVisibleTime"_s, stored);
             QCOMPARE(MemoryScores(t.store).visibleTime(), milliseconds);
         }
     }
