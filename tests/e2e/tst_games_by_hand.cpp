@@ -64,7 +64,7 @@ private slots:
         desktop_->keepPicture(u"game-last-minute"_s);
         for (const QString &word : {u"laufen"_s, u"lauhfen"_s, u"machen"_s}) {
             desktop_->enter(word);
-            Desktop::pause(2500); // until its report has gone
+            Desktop::pause(4000); // until its report has gone
         }
         QVERIFY(!desktop_->waitForWindow(u"^Bestenliste Wortelspiele"_s, 90000).isEmpty());
         desktop_->keepPicture(u"game-name"_s);

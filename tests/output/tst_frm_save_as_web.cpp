@@ -155,6 +155,10 @@ private slots:
         for (const char *part : {"<td bg bgcolor=#00FF00>", "SET_DRAGGABLE(CURSOR_POINTER,\"Word1\"",
                                  "<BODY bgcolor=#FFFFFF", "2026</TITLE>"})
             QVERIFY2(html.contains(part), part);
+        w.type("txtbgpic", u"C:\\anderswo\\meer.gif"_s);
+        w.press("chkAddBGPic");
+        w.t.boxes.willAnswer(Boxes::Answer::Ok); // to replace the page
+        QVERIFY(w.make().endsWith(u"erst, wenn es im selben Ordner liegt: meer.gif"_s));
         QDesktopServices::setUrlHandler(u"file"_s, this, "browse");
         w.press("cmdViewWebpage");
         QDesktopServices::unsetUrlHandler(u"file"_s);

@@ -228,6 +228,16 @@ void FrmSaveAsWeb::cmdMakeWebPage_Click()
     });
 }
 
+/// What a page needs beside it, or nothing: a picture by its bare name is looked for in the page's folder.
+static QString missingBeside(const WebPage &page)
+{
+    const QString name = QFileInfo(nativePath(page.picture)).fileName();
+    if (!page.addPicture || !page.shortName || name.isEmpty() ||
+        IsTextFile(folderOf(storedPath(page.file)) + name))
+        return {};
+    return u"\n\nDas Hintergrundbild erscheint erst, wenn es im selben Ordner liegt: "_s + name;
+}
+
 void FrmSaveAsWeb::makePage()
 {
     const WebPage page = wishes();
@@ -245,7 +255,7 @@ void FrmSaveAsWeb::makePage()
     });
     if (made)
         ground_.boxes.plainBox(Boxes::Icon::Information, product::name,
-                               u"Die Datei wurde gespeichert als "_s + page.file);
+                               u"Die Datei wurde gespeichert als "_s + page.file + missingBeside(page));
     else
         ground_.boxes.plainBox(Boxes::Icon::Critical, product::faultTitle,
                                u"Die Webseite konnte nicht gespeichert werden als "_s + page.file +
