@@ -106,7 +106,6 @@ void frmMemory::waitForLongerList()
     Work work(ground_, {WorkPlan::Cancel, 1});
     while (work.goesOn())
         ground_.clock.wait(lookEvery);
-    controls_.lblNotice->hide();
 }
 
 // The game
@@ -116,6 +115,7 @@ void frmMemory::startGame()
 {
     Procedure step{ground_.log, "cmdCommand_Click", form};
     tmrTime_.stop();
+    controls_.lblNotice->hide();
     const MemoryKind &kind = checkedKind();
     bool loaded = false;
     step([&] { loaded = loadMorphemes(kind); });
@@ -155,13 +155,24 @@ void frmMemory::showClicks()
     controls_.LblCurrentScore->setAccessibleName(u"%1 Klicks"_s.arg(rules_.Clicks()));
 }
 
+/// A name as the narrow label holds it, with the clicks still under it: cut, and broken within a long word.
+static QString narrow(const QString &name)
+{
+    constexpr int longest = 24;
+    constexpr int line = 12;
+    QString shown = name.size() > longest ? name.left(longest - 1) + QChar(0x2026) : name;
+    if (shown.size() > line)
+        shown.insert(line, QChar(0x200B)); // a place where the line may be broken, invisible
+    return shown;
+}
+
 void frmMemory::DisplayLeader(const MemoryKind &kind)
 {
     const TopTen list = best_.scores().topTen(kind);
     const TopTen::Record &leader = list.records().first();
     BestScore_ = leader.score;
     const QString text =
-        u"MEMORY-\nMEISTER\n\n"_s + leader.name + u'\n' + QString::number(leader.score) + u" Klicks"_s;
+        u"MEMORY-\nMEISTER\n\n"_s + narrow(leader.name) + u'\n' + QString::number(leader.score) + u" Klicks"_s;
     controls_.Label1->setText(text);
     controls_.Label1->setAccessibleName(text.simplified());
     controls_.Label1->show();
