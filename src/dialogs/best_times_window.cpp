@@ -9,7 +9,6 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QListWidget>
-#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
@@ -26,17 +25,14 @@ constexpr score_table::Names names{u"Label1(%1)", u"lblName(%1)", u"lblScore(%1)
 } // namespace
 
 frmBestTimes::frmBestTimes(const HighScoreSheet &sheet, QWidget *owner)
-    : QDialog(owner)
+    : ScoreWindow(sheet, owner)
 {
     setObjectName(u"frmBestTimes"_s);
-    setWindowTitle(sheet.title);
-    setModal(true);
 
-    auto *panel = new GradientPanel(this);
     auto *middle = new QHBoxLayout;
     middle->setSpacing(side);
-    middle->addLayout(score_table::make(sheet, names, rowSize, panel));
-    QLabel *encourage = score_table::makeLabel(sheet.result, encourageSize, true, panel);
+    middle->addLayout(score_table::make(sheet, names, rowSize, panel()));
+    QLabel *encourage = score_table::makeLabel(sheet.result, encourageSize, true, panel());
     encourage->setObjectName(u"lblEncourage"_s);
     encourage->setAlignment(Qt::AlignCenter);
     encourage->setWordWrap(true);
@@ -45,33 +41,14 @@ frmBestTimes::frmBestTimes(const HighScoreSheet &sheet, QWidget *owner)
     middle->addWidget(encourage);
 
     // The rows once more as lines of text; never seen.
-    auto *List1 = new QListWidget(panel);
+    auto *List1 = new QListWidget(panel());
     List1->setObjectName(u"List1"_s);
     List1->hide();
     for (int row = 0; row < sheet.rows.size(); ++row)
         List1->addItem(QString::number(row + 1) + u".\t"_s + sheet.rows.at(row).second + u'\t' +
                        sheet.rows.at(row).first);
 
-    auto *close = new QPushButton(u"OK"_s, panel);
-    close->setObjectName(u"cmdOK"_s);
-    close->setMinimumSize(110, 34);
-    close->setDefault(true);
-    connect(close, &QPushButton::clicked, this, &QDialog::accept);
-
-    auto *column = new QVBoxLayout(panel);
-    column->setContentsMargins(side, 14, side, 12);
-    column->setSpacing(12);
-    column->addLayout(middle);
-    column->addWidget(close, 0, Qt::AlignHCenter);
-    auto *whole = new QVBoxLayout(this);
-    whole->setContentsMargins(0, 0, 0, 0);
-    whole->addWidget(panel);
-    whole->setSizeConstraint(QLayout::SetFixedSize);
-}
-
-void frmBestTimes::showEvent(QShowEvent *event)
-{
-    QDialog::showEvent(event);
-    // Without a window manager nobody else gives the keyboard to a new window.
-    activateWindow();
+    column()->setSpacing(12);
+    column()->addLayout(middle);
+    finish();
 }

@@ -2,18 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QDialog>
-
-struct HighScoreSheet;
+#include "dialogs/score_window.h"
 
 /// The ten best of one kind of the card game, with what is said to the winner beside them.
-class frmBestTimes : public QDialog
+class frmBestTimes : public ScoreWindow
 {
     Q_OBJECT
 
 public:
     frmBestTimes(const HighScoreSheet &sheet, QWidget *owner);
-
-protected:
-    void showEvent(QShowEvent *event) override;
 };

@@ -8,7 +8,6 @@
 
 #include <QGridLayout>
 #include <QLabel>
-#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
@@ -17,53 +16,30 @@ namespace {
 constexpr int headingSize = 26; ///< pixels, the letters
 constexpr int rowSize = 16;
 constexpr int resultSize = 18;
-constexpr int side = 22;
 
 constexpr score_table::Names names{u"LblRank(%1)", u"LblName(%1)", u"LblScore(%1)", 1, 1, u"."};
 
 } // namespace
 
 frmHighScore::frmHighScore(const HighScoreSheet &sheet, QWidget *owner)
-    : QDialog(owner)
+    : ScoreWindow(sheet, owner)
 {
     setObjectName(u"frmHighScore"_s);
-    setWindowTitle(sheet.title);
     // No close item in the title: the button ends the window.
     setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
-    setModal(true);
 
-    auto *panel = new GradientPanel(this);
-    auto *column = new QVBoxLayout(panel);
-    column->setContentsMargins(side, 10, side, 12);
-    column->setSpacing(6);
-    QLabel *heading = score_table::makeLabel(sheet.heading, headingSize, true, panel);
+    column()->setSpacing(6);
+    QLabel *heading = score_table::makeLabel(sheet.heading, headingSize, true, panel());
     heading->setObjectName(u"Label1"_s);
-    column->addWidget(heading, 0, Qt::AlignHCenter);
+    column()->addWidget(heading, 0, Qt::AlignHCenter);
 
-    column->addLayout(score_table::make(sheet, names, rowSize, panel));
+    column()->addLayout(score_table::make(sheet, names, rowSize, panel()));
 
-    QLabel *result = score_table::makeLabel(sheet.result, resultSize, true, panel);
+    QLabel *result = score_table::makeLabel(sheet.result, resultSize, true, panel());
     result->setObjectName(u"Label2"_s);
     result->setAlignment(Qt::AlignHCenter);
     result->setVisible(!sheet.result.isEmpty());
-    column->addWidget(result);
+    column()->addWidget(result);
 
-    auto *close = new QPushButton(u"OK"_s, panel);
-    close->setObjectName(u"cmdOK"_s);
-    close->setMinimumSize(110, 34);
-    close->setDefault(true);
-    connect(close, &QPushButton::clicked, this, &QDialog::accept);
-    column->addWidget(close, 0, Qt::AlignHCenter);
-
-    auto *whole = new QVBoxLayout(this);
-    whole->setContentsMargins(0, 0, 0, 0);
-    whole->addWidget(panel);
-    whole->setSizeConstraint(QLayout::SetFixedSize);
-}
-
-void frmHighScore::showEvent(QShowEvent *event)
-{
-    QDialog::showEvent(event);
-    // Without a window manager nobody else gives the keyboard to a new window.
-    activateWindow();
+    finish();
 }

@@ -51,7 +51,8 @@ QGridLayout *score_table::make(const HighScoreSheet &sheet, const Names &names, 
         QLabel *rank = makeLabel(number + QString::fromUtf16(names.rankEnd), pixels, isNew, parent);
         QLabel *who = makeLabel({}, pixels, isNew, parent);
         QLabel *points = makeLabel(score, pixels, isNew, parent);
-        who->setText(who->fontMetrics().elidedText(name.simplified(), Qt::ElideRight, nameWidth - 2 * cellMargin));
+        who->setText(
+            who->fontMetrics().elidedText(name.simplified(), Qt::ElideRight, nameWidth - 2 * cellMargin));
         who->setFixedWidth(nameWidth);
         rank->setObjectName(QString::fromUtf16(names.rank).arg(place - names.rankLess));
         who->setObjectName(QString::fromUtf16(names.name).arg(place - names.othersLess));

@@ -8,6 +8,7 @@
 #include "platform/gate.h"
 #include "platform/ground.h"
 #include "platform/ini_file.h"
+#include "platform/minute_timer.h"
 #include "platform/options.h"
 #include "platform/play_state.h"
 #include "platform/procedure.h"
@@ -28,7 +29,6 @@
 
 #include <algorithm>
 #include <array>
-#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -48,13 +48,6 @@ QString lexiconKey(const QString &lexiconPath)
     if (name.endsWith(u".lex"_s, Qt::CaseInsensitive))
         name.chop(4);
     return name;
-}
-
-void startFor(QTimer *timer, double seconds)
-{
-    const double milliseconds = std::min(seconds * 1000, double(std::numeric_limits<int>::max()));
-    if (milliseconds >= 1) // an interval of nothing is a timer that never fires
-        timer->start(static_cast<int>(milliseconds));
 }
 
 } // namespace
@@ -213,19 +206,19 @@ bool Tips::IsSideWindowOpen()
 void Tips::startTipTimer()
 {
     if (ground_.options.isOn(Setting::UseLexTip))
-        startFor(TipTimer_, ground_.options.number(Setting::TipTime));
+        startForSeconds(*TipTimer_, ground_.options.number(Setting::TipTime));
 }
 
 void Tips::startGameTipTimer()
 {
     if (ground_.options.isOn(Setting::UseGameLexTip))
-        startFor(GameTipTimer_, ground_.options.number(Setting::GameTipTime));
+        startForSeconds(*GameTipTimer_, ground_.options.number(Setting::GameTipTime));
 }
 
 void Tips::startVokalTipTimer()
 {
     if (ground_.options.isOn(Setting::VokalTipEnabled))
-        startFor(VokalTipTimer_, ground_.options.number(Setting::VokalTipTime));
+        startForSeconds(*VokalTipTimer_, ground_.options.number(Setting::VokalTipTime));
 }
 
 void Tips::stopTimers()

@@ -74,11 +74,15 @@ void WordCheck::Command2_MouseDown(Qt::MouseButton button)
 
 void WordCheck::readVowelBoxes()
 {
-    const bool shortOn = controls_.ChkVokal[0]->isChecked();
-    const bool longOn = controls_.ChkVokal[1]->isChecked();
-    if (shortOn && longOn)
-        return;
-    play_.setCheckedVowels(shortOn ? Vowels::Short : longOn ? Vowels::Long : Vowels::None);
+    if (!controls_.ChkVokal[0]->isChecked() || !controls_.ChkVokal[1]->isChecked())
+        play_.setCheckedVowels(boxVowels());
+}
+
+Vowels WordCheck::boxVowels() const
+{
+    return controls_.ChkVokal[0]->isChecked()   ? Vowels::Short
+           : controls_.ChkVokal[1]->isChecked() ? Vowels::Long
+                                                : Vowels::None;
 }
 
 /// False, with a notice, if nothing is entered; else the entry is trimmed by the option.
@@ -248,8 +252,7 @@ void WordCheck::ChkVokal_Click()
 
 void WordCheck::clearVowelBoxes()
 {
-    const auto isOn = [](const PressButton *box) { return box->isChecked(); };
-    if (std::none_of(controls_.ChkVokal.begin(), controls_.ChkVokal.end(), isOn))
+    if (boxVowels() == Vowels::None)
         return;
     for (PressButton *box : controls_.ChkVokal) {
         const QSignalBlocker once(box);

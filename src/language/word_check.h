@@ -36,6 +36,8 @@ public:
     void Dropper1_KeyPress();
     /// A vowel box was switched: sets the flags and thins out the word list at once.
     void ChkVokal_Click();
+    /// What the two boxes ask for; the short vowels where both are on.
+    Vowels boxVowels() const;
     /// Sets the vowel flags from the two boxes; both on, which no click brings about, leaves them as they
     /// are.
     void readVowelBoxes();

@@ -5,6 +5,7 @@
 #include "platform/clock.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace {
 constexpr int lookEvery = 250; ///< milliseconds
@@ -39,4 +40,11 @@ void MinuteTimer::look()
         due_ += std::max<qint64>(1, period());
         emit Timer();
     }
+}
+
+void startForSeconds(QTimer &timer, double seconds)
+{
+    const double milliseconds = std::min(seconds * 1000, double(std::numeric_limits<int>::max()));
+    if (milliseconds >= 1)
+        timer.start(static_cast<int>(milliseconds));
 }

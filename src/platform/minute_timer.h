@@ -7,6 +7,10 @@
 
 class Clock;
 
+/// Starts a timer that fires after that many seconds, as far as an int of milliseconds holds them; 0 and less
+/// leave it as it is: an interval of nothing would be no timer.
+void startForSeconds(QTimer &timer, double seconds);
+
 /// The timer `utimerCTL`, which counts minutes. It looks at the ground's running clock, which neither a sleeping
 /// computer nor a clock that is set moves, so a late look loses no minute: each one that has passed is told.
 class MinuteTimer : public QObject

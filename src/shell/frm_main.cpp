@@ -90,7 +90,7 @@ bool frmMain::Form_Load()
     step([&] { ground_.options.GetSettings(); });
     step([&] { rooms_->placement.takeTryLimit(); });
     step([&] { controls_.Text1->setText(ground_.options.text(Setting::NumWortel)); });
-    step([&] { takeDifficulty(); });
+    step([&] { rooms_->game.takeLevel(); });
     step([&] { rooms_->optTypes.select(TileFilter::all); });
     step([&] { rooms_->background.loadFromSetting(); });
 
@@ -119,17 +119,6 @@ void frmMain::makeReady()
     qApp->installEventFilter(this);
     controls_.picCanvas->setFocusPolicy(Qt::StrongFocus);
     controls_.picCanvas->setFocus();
-}
-
-void frmMain::takeDifficulty()
-{
-    constexpr Setting levels[] = {Setting::GameDifficult1, Setting::GameDifficult2, Setting::GameDifficult3};
-    for (int level = 0; level < 3; ++level) {
-        if (!ground_.options.isOn(levels[level]))
-            continue;
-        controls_.Option2[static_cast<std::size_t>(level)]->setChecked(true);
-        play_.setLevel(level + 1);
-    }
 }
 
 void frmMain::resizeEvent(QResizeEvent *)

@@ -84,7 +84,6 @@ private:
     void Form_Unload();
     void closeBoxes();
     void UpdateCaption();
-    void takeDifficulty();
     void loadKept();
     void wire();
     void wireBoard();

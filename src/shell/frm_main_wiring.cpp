@@ -172,7 +172,7 @@ void frmMain::wireKeeping()
         connect(&r.news, news, &r.backup, &Backup::saveIfWanted);
 
     connect(&ground_.options, &Options::applied, this, [this, &r] {
-        takeDifficulty();
+        r.game.takeLevel();
         r.placement.takeTryLimit();
         r.background.remove();
         r.background.loadFromSetting();

@@ -18,5 +18,6 @@ namespace paint {
 inline constexpr QColor frame{0x5B, 0x6F, 0x91};       ///< of what takes or shows text
 inline constexpr QColor activeFrame{0x1E, 0x5F, 0xD8}; ///< of what is in use
 inline constexpr QColor face{0xF4, 0xF7, 0xFC};        ///< of a button
+inline constexpr QColor running{0xFF, 0xC8, 0x3C};     ///< of the tool whose mode runs
 inline constexpr QColor ink{0x08, 0x1C, 0x5C};         ///< on the blue gradient
 } // namespace paint

@@ -19,6 +19,7 @@
 #include "platform/sounds.h"
 #include "platform/text.h"
 #include "platform/word_lists.h"
+#include "widgets/colour.h"
 #include "widgets/control_sheet.h"
 #include "widgets/dropper.h"
 #include "widgets/main_controls.h"
@@ -30,8 +31,7 @@
 #include <QLabel>
 #include <QSignalBlocker>
 
-#include <algorithm>
-#include <limits>
+#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -40,7 +40,7 @@ namespace {
 using C = MainControls;
 
 constexpr auto form = "frmMain";
-constexpr QColor runningFace{0xFF, 0xC8, 0x3C};
+constexpr std::array levels{Setting::GameDifficult1, Setting::GameDifficult2, Setting::GameDifficult3};
 constexpr int hintStays = 5000; ///< milliseconds
 
 /// From the start to the end: the board is for the game alone, and words are entered as they are checked.
@@ -70,14 +70,6 @@ constexpr SheetRow buildingSheet[] = {
     {tool<&C::Command5>, SheetRow::Disabled},
     {tool<&C::Option1, 0>, SheetRow::Disabled},
 };
-
-/// Seconds as a timer takes them; 0 and less are none.
-void startOnce(QTimer &timer, double seconds)
-{
-    const double milliseconds = std::min(seconds * 1000, double(std::numeric_limits<int>::max()));
-    if (milliseconds >= 1)
-        timer.start(static_cast<int>(milliseconds));
-}
 
 } // namespace
 
@@ -120,7 +112,8 @@ void WordGame::Check3_MouseDown(Qt::MouseButton button)
     if (button == Qt::RightButton) {
         if (play_.GameActive())
             return;
-        const ScoredGame game = chosenVowels() == Vowels::None ? ScoredGame::Klotar : ScoredGame::Tonarin;
+        const ScoredGame game =
+            rooms_.check.boxVowels() == Vowels::None ? ScoredGame::Klotar : ScoredGame::Tonarin;
         step([&] { rooms_.scores.DisplayHighScores(game); });
         if (!ground_.gate.isClosing())
             step([&] { rooms_.canvas.store().filter().select(TileFilter::all); });
@@ -144,9 +137,18 @@ void WordGame::registerCommands(CommandRouter &router)
 void WordGame::Option2_Click(int index)
 {
     Procedure step{ground_.log, "Option2_Click", form};
-    constexpr Setting levels[] = {Setting::GameDifficult1, Setting::GameDifficult2, Setting::GameDifficult3};
     play_.setLevel(index + 1);
-    step([&] { ground_.options.keepOption(levels[index]); });
+    step([&] { ground_.options.keepOption(levels[static_cast<std::size_t>(index)]); });
+}
+
+void WordGame::takeLevel()
+{
+    for (std::size_t index = 0; index < levels.size(); ++index) {
+        if (!ground_.options.isOn(levels[index]))
+            continue;
+        controls_.Option2[index]->setChecked(true);
+        play_.setLevel(static_cast<int>(index) + 1);
+    }
 }
 
 void WordGame::startVowelGame(Vowels vowels)
@@ -158,13 +160,6 @@ void WordGame::startVowelGame(Vowels vowels)
         box->setChecked(box == controls_.ChkVokal[vowels == Vowels::Short ? 0 : 1]);
     }
     Check3_MouseDown(Qt::LeftButton);
-}
-
-Vowels WordGame::chosenVowels() const
-{
-    const bool shortOn = controls_.ChkVokal[0]->isChecked();
-    const bool longOn = controls_.ChkVokal[1]->isChecked();
-    return shortOn ? Vowels::Short : longOn ? Vowels::Long : Vowels::None;
 }
 
 int WordGame::chosenLevel() const
@@ -183,7 +178,7 @@ void WordGame::StartTheGame(int Level)
     Procedure step{ground_.log, "StartTheGame", form};
     if (play_.RetypeActive())
         return;
-    const Vowels vowels = chosenVowels();
+    const Vowels vowels = rooms_.check.boxVowels();
     const GameStage &stage = game_stages::first(Level);
     play_.setLevel(Level);
     play_.startGame(stage.phase, vowels);
@@ -194,12 +189,12 @@ void WordGame::StartTheGame(int Level)
         step([&] { emit vowelBoardWanted(); });
     if (ground_.gate.isClosing())
         return;
-    if (chosenVowels() != vowels) { // there is no such board, and the player has been told
+    if (rooms_.check.boxVowels() != vowels) { // there is no such board, and the player has been told
         play_.stop();
         return;
     }
     rooms_.sheet.lay(Reason::Game, gameSheet);
-    controls_.Check3->setFace(runningFace);
+    controls_.Check3->setFace(paint::running);
     step([&] { GameTimeOut_ = CInt(ground_.options.number(Setting::GameTimeOut)); });
     step([&] { GamePrepareTimeOut_ = CInt(Fix(ground_.options.number(Setting::GamePrepareTimeOut))); });
     step([&] { startTips(vowels); });
@@ -217,7 +212,7 @@ void WordGame::startTips(Vowels vowels)
     if (!ground_.options.isOn(Setting::GameShowWordHint))
         return;
     GetGameWordHint();
-    startOnce(GameWordHintTimer_, ground_.options.number(Setting::GameShowWordHintTime));
+    startForSeconds(GameWordHintTimer_, ground_.options.number(Setting::GameShowWordHintTime));
 }
 
 void WordGame::clearWords()

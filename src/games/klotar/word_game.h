@@ -55,6 +55,8 @@ public:
     void Check3_MouseDown(Qt::MouseButton button);
     /// The level with that index was chosen: it is kept for the next start of the program.
     void Option2_Click(int index);
+    /// The level that the options name.
+    void takeLevel();
     /// Level 1 to 3. Nothing while words are retyped.
     void StartTheGame(int Level);
     /// The end without a score.
@@ -79,7 +81,6 @@ signals:
     void retypeWanted();
 
 private:
-    Vowels chosenVowels() const;
     int chosenLevel() const;
     void startVowelGame(Vowels vowels);
     void startTips(Vowels vowels);

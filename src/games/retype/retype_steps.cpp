@@ -21,6 +21,7 @@
 #include "platform/text.h"
 #include "platform/word_lists.h"
 #include "platform/work.h"
+#include "widgets/colour.h"
 #include "widgets/control_sheet.h"
 #include "widgets/dropper.h"
 #include "widgets/list_stand.h"
@@ -40,7 +41,6 @@ namespace {
 
 using C = MainControls;
 
-constexpr QColor runningFace{0xFF, 0xC8, 0x3C};
 
 /// While the strip runs: the board is switched to typing.
 constexpr SheetRow typingSheet[] = {
@@ -152,7 +152,7 @@ void RetypeMode::showStrip(const RetypeSource &source)
     if (source.vowels == Vowels::None)
         rooms_.sheet.lay(Reason::Typing, wordsSheet);
     controls_.Option1[1]->setChecked(true);
-    controls_.Check4->setFace(runningFace);
+    controls_.Check4->setFace(paint::running);
     controls_.Dropper1->takeFocus();
     controls_.Dropper1->selectAll(); // what still stands there goes with the first letter
 }

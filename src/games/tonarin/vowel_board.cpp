@@ -51,11 +51,6 @@ VowelBoard::VowelBoard(Ground &ground, const MainControls &controls, WordLists &
     , rooms_(rooms)
 {}
 
-bool VowelBoard::isOn() const
-{
-    return controls_.ChkVokal[0]->isChecked() || controls_.ChkVokal[1]->isChecked();
-}
-
 void VowelBoard::ChkVokal_MouseDown(int Index, Qt::MouseButton button)
 {
     Procedure step{ground_.log, "ChkVokal_MouseDown", form};
@@ -72,7 +67,7 @@ void VowelBoard::ChkVokal_MouseDown(int Index, Qt::MouseButton button)
     if (box->isChecked())
         check(controls_.ChkVokal[static_cast<std::size_t>(1 - Index)], false);
     step([&] { rooms_.check.ChkVokal_Click(); });
-    if (isOn())
+    if (rooms_.check.boxVowels() != Vowels::None)
         step([&] { load(); });
 }
 

@@ -51,7 +51,6 @@ public:
     void PlayTheVokal(const QString &Word);
 
 private:
-    bool isOn() const;
     void giveUp();
     void switchOff();
     void restoreLists();

@@ -252,7 +252,7 @@ QLayout *makeSearch(Maker &make, ChooserControls &c)
     }
     c.ChkClearListBefore = make.box("ChkClearListBefore", u"Liste löschen vor einer neuen Suche");
     c.Check4 = make.button("Check4", u"Wörter suchen"_s);
-    c.Check4->setFace(QColor(0xFF, 0xC8, 0x3C), Qt::black);
+    c.Check4->setFace(paint::running, Qt::black);
     c.Label7 = make.label("Label7", {});
     c.Label7->setAlignment(Qt::AlignCenter);
     c.sProgressBar = make.named(new GameProgressBar, "sProgressBar");
