@@ -167,7 +167,7 @@ void PagePass::take(const Token &token)
         blank();
         break;
     case Token::LineEnd:
-        if (!out_.isEmpty() && out_.back() > u' ') // only behind text
+        if (owed_ == Owed::Nothing && !out_.isEmpty() && out_.back() > u' ') // only behind text
             blank();
         break;
     case Token::Entity:

@@ -9,7 +9,6 @@
 #include "platform/word_lists.h"
 #include "widgets/control_sheet.h"
 #include "widgets/main_controls.h"
-#include "widgets/press_button.h"
 #include "widgets/status_line.h"
 
 #include <QCoreApplication>
@@ -55,12 +54,7 @@ Rooms::Rooms(Ground &ground, const Hall &hall)
     , fileType(ground.log, QCoreApplication::applicationFilePath())
     , printing(ground, hall.controls, hall.lists, canvas)
     , scores(ground)
-    , kernling(ground,
-               {hall.lists, tests, maker, store, scores,
-                [&controls = hall.controls] {
-                    for (PressButton *box : controls.ChkVokal)
-                        box->setChecked(false);
-                }},
+    , kernling(ground, {hall.lists, tests, maker, store, scores, [this] { check.clearVowelBoxes(); }},
                hall.controls.form)
     , strip(ground, hall.controls)
     , retype(ground, hall.controls, hall.lists, hall.play,

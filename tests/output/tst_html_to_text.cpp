@@ -75,6 +75,7 @@ private slots:
         row("each row is measured for itself",
             u"<table>"_s + cells.arg(QString(64, u'a')) + cells.arg(u"c"_s) + u"</table>"_s,
             u"\n"_s + QString(64, u'a') + u"\nb\nc   b"_s);
+        row("a line end behind a table", u"x<TABLE><TR><TD>a</TD></TR></TABLE>\ny"_s, u"x\na\ny"_s);
         row("empty cells", u"<TABLE><TR><TD></TD><TD>b</TD></TR></TABLE>"_s, u"\n   b"_s);
         row("cells of no row", u"a<TD>b<TD>c"_s, u"a\nb\nc"_s);
 

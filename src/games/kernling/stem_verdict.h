@@ -18,8 +18,6 @@ namespace kernling {
 
 /// The one colour that a marking is judged for, and with which a stem is painted behind its letters.
 inline constexpr Colour stemColour = 255;
-/// Of the letters of a painted stem.
-inline constexpr Colour stemLetters = colours::white;
 
 /// The options as their boxes show them (0, 1 or 2), and the sounds as the settings store has them.
 struct VerdictOptions
