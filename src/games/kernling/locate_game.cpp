@@ -89,7 +89,6 @@ void LocateGame::start()
     desk_.controls.Image1->hide();
     desk_.controls.Picture2->start(desk_.ground.clock, time);
     LocateGameTimer_.start(time);
-    emit changed();
 }
 
 void LocateGame::stop()
@@ -101,7 +100,6 @@ void LocateGame::stop()
     desk_.controls.Picture2->stop();
     layOut(false);
     desk_.controls.OptManualHighlight->setChecked(true);
-    emit changed();
 }
 
 void LocateGame::layOut(bool running)

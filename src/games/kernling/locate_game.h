@@ -28,10 +28,6 @@ public:
     /// The time is over: ends the game and looks at the score.
     void LocateGameTimer_Tick();
 
-signals:
-    /// The way of marking or the game's state has changed.
-    void changed();
-
 private:
     void start();
     void layOut(bool running);

@@ -63,7 +63,7 @@ constexpr SheetRow gameSheet[] = {
     {tool<&C::Check3>, SheetRow::None, u"Spielmodus abbrechen"},
     {tool<&C::Command2>, SheetRow::None, u"Wortkontrolle"},
 };
-/// While words are only built.
+/// While words are only built. Afterwards word check and eraser act, or no word could be entered.
 constexpr SheetRow buildingSheet[] = {
     {tool<&C::Dropper1>, SheetRow::Disabled},
     {tool<&C::Command2>, SheetRow::Disabled},
