@@ -9,6 +9,7 @@
 #include "board/canvas/opt_types.h"
 #include "board/canvas/placement.h"
 #include "board/hand/board_commands.h"
+#include "board/hand/board_focus.h"
 #include "board/hand/board_keys.h"
 #include "board/hand/board_pointer.h"
 #include "board/hand/command_router.h"
@@ -85,6 +86,7 @@ struct Rooms
     PopupMenu cp;
     CommandRouter router;
     BoardCommands commands;
+    BoardFocus focus;
     BoardPointer pointer;
     BoardKeys keys;
 

@@ -30,6 +30,11 @@ public:
     /// Clears the image to the back colour and the picture.
     void cls();
 
+    /// A frame round that rectangle (logical pixels) that lies over the picture and is no part of it; an
+    /// empty one removes it. It is seen on every colour.
+    void setFrame(const QRect &around);
+    QRect frame() const { return frame_; }
+
     /// Suspends (True) or resumes repainting of this surface. Not counted: one resume ends any number of
     /// suspends.
     void LockWindow(bool locked);
@@ -49,11 +54,13 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
+    void paintFrame(QPainter &painter) const;
     void ensureImage();
     void clearImage(QImage &image) const;
 
     QImage image_;
     QImage picture_;
     QColor backColour_{Qt::white};
+    QRect frame_;
     bool locked_ = false;
 };

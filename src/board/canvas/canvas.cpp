@@ -74,10 +74,16 @@ void Canvas::draw(const TileList &tiles, bool everyKind)
             tile->Draw(surface_);
 }
 
+void Canvas::drawStore(bool everyKind)
+{
+    draw(store_.tiles(), everyKind);
+    emit drawn();
+}
+
 void Canvas::CanvasRedrawAll()
 {
     Procedure step{ground_.log, "CanvasRedrawAll", form};
-    step([&] { draw(store_.tiles(), true); });
+    step([&] { drawStore(true); });
     step([&] { ground_.pump.yield(); });
     step([&] { optTypes_.updateTotal(); });
 }
@@ -89,14 +95,14 @@ void Canvas::CanvasFilterAndDraw()
         if (optTypes_.selected() == TileFilter::all)
             surface_.clear();
         else
-            draw(store_.tiles(), false);
+            drawStore(false);
     });
 }
 
 void Canvas::repaint()
 {
     Procedure step{ground_.log, "repaint", form, Procedure::Silent};
-    step([&] { draw(store_.tiles(), false); });
+    step([&] { drawStore(false); });
     step([&] { optTypes_.updateTotal(); });
 }
 

@@ -69,11 +69,15 @@ public slots:
     void Check1_Click();
 
 signals:
+    /// The board shows the store's tiles as they are now. Comes from within walks of Qt as well: who hears it
+    /// lets nothing run.
+    void drawn();
     /// A tile was picked up in the mode "Ziehmodus Wortkontrolle": a drag of `BtnMove1` begins.
     void wordCheckDragBegins();
 
 private:
     void draw(const TileList &tiles, bool everyKind);
+    void drawStore(bool everyKind);
     void showHeld(const cWortel &tile);
     void eraseTile(Procedure &step, int index);
 
