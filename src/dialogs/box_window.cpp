@@ -5,6 +5,7 @@
 #include "dialogs/box_shadow.h"
 #include "dialogs/mover.h"
 #include "dialogs/wrapped_text.h"
+#include "widgets/announce.h"
 #include "widgets/press_button.h"
 
 #include <QApplication>
@@ -201,6 +202,7 @@ void BoxWindow::showEvent(QShowEvent *event)
     activateWindow();
     if (focusWidget() == nullptr)
         setFocus(Qt::ActiveWindowFocusReason);
+    announce(*this, Label2_->accessibleName());
 }
 
 void BoxWindow::keyPressEvent(QKeyEvent *event)

@@ -16,6 +16,7 @@
 #include "board/hand/menu_model.h"
 #include "board/hand/morpheme_lists.h"
 #include "board/hand/popup_menu.h"
+#include "board/reader/board_reader.h"
 #include "board/tiles/affix_homes.h"
 #include "board/tiles/board_news.h"
 #include "dialogs/msn_style.h"
@@ -89,6 +90,7 @@ struct Rooms
     BoardFocus focus;
     BoardPointer pointer;
     BoardKeys keys;
+    BoardReader reader;
 
     // language
     ListLoader loader;

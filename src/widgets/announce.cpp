@@ -3,6 +3,8 @@
 #include "widgets/announce.h"
 
 #include <QAccessibleWidget>
+#include <QEvent>
+#include <QLabel>
 #include <QWidget>
 
 namespace {
@@ -37,6 +39,29 @@ public:
     }
 };
 
+/// Waits for a label's coming into sight.
+class ShownLabel : public QObject
+{
+public:
+    explicit ShownLabel(QLabel &label)
+        : QObject(&label)
+        , label_(label)
+    {
+        label.installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Show)
+            announce(label_, label_.text());
+        return false;
+    }
+
+private:
+    QLabel &label_;
+};
+
 QWidget *announcementOf(QWidget *window)
 {
     if (auto *made = window->findChild<QWidget *>(QLatin1String(said), Qt::FindDirectChildrenOnly))
@@ -63,3 +88,5 @@ void announce(QWidget &from, const QString &text)
         QAccessible::updateAccessibility(&event);
     }
 }
+
+void announceWhenShown(QLabel &label) { new ShownLabel(label); }

@@ -26,6 +26,7 @@ Dropper::Dropper(QWidget *parent)
     , lblprefix_(new QLineEdit(this))
 {
     lblprefix_->setObjectName(QStringLiteral("lblprefix"));
+    lblprefix_->setAccessibleName(QStringLiteral("Wort"));
     lblprefix_->setFrame(false);
     lblprefix_->setAcceptDrops(false); // tiles are dropped on the control, which joins them to the text
     QPalette clear = lblprefix_->palette();

@@ -5,6 +5,11 @@
 #include <QImage>
 #include <QWidget>
 
+#include <functional>
+#include <utility>
+
+class QAccessibleInterface;
+
 /// A picture box that keeps its image: what was painted on it survives being covered. The image has the
 /// screen's device pixel ratio, so that tiles are sharp on a fine display; all coordinates are logical
 /// pixels. Painting can be frozen during bulk work, which hides the steps between. Who paints on the image
@@ -35,6 +40,11 @@ public:
     void setFrame(const QRect &around);
     QRect frame() const { return frame_; }
 
+    /// Who speaks for the picture to a screen reader, made when one asks; nothing for the plain picture.
+    using Speaker = std::function<QAccessibleInterface *()>;
+    void setSpeaker(Speaker speaker) { speaker_ = std::move(speaker); }
+    QAccessibleInterface *makeAccessible() const { return speaker_ ? speaker_() : nullptr; }
+
     /// Suspends (True) or resumes repainting of this surface. Not counted: one resume ends any number of
     /// suspends.
     void LockWindow(bool locked);
@@ -62,5 +72,6 @@ private:
     QImage picture_;
     QColor backColour_{Qt::white};
     QRect frame_;
+    Speaker speaker_;
     bool locked_ = false;
 };

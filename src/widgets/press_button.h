@@ -20,6 +20,11 @@ public:
     void setFace(const QColor &back, const QColor &text = {});
     QColor faceColour() const { return back_; }
 
+    /// What a screen reader says for a caption that is a mere number: "%1 Wortel". Empty for a tool whose
+    /// tip or own name tells what it is.
+    void setSpokenCaption(const QString &pattern) { spokenCaption_ = pattern; }
+    QString spokenCaption() const { return spokenCaption_; }
+
     QSize sizeHint() const override;
 
 signals:
@@ -44,4 +49,5 @@ private:
     Qt::KeyboardModifiers pressModifiers_;
     QColor back_;
     QColor text_;
+    QString spokenCaption_;
 };

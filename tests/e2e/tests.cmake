@@ -4,6 +4,8 @@ wortel_test(e2e SLOW TIMEOUT 600
     SOURCES
         desktop.cpp
         known_board.cpp
+        reader_bus.cpp
+        tst_blind_child.cpp
         tst_board_by_hand.cpp
         tst_chosen_words.cpp
         tst_first_board.cpp
@@ -14,4 +16,7 @@ wortel_test(e2e SLOW TIMEOUT 600
         tst_memory_by_hand.cpp
         tst_words_by_hand.cpp
 )
+# The screen reader's end of the accessibility bus.
+find_package(Qt6 6.4 REQUIRED COMPONENTS DBus)
+target_link_libraries(tst_e2e PRIVATE Qt6::DBus)
 add_dependencies(tst_e2e wortel)

@@ -212,7 +212,7 @@ void Canvas::EditObject(QPoint place, const QString &text, Colour kind)
 bool Canvas::CanvasSelectWortel(int x, int y)
 {
     Procedure step{ground_.log, "CanvasSelectWortel", form};
-    bool picked = false;
+    bool isPicked = false;
     step([&] {
         for (const auto &tile : store_.tiles()) {
             if (!tile->Inside(x, y))
@@ -220,15 +220,17 @@ bool Canvas::CanvasSelectWortel(int x, int y)
             store_.setCurrent(tile.get());
             if (!optTypes_.shows(tile->BGColor))
                 continue;
-            picked = true;
+            isPicked = true;
             tile->Selected = true;
             showHeld(*tile);
             break;
         }
     });
-    if (picked && WordCheckDrag_)
+    if (isPicked)
+        emit picked();
+    if (isPicked && WordCheckDrag_)
         emit wordCheckDragBegins();
-    return picked;
+    return isPicked;
 }
 
 void Canvas::showHeld(const cWortel &tile)

@@ -72,6 +72,8 @@ signals:
     /// The board shows the store's tiles as they are now. Comes from within walks of Qt as well: who hears it
     /// lets nothing run.
     void drawn();
+    /// A tile was picked up: it is the store's current one.
+    void picked();
     /// A tile was picked up in the mode "Ziehmodus Wortkontrolle": a drag of `BtnMove1` begins.
     void wordCheckDragBegins();
 

@@ -12,6 +12,7 @@
 #include "platform/procedure.h"
 #include "platform/product.h"
 #include "platform/sound.h"
+#include "widgets/announce.h"
 #include "widgets/colour.h"
 
 #include <QApplication>
@@ -102,6 +103,7 @@ void StemMarking::show(const Verdict &verdict)
         AppendColoured(answer, shortened(piece.text), piece.colour);
     answer.moveCursor(QTextCursor::Start);
     answer.setAccessibleDescription(answer.toPlainText());
+    announce(answer, answer.toPlainText());
     desk_.controls.Text1->setText(verdict.Text1);
     desk_.controls.Image1->setVisible(verdict.Image1);
     if (verdict.tone == Verdict::Tone::Right)
