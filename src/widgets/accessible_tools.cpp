@@ -70,7 +70,9 @@ public:
             return TwoPresses(tip).left;
         if (kind == QAccessible::Description)
             return tip;
-        return QAccessibleWidget::text(kind);
+        const QString own = QAccessibleWidget::text(kind);
+        const auto *label = qobject_cast<const QLabel *>(widget());
+        return kind == QAccessible::Name && own.isEmpty() && label != nullptr ? label->text() : own;
     }
 
     QStringList actionNames() const override
@@ -223,6 +225,12 @@ struct Kind
     QAccessibleInterface *(*make)(QWidget &widget);
 };
 
+/// A window that is no dialog. Any other widget speaks as Qt lets it.
+QAccessibleInterface *makeWindow(QWidget &widget)
+{
+    return widget.isWindow() ? new QAccessibleWidget(&widget, QAccessible::Window) : nullptr;
+}
+
 constexpr Kind kinds[] = {
     {u"PressButton", make<AccessiblePressButton>},
     {u"ClickLabel", makeTool<QAccessible::PushButton>},
@@ -233,6 +241,7 @@ constexpr Kind kinds[] = {
     {u"Dropper", makePlain<QAccessible::Grouping>},
     {u"GradientPanel", makePlain<QAccessible::Grouping>},
     {u"PictureBox", [](QWidget &widget) { return static_cast<PictureBox &>(widget).makeAccessible(); }},
+    {u"QWidget", makeWindow},
 };
 
 /// Qt asks for the class of an object and then for each of its base classes.

@@ -2,10 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "widgets/picture_box.h"
 
+#include <QAccessible>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QtMath>
+
+#include <utility>
 
 namespace {
 
@@ -45,6 +48,14 @@ void PictureBox::setFrame(const QRect &around)
         if (!rect.isEmpty())
             update(rect.adjusted(-frameReach, -frameReach, frameReach, frameReach));
     frame_ = around;
+}
+
+/// Whoever has spoken for the picture so far goes: Qt keeps the first one that it was given.
+void PictureBox::setSpeaker(Speaker speaker)
+{
+    if (QAccessibleInterface *before = QAccessible::queryAccessibleInterface(this))
+        QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(before));
+    speaker_ = std::move(speaker);
 }
 
 void PictureBox::LockWindow(bool locked)

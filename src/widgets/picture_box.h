@@ -6,7 +6,6 @@
 #include <QWidget>
 
 #include <functional>
-#include <utility>
 
 class QAccessibleInterface;
 
@@ -42,7 +41,7 @@ public:
 
     /// Who speaks for the picture to a screen reader, made when one asks; nothing for the plain picture.
     using Speaker = std::function<QAccessibleInterface *()>;
-    void setSpeaker(Speaker speaker) { speaker_ = std::move(speaker); }
+    void setSpeaker(Speaker speaker);
     QAccessibleInterface *makeAccessible() const { return speaker_ ? speaker_() : nullptr; }
 
     /// Suspends (True) or resumes repainting of this surface. Not counted: one resume ends any number of

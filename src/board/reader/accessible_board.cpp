@@ -13,11 +13,7 @@ using namespace Qt::StringLiterals;
 AccessibleBoard::AccessibleBoard(BoardReader &reader)
     : QAccessibleWidget(&reader.board(), QAccessible::List)
     , reader_(reader)
-{
-    reader_.setSpeaking(this);
-}
-
-AccessibleBoard::~AccessibleBoard() { reader_.setSpeaking(nullptr); }
+{}
 
 int AccessibleBoard::childCount() const
 {

@@ -11,7 +11,6 @@ class AccessibleBoard : public QAccessibleWidget
 {
 public:
     explicit AccessibleBoard(BoardReader &reader);
-    ~AccessibleBoard() override;
 
     int childCount() const override;
     QAccessibleInterface *child(int index) const override;

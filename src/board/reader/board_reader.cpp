@@ -45,15 +45,13 @@ BoardReader::BoardReader(const MainControls &controls, Canvas &canvas, BoardFocu
     connect(controls.Dropper1, &Dropper::captionChanged, this, &BoardReader::onWord);
 }
 
-/// The board is still there, but nobody speaks for it any more.
+/// The board is still there, but nobody speaks for its tiles any more.
 BoardReader::~BoardReader()
 {
     board().setSpeaker({});
     for (const auto &[tile, known] : known_)
         QAccessible::deleteAccessibleInterface(known.id);
     known_.clear();
-    if (speaking_ != nullptr)
-        QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(speaking_));
 }
 
 PictureBox &BoardReader::board() const { return *controls_.picCanvas; }

@@ -9,7 +9,6 @@
 
 #include <unordered_map>
 
-class AccessibleBoard;
 class BoardFocus;
 class Canvas;
 class PictureBox;
@@ -43,8 +42,6 @@ public:
     void choose(const cWortel *tile);
     /// The same, and then the key as if a hand had pressed it, from the event loop.
     void press(const cWortel *tile, Qt::Key key);
-    /// What speaks for the board, from when it is made until it goes.
-    void setSpeaking(AccessibleBoard *board) { speaking_ = board; }
     /// A tile that has gone, while the reader is told so.
     bool isLeaving(const cWortel *tile) const { return tile == leaving_; }
     /// A reader has asked for all tiles: from now on it is told which come and go.
@@ -75,7 +72,6 @@ private:
     TileStore &store_;
     BoardFocus &focus_;
     std::unordered_map<const cWortel *, Known> known_;
-    AccessibleBoard *speaking_ = nullptr;
     const cWortel *leaving_ = nullptr; ///< only compared, as the next
     const cWortel *held_ = nullptr;
     QString heldName_;
