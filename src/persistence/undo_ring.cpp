@@ -36,8 +36,10 @@ void UndoRing::registerCommands(CommandRouter &router)
     };
     on(From::MainMenu, 2801, CanUndo_, &UndoRing::UndoAction);
     on(From::MainMenu, 2802, CanRedo_, &UndoRing::RedoAction);
-    on(From::Key, 9, CanUndo_, &UndoRing::UndoAction);
-    on(From::Key, 10, CanRedo_, &UndoRing::RedoAction);
+    for (const int key : {9, 26})
+        on(From::Key, key, CanUndo_, &UndoRing::UndoAction);
+    for (const int key : {10, 25})
+        on(From::Key, key, CanRedo_, &UndoRing::RedoAction);
 }
 
 bool UndoRing::isOn() const { return ground_.options.storedIsOn(Setting::UseUndo); }

@@ -69,6 +69,7 @@ signals:
 protected:
     void resizeEvent(QResizeEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
     void changeEvent(QEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
@@ -83,6 +84,7 @@ private:
     void Form_QueryUnload();
     void Form_Unload();
     void closeBoxes();
+    void closeOnTop();
     void UpdateCaption();
     void loadKept();
     void wire();

@@ -88,7 +88,8 @@ bool Dropper::eventFilter(QObject *watched, QEvent *event)
     } else if (event->type() == QEvent::KeyPress) {
         const auto *key = static_cast<QKeyEvent *>(event);
         if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) {
-            emit EnterPress();
+            if (!key->isAutoRepeat()) // a key that is held checks once
+                emit EnterPress();
             return true;
         }
         const bool leaves = key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab;

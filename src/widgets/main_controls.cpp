@@ -305,6 +305,26 @@ void dress(const ControlRow &row, QWidget *widget)
     }
 }
 
+/// The Tab key goes over the window as the eye does: the board, what lies open on it, then the band, panel by
+/// panel.
+void orderForKeys(const C &c)
+{
+    QWidget *last = c.picCanvas;
+    const auto next = [&last](QWidget *widget) {
+        QWidget::setTabOrder(last, widget);
+        last = widget;
+    };
+    for (QWidget *open : {static_cast<QWidget *>(c.Label5), static_cast<QWidget *>(c.PrefixList),
+                          static_cast<QWidget *>(c.WortelList), static_cast<QWidget *>(c.SuffixList),
+                          static_cast<QWidget *>(c.Text2), static_cast<QWidget *>(c.LexiconList),
+                          static_cast<QWidget *>(c.CorrectWordList)})
+        next(open);
+    for (const ControlRow &row : bandRows)
+        if (row.get(c)->focusPolicy() != Qt::NoFocus || row.get(c) == c.Dropper1)
+            next(row.get(c));
+    next(c.Label2);
+}
+
 } // namespace
 
 MainControls makeMainControls(QWidget *form)
@@ -323,6 +343,7 @@ MainControls makeMainControls(QWidget *form)
     makeLists(c);
     for (const ControlRow &row : bandRows)
         dress(row, row.get(c));
+    orderForKeys(c);
     return c;
 }
 

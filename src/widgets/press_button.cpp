@@ -4,6 +4,7 @@
 
 #include "widgets/colour.h"
 #include "widgets/finger.h"
+#include "widgets/press_keys.h"
 
 #include <QLinearGradient>
 #include <QMouseEvent>
@@ -13,6 +14,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 
 namespace {
 
@@ -41,7 +43,7 @@ PressButton::PressButton(QWidget *parent)
     : QToolButton(parent)
     , longPress_(new QTimer(this))
 {
-    setFocusPolicy(Qt::NoFocus);
+    setFocusPolicy(Qt::TabFocus);
     setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     setAttribute(Qt::WA_Hover);
     longPress_->setSingleShot(true);
@@ -126,11 +128,8 @@ void PressButton::paintFace(QPainter &painter, const Look &look) const
         painter.setPen(QPen(QColor(255, 255, 255, 220), 1.5));
         painter.drawRoundedRect(look.face.adjusted(2, 2, -2, -2), cornerRadius - 2, cornerRadius - 2);
     }
-    if (hasFocus()) { // only in a window whose buttons take it
-        painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(look.checked ? look.text : paint::activeFrame, 1.5, Qt::DotLine));
-        painter.drawRoundedRect(look.face.adjusted(4, 4, -4, -4), cornerRadius - 3, cornerRadius - 3);
-    }
+    if (hasFocus())
+        paintKeyFrame(painter, look.face.adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius);
 }
 
 void PressButton::paintContent(QPainter &painter, const Look &look) const
@@ -166,6 +165,27 @@ void PressButton::paintContent(QPainter &painter, const Look &look) const
         painter.drawText(textRect, side | Qt::AlignVCenter | Qt::TextShowMnemonic, text());
     }
 }
+
+/// A button of several that exclude each other would take the Tab key from the others here.
+void PressButton::focusInEvent(QFocusEvent *event) { QWidget::focusInEvent(event); }
+
+void PressButton::keyPressEvent(QKeyEvent *event)
+{
+    const std::optional<Qt::MouseButton> button = buttonOfKey(*event);
+    if (!button) {
+        event->ignore(); // arrows, too: they are the board's or the window's
+        return;
+    }
+    if (event->isAutoRepeat())
+        return;
+    const QPointer<PressButton> self(this);
+    if (button == Qt::LeftButton)
+        click();
+    if (self)
+        emit mouseDown(*button, event->modifiers());
+}
+
+void PressButton::keyReleaseEvent(QKeyEvent *event) { event->ignore(); }
 
 void PressButton::mousePressEvent(QMouseEvent *event)
 {

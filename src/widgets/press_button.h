@@ -7,8 +7,9 @@
 class QTimer;
 
 /// A tool of the lower band: a push, check or option button with an icon or a short text that tells left from
-/// right presses, because most tools do two things. A long press with a finger is the right button. It never
-/// takes the keyboard focus, so the keyboard stays with the board.
+/// right presses, because most tools do two things. A long press with a finger is the right button. A press
+/// never takes the keyboard focus, only the Tab key gives it: then blank and Enter are the left press, and
+/// the menu key is the right one.
 class PressButton : public QToolButton
 {
     Q_OBJECT
@@ -34,6 +35,9 @@ signals:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
 

@@ -157,12 +157,12 @@ void Canvas::eraseTile(Procedure &step, int index)
     step([&] { ground_.pump.yield(); });
 }
 
-void Canvas::CanvasEraseWortel(int x, int y, std::optional<Colour> kind)
+void Canvas::CanvasEraseWortel(QPoint place, const QString &text, Colour kind)
 {
     Procedure step{ground_.log, "CanvasEraseWortel", form};
     const TileList &tiles = store_.tiles();
     const auto hit = std::find_if(tiles.begin(), tiles.end(), [&](const auto &tile) {
-        return tile->Inside(x, y) && (!kind || tile->BGColor == *kind);
+        return QPoint(tile->xLeft(), tile->yTop()) == place && tile->BGColor == kind && tile->txt == text;
     });
     if (hit != tiles.end())
         eraseTile(step, static_cast<int>(hit - tiles.begin()));

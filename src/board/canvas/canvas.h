@@ -8,8 +8,6 @@
 #include <QObject>
 #include <QPoint>
 
-#include <optional>
-
 class ControlSheet;
 class OptTypes;
 class Procedure;
@@ -44,9 +42,9 @@ public:
     void drawShown(TileSurface &paper) const;
     /// Draws every tile black on white on another surface.
     void DrawMonoChrome(TileSurface &paper) const;
-    /// Removes the first tile with `Inside(x, y)`, or the first of the kind with that back colour. The kind's
-    /// own counter stays: the callers lower it.
-    void CanvasEraseWortel(int x, int y, std::optional<Colour> kind = {});
+    /// Removes the tile of that kind and text whose corner lies at `place`. The kind's own counter stays: the
+    /// callers lower it.
+    void CanvasEraseWortel(QPoint place, const QString &text, Colour kind);
     /// Removes all tiles of that back colour; serves all three kinds despite its name.
     void CanvasEraseAllAffix(Colour colour);
     /// Gives the tile of that kind whose corner lies at `place` a new text. It moves to the top of the

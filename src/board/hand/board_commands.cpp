@@ -86,7 +86,7 @@ Ending BoardCommands::removeTile(const Press &press)
                      ground_.options.isOn(Setting::ConfirmBeforeErase), u"Entfernen"_s, press.kind->box))
         return Ending::RecallOnly;
     store_.counters().add(press.kind->filterIndex, -1, true);
-    rooms_.canvas.CanvasEraseWortel(press.point.x(), press.point.y(), press.kind->back);
+    rooms_.canvas.CanvasEraseWortel(press.place, press.text, press.kind->back);
     return Ending::Whole;
 }
 

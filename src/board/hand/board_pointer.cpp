@@ -4,6 +4,7 @@
 
 #include "board/canvas/canvas.h"
 #include "board/hand/board_commands.h"
+#include "board/hand/board_focus.h"
 #include "board/hand/command_router.h"
 #include "board/hand/popup_menu.h"
 #include "board/tiles/board_news.h"
@@ -131,6 +132,7 @@ void BoardPointer::picCanvas_MouseDown(Qt::MouseButton button, Qt::KeyboardModif
 void BoardPointer::leftPress(Qt::KeyboardModifiers shift, const QPoint &point)
 {
     tileMoved_ = rooms_.canvas.CanvasSelectWortel(point.x(), point.y());
+    rooms_.focus.choose(tileMoved_ ? store_.current() : nullptr);
     if (tileMoved_)
         return;
     store_.setCurrent(nullptr);
@@ -156,7 +158,7 @@ void BoardPointer::rightPress(Qt::KeyboardModifiers shift, const QPoint &point)
 {
     const Press press = rooms_.router.pressAt(point);
     if (shift == Qt::NoModifier) {
-        showMenu(press);
+        showMenu(press, controls_.picCanvas->mapToGlobal(point));
     } else if (shift == Qt::ShiftModifier) {
         ground_.log.WriteLog(QStringLiteral("Rightclick + shift: Duplicate object"));
         rooms_.commands.duplicateAt(press);
@@ -166,10 +168,10 @@ void BoardPointer::rightPress(Qt::KeyboardModifiers shift, const QPoint &point)
     }
 }
 
-void BoardPointer::showMenu(const Press &press)
+void BoardPointer::showMenu(const Press &press, const QPoint &corner)
 {
     const MenuName name = menuOf(press.kind);
-    const int index = rooms_.popup.ShowPopupMenu(name, controls_.picCanvas->mapToGlobal(press.point));
+    const int index = rooms_.popup.ShowPopupMenu(name, corner);
     if (index <= 0 || ground_.gate.isClosing())
         return;
     const int id = rooms_.popup.model().ItemKey(name, index);
@@ -178,6 +180,14 @@ void BoardPointer::showMenu(const Press &press)
 
 // Moving
 // ------------------------------------------------------------------------------------------------------------
+
+QPoint BoardPointer::farthest() const
+{
+    const BoardMeasures &window = store_.measures();
+    // Under the band a tile could never be taken again, so it ends above it, however high the band is.
+    return {window.ScaleWidth() - rightMargin,
+            std::min(window.ScaleHeight() - lowerMargin, window.BandTop() - Canvas::heldHeight)};
+}
 
 void BoardPointer::picCanvas_MouseMove(Qt::MouseButtons buttons, const QPoint &point)
 {
@@ -189,12 +199,10 @@ void BoardPointer::picCanvas_MouseMove(Qt::MouseButtons buttons, const QPoint &p
     }
     const int x = std::max(0, point.x());
     const int y = std::max(0, point.y());
-    const BoardMeasures &window = store_.measures();
+    const QPoint last = farthest();
     FloatingTile &held = *controls_.BtnMove1;
-    // Under the band a tile could never be taken again, so it ends above it, however high the band is.
-    const int lowest = std::min(window.ScaleHeight() - lowerMargin, window.BandTop() - held.height());
     cWortel *tile = store_.current();
-    if (tile == nullptr || x > window.ScaleWidth() - rightMargin || y > lowest)
+    if (tile == nullptr || x > last.x() || y > last.y())
         return;
     if (ground_.options.isOn(Setting::MoveableInFilter) && !store_.filter().shows(tile->BGColor))
         return;
@@ -249,9 +257,18 @@ void BoardPointer::letGo()
 void BoardPointer::Dropper1_DragDrop()
 {
     Procedure step{ground_.log, "Dropper1_DragDrop", form};
+    step([&] { controls_.Dropper1->UnHighlight(); });
+    step([&] { putIntoWord(controls_.BtnMove1->Caption()); });
+    step([&] { controls_.Dropper1->takeFocus(); });
+}
+
+void BoardPointer::putIntoWord(const QString &text)
+{
     Dropper &field = *controls_.Dropper1;
-    step([&] { field.UnHighlight(); });
-    step([&] { field.setCaption(Trim(field.Caption()) + Trim(controls_.BtnMove1->Caption())); });
+    if (!field.isEnabled() || field.isHidden())
+        return;
+    Procedure step{ground_.log, "putIntoWord", form, Procedure::Silent};
+    step([&] { field.setCaption(Trim(field.Caption()) + Trim(text)); });
     rooms_.canvas.setWordCheckDrag(false);
     step([&] { ground_.pump.yield(); });
     step([&] { playSound(ground_, SoundId::TileDropped); });

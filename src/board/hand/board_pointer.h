@@ -10,6 +10,7 @@
 #include <QTimer>
 
 class BoardCommands;
+class BoardFocus;
 class BoardNews;
 class Canvas;
 class CommandRouter;
@@ -40,6 +41,7 @@ public:
         BoardCommands &commands;
         PopupMenu &popup;
         BoardNews &news;
+        BoardFocus &focus;
     };
 
     /// Listens to `picCanvas` from now on.
@@ -50,8 +52,14 @@ public:
     void picCanvas_MouseMove(Qt::MouseButtons buttons, const QPoint &point);
     void picCanvas_MouseUp(Qt::MouseButton button, const QPoint &point);
 
-    /// Joins the held tile's text to the word in the field.
+    /// Joins the held tile's text to the word in the field, which gets the keyboard, so that Enter checks it.
     void Dropper1_DragDrop();
+    /// Joins a text to the word in the field, unless that takes none.
+    void putIntoWord(const QString &text);
+    /// Shows the menu of what was pressed, with its corner at a point of the screen, and does what is chosen.
+    void showMenu(const Press &press, const QPoint &corner);
+    /// The last place to the right and below that a tile can be moved to.
+    QPoint farthest() const;
     /// What follows a drop: the board is drawn anew and the filter comes back.
     void DoOnDrop();
 
@@ -71,7 +79,6 @@ private:
     void leftPress(Qt::KeyboardModifiers shift, const QPoint &point);
     void rightPress(Qt::KeyboardModifiers shift, const QPoint &point);
     void insertByShift(Qt::KeyboardModifiers shift, const QPoint &point);
-    void showMenu(const Press &press);
 
     Ground &ground_;
     const MainControls &controls_;

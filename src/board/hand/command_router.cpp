@@ -71,7 +71,8 @@ int CommandRouter::selectedFilter() const { return canvas_.store().filter().sele
 void CommandRouter::run(From from, int id, const Press &press, int itemIndex)
 {
     const Command *found = command::find(from, id);
-    if (found == nullptr || ((found->flags & command::NotInGame) != 0 && play_.GameActive()))
+    if (found == nullptr || ((found->flags & command::NotInGame) != 0 && play_.GameActive()) ||
+        ((found->flags & command::NotInRetype) != 0 && play_.RetypeActive()))
         return;
     const Command &command = *found;
     const auto handler = handlers_.find({from, id});

@@ -89,9 +89,7 @@ void MorphemeLists::ToggleAllMorphemeLists()
 {
     Procedure step{ground_.log, "ToggleAllMorphemeLists", "frmMain"};
     step([&] {
-        bool anyOpen = false;
-        for (int i = 0; i < allLists; ++i)
-            anyOpen = anyOpen || !list(i)->isHidden();
+        const bool anyOpen = isAnyOpen();
         for (int i = 0; i < allLists; ++i)
             list(i)->setVisible(!anyOpen);
         placeOpen();
@@ -104,4 +102,12 @@ void MorphemeLists::hideAll()
 {
     for (int i = 0; i < allLists; ++i)
         list(i)->hide();
+}
+
+bool MorphemeLists::isAnyOpen() const
+{
+    bool anyOpen = false;
+    for (int i = 0; i < allLists; ++i)
+        anyOpen = anyOpen || !list(i)->isHidden();
+    return anyOpen;
 }

@@ -22,6 +22,7 @@ public:
     /// If any list is open all are closed, else all are opened.
     void ToggleAllMorphemeLists();
     void hideAll();
+    bool isAnyOpen() const;
 
 signals:
     /// A left press on a filter button: the menus are to be made anew.

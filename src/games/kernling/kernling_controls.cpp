@@ -9,6 +9,7 @@
 #include "platform/text_masks.h"
 #include "widgets/click_label.h"
 #include "widgets/gradient.h"
+#include "widgets/key_order.h"
 #include "widgets/press_button.h"
 #include "widgets/progress_bar.h"
 #include "widgets/store_list.h"
@@ -411,6 +412,7 @@ KernlingControls makeKernlingControls(QWidget *form)
     auto *whole = new QHBoxLayout(form);
     whole->setContentsMargins(0, 0, 0, 0);
     whole->addWidget(c.panels);
+    orderForKeys(whole);
     return c;
 }
 
