@@ -3,18 +3,14 @@
 #include "e2e/reader_bus.h"
 
 #include <QDBusArgument>
-#include <QDBusReply>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr uint alertRole = 2;
-constexpr uint notificationRole = 101;
-
-const QString accessible = u"org.a11y.atspi.Accessible"_s;
-const QString action = u"org.a11y.atspi.Action"_s;
+constexpr int wait = 8000; ///< milliseconds
+const QStringList spokenRoles{u"alert"_s, u"notification"_s};
 const QString registry = u"org.a11y.atspi.Registry"_s;
 
 } // namespace
@@ -23,116 +19,67 @@ ReaderBus::~ReaderBus()
 {
     QDBusConnection::disconnectFromBus(u"reader"_s);
     QDBusConnection::disconnectFromBus(u"session"_s);
-    daemon_.kill();
+    daemon_.terminate();
     daemon_.waitForFinished(3000);
 }
 
 bool ReaderBus::start(const QProcessEnvironment &environment)
 {
     daemon_.setProcessEnvironment(environment);
-    daemon_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     daemon_.start(u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address=1"_s});
-    if (!daemon_.waitForStarted() || !daemon_.waitForReadyRead(5000))
+    if (!daemon_.waitForStarted() || !daemon_.waitForReadyRead(wait))
         return false;
     address_ = QString::fromLatin1(daemon_.readLine().trimmed());
-    QDBusConnection session = QDBusConnection::connectToBus(address_, u"session"_s);
-    const QDBusReply<QString> own =
-        session.call(QDBusMessage::createMethodCall(u"org.a11y.Bus"_s, u"/org/a11y/bus"_s, u"org.a11y.Bus"_s,
-                                                    u"GetAddress"_s),
-                     QDBus::Block, 10000);
-    if (!own.isValid())
-        return false;
-    bus_ = QDBusConnection::connectToBus(own.value(), u"reader"_s);
+    bus_ = QDBusConnection::connectToBus(address_, u"session"_s);
+    const QVariant own = ask({u"org.a11y.Bus"_s, u"/org/a11y/bus"_s}, u"GetAddress"_s, {}, u"org.a11y.Bus"_s);
+    bus_ = QDBusConnection::connectToBus(own.toString(), u"reader"_s);
     for (const QString &event : {u"object:state-changed:focused"_s, u"object:state-changed:showing"_s})
-        call({registry, u"/org/a11y/atspi/registry"_s}, registry, u"RegisterEvent"_s, {event});
+        ask({registry, u"/org/a11y/atspi/registry"_s}, u"RegisterEvent"_s, {event}, registry);
     return bus_.connect(QString(), QString(), u"org.a11y.atspi.Event.Object"_s, u"StateChanged"_s, this,
                         SLOT(onState(QDBusMessage)));
 }
 
-// Hearing ------------------------------------------------------------------------------------------
-
 void ReaderBus::onState(const QDBusMessage &message)
 {
-    const QString state = message.arguments().value(0).toString();
+    const Node node{message.service(), message.path()};
     if (message.arguments().value(1).toInt() == 0)
         return;
-    const Node node{message.service(), message.path()};
-    if (state == u"focused") {
+    if (message.arguments().first() == u"focused"_s)
         focused_ << name(node);
-    } else if (state == u"showing") {
-        const QDBusReply<uint> role = call(node, accessible, u"GetRole"_s);
-        if (role.value() == notificationRole || role.value() == alertRole)
-            alerts_ << name(node);
-    }
+    else if (spokenRoles.contains(ask(node, u"GetRoleName"_s).toString()))
+        alerts_ << name(node);
 }
 
-void ReaderBus::forget()
+bool ReaderBus::hears(const QString &text)
 {
+    const bool heard = QTest::qWaitFor([&] { return alerts_.contains(text); }, wait);
+    if (!heard)
+        qWarning("not said: %s, but: %s", qPrintable(text), qPrintable(alerts_.join(u'|')));
     alerts_.clear();
-    focused_.clear();
+    return heard;
 }
 
-bool ReaderBus::hears(const QString &text, int milliseconds)
+QString ReaderBus::nextFocus()
 {
-    return QTest::qWaitFor([&] { return alerts_.contains(text); }, milliseconds);
+    QTest::qWaitFor([&] { return !focused_.isEmpty(); }, wait);
+    return std::exchange(focused_, {}).value(0);
 }
 
-QString ReaderBus::nextFocus(int milliseconds)
-{
-    QTest::qWaitFor([&] { return !focused_.isEmpty(); }, milliseconds);
-    const QString last = focused_.isEmpty() ? QString() : focused_.last();
-    focused_.clear();
-    return last;
-}
-
-// Looking and pressing -----------------------------------------------------------------------------
-
-QDBusMessage ReaderBus::call(const Node &node, const QString &interface, const QString &method,
-                             const QVariantList &arguments)
+QVariant ReaderBus::ask(const Node &node, const QString &method, const QVariantList &arguments,
+                        const QString &interface)
 {
     QDBusMessage message = QDBusMessage::createMethodCall(node.service, node.path, interface, method);
     message.setArguments(arguments);
-    return bus_.call(message, QDBus::Block, 5000);
+    return bus_.call(message, QDBus::Block, wait).arguments().value(0);
 }
 
-QVariant ReaderBus::property(const Node &node, const QString &interface, const QString &name)
+QString ReaderBus::name(const Node &node)
 {
-    const QDBusMessage answer = call(node, u"org.freedesktop.DBus.Properties"_s, u"Get"_s, {interface, name});
-    return answer.arguments().value(0).value<QDBusVariant>().variant();
-}
-
-QString ReaderBus::name(const Node &node) { return property(node, accessible, u"Name"_s).toString(); }
-
-QList<ReaderBus::Node> ReaderBus::children(const Node &node)
-{
-    QList<Node> found;
-    const QDBusMessage answer = call(node, accessible, u"GetChildren"_s);
-    if (answer.type() != QDBusMessage::ReplyMessage)
-        return found;
-    const auto list = answer.arguments().value(0).value<QDBusArgument>();
-    list.beginArray();
-    while (!list.atEnd()) {
-        Node child;
-        QDBusObjectPath path;
-        list.beginStructure();
-        list >> child.service >> path;
-        list.endStructure();
-        child.path = path.path();
-        found << child;
-    }
-    list.endArray();
-    return found;
-}
-
-ReaderBus::Node ReaderBus::findBelow(const Node &node, const QString &name)
-{
-    for (const Node &child : children(node)) {
-        if (this->name(child) == name)
-            return child;
-        if (const Node below = findBelow(child, name); below.isValid())
-            return below;
-    }
-    return {};
+    return ask(node, u"Get"_s, {u"org.a11y.atspi.Accessible"_s, u"Name"_s},
+               u"org.freedesktop.DBus.Properties"_s)
+        .value<QDBusVariant>()
+        .variant()
+        .toString();
 }
 
 ReaderBus::Node ReaderBus::find(const QString &name)
@@ -140,17 +87,27 @@ ReaderBus::Node ReaderBus::find(const QString &name)
     return findBelow({registry, u"/org/a11y/atspi/accessible/root"_s}, name);
 }
 
-QStringList ReaderBus::actions(const Node &node)
+ReaderBus::Node ReaderBus::findBelow(const Node &node, const QString &name)
 {
-    QStringList names;
-    const int count = property(node, action, u"NActions"_s).toInt();
-    for (int i = 0; i < count; ++i)
-        names << QDBusReply<QString>(call(node, action, u"GetName"_s, {i})).value();
-    return names;
+    if (this->name(node) == name)
+        return node;
+    const auto children = ask(node, u"GetChildren"_s).value<QDBusArgument>();
+    if (children.currentType() != QDBusArgument::ArrayType)
+        return {};
+    Node found;
+    for (children.beginArray(); !children.atEnd() && found.path.isEmpty();) {
+        Node child;
+        QDBusObjectPath path;
+        children.beginStructure();
+        children >> child.service >> path;
+        children.endStructure();
+        child.path = path.path();
+        found = findBelow(child, name);
+    }
+    return found;
 }
 
-bool ReaderBus::act(const Node &node, const QString &action)
+bool ReaderBus::press(const Node &node)
 {
-    const auto index = static_cast<int>(actions(node).indexOf(action));
-    return index >= 0 && QDBusReply<bool>(call(node, ::action, u"DoAction"_s, {index})).value();
+    return ask(node, u"DoAction"_s, {0}, u"org.a11y.atspi.Action"_s).toBool();
 }

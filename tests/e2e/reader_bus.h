@@ -4,9 +4,7 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
-#include <QObject>
 #include <QProcess>
-#include <QStringList>
 
 /// A screen reader on an accessibility bus of its own: it hears what programs tell, and looks into their
 /// trees and presses what it finds there. Every wait has an end.
@@ -15,12 +13,10 @@ class ReaderBus : public QObject
     Q_OBJECT
 
 public:
-    /// A node of a program's tree.
+    /// A node of a program's tree; without a path none.
     struct Node
     {
-        QString service;
-        QString path;
-        bool isValid() const { return !path.isEmpty(); }
+        QString service, path;
     };
 
     ~ReaderBus() override;
@@ -30,32 +26,26 @@ public:
     QString address() const { return address_; }
 
     /// Waits until `text` is spoken as an alert.
-    bool hears(const QString &text, int milliseconds = 8000);
+    bool hears(const QString &text);
     /// Waits for the name of what gets the keyboard next, or returns nothing.
-    QString nextFocus(int milliseconds = 3000);
-    void forget();
-    QStringList alerts() const { return alerts_; }
+    QString nextFocus();
 
-    /// The first node of that name below the programs, whatever their order.
+    /// The first node of that name in the programs' trees.
     Node find(const QString &name);
-    QString name(const Node &node);
-    QStringList actions(const Node &node);
-    /// Does the action of that name. False if there is none.
-    bool act(const Node &node, const QString &action);
+    /// Does a node's first action, its press. False if it has none.
+    bool press(const Node &node);
 
 private slots:
     void onState(const QDBusMessage &message);
 
 private:
-    QVariant property(const Node &node, const QString &interface, const QString &name);
-    QDBusMessage call(const Node &node, const QString &interface, const QString &method,
-                      const QVariantList &arguments = {});
-    QList<Node> children(const Node &node);
+    QVariant ask(const Node &node, const QString &method, const QVariantList &arguments = {},
+                 const QString &interface = QStringLiteral("org.a11y.atspi.Accessible"));
+    QString name(const Node &node);
     Node findBelow(const Node &node, const QString &name);
 
     QProcess daemon_;
     QString address_;
     QDBusConnection bus_{QString()};
-    QStringList alerts_;
-    QStringList focused_;
+    QStringList alerts_, focused_;
 };

@@ -29,38 +29,29 @@ private slots:
         desktop_->setVariable(u"QT_LINUX_ACCESSIBILITY_ALWAYS_ON"_s, u"1"_s);
         desktop_->start({desktop_->writeFile(u"brett.wlx"_s, knownBoard())});
         QVERIFY(!desktop_->waitForWindow(mainWindow).isEmpty());
-        QVERIFY(QTest::qWaitFor([this] { return bus_.find(u"lauf, Wortel"_s).isValid(); }, 10000));
+        QVERIFY(QTest::qWaitFor([this] { return !bus_.find(u"lauf, Wortel"_s).path.isEmpty(); }, 10000));
     }
 
     void byKeysAlone()
     {
-        bus_.forget();
         QVERIFY(goesTo(u"lauf, Wortel"_s));
         desktop_->key(u"Return"_s);
-        QVERIFY2(bus_.hears(u"Wort: lauf"_s), heard());
+        QVERIFY(bus_.hears(u"Wort: lauf"_s));
         QVERIFY(goesTo(u"en, Suffix"_s));
         desktop_->key(u"Return"_s);
-        QVERIFY2(bus_.hears(u"Wort: laufen"_s), heard());
+        QVERIFY(bus_.hears(u"Wort: laufen"_s));
         desktop_->key(u"F6 Return"_s); // in the word field: the check
-        QVERIFY2(bus_.hears(u"Richtig ! Das gesuchte Wort \"laufen\" ist richtig."_s), heard());
+        QVERIFY(bus_.hears(u"Richtig ! Das gesuchte Wort \"laufen\" ist richtig."_s));
     }
 
     void byTheReadersPresses()
     {
-        bus_.forget();
-        const ReaderBus::Node check = bus_.find(u"Wortkontrolle"_s);
-        QVERIFY(QTest::qWaitFor([&] { return bus_.actions(check).contains(u"Press"_s); }, 8000));
-        QVERIFY(bus_.act(bus_.find(u"mach, Wortel"_s), u"Press"_s));
-        QVERIFY2(bus_.hears(u"Wort: mach"_s), heard());
-        QVERIFY(bus_.act(check, u"Press"_s));
-        QVERIFY2(bus_.hears(u"Wort nicht gefunden Das gesuchte Wort \"mach\" steht nicht im Wörterbuch."_s),
-                 heard());
-    }
-
-    void cleanupTestCase()
-    {
-        desktop_->kill();
-        desktop_.reset();
+        desktop_->key(u"F6"_s);
+        QVERIFY(bus_.press(bus_.find(u"mach, Wortel"_s)));
+        QVERIFY(bus_.hears(u"Wort: mach"_s));
+        Desktop::pause(3000); // tools rest until the report has gone
+        QVERIFY(bus_.press(bus_.find(u"Wortkontrolle"_s)));
+        QVERIFY(bus_.hears(u"Wort nicht gefunden Das gesuchte Wort \"mach\" steht nicht im Wörterbuch."_s));
     }
 
 private:
@@ -78,15 +69,8 @@ private:
         return false;
     }
 
-    const char *heard()
-    {
-        last_ = bus_.alerts().join(u'|').toUtf8();
-        return last_.constData();
-    }
-
     std::unique_ptr<Desktop> desktop_;
     ReaderBus bus_;
-    QByteArray last_;
 };
 WORTEL_TEST(BlindChildTest)
 #include "tst_blind_child.moc"

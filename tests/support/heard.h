@@ -3,17 +3,17 @@
 #pragma once
 
 #include <QAccessible>
-#include <QRegularExpression>
+#include <QHash>
 #include <QStringList>
 
-/// A screen reader for as long as this lives: what the program tells it, one line an event.
+/// A screen reader for as long as this lives: what the program tells it, the names by the kind of event.
 class Heard
 {
 public:
     Heard()
         : before_(QAccessible::installUpdateHandler(&Heard::note))
     {
-        lines().clear();
+        names().clear();
         QAccessible::setActive(true);
     }
     ~Heard()
@@ -21,38 +21,17 @@ public:
         QAccessible::setActive(false);
         QAccessible::installUpdateHandler(before_);
     }
-    Heard(const Heard &) = delete;
-    Heard &operator=(const Heard &) = delete;
-
-    /// The lines of that kind since the last call.
-    static QStringList take(const QString &kind)
+    static QHash<QAccessible::Event, QStringList> &names()
     {
-        const QStringList found = lines().filter(QRegularExpression(QStringLiteral("^%1: ").arg(kind)));
-        lines().clear();
-        return QStringList(found).replaceInStrings(kind + QStringLiteral(": "), QString());
-    }
-    static QStringList alerts() { return take(QStringLiteral("alert")); }
-
-private:
-    static QStringList &lines()
-    {
-        static QStringList all;
+        static QHash<QAccessible::Event, QStringList> all;
         return all;
     }
 
+private:
     static void note(QAccessibleEvent *event)
     {
-        QAccessibleInterface *about = event->accessibleInterface();
-        const char *kind = event->type() == QAccessible::Alert             ? "alert"
-                           : event->type() == QAccessible::Focus           ? "focus"
-                           : event->type() == QAccessible::ObjectDestroyed ? "gone"
-                           : event->type() == QAccessible::ObjectCreated   ? "new"
-                           : event->type() == QAccessible::NameChanged     ? "name"
-                           : event->type() == QAccessible::ValueChanged    ? "value"
-                           : event->type() == QAccessible::StateChanged    ? "state"
-                                                                           : nullptr;
-        if (kind != nullptr && about != nullptr)
-            lines() << QLatin1String(kind) + QStringLiteral(": ") + about->text(QAccessible::Name);
+        if (const QAccessibleInterface *about = event->accessibleInterface())
+            names()[event->type()] << about->text(QAccessible::Name);
     }
 
     QAccessible::UpdateHandler before_;

@@ -6,13 +6,14 @@
 
 #include <QtTest>
 
-#include <functional>
-
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The house in front of a child that sees with a reader: "ver" above on the left, "fahr" and "halt" below.
+const QString press = QAccessibleActionInterface::pressAction();
+const QString menu = QAccessibleActionInterface::showMenuAction();
+
+/// The house in front of a child that hears: "ver" above on the left, "fahr" in the middle, "halt" below.
 struct ReadHouse : TestHouse
 {
     const MainControls &c = controls;
@@ -28,194 +29,116 @@ struct ReadHouse : TestHouse
         r.canvas.repaint();
         c.picCanvas->setFocus();
         settle();
+        read();
+        Heard::names().clear();
     }
-
     QAccessibleInterface *board() const { return QAccessible::queryAccessibleInterface(c.picCanvas); }
-    QAccessibleInterface *tile(const QString &text) const
-    {
-        for (int i = 0; i < board()->childCount(); ++i)
-            if (board()->child(i)->text(QAccessible::Name).startsWith(text + u','))
-                return board()->child(i);
-        return nullptr;
-    }
     /// The tiles as they are read, in order.
-    QStringList read() const
+    QList<QAccessibleInterface *> tiles() const
+    {
+        QList<QAccessibleInterface *> found;
+        for (int i = 0; i < board()->childCount(); ++i)
+            if (board()->child(i)->role() == QAccessible::ListItem &&
+                board()->indexOfChild(board()->child(i)) == i)
+                found << board()->child(i);
+        return found;
+    }
+    QString read() const
     {
         QStringList names;
-        for (int i = 0; i < board()->childCount(); ++i)
-            if (QAccessibleInterface *child = board()->child(i); child->role() == QAccessible::ListItem)
-                names << child->text(QAccessible::Name);
-        return names;
+        for (const QAccessibleInterface *tile : tiles())
+            names << tile->text(QAccessible::Name) + u" "_s + tile->text(QAccessible::Description);
+        return names.join(u'|');
     }
-    void act(const QString &text, const QString &action)
+    QString heardOf(QAccessible::Event event) const
     {
-        tile(text)->actionInterface()->doAction(action);
         settle();
+        return Heard::names().value(event).join(u'|');
     }
-    QStringList heardOf(const char *kind, const std::function<void(ReadHouse &)> &act)
+    QString afterAction(int tile, const QString &action)
     {
-        Heard::take({});
-        act(*this);
+        tiles().at(tile)->actionInterface()->doAction(action);
         settle();
-        return Heard::take(QLatin1String(kind));
+        return c.Dropper1->Caption() + (menu.shown > 0 ? u"menu"_s : QString());
+    }
+    void drop()
+    {
+        press({310, 210});
+        drag({60, 300});
+        release({60, 300});
+    }
+    void clear()
+    {
+        r.store.replaceAll({});
+        r.canvas.repaint();
+    }
+    bool isHeld() { return press({310, 210}), tiles().at(1)->state().selected; }
+    QString inAWork()
+    {
+        const Work work(t.ground, {WorkPlan::Cancel, 1});
+        return afterAction(1, ::press);
     }
 };
 
-using Act = std::function<void(ReadHouse &)>;
+struct Row
+{
+    const char *name;
+    QString (*act)(ReadHouse &);
+    QString expected;
+};
+
+// clang-format off
+#define ACT(...) [](ReadHouse &h) -> QString { return __VA_ARGS__; }
+const Row rows[] = {
+    {"all", ACT(h.read()), u"ver, Präfix oben links|fahr, Wortel in der Mitte|halt, Wortel unten rechts"_s},
+    {"filter", ACT(h.r.optTypes.select(1), h.read()), u"ver, Präfix oben links"_s},
+    {"empty filter", ACT(h.r.optTypes.select(2), h.read()), {}},
+    {"empty board", ACT(h.clear(), h.read()), {}},
+    {"changed", ACT(h.r.canvas.EditObject({300, 200}, u"bahn"_s, wortelKind.back), h.read().section(u'|', 1)), u"halt, Wortel unten rechts|bahn, Wortel in der Mitte"_s},
+    {"no text", ACT(h.lay(suffixKind, 9, 9, u" \n"_s), h.read().section(u'|', 3)), u"leer, Suffix oben links"_s},
+    {"hit", ACT(h.board()->childAt(h.tiles().at(1)->rect().center().x(), h.tiles().at(1)->rect().center().y())->text(QAccessible::Name)), u"fahr, Wortel"_s},
+
+    {"press", ACT(h.afterAction(1, press)), u"fahr"_s},
+    {"press behind a prefix", ACT(h.afterAction(0, press), h.afterAction(1, press)), u"verfahr"_s},
+    {"menu", ACT(h.afterAction(1, menu)), u"menu"_s},
+    {"focus", ACT(h.afterAction(1, QAccessibleActionInterface::setFocusAction()), QString::number(h.tiles().at(1)->state().focused)), u"1"_s},
+    {"press in a work", ACT(h.inAWork()), {}},
+
+    {"picked up", ACT(h.press({310, 210}), h.heardOf(QAccessible::Alert)), u"Aufgenommen: fahr, Wortel"_s},
+    {"held", ACT(QString::number(h.isHeld())), u"1"_s},
+    {"dropped", ACT(h.drop(), h.heardOf(QAccessible::Alert).section(u'|', 1)), u"Abgelegt: fahr, Wortel, links in der Mitte"_s},
+    {"state", ACT(h.drop(), h.heardOf(QAccessible::StateChanged)), u"fahr, Wortel|fahr, Wortel"_s},
+    {"gone in the hand", ACT(h.press({310, 210}), h.clear(), h.heardOf(QAccessible::Alert)), u"Aufgenommen: fahr, Wortel"_s},
+    {"keys", ACT(h.r.focus.go(BoardFocus::Go::First), h.heardOf(QAccessible::Focus)), u"ver, Präfix"_s},
+    {"word", ACT(h.c.Dropper1->setCaption(u"Haus"_s), h.heardOf(QAccessible::Alert)), u"Wort: Haus"_s},
+    {"counter", ACT(h.r.optTypes.set(0, 7), h.heardOf(QAccessible::NameChanged)), u"7 Wortel"_s},
+    {"bar", ACT(h.c.GameProgress->setMaximum(2), h.c.GameProgress->setValue(1), h.heardOf(QAccessible::ValueChanged)), u"Bitte warten..."_s},
+    {"verdict", ACT(h.c.Dropper1->takeFocus(), h.c.Dropper1->setCaption(u"haus"_s), h.tool(h.c.Command2), h.heardOf(QAccessible::Alert)), u"Richtig ! Das gesuchte Wort \"Haus\" ist richtig."_s},
+    {"tip", ACT(h.r.tips.mnuShowTip_Click(), h.heardOf(QAccessible::Alert)), u"Ein Tipp"_s},
+    {"new", ACT(h.lay(suffixKind, 9, 9, u"en"_s), h.r.canvas.repaint(), h.heardOf(QAccessible::ObjectCreated)), u"en, Suffix"_s},
+    {"gone", ACT(h.clear(), QString::number(Heard::names().value(QAccessible::ObjectDestroyed).size())), u"3"_s},
+};
+#undef ACT
+// clang-format on
 
 } // namespace
-Q_DECLARE_METATYPE(Act)
 
 class BoardReaderTest : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void tilesAreRead_data()
+    void isReadAndHeard_data()
     {
-        QTest::addColumn<Act>("act");
-        QTest::addColumn<QString>("read");
-        const auto row = [](const char *name, Act act, const QString &read) {
-            QTest::newRow(name) << std::move(act) << read;
-        };
-        row(
-            "all", [](ReadHouse &) {}, u"ver, Präfix|fahr, Wortel|halt, Wortel"_s);
-        row(
-            "filter", [](ReadHouse &h) { h.r.optTypes.select(0); }, u"fahr, Wortel|halt, Wortel"_s);
-        row(
-            "empty filter", [](ReadHouse &h) { h.r.optTypes.select(2); }, QString());
-        row(
-            "empty board", [](ReadHouse &h) { h.r.store.replaceAll({}); }, QString());
-        row(
-            "changed",
-            [](ReadHouse &h) {
-                h.r.canvas.EditObject({300, 200}, u"bahn"_s, wortelKind.back);
-            },
-            u"ver, Präfix|halt, Wortel|bahn, Wortel"_s);
-        row(
-            "no text", [](ReadHouse &h) { h.lay(suffixKind, 9, 9, u" \n"_s); },
-            u"ver, Präfix|fahr, Wortel|halt, Wortel|leer, Suffix"_s);
+        QTest::addColumn<int>("row");
+        for (int i = 0; i < static_cast<int>(std::size(rows)); ++i)
+            QTest::newRow(rows[i].name) << i;
     }
-    void tilesAreRead()
+    void isReadAndHeard()
     {
-        QFETCH(Act, act);
+        QFETCH(int, row);
         ReadHouse house;
-        QCOMPARE(house.read().size(), 3);
-        act(house);
-        ReadHouse::settle();
-        QTEST(house.read().join(u'|'), "read");
-        for (int i = 0; i < house.board()->childCount(); ++i) {
-            QAccessibleInterface *child = house.board()->child(i);
-            QVERIFY(child->isValid() && child->parent() == house.board());
-            QCOMPARE(house.board()->indexOfChild(child), i);
-        }
-    }
-
-    void aTileTellsItsPlace()
-    {
-        ReadHouse house;
-        QAccessibleInterface *tile = house.tile(u"ver"_s);
-        QCOMPARE(tile->text(QAccessible::Description), u"oben links"_s);
-        QCOMPARE(house.tile(u"halt"_s)->text(QAccessible::Description), u"unten rechts"_s);
-        QCOMPARE(tile->rect().topLeft(), house.c.picCanvas->mapToGlobal(QPoint(40, 40)));
-        QCOMPARE(house.board()->childAt(tile->rect().center().x(), tile->rect().center().y()), tile);
-    }
-
-    void aTileActs_data()
-    {
-        QTest::addColumn<QString>("action");
-        QTest::addColumn<Act>("before");
-        QTest::addColumn<QString>("word");
-        QTest::addColumn<int>("menus");
-        const Act nothing = [](ReadHouse &) {};
-        const QString press = QAccessibleActionInterface::pressAction();
-        const QString menu = QAccessibleActionInterface::showMenuAction();
-        QTest::newRow("press") << press << nothing << u"fahr"_s << 0;
-        QTest::newRow("press behind a prefix")
-            << press << Act([](ReadHouse &h) { h.act(u"ver"_s, QAccessibleActionInterface::pressAction()); })
-            << u"verfahr"_s << 0;
-        QTest::newRow("menu") << menu << nothing << QString() << 1;
-        QTest::newRow("focus") << QAccessibleActionInterface::setFocusAction() << nothing << QString() << 0;
-    }
-    void aTileActs()
-    {
-        QFETCH(QString, action);
-        QFETCH(Act, before);
-        ReadHouse house;
-        before(house);
-        house.act(u"fahr"_s, action);
-        QTEST(house.c.Dropper1->Caption(), "word");
-        QTEST(house.menu.shown, "menus");
-        QVERIFY(house.menu.shown == 0 || house.menu.lastName == MenuName::WortelMenu);
-        QVERIFY(house.tile(u"fahr"_s)->state().selected);
-        QCOMPARE(house.trouble(), QString());
-    }
-
-    /// A press passes the gate: what runs is not disturbed.
-    void aTileRestsInAWork()
-    {
-        ReadHouse house;
-        const Work work(house.t.ground, {WorkPlan::Cancel, 1});
-        house.act(u"fahr"_s, QAccessibleActionInterface::pressAction());
-        QCOMPARE(house.c.Dropper1->Caption(), QString());
-    }
-
-    void isHeard_data()
-    {
-        QTest::addColumn<QByteArray>("kind");
-        QTest::addColumn<Act>("act");
-        QTest::addColumn<QString>("heard");
-        const auto row = [](const char *name, const char *kind, Act act, const QString &heard) {
-            QTest::newRow(name) << QByteArray(kind) << std::move(act) << heard;
-        };
-        const Act pick = [](ReadHouse &h) { h.press({310, 210}); };
-        const Act drop = [](ReadHouse &h) {
-            h.press({310, 210});
-            h.drag({60, 300});
-            h.release({60, 300});
-        };
-        row("picked up", "alert", pick, u"Aufgenommen: fahr, Wortel"_s);
-        row("dropped", "alert", drop,
-            u"Aufgenommen: fahr, Wortel|Abgelegt: fahr, Wortel, links in der Mitte"_s);
-        row("held", "state", drop, u"fahr, Wortel|fahr, Wortel"_s);
-        row(
-            "gone in the hand", "alert",
-            [](ReadHouse &h) {
-                h.press({310, 210});
-                h.r.store.replaceAll({});
-                h.r.canvas.repaint();
-            },
-            u"Aufgenommen: fahr, Wortel"_s);
-        row(
-            "keys", "focus", [](ReadHouse &h) { h.r.focus.go(BoardFocus::Go::First); }, u"ver, Präfix"_s);
-        row(
-            "word", "alert", [](ReadHouse &h) { h.c.Dropper1->setCaption(u"Haus"_s); }, u"Wort: Haus"_s);
-        row(
-            "counter", "name", [](ReadHouse &h) { h.r.optTypes.set(0, 7); }, u"7 Wortel"_s);
-        row(
-            "bar", "value",
-            [](ReadHouse &h) { h.c.GameProgress->setMaximum(2), h.c.GameProgress->setValue(1); },
-            u"Bitte warten..."_s);
-        row(
-            "verdict", "alert",
-            [](ReadHouse &h) {
-                h.c.Dropper1->takeFocus();
-                h.c.Dropper1->setCaption(u"Haus"_s);
-                h.tool(h.c.Command2);
-            },
-            u"Richtig ! Das gesuchte Wort \"Haus\" ist richtig."_s);
-        row(
-            "tip", "alert", [](ReadHouse &h) { h.r.tips.mnuShowTip_Click(); }, u"Ein Tipp"_s);
-        row(
-            "removed", "gone", [](ReadHouse &h) { h.r.canvas.RecallFilter(0); }, QString());
-    }
-    void isHeard()
-    {
-        QFETCH(QByteArray, kind);
-        QFETCH(Act, act);
-        ReadHouse house;
-        house.read();
-        QTEST(house.heardOf(kind.constData(), act).join(u'|'), "heard");
+        QCOMPARE(rows[row].act(house), rows[row].expected);
     }
 
     /// A reader that holds on to what it was given, and asks whenever events run.
@@ -223,28 +146,22 @@ private slots:
     {
         ReadHouse house;
         QList<QAccessible::Id> ids;
-        for (int i = 0; i < house.board()->childCount(); ++i)
-            ids << QAccessible::uniqueId(house.board()->child(i));
+        for (QAccessibleInterface *tile : house.tiles())
+            ids << QAccessible::uniqueId(tile);
         int asked = 0;
-        const auto ask = [&] {
+        house.t.pump.onYield = [&] {
+            asked += house.read().contains(u", "_s) ? 1 : 0;
             for (const QAccessible::Id id : ids)
-                if (QAccessibleInterface *child = QAccessible::accessibleInterface(id);
-                    child && child->isValid())
-                    QVERIFY(!child->text(QAccessible::Name).isEmpty());
-            asked += static_cast<int>(house.read().size());
+                if (QAccessibleInterface *tile = QAccessible::accessibleInterface(id))
+                    QVERIFY(tile->text(QAccessible::Name).isEmpty() != tile->isValid());
         };
-        house.t.pump.onYield = ask;
-        house.t.pump.onServe = ask;
         house.c.Text1->setText(u"3"_s);
         house.tool(house.c.Check2);
-        house.key(Qt::Key_A);
         house.t.pump.onYield = nullptr;
-        house.t.pump.onServe = nullptr;
         QVERIFY(asked > 0);
-        QCOMPARE(house.read().size(), house.r.store.count());
-        house.r.store.replaceAll({});
-        house.r.canvas.repaint();
-        for (const QAccessible::Id id : ids.first(3))
+        QCOMPARE(house.tiles().size(), house.r.store.count());
+        house.clear();
+        for (const QAccessible::Id id : ids)
             QVERIFY(QAccessible::accessibleInterface(id) == nullptr);
     }
 };
