@@ -4,7 +4,6 @@ wortel_test(e2e SLOW TIMEOUT 600
     SOURCES
         desktop.cpp
         known_board.cpp
-        reader_bus.cpp
         tst_blind_child.cpp
         tst_board_by_hand.cpp
         tst_chosen_words.cpp
