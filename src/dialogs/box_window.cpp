@@ -70,6 +70,7 @@ BoxWindow::BoxWindow(const boxstyle::Colours &colours, const QString &title, con
 
     Label3_->setObjectName(QStringLiteral("Label3"));
     Label3_->setTextFormat(Qt::PlainText);
+    Label3_->setAccessibleName(windowTitle()); // whole, however much of it is shown
     Label3_->setFont(sized(font(), titleSize, true));
     Label3_->setContentsMargins(padding - 6, 0, padding - 6, 0);
     Label3_->setFixedHeight(titleSize * 2);

@@ -18,7 +18,7 @@ constexpr QAccessible::Role alertRole = QAccessible::Notification;
 constexpr QAccessible::Role alertRole = QAccessible::AlertMessage;
 #endif
 
-/// What a window said last. Its widget is never shown: it is there only to be heard.
+/// What a window has said. Its widget is never shown: it is there only to be heard.
 class AccessibleAnnouncement : public QAccessibleWidget
 {
 public:
@@ -62,10 +62,16 @@ private:
     QLabel &label_;
 };
 
+/// The one of the window's that spoke longest ago: a reader asks for the words a moment later, when another
+/// may have been said.
 QWidget *announcementOf(QWidget *window)
 {
-    if (auto *made = window->findChild<QWidget *>(QLatin1String(said), Qt::FindDirectChildrenOnly))
-        return made;
+    constexpr qsizetype mostAtOnce = 4;
+    const auto made = window->findChildren<QWidget *>(QLatin1String(said), Qt::FindDirectChildrenOnly);
+    if (made.size() >= mostAtOnce) {
+        made.first()->raise(); // to the end of the children
+        return made.first();
+    }
     auto *widget = new QWidget(window);
     widget->setObjectName(QLatin1String(said));
     widget->setAttribute(Qt::WA_TransparentForMouseEvents);

@@ -5,7 +5,6 @@
 #include "dialogs/input_box.h"
 #include "dialogs/message_box.h"
 #include "platform/boxes.h"
-#include "support/heard.h"
 #include "support/registry.h"
 #include "support/test_house.h"
 
@@ -21,7 +20,7 @@ namespace {
 const QSet<QAccessible::Role> mute{QAccessible::ScrollBar, QAccessible::Client,      QAccessible::Grouping,
                                    QAccessible::Splitter,  QAccessible::Separator,   QAccessible::Pane,
                                    QAccessible::Border,    QAccessible::LayeredPane, QAccessible::ToolBar,
-                                   QAccessible::Graphic};
+                                   QAccessible::Graphic,   QAccessible::Grip};
 const QSet<QAccessible::Role> pressed{QAccessible::PushButton, QAccessible::CheckBox,
                                       QAccessible::RadioButton, QAccessible::ButtonMenu,
                                       QAccessible::ListItem};
@@ -31,8 +30,9 @@ QStringList faultsBelow(QAccessibleInterface *node)
 {
     if (node == nullptr || !node->isValid())
         return {u"no child"_s};
-    if (node->state().invisible)
-        return {};
+    const auto *label = qobject_cast<const QLabel *>(node->object());
+    if (node->state().invisible || (label != nullptr && label->text().isEmpty() && label->pixmap().isNull()))
+        return {}; // nothing to be read
     const QAccessible::Role role = node->role();
     const QString who =
         u"%1 role %2 %3"_s.arg(node->object() == nullptr ? QString() : node->object()->objectName())
@@ -58,7 +58,7 @@ QStringList faultsOf(QWidget &window) { return faultsBelow(QAccessible::queryAcc
 template <typename Box> QString faultsOfBox(Box &&box)
 {
     box.show();
-    return faultsOf(box).join(u'\n') + Heard::names().take(QAccessible::Alert).join(u'|');
+    return faultsOf(box).join(u'\n');
 }
 
 struct Window
@@ -145,12 +145,11 @@ private slots:
     void everyBoxHasNameAndAction()
     {
         const HighScoreSheet sheet{u"Titel"_s, u"Klotar"_s, u"12 Wörter"_s, {{u"Eva"_s, u"12"_s}}, 1};
-        const Heard heard;
-        QCOMPARE(faultsOfBox(MBox(u"Los?"_s, 3, u"Frage"_s, BoxStyle::Wortel, nullptr)), u"Los?"_s);
-        QCOMPARE(faultsOfBox(frmMboxRetype(u"Sehr\ngut"_s, BoxSign::Info, u"Lob"_s, nullptr)), u"Sehr gut"_s);
-        QCOMPARE(faultsOfBox(IBox(u"Was?"_s, BoxStyle::Prefix, {}, u"Frage"_s, nullptr)), u"Was?"_s);
-        QCOMPARE(faultsOfBox(frmChgCorrectWords(u"Was?"_s, {}, u"Frage"_s, nullptr)), u"Was?"_s);
-        QCOMPARE(faultsOfBox(frmEnterName(u"Name"_s, nullptr)).section(u'\n', 1), QString());
+        QCOMPARE(faultsOfBox(MBox(u"Los?"_s, 3, u"Frage"_s, BoxStyle::Wortel, nullptr)), QString());
+        QCOMPARE(faultsOfBox(frmMboxRetype(u"Gut"_s, BoxSign::Info, u"Lob"_s, nullptr)), QString());
+        QCOMPARE(faultsOfBox(IBox(u"Was?"_s, BoxStyle::Prefix, {}, u"Frage"_s, nullptr)), QString());
+        QCOMPARE(faultsOfBox(frmChgCorrectWords(u"Was?"_s, {}, u"Frage"_s, nullptr)), QString());
+        QCOMPARE(faultsOfBox(frmEnterName(u"Name"_s, nullptr)), QString());
         QCOMPARE(faultsOfBox(frmHighScore(sheet, nullptr)), QString());
         QCOMPARE(faultsOfBox(frmBestTimes(sheet, nullptr)), QString());
     }

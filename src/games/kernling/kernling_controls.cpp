@@ -204,6 +204,8 @@ QWidget *makeFileGroup(C &c, QWidget *parent)
     c.cboWordLen = make<QComboBox>(group, "cboWordLen", u"Wortlänge (Min. 20)"_s);
     c.cboWordLen->setEditable(true);
     c.cboWordLen->setToolTip(u"0 bedeutet: alle Wörter"_s);
+    if (c.cboWordLen->lineEdit() != nullptr)
+        c.cboWordLen->lineEdit()->setAccessibleName(c.cboWordLen->accessibleName());
     c.cboWordLen->setInsertPolicy(QComboBox::NoInsert);
     c.cboWordLen->addItem(u"0"_s);
     for (int length = 2; length <= longestWordOffered; ++length)
