@@ -42,6 +42,8 @@ private slots:
         desktop.key(u"Tab Tab space"_s);
         const QString before = desktop.storedSettings();
         desktop.key(u"Return"_s);
+        QVERIFY(!desktop.waitForWindow(u"Bestätigen$"_s).isEmpty());
+        desktop.key(u"Return"_s);
         QVERIFY(desktop.waitForNoWindow(u"Optionen"_s));
         QVERIFY(desktop.storedSettings() != before);
 
