@@ -69,7 +69,10 @@ void frmMain::wireBoard()
                 if (button == Qt::LeftButton)
                     showHelp();
             }));
-    const auto openMenu = [this, &r] { r.pointer.openMenu(controls_.CmdMenu->mapToGlobal(QPoint())); };
+    // Beside the tool, so that the second press of a double click chooses nothing.
+    const auto openMenu = [this, &r, tool = controls_.CmdMenu] {
+        r.pointer.openMenu(tool->mapToGlobal(QPoint(tool->width(), 0)));
+    };
     onPress(controls_.CmdMenu, openMenu, nothing);
     connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, this,
             throughGate(gate, Gate::Way::Play, openMenu));
