@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "language/chooser/frm_choose_wortel.h"
 #include "language/chooser/mark_list.h"
+#include "platform/work.h"
 #include "support/registry.h"
 #include "support/test_house.h"
 
@@ -23,12 +24,12 @@ struct PressHouse : TestHouse
     PressHouse()
     {
         form.show();
-        chooser.show();
         lay(wortelKind, 100, 100, u"fahr"_s);
         lists.CorrectWordList.add(u"Haus"_s);
         controls.CorrectWordList->setGeometry(200, 200, 100, 100);
         controls.CorrectWordList->show();
         controls.Scroller->setEnabled(true);
+        controls.Scroller->move(0, 300);
         controls.Scroller->show();
         QObject::connect(controls.Scroller, &MsgScroller::mouseDown, &form,
                          [this](const QMouseEvent *event) { rights += event->button() == Qt::RightButton; });
@@ -70,7 +71,7 @@ const Kind kinds[] = {
     {"tool of one use", [](H &h) -> QWidget * { return h.controls.Option2[2]; }, nullptr, [](H &h) { return h.controls.Option2[2]->isChecked(); }},
     {"list", [](H &h) { return h.controls.CorrectWordList->viewport(); }, menuIsOpen, nullptr},
     {"strip", [](H &h) -> QWidget * { return h.controls.Scroller; }, [](H &h) { return h.rights == 1; }, [](H &h) { return h.lefts == 1; }},
-    {"chooser", [](H &h) { return h.stems.viewport(); }, menuIsOpen, [](H &h) { return h.stems.markedCount() == 1; }},
+    {"chooser", [](H &h) { h.chooser.show(); return h.stems.viewport(); }, menuIsOpen, [](H &h) { return h.stems.markedCount() == 1; }},
 };
 // clang-format on
 
@@ -138,7 +139,7 @@ private slots:
         QWidget *board = h.controls.picCanvas;
         for (const int menus : {0, 1}) {
             h.hand(QTest::MousePress, board, onTile);
-            QTest::touchEvent(board, h.screen.get()).stationary(1).press(2, {400, 100}, board);
+            QTest::touchEvent(board, h.screen.get()).move(1, onTile, board).press(2, {400, 100}, board);
             auto command = std::make_unique<Gate::Passage>(h.gate.stay());
             QTest::qWait(longer);
             command.reset();
@@ -151,19 +152,13 @@ private slots:
         }
         QCOMPARE(h.menu.lastPosition, board->mapToGlobal(onTile));
         QTest::touchEvent(board, h.screen.get()).release(1, onTile, board).release(2, {400, 100}, board);
-        h.t.pump.waiting = true;
-        int works = 0;
-        h.t.pump.onServe = [&] {
-            if (h.gate.work() == nullptr || works++ > 0)
-                return;
-            for (QWidget *pressed : {board, static_cast<QWidget *>(h.controls.Command3)}) {
-                h.hand(QTest::MousePress, pressed, {9, 9});
-                QTest::qWait(longer);
-                h.hand(QTest::MouseRelease, pressed, {9, 9});
-            }
-        };
-        h.tool(h.controls.Check2);
-        QVERIFY(works > 0 && h.menu.shown == 1 && h.t.fileDialogs.asked.isEmpty());
+        const Work work(h.t.ground, {WorkPlan::Cancel, 1});
+        for (QWidget *pressed : {board, static_cast<QWidget *>(h.controls.Command3)}) {
+            h.hand(QTest::MousePress, pressed, {9, 9});
+            QTest::qWait(longer);
+            h.hand(QTest::MouseRelease, pressed, {9, 9});
+        }
+        QVERIFY(h.menu.shown == 1 && h.t.fileDialogs.asked.isEmpty());
     }
 
     void theBandHasAMenu()
