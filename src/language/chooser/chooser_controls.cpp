@@ -10,6 +10,7 @@
 #include "widgets/press_button.h"
 #include "widgets/progress_bar.h"
 #include "widgets/roomy_style.h"
+#include "widgets/window_style.h"
 
 #include <QBoxLayout>
 #include <QButtonGroup>
@@ -343,7 +344,7 @@ ChooserControls makeChooserControls(QWidget *form)
     ChooserControls c;
     Maker make(form);
     QPalette colours = form->palette();
-    colours.setColor(QPalette::Window, QColor(234, 243, 255));
+    colours.setColor(QPalette::Window, window_style::paper);
     form->setPalette(colours);
     form->setStyleSheet(windowStyle);
     auto *columns = tight<QHBoxLayout>(6);
