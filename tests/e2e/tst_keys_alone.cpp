@@ -29,12 +29,10 @@ private slots:
             });
         };
         QVERIFY(shows(6));
-
         desktop.key(u"Home Return End Return ctrl+Return"_s); // "mach" and "en"
         QVERIFY2(desktop.waitForPicture([&](const QImage &picture) { return praiseIsUp(picture, board); }),
                  "the word is not found right");
         QVERIFY(desktop.waitForPicture([&](const QImage &picture) { return !reportIsUp(picture, board); }));
-
         desktop.key(u"F6 Escape Menu"_s); // the board's menu, since no tile is chosen any more
         Desktop::pause(500);
         desktop.key(u"Up Up Up Up Return"_s);
@@ -46,7 +44,6 @@ private slots:
         desktop.key(u"Return"_s);
         QVERIFY(desktop.waitForNoWindow(u"Optionen"_s));
         QVERIFY(desktop.storedSettings() != before);
-
         desktop.key(u"ctrl+s"_s);
         QVERIFY(!desktop.waitForWindow(u"^Wortel - Sitzung speichern"_s).isEmpty());
         desktop.enter(u"stunde"_s);
