@@ -18,6 +18,7 @@
 #include "shell/termination.h"
 #include "widgets/accessible_tools.h"
 #include "widgets/resources.h"
+#include "widgets/roomy_style.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -26,7 +27,6 @@
 #include <QLibraryInfo>
 #include <QScreen>
 #include <QStandardPaths>
-#include <QStyleFactory>
 #include <QTimer>
 #include <QTranslator>
 
@@ -108,7 +108,7 @@ void dressApplication(QApplication &application)
     QCoreApplication::setApplicationName(product::name);
     QCoreApplication::setApplicationVersion(product::version());
     QGuiApplication::setDesktopFileName(u"wortel-meister"_s);
-    QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
+    QApplication::setStyle(new RoomyStyle);
     QFont font(u"Liberation Sans"_s);
     font.setPixelSize(11);
     QApplication::setFont(font);

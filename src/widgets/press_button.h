@@ -4,12 +4,9 @@
 
 #include <QToolButton>
 
-class QTimer;
-
 /// A tool of the lower band: a push, check or option button with an icon or a short text that tells left from
-/// right presses, because most tools do two things. A long press with a finger is the right button. A press
-/// never takes the keyboard focus, only the Tab key gives it: then blank and Enter are the left press, and
-/// the menu key is the right one.
+/// right presses, because most tools do two things. A press never takes the keyboard focus, only the Tab key
+/// gives it: then blank and Enter are the left press, and the menu key is the right one.
 class PressButton : public QToolButton
 {
     Q_OBJECT
@@ -46,11 +43,7 @@ private:
     Look look() const;
     void paintFace(QPainter &painter, const Look &look) const;
     void paintContent(QPainter &painter, const Look &look) const;
-    void onLongPress();
 
-    QTimer *longPress_;
-    bool longPressed_ = false;
-    Qt::KeyboardModifiers pressModifiers_;
     QColor back_;
     QColor text_;
     QString spokenCaption_;

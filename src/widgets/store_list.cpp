@@ -3,9 +3,11 @@
 #include "widgets/store_list.h"
 
 #include "platform/word_store.h"
+#include "widgets/long_press.h"
 #include "widgets/press_keys.h"
 
 #include <QAbstractListModel>
+#include <QMetaMethod>
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QTimer>
@@ -204,10 +206,20 @@ void StoreList::mousePressEvent(QMouseEvent *event)
 
 void StoreList::mouseReleaseEvent(QMouseEvent *event)
 {
+    if (LongPress::takesBack(*event)) {
+        setState(NoState); // the rows stay marked as they are
+        return;
+    }
     QListView::mouseReleaseEvent(event);
     const QModelIndex index = indexAt(event->position().toPoint());
     if (event->button() == Qt::LeftButton && index.isValid())
         emit rowClicked(index.row());
+}
+
+void StoreList::connectNotify(const QMetaMethod &signal)
+{
+    if (signal == QMetaMethod::fromSignal(&StoreList::rightPressed))
+        LongPress::offer(viewport());
 }
 
 void StoreList::keyPressEvent(QKeyEvent *event)

@@ -5,9 +5,9 @@
 
 #include "widgets/accessible_tools.h"
 #include "widgets/resources.h"
+#include "widgets/roomy_style.h"
 
 #include <QFont>
-#include <QStyleFactory>
 #include <QtTest>
 
 std::vector<testing::Entry> &testing::registry()
@@ -21,7 +21,7 @@ int main(int argc, char *argv[])
     WatchfulApplication application(argc, argv);
     initResources();
     installAccessibleTools();
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new RoomyStyle);
     QFont font(QStringLiteral("Liberation Sans"));
     font.setPixelSize(11);
     QApplication::setFont(font);

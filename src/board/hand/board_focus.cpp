@@ -26,7 +26,7 @@ int gap(int from, int to, int otherFrom, int otherTo)
 }
 
 /// How far a step in that direction is to another tile: what lies straight ahead is nearer than what lies
-/// aside. Nothing for a tile that lies rather beside than ahead.
+/// aside. Nothing for a tile that lies far more beside than ahead.
 std::optional<int> stepTo(const QRect &from, const QRect &to, BoardFocus::Go where)
 {
     using Go = BoardFocus::Go;
@@ -36,7 +36,7 @@ std::optional<int> stepTo(const QRect &from, const QRect &to, BoardFocus::Go whe
     const int ahead = where == Go::Left || where == Go::Up ? -forward : forward;
     const int aside = level ? gap(from.top(), from.bottom(), to.top(), to.bottom())
                             : gap(from.left(), from.right(), to.left(), to.right());
-    if (ahead <= 0 || aside > ahead)
+    if (ahead <= 0 || aside > 2 * ahead)
         return {};
     return ahead + 3 * aside;
 }

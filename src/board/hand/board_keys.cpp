@@ -113,13 +113,26 @@ bool BoardKeys::handle(const QKeyEvent &event)
     const int key = event.key();
     if (ctrl && !alt && key >= Qt::Key_A && key <= Qt::Key_Z)
         return Form_KeyPress(key - Qt::Key_A + 1);
-    if (Form_KeyDown(key))
+    // A key that is held would close one thing after the other.
+    const bool heldDown = event.isAutoRepeat() && (key == Qt::Key_Escape || key == Qt::Key_F6);
+    if (heldDown || Form_KeyDown(key))
         return true;
     if (isOnBoard() && tileKeys_.press(event))
+        return true;
+    if (key == Qt::Key_Down && goesDownToList())
         return true;
     // The right Alt key comes as both on some keyboards, and gives letters.
     return ctrl == alt && letters_.isFree(controls_.form->window()->focusWidget()) &&
            letters_.type(event.text());
+}
+
+/// From the search box to what was found: the list stands below it.
+bool BoardKeys::goesDownToList()
+{
+    if (!controls_.Text2->hasFocus() || !controls_.LexiconList->isVisible())
+        return false;
+    controls_.LexiconList->setFocus(Qt::OtherFocusReason);
+    return true;
 }
 
 bool BoardKeys::isOnBoard() const

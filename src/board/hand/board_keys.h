@@ -37,6 +37,7 @@ private:
     bool handle(const QKeyEvent &event);
     bool isTyping() const;
     bool isOnBoard() const;
+    bool goesDownToList();
     void changeSides();
     void stopWork();
     void pressed(const QWidget *widget);

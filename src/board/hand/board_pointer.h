@@ -7,7 +7,6 @@
 
 #include <QObject>
 #include <QPoint>
-#include <QTimer>
 
 class BoardCommands;
 class BoardFocus;
@@ -22,8 +21,8 @@ struct MainControls;
 struct Press;
 
 /// What the pointer does on the board: it picks tiles up, moves and drops them, inserts, copies and removes
-/// with the shift keys, and opens the menus. A finger drags like the left button, and a long press is the
-/// right button.
+/// with the shift keys, and opens the menus. A finger drags like the left button, but not while it trembles
+/// on its place.
 class BoardPointer : public QObject
 {
     Q_OBJECT
@@ -52,6 +51,10 @@ public:
     void picCanvas_MouseMove(Qt::MouseButtons buttons, const QPoint &point);
     void picCanvas_MouseUp(Qt::MouseButton button, const QPoint &point);
 
+    /// The menu of the empty board, with its corner at that point of the screen. What it lays goes to the
+    /// middle of the board.
+    void openMenu(const QPoint &corner);
+
     /// Joins the held tile's text to the word in the field, which gets the keyboard, so that Enter checks it.
     void Dropper1_DragDrop();
     /// Joins a text to the word in the field, unless that takes none.
@@ -74,8 +77,9 @@ public:
 private:
     void onMouseDown(QMouseEvent *event);
     void onMouseMoved(QMouseEvent *event);
-    void onLongPress();
+    void onMouseUp(QMouseEvent *event);
 
+    void takePressBack();
     void leftPress(Qt::KeyboardModifiers shift, const QPoint &point);
     void rightPress(Qt::KeyboardModifiers shift, const QPoint &point);
     void insertByShift(Qt::KeyboardModifiers shift, const QPoint &point);
@@ -85,7 +89,9 @@ private:
     Rooms rooms_;
     TileStore &store_;
     TileDrag drag_;
-    QTimer longPress_;
     QPoint pressed_;
-    bool tileMoved_ = false; ///< the last press took a tile
+    QPoint takenFrom_;         ///< place of the tile that the last press took
+    bool tileMoved_ = false;   ///< the last press took a tile
+    bool fingerRests_ = false; ///< it is a finger's, and has not moved yet
+    bool inserted_ = false;    ///< the last press laid a new tile
 };
