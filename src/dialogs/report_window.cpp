@@ -140,6 +140,7 @@ ReportWindow::ReportWindow(QWidget *parent)
         if (!held_)
             frame_->start();
     });
+    setMouseTracking(true);
     for (QWidget *part : findChildren<QWidget *>())
         part->setMouseTracking(true);
     hide();
@@ -152,7 +153,7 @@ void ReportWindow::layOutParts()
     head->addWidget(Image1_, 0, Qt::AlignRight | Qt::AlignTop);
     auto *lines = new QVBoxLayout;
     lines->setSpacing(lineGap);
-    for (QLabel *line : {lblAlert_, Label2_, Label3_})
+    for (QLabel *line : std::initializer_list<QLabel *>{lblAlert_, Label2_, Label3_})
         lines->addWidget(line);
     auto *body = new QHBoxLayout;
     body->setSpacing(margin);
