@@ -81,9 +81,11 @@ void StripControl::fitToBoard()
 {
     MsgScroller &strip = *controls_.Scroller;
     const int board = controls_.form->width();
-    const int left = ground_.options.isOn(Setting::ScrollerMiddlePos) ? 0 : strip.x();
+    const int usual = strip.sizeHint().width();
+    const bool inMiddle = ground_.options.isOn(Setting::ScrollerMiddlePos);
+    const int left = inMiddle ? 0 : std::min(strip.x(), std::max(0, board - usual));
     const int top = std::max(0, std::min(strip.y(), controls_.Picture1->y() - strip.height()));
-    strip.setGeometry(left, top, std::max(strip.sizeHint().width(), board - left), strip.height());
+    strip.setGeometry(left, top, std::max(usual, board - left), strip.height());
 }
 
 void StripControl::boardResized()

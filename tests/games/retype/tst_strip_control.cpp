@@ -43,9 +43,8 @@ private slots:
     void places()
     {
         Desk desk;
-        const int height = desk.strip.sizeHint().height();
         for (const auto &[option, place] :
-             {std::pair{Setting::ScrollerMiddlePos, QPoint(0, 262 - height / 2)},
+             {std::pair{Setting::ScrollerMiddlePos, QPoint(0, 239)},
               {Setting::ScrollerLeftUpPos, QPoint(0, 0)}}) {
             desk.t.options.setOption(option);
             desk.control.PlaceTheMsgScroller();
