@@ -75,15 +75,17 @@ void StripControl::takeLetters()
         controls_.Scroller->setFont(letters);
 }
 
-/// In the middle to both sides, otherwise from the strip's left edge to the board's right one. The word field
-/// in the band stays free.
+/// In the middle to both sides, otherwise from the strip's left edge to the board's right one; chance leaves
+/// it three quarters of the board. The word field in the band stays free.
 void StripControl::fitToBoard()
 {
     MsgScroller &strip = *controls_.Scroller;
     const int board = controls_.form->width();
     const int usual = strip.sizeHint().width();
-    const bool inMiddle = ground_.options.isOn(Setting::ScrollerMiddlePos);
-    const int left = inMiddle ? 0 : std::min(strip.x(), std::max(0, board - usual));
+    const int most = ground_.options.isOn(Setting::ScrollerMiddlePos) ? 0
+                     : ground_.options.isOn(Setting::ScrollerRndPos)  ? board / 4
+                                                                      : std::max(0, board - usual);
+    const int left = std::min(strip.x(), most);
     const int top = std::max(0, std::min(strip.y(), controls_.Picture1->y() - strip.height()));
     strip.setGeometry(left, top, std::max(usual, board - left), strip.height());
 }

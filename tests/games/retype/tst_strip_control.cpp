@@ -55,10 +55,10 @@ private slots:
         for (int round = 0; round < 1000; ++round) {
             desk.control.PlaceTheMsgScroller();
             QVERIFY(QRect(0, 80, 1000, desk.controls.Picture1->y() - 80).contains(desk.strip.geometry()));
-            QCOMPARE(desk.strip.geometry().right(), 999);
+            QVERIFY(desk.strip.geometry().right() == 999 && desk.strip.width() >= 750);
             seen.insert(desk.strip.x());
         }
-        QVERIFY(seen.size() > 200);
+        QVERIFY(seen.size() > 100);
     }
 
     /// From the smallest laptop to the whiteboard: letters to be read, room for them, never over the word
