@@ -5,6 +5,7 @@ wortel_test(shell
         handbook/tst_help.cpp
         tst_long_press.cpp
         tst_main_window.cpp
+        tst_notes.cpp
         tst_one_work.cpp
         tst_sheets.cpp
         tst_start_rules.cpp
