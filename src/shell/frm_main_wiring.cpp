@@ -125,8 +125,8 @@ void frmMain::wireModes()
         [&r] { r.game.Check3_MouseDown(Qt::RightButton); });
     for (int level = 0; level < 3; ++level)
         onPress(
-            controls_.Option2[static_cast<std::size_t>(level)],
-            [&r, level] { r.game.Option2_Click(level); }, nothing);
+            controls_.Option2[static_cast<std::size_t>(level)], [&r, level] { r.game.Option2_Click(level); },
+            nothing);
     for (int box = 0; box < 2; ++box)
         onPress(
             controls_.ChkVokal[static_cast<std::size_t>(box)],
@@ -174,8 +174,7 @@ void frmMain::wireKeeping()
     connect(&ground_.options, &Options::applied, this, [this, &r] {
         r.game.takeLevel();
         r.placement.takeTryLimit();
-        r.background.remove();
-        r.background.loadFromSetting();
+        r.background.takeSetting();
         r.strip.SetUpMsgScroller();
         r.undo.takeSetting();
     });

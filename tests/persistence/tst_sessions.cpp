@@ -10,6 +10,8 @@
 #include <QLabel>
 #include <QtTest>
 
+#include <sys/stat.h>
+
 using namespace Qt::StringLiterals;
 
 class SessionsTest : public QObject
@@ -135,6 +137,9 @@ private slots:
         QTest::newRow("off") << QByteArray("[Name]\r\nLexiconInUse=Bäume\r\n") << false << false << false;
         QTest::newRow("missing list")
             << QByteArray("[Name]\r\nLexiconInUse=fort\r\n") << true << false << true;
+        for (const char *elsewhere : {"..\\text\\Bäume", "../text/Bäume", ".\\Bäume"})
+            QTest::newRow(elsewhere) << "[Name]\r\nLexiconInUse=" + QByteArray(elsewhere) + "\r\n"
+                                     << true << false << true;
     }
     void stemListComesAlong()
     {
@@ -156,8 +161,9 @@ private slots:
         QCOMPARE(rig.store->count(), 1);
         if (told) {
             QCOMPARE(rig.t.boxes.asked.last().title, u"Cannot open lexicon for this session"_s);
-            QVERIFY(rig.lastBox().startsWith(u"Datei "_s + rig.t.AppFolder +
-                                             u"text\\fort.txt fehlt\n\nSub: RestoreObjects. Line: "_s));
+            const QString list = QString::fromUtf8(name.mid(21).trimmed());
+            QVERIFY(rig.lastBox().startsWith(u"Datei "_s + rig.t.AppFolder + u"text\\"_s + list +
+                                             u".txt fehlt\n\nSub: RestoreObjects. Line: "_s));
         }
         QVERIFY(rig.t.ok());
     }
@@ -189,24 +195,53 @@ private slots:
 
     void filesThatCannotBeRead_data()
     {
-        columns<bool, bool>("folder", "told");
-        QTest::newRow("a folder in its place") << true << true;
-        QTest::newRow("missing") << false << false;
+        columns<QString, QString>("what", "reason");
+        QTest::newRow("missing") << QString() << QString(); // an empty session, as ever
+        QTest::newRow("a folder in its place") << u"folder"_s << u"Die Datei enthält ungültige Daten."_s;
+        QTest::newRow("a pipe in its place") << u"pipe"_s << u"Die Datei enthält ungültige Daten."_s;
+        QTest::newRow("a gigabyte") << u"gigabyte"_s << u"Die Datei ist zu groß."_s;
     }
+    /// They leave the board and what can be undone as they are.
     void filesThatCannotBeRead()
     {
-        QFETCH(bool, folder);
-        QFETCH(bool, told);
+        QFETCH(QString, what);
+        QFETCH(QString, reason);
         Rig rig;
-        if (folder)
-            QVERIFY(QDir().mkpath(nativePath(rig.path)));
+        const QString native = nativePath(rig.path);
+        if (what == u"folder"_s)
+            QVERIFY(QDir().mkpath(native));
+        if (what == u"pipe"_s)
+            QCOMPARE(mkfifo(qPrintable(native), 0600), 0);
+        if (what == u"gigabyte"_s)
+            QVERIFY(rig.t.writeFile(u"a.wlx"_s, {}) == rig.path && QFile::resize(native, 1 << 30));
         rig.lay(wortel, 1, 1, u"a"_s);
-        if (told)
+        if (!reason.isEmpty())
             rig.t.boxes.willAnswer(Boxes::Answer::Ok);
+        QSignalSpy opens(&rig.sessions, &Sessions::boardOpens);
         rig.sessions.RestoreObjects(rig.path);
-        QVERIFY(rig.store->isEmpty());
-        QCOMPARE(rig.lastBox(), told ? rig.invalid() : QString());
+        QCOMPARE(rig.store->count(), reason.isEmpty() ? 0 : 1);
+        QCOMPARE(opens.size(), reason.isEmpty() ? 1 : 0);
+        QCOMPARE(rig.lastBox(), reason.isEmpty()
+                                    ? QString()
+                                    : rig.invalid().replace(u"Die Datei enthält ungültige Daten."_s, reason));
         QVERIFY(rig.t.ok());
+    }
+
+    /// Such a name fills what a file system lets a name have.
+    void theLongestNameIsSavedAgainAndAgain()
+    {
+        Rig rig;
+        const QString path = rig.t.AppFolder + QString(125, u'ä') + u"x.wlx"_s;
+        for (int count = 1; count <= 3; ++count) {
+            rig.lay(wortel, count, 1, u"a"_s);
+            rig.t.fileDialogs.willSave(path);
+            rig.sessions.SaveObjects();
+            QVERIFY(rig.t.ok()); // no box
+            QCOMPARE(rig.t.fileDialogs.lastHints.open, count == 1 ? QString() : path);
+            rig.sessions.RestoreObjects(path);
+            QCOMPARE(rig.store->count(), count);
+        }
+        QVERIFY(rig.sessions.WebExportName().toUtf8().size() <= 255);
     }
 
     void aFullDiskLeavesTheOldSession()

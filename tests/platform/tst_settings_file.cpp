@@ -10,6 +10,8 @@
 #include <QLockFile>
 #include <QtTest>
 
+#include <sys/stat.h>
+
 using namespace Qt::StringLiterals;
 
 class SettingsFileTest : public QObject
@@ -78,6 +80,31 @@ private slots:
         QTEST(SettingsFile(file_).GetSetting(u"Settings"_s, u"NumWortel"_s, u"20"_s), "numWortel");
         store.SaveSetting(u"Settings"_s, u"UseUndo"_s, u"1"_s);
         QCOMPARE(bytesOf(file_ + u".bak"_s), bytes);
+    }
+
+    void whatIsNoFileStopsNoSaving_data()
+    {
+        columns<QString, int>("name", "kind");
+        QTest::newRow("a folder") << file_ << S_IFDIR;
+        QTest::newRow("a pipe") << file_ << S_IFIFO; // nobody may wait for it
+        QTest::newRow("a gigabyte") << file_ << S_IFREG;
+        QTest::newRow("a pipe as the lock") << file_ + u".lock"_s << S_IFIFO;
+    }
+    void whatIsNoFileStopsNoSaving()
+    {
+        QFETCH(QString, name);
+        QFETCH(int, kind);
+        QVERIFY(QDir().mkpath(kind == S_IFDIR ? name : QFileInfo(name).path()));
+        if (kind == S_IFIFO)
+            QCOMPARE(mkfifo(qPrintable(name), 0600), 0);
+        if (kind == S_IFREG) {
+            putBytes(name, "[Settings]\na=5\n");
+            QVERIFY(QFile::resize(name, 1 << 30));
+        }
+        SettingsFile store(file_);
+        QCOMPARE(store.GetSetting(u"Settings"_s, u"a"_s, u"-"_s), u"-"_s);
+        store.SaveSetting(u"Settings"_s, u"a"_s, u"1"_s);
+        QCOMPARE(SettingsFile(file_).GetSetting(u"Settings"_s, u"a"_s, u"-"_s), u"1"_s);
     }
 
     void emptyAndMarkedFilesAreNoGarbage()

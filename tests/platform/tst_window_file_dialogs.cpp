@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/file_places.h"
 #include "platform/files.h"
 #include "platform/window_file_dialogs.h"
 #include "support/columns.h"
@@ -38,7 +39,7 @@ class WindowFileDialogsTest : public QObject
     Q_OBJECT
 
     QTemporaryDir folder_;
-    WindowFileDialogs real_;
+    WindowFileDialogs real_{storedPath(folder_.path()) + u'\\'};
     FileDialogs &dialogs_ = real_;
     const QString lists_ = u"Text Dateien (*.txt)|*.txt"_s;
 
@@ -92,6 +93,104 @@ private slots:
         });
         const QString stored = storedPath(folder_.path());
         QCOMPARE(dialogs_.saveFile(u"x"_s, stored, lists_, u".txt"_s, u"Vorschlag"_s), stored + u'\\' + name);
+    }
+
+    void nothingCanBeRenamedOrDeleted_data()
+    {
+        columns<bool>("saving");
+        QTest::newRow("opening") << false;
+        QTest::newRow("saving") << true;
+    }
+    void nothingCanBeRenamedOrDeleted()
+    {
+        QFETCH(bool, saving);
+        whenOpen([&](QFileDialog &dialog) {
+            auto *list = dialog.findChild<QListView *>(u"listView"_s);
+            QTRY_VERIFY(list->model()->rowCount(list->rootIndex()) > 0);
+            const QModelIndex first = list->model()->index(0, 0, list->rootIndex());
+            QVERIFY(!(first.flags() & Qt::ItemIsEditable));
+            list->setCurrentIndex(first);
+            list->setFocus();
+            QTest::keyClick(list, Qt::Key_Delete);
+            QTest::keyClick(list, Qt::Key_F2);
+            QVERIFY(list->findChildren<QLineEdit *>().isEmpty() && !list->dragEnabled());
+            for (const QString &name : {u"qt_rename_action"_s, u"qt_delete_action"_s})
+                QVERIFY(!dialog.findChild<QAction *>(name)->isEnabled());
+            const QList<QUrl> places = dialog.sidebarUrls();
+            QVERIFY(places.contains(QUrl::fromLocalFile(QDir::homePath())) &&
+                    places.contains(QUrl::fromLocalFile(folder_.path())));
+        });
+        const QString stored = storedPath(folder_.path());
+        if (saving)
+            dialogs_.saveFile(u"x"_s, stored, lists_, u".txt"_s);
+        else
+            dialogs_.openFiles(u"x"_s, stored, lists_, false);
+        QCOMPARE(QDir(folder_.path()).entryList(QDir::Files).size(), 4);
+    }
+
+    void findsDrives_data()
+    {
+        columns<QByteArray, QStringList>("mounts", "drives");
+        QTest::newRow("none") << QByteArray() << QStringList();
+        QTest::newRow("half a line") << QByteArray("/dev/sda1") << QStringList();
+        QTest::newRow("the system's own")
+            << QByteArray("proc /proc proc rw 0 0\n/dev/sda1 / ext4 rw 0 0\n") << QStringList();
+        QTest::newRow("stick and share")
+            << QByteArray("/dev/sdb1 /media/anna/MEIN\\040STICK vfat rw 0 0\n//s/t /mnt/Tausch cifs rw 0 0\n")
+            << QStringList{u"/media/anna/MEIN STICK"_s, u"/mnt/Tausch"_s};
+    }
+    void findsDrives()
+    {
+        QFETCH(QByteArray, mounts);
+        QTEST(drivesOf(mounts), "drives");
+    }
+
+    void makesAFolderToSaveIn()
+    {
+        whenOpen([](QFileDialog &dialog) {
+            QTimer::singleShot(50, [] {
+                auto *box = qobject_cast<QInputDialog *>(QApplication::activeModalWidget());
+                QVERIFY(box);
+                box->setTextValue(u"Klasse 3"_s);
+                box->accept();
+            });
+            dialog.findChild<QToolButton *>(u"newFolderButton"_s)->click();
+            enterNames(dialog, u"neu"_s);
+        });
+        const QString stored = storedPath(folder_.path());
+        QCOMPARE(dialogs_.saveFile(u"x"_s, stored, lists_, u".txt"_s), stored + u"\\Klasse 3\\neu.txt"_s);
+    }
+
+    void tellsWhatCannotBeSaved_data()
+    {
+        columns<QString, QString>("typed", "told");
+        QTest::newRow("too long") << QString(252, u'x') << u"zu lang"_s;
+        QTest::newRow("too long in umlauts") << QString(126, u'ü') << u"zu lang"_s;
+        QTest::newRow("backslash") << u"a\\b"_s << u"Schrägstrich"_s;
+        QTest::newRow("another file") << u"Zahl"_s << u"Zahl.txt gibt es schon"_s;
+        QTest::newRow("the open one") << u"ABEND"_s << QString();
+        QTest::newRow("long enough") << QString(251, u'x') << QString();
+    }
+    void tellsWhatCannotBeSaved()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QString, told);
+        QString seen;
+        whenOpen([&](QFileDialog &dialog) {
+            QTimer::singleShot(100, [&seen] {
+                if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+                    seen = box->text();
+                    box->reject();
+                }
+            });
+            enterNames(dialog, typed);
+            QTest::qWait(150);
+        });
+        const QString stored = storedPath(folder_.path());
+        const QString saved =
+            dialogs_.saveFile(u"x"_s, stored, lists_, u".txt"_s, {{}, stored + u"\\Abend.txt"_s});
+        QVERIFY2(seen.contains(told) && seen.isEmpty() == told.isEmpty(), qPrintable(seen));
+        QCOMPARE(saved.isEmpty(), !told.isEmpty());
     }
 
     void asksBeforeAFileIsReplaced()
