@@ -161,7 +161,7 @@ QByteArray ReadWholeFile(const QString &path, qint64 limit)
 
 QStringList readListFile(const QString &path, bool keepBlank)
 {
-    const QByteArray bytes = ReadWholeFile(path);
+    const QByteArray bytes = ReadWholeFile(path, largestLineFile);
     const TextEncoding encoding = encodingOf(bytes);
     if (encoding == TextEncoding::Windows1252) // each entry by itself, which spares a copy of the whole
         return entriesOf(bytes.begin(), bytes.end(), keepBlank, [](const char *from, qsizetype count) {

@@ -26,9 +26,9 @@ QString listBaseName(const QString &path);
 /// Bytes of the largest file that is read. What is longer is no list and no text for a class, and would fill
 /// the memory of its laptops.
 inline constexpr qint64 largestFile = 64LL << 20;
-/// The same for sessions and other ini files, whose lines take many times the memory of their bytes. The
-/// largest session that a board can make has half of it.
-inline constexpr qint64 largestIniFile = 8LL << 20;
+/// The same for what is kept line by line (sessions, settings, lists), which takes many times the memory of
+/// its bytes. The largest session that a board can make has half of it.
+inline constexpr qint64 largestLineFile = 8LL << 20;
 
 /// The whole file, without ever waiting for a pipe or a device. Throws RuntimeError 53 if it is missing, 70
 /// if it may not be read, 7 if it is longer than `limit` bytes, 75 for other faults.

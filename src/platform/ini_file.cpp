@@ -42,7 +42,7 @@ IniFile::IniFile(const QString &path, Purpose purpose)
     sections_.emplace_back();
     if (!QFileInfo::exists(nativePath(path)) || (purpose == Purpose::Writing && isForeignLink(path)))
         return;
-    const QByteArray bytes = ReadWholeFile(path, largestIniFile);
+    const QByteArray bytes = ReadWholeFile(path, largestLineFile);
     encoding_ = encodingOf(bytes);
     marked_ = bytes.startsWith(utf8Mark);
     if (encoding_ == TextEncoding::Utf16) {

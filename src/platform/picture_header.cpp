@@ -5,6 +5,7 @@
 #include <QtEndian>
 
 #include <cstdlib>
+#include <limits>
 
 namespace {
 
@@ -62,6 +63,9 @@ PictureHeader ofJpeg(QByteArrayView bytes)
     return {"jpeg"};
 }
 
+/// No format has longer ones; so the points can be counted.
+bool isSide(qint64 points) { return points > 0 && points <= std::numeric_limits<qint32>::max(); }
+
 struct Format
 {
     QByteArrayView begin;
@@ -83,7 +87,7 @@ std::optional<PictureHeader> pictureHeader(QByteArrayView bytes)
     for (const Format &format : formats)
         if (bytes.startsWith(format.begin)) {
             const PictureHeader header = format.read(bytes);
-            return header.width > 0 && header.height > 0 ? std::optional(header) : std::nullopt;
+            return isSide(header.width) && isSide(header.height) ? std::optional(header) : std::nullopt;
         }
     return std::nullopt;
 }

@@ -11,7 +11,7 @@
 struct PictureHeader
 {
     const char *format; ///< "bmp", "gif", "jpeg" or "png"
-    qint64 width = 0;   ///< points, above 0
+    qint64 width = 0;   ///< points, above 0 and below 2^31
     qint64 height = 0;
 
     qint64 points() const { return width * height; }

@@ -118,7 +118,7 @@ void SettingsFile::readFile() const
         return;
     QByteArray bytes;
     try {
-        bytes = ReadWholeFile(file_, largestIniFile);
+        bytes = ReadWholeFile(file_, largestLineFile);
     } catch (const RuntimeError &) {
         garbage_ = true;
         return;
