@@ -9,6 +9,8 @@
 
 #include <QMimeData>
 
+#include <sys/stat.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -202,6 +204,7 @@ private slots:
                                         {"bild.png", "png", "Dieses Bild hat das Format: PNG"},
                                         {"bild", "png", "Dieses Bild hat das Format: BILD"},
                                         {"bild.gif", "text", "kein Bild"},
+                                        {"rohr.jpg", "pipe", "nicht geschrieben oder gelesen"},
                                         {"fehlt.bmp", "", "gibt es nicht"}})
             QTest::newRow(name) << QByteArray(format) << QString::fromUtf8(complaint);
     }
@@ -246,6 +249,12 @@ private slots:
             b.r.background.loadFromSetting();
             QCOMPARE(b.controls.picCanvas->picture().isNull(), name != u"DA.bmp"_s);
         }
+        b.t.options.setText(Setting::BackgroundPicture, b.t.AppFolder + u"kaputt.jpg"_s);
+        b.t.boxes.willAnswer(Boxes::Answer::Ok);
+        b.r.background.takeSetting(); // now it has been chosen by hand
+        b.settle();
+        QVERIFY(b.t.boxes.asked.last().text.contains(u"kein Bild"_s));
+        QVERIFY(b.controls.picCanvas->picture().isNull());
         QVERIFY(b.t.ok());
     }
 
@@ -256,6 +265,10 @@ private:
             return;
         if (format == "text")
             return writeFileAtomically(path, "das ist nur ein Text");
+        if (format == "pipe") {
+            QCOMPARE(mkfifo(qPrintable(path), 0600), 0);
+            return;
+        }
         if (format == "bmp header") { // it promises 20,000 by 20,000 points
             writeFileAtomically(path,
                                 QByteArray::fromHex("424d36000000000000003600000028000000204e0000204e0000"
