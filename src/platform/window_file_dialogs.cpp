@@ -15,6 +15,7 @@
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QSplitter>
 #include <QToolButton>
 
 using namespace Qt::StringLiterals;
@@ -64,6 +65,8 @@ QString troubleWith(const QString &path)
 /// The toolkit's dialog, in which nothing can be done but to choose: the common ways of all of them.
 class FileWindow : public QFileDialog
 {
+    static constexpr int placesWidth = 130; ///< pixels, for the longest of the usual names
+
 public:
     FileWindow(AcceptMode mode, const QString &title, const QString &folder, const QString &filter,
                const QString &programFolder)
@@ -82,6 +85,8 @@ public:
         for (const QString &place : filePlaces(programFolder))
             places.append(QUrl::fromLocalFile(place));
         setSidebarUrls(places);
+        if (auto *splitter = findChild<QSplitter *>(u"splitter"_s))
+            splitter->setSizes({placesWidth, width() - placesWidth});
         const auto views = findChildren<QAbstractItemView *>();
         for (QAbstractItemView *view : views)
             view->setDragEnabled(false); // a file manager would take it for a move

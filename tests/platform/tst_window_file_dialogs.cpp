@@ -92,7 +92,8 @@ private slots:
             enterNames(dialog, typed);
         });
         const QString stored = storedPath(folder_.path());
-        QCOMPARE(dialogs_.saveFile(u"x"_s, stored, lists_, u".txt"_s, u"Vorschlag"_s), stored + u'\\' + name);
+        QCOMPARE(dialogs_.saveFile(u"x"_s, stored, lists_, u".txt"_s, {u"Vorschlag"_s, {}}),
+                 stored + u'\\' + name);
     }
 
     void nothingCanBeRenamedOrDeleted_data()
