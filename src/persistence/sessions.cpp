@@ -191,6 +191,11 @@ void Sessions::loadLists(const QString &name)
                                u"Datei "_s + path + u" fehlt\n\nSub: RestoreObjects. Line: "_s + lineHere());
         return;
     }
+    try {
+        readListOrTell(ground_, path);
+    } catch (const RuntimeError &) {
+        return; // the lists that are there stay
+    }
     lists_.LexiconList.clear();
     lists_.WortelList.clear();
     emit listsChosen();

@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
@@ -87,6 +88,9 @@ public:
         setSidebarUrls(places);
         if (auto *splitter = findChild<QSplitter *>(u"splitter"_s))
             splitter->setSizes({placesWidth, width() - placesWidth});
+        if (auto *header = findChild<QHeaderView *>())
+            for (int column = 1; column < header->count(); ++column) // all but the name
+                header->setSectionResizeMode(column, QHeaderView::ResizeToContents);
         const auto views = findChildren<QAbstractItemView *>();
         for (QAbstractItemView *view : views)
             view->setDragEnabled(false); // a file manager would take it for a move

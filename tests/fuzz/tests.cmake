@@ -8,7 +8,6 @@ wortel_test(fuzz
         fuzz_list.cpp
         fuzz_page.cpp
         fuzz_picture.cpp
-        fuzz_scores.cpp
         fuzz_session.cpp
         fuzz_settings.cpp
         fuzz_text.cpp
