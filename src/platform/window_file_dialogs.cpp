@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFileSystemModel>
 #include <QHeaderView>
 #include <QInputDialog>
 #include <QMessageBox>
@@ -132,10 +133,13 @@ private:
     {
         auto *button = findChild<QToolButton *>(u"newFolderButton"_s);
         auto *entry = findChild<QAction *>(u"qt_new_folder_action"_s);
-        if (button == nullptr || entry == nullptr)
+        auto *folders = findChild<QFileSystemModel *>();
+        if (button == nullptr || entry == nullptr || folders == nullptr)
             return;
         button->setVisible(acceptMode() == AcceptSave);
-        button->setEnabled(true);
+        const auto enable = [button] { button->setEnabled(true); };
+        enable();
+        connect(folders, &QFileSystemModel::rootPathChanged, button, enable, Qt::QueuedConnection);
         disconnect(button, nullptr, this, nullptr);
         disconnect(entry, nullptr, this, nullptr);
         connect(button, &QToolButton::clicked, this, &FileWindow::makeFolder);
