@@ -15,6 +15,7 @@
 #include <QFileSystemModel>
 #include <QHeaderView>
 #include <QInputDialog>
+#include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSplitter>
@@ -107,9 +108,12 @@ public:
         for (const QString &path : chosen)
             if (const QString trouble = troubleWith(path); !trouble.isEmpty())
                 return tell(trouble);
-        if (acceptMode() == AcceptOpen || isFree(chosen.value(0)) ||
-            mayReplace(this, windowTitle(), chosen[0]))
-            QFileDialog::accept();
+        const QString file = chosen.value(0);
+        if (acceptMode() == AcceptOpen || isFree(file) || mayReplace(this, windowTitle(), file))
+            return QFileDialog::accept();
+        // The mark in the list would count for more than the name that is typed next.
+        if (auto *list = findChild<QListView *>(u"listView"_s))
+            list->clearSelection();
     }
 
 private:
