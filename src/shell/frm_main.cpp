@@ -59,6 +59,7 @@ frmMain::frmMain(Ground &ground, const StartFacts &facts)
     , controls_(makeMainControls(this))
     , status_(controls_.GameProgress)
     , help_(ground.AppFolder, this)
+    , longPress_(ground)
 {
     setObjectName(u"frmMain"_s);
     setWindowTitle(product::name);

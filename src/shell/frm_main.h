@@ -6,6 +6,7 @@
 #include "platform/word_lists.h"
 #include "shell/handbook/help.h"
 #include "widgets/control_sheet.h"
+#include "widgets/long_press.h"
 #include "widgets/main_controls.h"
 #include "widgets/main_work_view.h"
 #include "widgets/status_line.h"
@@ -106,6 +107,7 @@ private:
     MainWorkView workView_{sheet_, status_};
     std::unique_ptr<Rooms> rooms_;
     Help help_;
+    LongPress longPress_;
     QString hiddenText_;
     bool cmdLineReady_ = false;
     bool activated_ = false;
