@@ -129,7 +129,6 @@ private slots:
         QTest::newRow("backslash") << u"a\\b"_s << u"Schrägstrich"_s;
         QTest::newRow("another file") << u"zAHL"_s << u"gibt es schon"_s; // of that name in another case
         QTest::newRow("the open one") << u"ABEND"_s << QString();
-        QTest::newRow("long enough") << QString(251, u'x') << QString();
     }
     void tellsWhatCannotBeSaved()
     {
