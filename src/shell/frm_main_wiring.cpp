@@ -205,8 +205,7 @@ void frmMain::wireKeeping()
     connect(&ground_.options, &Options::applied, this, [this, &r] {
         r.game.takeLevel();
         r.placement.takeTryLimit();
-        r.background.remove();
-        r.background.loadFromSetting();
+        r.background.takeSetting();
         r.strip.SetUpMsgScroller();
         r.undo.takeSetting();
     });
