@@ -9,6 +9,7 @@
 #include "widgets/long_press.h"
 #include "widgets/main_controls.h"
 #include "widgets/main_work_view.h"
+#include "widgets/short_note.h"
 #include "widgets/status_line.h"
 
 #include <QWidget>
@@ -86,6 +87,8 @@ private:
     void Form_Unload();
     void closeBoxes();
     void closeOnTop();
+    void showNote(const QString &text);
+    void tellWhyAtRest(const QWidget *tool);
     void UpdateCaption();
     void loadKept();
     void wire();
@@ -96,8 +99,6 @@ private:
     void wireKeeping();
     void wireCommands();
     template <typename Left, typename Right> void onPress(PressButton *tool, Left left, Right right);
-    /// Tells in one sentence that a command belongs to a part of the game that is still to be built.
-    void comesLater();
 
     Ground &ground_;
     StartFacts facts_;
@@ -107,6 +108,7 @@ private:
     ControlSheet sheet_{controls_};
     StatusLine status_;
     MainWorkView workView_{sheet_, status_};
+    ShortNote *note_;
     std::unique_ptr<Rooms> rooms_;
     Help help_;
     LongPress longPress_;

@@ -38,7 +38,6 @@ constexpr int rowHeight = 32;
 constexpr int statusRow = 73;
 constexpr int statusHeight = 14;
 constexpr QMargins cancelReach{4, 7, 4, 0}; // round the "X": a finger needs more than one sees
-constexpr int scrollerFontPixels = 18;      // read from a whiteboard, across a room
 
 using C = MainControls;
 
@@ -276,9 +275,6 @@ void makeLists(C &c)
     c.Text2->setAccessibleName(QStringLiteral("Wort im Wörterbuch suchen"));
     c.Text2->hide();
     c.Scroller = make<MsgScroller>(c.form, "MsgScroller");
-    QFont large = c.form->font();
-    large.setPixelSize(scrollerFontPixels);
-    c.Scroller->setFont(large);
     c.Scroller->setBackColor(Qt::white);
     c.Scroller->setForeColor(Qt::black);
     c.Scroller->resize(c.Scroller->sizeHint());

@@ -6,6 +6,7 @@ wortel_test(shell
         tst_keys_everywhere.cpp
         tst_long_press.cpp
         tst_main_window.cpp
+        tst_notes.cpp
         tst_one_work.cpp
         tst_reader_tree.cpp
         tst_sheets.cpp

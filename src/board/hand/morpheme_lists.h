@@ -23,6 +23,8 @@ public:
     void ToggleAllMorphemeLists();
     void hideAll();
     bool isAnyOpen() const;
+    /// A filter was chosen: a note if the board has nothing that it shows.
+    void tellIfNone(int index);
 
 signals:
     /// A left press on a filter button: the menus are to be made anew.
