@@ -4,8 +4,10 @@
 
 #include "board/tiles/places.h"
 #include "support/test_board.h"
+#include "widgets/accessible_tools.h"
 #include "widgets/colour.h"
 
+#include <QAccessible>
 #include <QPainter>
 
 using namespace Qt::StringLiterals;
@@ -59,6 +61,22 @@ double inRedraws(int count, int filter, const std::function<void(TestBoard &)> &
     const auto board = filledBoard(count);
     board->optTypes->select(filter);
     return bench::ratio([&] { work(*board); }, [&] { board->canvas->CanvasRedrawAll(); });
+}
+
+/// A redraw with the room that speaks to screen readers, over one without it.
+double readerInRedraws(bool asked)
+{
+    installAccessibleTools();
+    const auto board = filledBoard(500);
+    const auto alone = filledBoard(500);
+    QObject::disconnect(alone->canvas, nullptr, &alone->r.reader, nullptr);
+    if (asked) {
+        QAccessibleInterface *tiles = QAccessible::queryAccessibleInterface(board->controls.picCanvas);
+        for (int i = 0; i < tiles->childCount(); ++i)
+            bench::keep(tiles->child(i));
+    }
+    return bench::ratio([&] { board->canvas->CanvasRedrawAll(); }, [&] { alone->canvas->CanvasRedrawAll(); },
+                        25);
 }
 
 /// A surface that paints nothing: what is measured is the search.
@@ -125,6 +143,10 @@ const bench::Row rows[] = {
              b.arrangement->SortMorphemeAscending(false);
          });
      }},
+    {"board: redraw 500 tiles while no screen reader asks (without the reader's room)", 1.1,
+     [] { return readerInRedraws(false); }},
+    {"board: redraw 500 tiles that a screen reader knows (without the reader's room)", 1.5,
+     [] { return readerInRedraws(true); }},
 };
 
 } // namespace

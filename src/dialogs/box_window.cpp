@@ -5,6 +5,7 @@
 #include "dialogs/box_shadow.h"
 #include "dialogs/mover.h"
 #include "dialogs/wrapped_text.h"
+#include "widgets/announce.h"
 #include "widgets/press_button.h"
 
 #include <QApplication>
@@ -69,6 +70,7 @@ BoxWindow::BoxWindow(const boxstyle::Colours &colours, const QString &title, con
 
     Label3_->setObjectName(QStringLiteral("Label3"));
     Label3_->setTextFormat(Qt::PlainText);
+    Label3_->setAccessibleName(windowTitle()); // whole, however much of it is shown
     Label3_->setFont(sized(font(), titleSize, true));
     Label3_->setContentsMargins(padding - 6, 0, padding - 6, 0);
     Label3_->setFixedHeight(titleSize * 2);
@@ -201,6 +203,7 @@ void BoxWindow::showEvent(QShowEvent *event)
     activateWindow();
     if (focusWidget() == nullptr)
         setFocus(Qt::ActiveWindowFocusReason);
+    announce(*this, Label2_->accessibleName());
 }
 
 void BoxWindow::keyPressEvent(QKeyEvent *event)

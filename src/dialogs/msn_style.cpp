@@ -4,6 +4,7 @@
 
 #include "platform/ground.h"
 #include "platform/play_state.h"
+#include "widgets/announce.h"
 #include "widgets/control_sheet.h"
 #include "widgets/gradient.h"
 #include "widgets/main_controls.h"
@@ -65,6 +66,7 @@ void frmMsnStyle::Display(const QString &title, const QString &line1, const QStr
     playSound(ground_, sound);
     restButtons(true);
     window->slide(seconds);
+    announce(*controls_.form, QStringList{title, line1, line2, line3}.join(u' '));
 }
 
 void frmMsnStyle::restButtons(bool resting)

@@ -72,11 +72,6 @@ Tips::Tips(Ground &ground, MainControls &controls, WordLists &lists, const PlayS
     connect(VokalTipTimer_, &QTimer::timeout, this, &Tips::VokalTipTimer_Tick);
     connect(controls_.PicAlpha, &AlphaPanel::clicked, this, &Tips::hideTip);
     connect(controls_.Label5, &ClickLabel::clicked, this, &Tips::hideTip);
-    // A press on the bulb has given the focus to the bare window before the tip opens.
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *old, QWidget *now) {
-        if (now != nullptr)
-            lostToWindow_ = now == controls_.form && controls_.form->isAncestorOf(old) ? old : nullptr;
-    });
     connect(controls_.Image1, &ClickLabel::clicked, this,
             throughGate(ground_.gate, Gate::Way::Look, [this] { Image1_Click(); }));
     controls_.AlphaText->setTextFormat(Qt::PlainText);
@@ -86,14 +81,7 @@ Tips::Tips(Ground &ground, MainControls &controls, WordLists &lists, const PlayS
 
 bool Tips::isShown() const { return !controls_.PicAlpha->isHidden(); }
 
-void Tips::hideTip()
-{
-    controls_.PicAlpha->hide();
-    // The click has taken the focus to the window; a word that was being typed goes on.
-    if (focusBefore_ != nullptr)
-        focusBefore_->setFocus(Qt::OtherFocusReason);
-    focusBefore_.clear();
-}
+void Tips::hideTip() { controls_.PicAlpha->hide(); }
 
 QString Tips::readTip(const QString &file, const QString &key)
 {
@@ -147,8 +135,6 @@ void Tips::showTip(const QString &text)
 {
     controls_.AlphaText->setText(QString(text).replace(u"<BR>"_s, u"\n"_s));
     layOutPanel();
-    if (!isShown())
-        focusBefore_ = lostToWindow_ != nullptr ? lostToWindow_.get() : controls_.form->focusWidget();
     controls_.PicAlpha->show();
     controls_.PicAlpha->raise();
     controls_.Scroller->raise(); // the words to copy stay in sight

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QObject>
-#include <QPointer>
 #include <QString>
 
 #include <cstdint>
@@ -71,6 +70,4 @@ private:
     QTimer *TipTimer_;
     QTimer *GameTipTimer_;
     QTimer *VokalTipTimer_;
-    QPointer<QWidget> lostToWindow_; ///< what had the focus before the window itself, while that has it
-    QPointer<QWidget> focusBefore_;  ///< the tip came
 };

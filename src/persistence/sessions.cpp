@@ -56,8 +56,17 @@ Sessions::Sessions(Ground &ground, const MainControls &controls, WordLists &list
 
 void Sessions::registerCommands(CommandRouter &router)
 {
-    router.onMenu(1901, [this] { RestoreObjects(); });
-    router.onMenu(1903, [this] { SaveObjects(); });
+    using command::From;
+    const auto on = [&router](int menu, int key, const std::function<void()> &act) {
+        const auto handler = [act](const command::Command &, const Press &) {
+            act();
+            return Ending::Whole;
+        };
+        router.on(From::MainMenu, {menu}, handler);
+        router.on(From::Key, {key}, handler);
+    };
+    on(1901, 15, [this] { RestoreObjects(); });
+    on(1903, 19, [this] { SaveObjects(); });
 }
 
 void Sessions::makeCurrent(const QString &path)

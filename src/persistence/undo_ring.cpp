@@ -39,8 +39,8 @@ void UndoRing::registerCommands(CommandRouter &router)
     };
     router.on(From::MainMenu, {2801}, undo);
     router.on(From::MainMenu, {2802}, redo);
-    router.on(From::Key, {9}, undo);
-    router.on(From::Key, {10}, redo);
+    router.on(From::Key, {9, 26}, undo);
+    router.on(From::Key, {10, 25}, redo);
 }
 
 bool UndoRing::isOn() const { return ground_.options.storedIsOn(Setting::UseUndo); }

@@ -64,7 +64,6 @@ frmMain::frmMain(Ground &ground, const StartFacts &facts)
 {
     setObjectName(u"frmMain"_s);
     setWindowTitle(product::name);
-    setFocusPolicy(Qt::StrongFocus);
     setAcceptDrops(true);
     QSize size = designSize;
     // On a screen that is too small the suffix row would lie under the band, so the title bar is left out as
@@ -219,6 +218,17 @@ void frmMain::dropEvent(QDropEvent *event)
     event->setDropAction(Qt::CopyAction);
     event->setAccepted(BackgroundPicture::isPicture(path));
     ground_.gate.whenFree([this, path] { rooms_->background.drop(path); });
+}
+
+/// What has the keyboard and goes or rests gives it to the board, never to a tool that the next Enter would
+/// press.
+bool frmMain::focusNextPrevChild(bool next)
+{
+    const QWidget *focus = focusWidget();
+    if (focus == nullptr || (focus->isVisible() && focus->isEnabled()))
+        return QWidget::focusNextPrevChild(next);
+    controls_.picCanvas->setFocus(Qt::OtherFocusReason);
+    return true;
 }
 
 void frmMain::closeEvent(QCloseEvent *event)

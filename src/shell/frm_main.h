@@ -71,6 +71,7 @@ signals:
 protected:
     void resizeEvent(QResizeEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
     void changeEvent(QEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
@@ -85,6 +86,7 @@ private:
     void Form_QueryUnload();
     void Form_Unload();
     void closeBoxes();
+    void closeOnTop();
     void showNote(const QString &text);
     void tellWhyAtRest(const QWidget *tool);
     void UpdateCaption();

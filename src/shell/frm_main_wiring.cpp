@@ -17,6 +17,7 @@
 #include "widgets/click_label.h"
 #include "widgets/dropper.h"
 #include "widgets/long_press.h"
+#include "widgets/picture_box.h"
 #include "widgets/press_button.h"
 #include "widgets/store_list.h"
 
@@ -96,6 +97,7 @@ void frmMain::wireBoard()
     connect(controls_.Label2, &ClickLabel::clicked, this,
             throughGate(gate, Gate::Way::Play, [this] { showAbout(); }));
 
+    connect(&r.keys, &BoardKeys::escapes, this, &frmMain::closeOnTop);
     connect(&gate, &Gate::closeRequested, this, &frmMain::closeBoxes);
     connect(&gate, &Gate::closeNow, this, &frmMain::unload);
 }
@@ -237,6 +239,32 @@ void frmMain::showAbout()
 }
 
 void frmMain::showHelp() { help_.open(); }
+
+/// Esc: a tip lies over the lists, the lists over the strip. With nothing open the keyboard comes to the
+/// board, and there the chosen tile is left.
+void frmMain::closeOnTop()
+{
+    Rooms &r = *rooms_;
+    if (r.tips.isShown()) {
+        r.tips.hideTip();
+        return;
+    }
+    const Gate::Passage passage = ground_.gate.enter(Gate::Way::Play);
+    if (!passage)
+        return;
+    if (!controls_.CorrectWordList->isHidden())
+        r.wordList.Show_Result();
+    else if (r.dictionary.isOpen())
+        r.dictionary.toggle();
+    else if (r.morphemeLists.isAnyOpen())
+        r.morphemeLists.hideAll();
+    else if (play_.RetypeActive())
+        r.retype.endRun();
+    else if (!controls_.picCanvas->hasFocus())
+        controls_.picCanvas->setFocus(Qt::TabFocusReason);
+    else
+        r.focus.choose(nullptr);
+}
 
 /// In the window that has the hand: one that lies over this one would cover the note.
 void frmMain::showNote(const QString &text)

@@ -9,12 +9,14 @@
 #include "board/canvas/opt_types.h"
 #include "board/canvas/placement.h"
 #include "board/hand/board_commands.h"
+#include "board/hand/board_focus.h"
 #include "board/hand/board_keys.h"
 #include "board/hand/board_pointer.h"
 #include "board/hand/command_router.h"
 #include "board/hand/menu_model.h"
 #include "board/hand/morpheme_lists.h"
 #include "board/hand/popup_menu.h"
+#include "board/reader/board_reader.h"
 #include "board/tiles/affix_homes.h"
 #include "board/tiles/board_news.h"
 #include "dialogs/msn_style.h"
@@ -85,8 +87,10 @@ struct Rooms
     PopupMenu cp;
     CommandRouter router;
     BoardCommands commands;
+    BoardFocus focus;
     BoardPointer pointer;
     BoardKeys keys;
+    BoardReader reader;
 
     // language
     ListLoader loader;

@@ -16,6 +16,7 @@
 #include "shell/splash.h"
 #include "shell/start_steps.h"
 #include "shell/termination.h"
+#include "widgets/accessible_tools.h"
 #include "widgets/resources.h"
 #include "widgets/roomy_style.h"
 
@@ -130,6 +131,7 @@ int startWortel(int argc, char *argv[])
 {
     QApplication application(argc, argv);
     initResources();
+    installAccessibleTools();
     dressApplication(application);
 
     RealGround real(findAppFolder());

@@ -3,6 +3,8 @@
 #include "widgets/announce.h"
 
 #include <QAccessibleWidget>
+#include <QEvent>
+#include <QLabel>
 #include <QWidget>
 
 namespace {
@@ -16,7 +18,7 @@ constexpr QAccessible::Role alertRole = QAccessible::Notification;
 constexpr QAccessible::Role alertRole = QAccessible::AlertMessage;
 #endif
 
-/// What a window said last. Its widget is never shown: it is there only to be heard.
+/// What a window has said. Its widget is never shown: it is there only to be heard.
 class AccessibleAnnouncement : public QAccessibleWidget
 {
 public:
@@ -37,10 +39,39 @@ public:
     }
 };
 
+/// Waits for a label's coming into sight.
+class ShownLabel : public QObject
+{
+public:
+    explicit ShownLabel(QLabel &label)
+        : QObject(&label)
+        , label_(label)
+    {
+        label.installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Show)
+            announce(label_, label_.text());
+        return false;
+    }
+
+private:
+    QLabel &label_;
+};
+
+/// The one of the window's that spoke longest ago: a reader asks for the words a moment later, when another
+/// may have been said.
 QWidget *announcementOf(QWidget *window)
 {
-    if (auto *made = window->findChild<QWidget *>(QLatin1String(said), Qt::FindDirectChildrenOnly))
-        return made;
+    constexpr qsizetype mostAtOnce = 4;
+    const auto made = window->findChildren<QWidget *>(QLatin1String(said), Qt::FindDirectChildrenOnly);
+    if (made.size() >= mostAtOnce) {
+        made.first()->raise(); // to the end of the children
+        return made.first();
+    }
     auto *widget = new QWidget(window);
     widget->setObjectName(QLatin1String(said));
     widget->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -63,3 +94,5 @@ void announce(QWidget &from, const QString &text)
         QAccessible::updateAccessibility(&event);
     }
 }
+
+void announceWhenShown(QLabel &label) { new ShownLabel(label); }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+class QLabel;
 class QString;
 class QWidget;
 
@@ -9,3 +10,5 @@ class QWidget;
 /// a verdict, a notice. A text said twice is heard twice; an empty one is not said. Nothing happens, and
 /// nothing is made, while no screen reader asks.
 void announce(QWidget &from, const QString &text);
+/// From now on the label's text is announced whenever the label comes into sight.
+void announceWhenShown(QLabel &label);

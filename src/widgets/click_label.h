@@ -4,7 +4,8 @@
 
 #include <QLabel>
 
-/// A label (plain text) that tells when it was clicked with the left button.
+/// A label (plain text) that tells when it was clicked with the left button, or pressed with blank or Enter
+/// while it has the keyboard, which the Tab key gives it.
 class ClickLabel : public QLabel
 {
     Q_OBJECT
@@ -17,4 +18,6 @@ signals:
 
 protected:
     void mousePressEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
 };

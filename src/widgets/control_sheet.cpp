@@ -2,9 +2,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "widgets/control_sheet.h"
 
+#include <QAccessible>
 #include <QWidget>
 
 #include <algorithm>
+
+namespace {
+
+/// A tool's tip is also what screen readers call it by.
+void giveToolTip(QWidget &control, const QString &text)
+{
+    control.setToolTip(text);
+    QAccessibleEvent event(&control, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&event);
+}
+
+} // namespace
 
 void ControlSheet::lay(Reason reason, std::span<const SheetRow> rows)
 {
@@ -51,7 +64,7 @@ void ControlSheet::setToolTip(QWidget *control, const QString &text)
     if (own != own_.end() && own->toolTip)
         own->toolTip = text;
     else
-        control->setToolTip(text);
+        giveToolTip(*control, text);
 }
 
 void ControlSheet::apply(QWidget *control)
@@ -76,9 +89,9 @@ void ControlSheet::apply(QWidget *control)
     if (toolTip != nullptr) {
         if (!own->toolTip)
             own->toolTip = control->toolTip();
-        control->setToolTip(QString::fromUtf16(toolTip));
+        giveToolTip(*control, QString::fromUtf16(toolTip));
     } else if (own->toolTip) {
-        control->setToolTip(*own->toolTip);
+        giveToolTip(*control, *own->toolTip);
         own->toolTip.reset();
     }
     if (!lies)

@@ -26,6 +26,7 @@ Dropper::Dropper(QWidget *parent)
     , lblprefix_(new QLineEdit(this))
 {
     lblprefix_->setObjectName(QStringLiteral("lblprefix"));
+    lblprefix_->setAccessibleName(QStringLiteral("Wort"));
     lblprefix_->setFrame(false);
     lblprefix_->setAcceptDrops(false); // tiles are dropped on the control, which joins them to the text
     QPalette clear = lblprefix_->palette();
@@ -87,7 +88,8 @@ bool Dropper::eventFilter(QObject *watched, QEvent *event)
     } else if (event->type() == QEvent::KeyPress) {
         const auto *key = static_cast<QKeyEvent *>(event);
         if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) {
-            emit EnterPress();
+            if (!key->isAutoRepeat()) // a key that is held checks once
+                emit EnterPress();
             return true;
         }
         const bool leaves = key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab;

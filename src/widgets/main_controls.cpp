@@ -3,6 +3,7 @@
 #include "widgets/main_controls.h"
 
 #include "widgets/alpha_panel.h"
+#include "widgets/announce.h"
 #include "widgets/click_label.h"
 #include "widgets/colour.h"
 #include "widgets/dropper.h"
@@ -114,19 +115,21 @@ struct PanelRow
 {
     QWidget *C::*panel;
     const char *name;
+    const char16_t *spoken;
     int left, width, align;
 };
 
 constexpr PanelRow panelRows[] = {
-    {&C::Picture2, "Picture2", 0, 250, 0},
-    {&C::Picture4, "Picture4", 250, 190, 1},
-    {&C::Picture3, "Picture3", 440, 192, 2},
+    {&C::Picture2, "Picture2", u"Bausteine", 0, 250, 0},
+    {&C::Picture4, "Picture4", u"Wort", 250, 190, 1},
+    {&C::Picture3, "Picture3", u"Spiel", 440, 192, 2},
 };
 
-QWidget *makePanel(QWidget *parent, const char *name)
+QWidget *makePanel(QWidget *parent, const PanelRow &row)
 {
     auto *panel = new QWidget(parent);
-    panel->setObjectName(QLatin1String(name));
+    panel->setObjectName(QLatin1String(row.name));
+    panel->setAccessibleName(QString::fromUtf16(row.spoken));
     return panel;
 }
 
@@ -144,10 +147,10 @@ QLabel *makeLabel(QWidget *parent, const char *name)
     return label;
 }
 
-StoreList *makeList(QWidget *form, const char *name, int width, int height)
+StoreList *makeList(QWidget *form, const char *name, const QString &spoken, int width, int height)
 {
     auto *list = make<StoreList>(form, name);
-    list->setAccessibleName(QLatin1String(name));
+    list->setAccessibleName(spoken);
     list->resize(width, height);
     list->hide();
     return list;
@@ -171,6 +174,7 @@ void makeBoard(C &c)
     c.lblMove->hide();
 
     c.PicAlpha = make<AlphaPanel>(c.form, "PicAlpha");
+    c.PicAlpha->setAccessibleName(QStringLiteral("Tipp schließen"));
     c.PicAlpha->hide();
     c.AlphaText = makeLabel(c.PicAlpha, "AlphaText");
     c.AlphaText->setWordWrap(true);
@@ -188,7 +192,11 @@ void makeTilePanel(C &c)
     c.OptType[1]->setFace(toQColor(colours::prefixBack), toQColor(colours::prefixText));
     c.OptType[2]->setFace(toQColor(colours::suffixBack), toQColor(colours::suffixText));
     c.OptType[3]->setFace(QColor(236, 233, 216), Qt::black);
+    static constexpr std::array spoken{u"%1 Wortel", u"%1 Präfix", u"%1 Suffix", u"%1 Bausteine"};
+    for (std::size_t kind = 0; kind < spoken.size(); ++kind)
+        c.OptType[kind]->setSpokenCaption(QString::fromUtf16(spoken[kind]));
     c.Check1 = makeChoice(c.Picture2, "Check1");
+    c.Check1->setAccessibleName(QStringLiteral("Alle Wortel der Liste"));
     c.Text1 = make<QLineEdit>(c.Picture2, "Text1");
     c.Text1->setAlignment(Qt::AlignCenter);
     c.Check2 = make<PressButton>(c.Picture2, "Check2");
@@ -204,7 +212,7 @@ void makeTilePanel(C &c)
 void makeWordPanel(C &c)
 {
     c.Dropper1 = make<Dropper>(c.Picture4, "Dropper1");
-    c.Dropper1->setAccessibleName(QStringLiteral("Wort"));
+    c.Dropper1->setAccessibleName(QStringLiteral("Wortfeld"));
     c.Command2 = make<PressButton>(c.Picture4, "Command2");
     c.Command5 = make<PressButton>(c.Picture4, "Command5");
     c.Command3 = make<PressButton>(c.Picture4, "Command3");
@@ -247,6 +255,7 @@ void makeStatusLine(C &c)
     c.Label4->hide();
     c.Label2 = make<ClickLabel>(c.form, "Label2");
     c.Label2->setText(QStringLiteral("NORDVEKT"));
+    c.Label2->setAccessibleName(QStringLiteral("NORDVEKT: Über Wortel-Meister"));
     c.Label2->setStyleSheet(QStringLiteral("color: #00406a; font-size: 9px; padding-left: 4px"));
 }
 
@@ -255,11 +264,11 @@ void makeLists(C &c)
     const QString noteStyle =
         QStringLiteral("background: #ffffe8; color: #1b2a4a; border: 2px solid #1b2a4a; border-radius: 6px; "
                        "padding: 10px; font-size: 14px");
-    c.WortelList = makeList(c.form, "WortelList", 84, C::morphemeListHeight);
-    c.PrefixList = makeList(c.form, "PrefixList", 66, C::morphemeListHeight);
-    c.SuffixList = makeList(c.form, "SuffixList", 66, C::morphemeListHeight);
-    c.LexiconList = makeList(c.form, "LexiconList", 190, 260);
-    c.CorrectWordList = makeList(c.form, "CorrectWordList", 190, 260);
+    c.WortelList = makeList(c.form, "WortelList", QStringLiteral("Wortel-Liste"), 84, C::morphemeListHeight);
+    c.PrefixList = makeList(c.form, "PrefixList", QStringLiteral("Präfix-Liste"), 66, C::morphemeListHeight);
+    c.SuffixList = makeList(c.form, "SuffixList", QStringLiteral("Suffix-Liste"), 66, C::morphemeListHeight);
+    c.LexiconList = makeList(c.form, "LexiconList", QStringLiteral("Wörterbuch"), 190, 260);
+    c.CorrectWordList = makeList(c.form, "CorrectWordList", QStringLiteral("Wörterliste"), 190, 260);
     c.LexiconList->setToolTip(QStringLiteral("Rechtsklick: Menü zeigen"));
     c.CorrectWordList->setToolTip(QStringLiteral("Rechtsklick: Menü zeigen"));
     c.Text2 = make<QLineEdit>(c.form, "Text2");
@@ -277,6 +286,8 @@ void makeLists(C &c)
     c.TxtWordHint->setAlignment(Qt::AlignCenter);
     c.TxtWordHint->setStyleSheet(noteStyle);
     c.TxtWordHint->hide();
+    for (QLabel *notice : {c.txtWelcomeMsg, c.TxtWordHint, c.AlphaText})
+        announceWhenShown(*notice);
 }
 
 void dress(const ControlRow &row, QWidget *widget)
@@ -299,6 +310,26 @@ void dress(const ControlRow &row, QWidget *widget)
     }
 }
 
+/// The Tab key goes over the window as the eye does: the board, what lies open on it, then the band, panel by
+/// panel.
+void orderForKeys(const C &c)
+{
+    QWidget *last = c.picCanvas;
+    const auto next = [&last](QWidget *widget) {
+        QWidget::setTabOrder(last, widget);
+        last = widget;
+    };
+    for (QWidget *open : {static_cast<QWidget *>(c.Label5), static_cast<QWidget *>(c.PrefixList),
+                          static_cast<QWidget *>(c.WortelList), static_cast<QWidget *>(c.SuffixList),
+                          static_cast<QWidget *>(c.Text2), static_cast<QWidget *>(c.LexiconList),
+                          static_cast<QWidget *>(c.CorrectWordList)})
+        next(open);
+    for (const ControlRow &row : bandRows)
+        if (row.get(c)->focusPolicy() != Qt::NoFocus || row.get(c) == c.Dropper1)
+            next(row.get(c));
+    next(c.Label2);
+}
+
 } // namespace
 
 MainControls makeMainControls(QWidget *form)
@@ -307,8 +338,9 @@ MainControls makeMainControls(QWidget *form)
     c.form = form;
     makeBoard(c);
     c.Picture1 = make<GradientPanel>(form, "Picture1");
+    c.Picture1->setAccessibleName(QStringLiteral("Werkzeuge"));
     for (const PanelRow &row : panelRows)
-        c.*row.panel = makePanel(c.Picture1, row.name);
+        c.*row.panel = makePanel(c.Picture1, row);
     makeTilePanel(c);
     makeWordPanel(c);
     makeGamePanel(c);
@@ -316,6 +348,7 @@ MainControls makeMainControls(QWidget *form)
     makeLists(c);
     for (const ControlRow &row : bandRows)
         dress(row, row.get(c));
+    orderForKeys(c);
     return c;
 }
 

@@ -2,10 +2,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "widgets/picture_box.h"
 
+#include <QAccessible>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QtMath>
+
+#include <utility>
+
+namespace {
+
+constexpr int frameReach = 6; ///< pixels that a frame needs round what it frames
+constexpr QColor darkLine{0x12, 0x2A, 0x5C};
+
+} // namespace
 
 PictureBox::PictureBox(QWidget *parent)
     : QWidget(parent)
@@ -28,6 +38,24 @@ void PictureBox::cls()
     ensureImage();
     clearImage(image_);
     update();
+}
+
+void PictureBox::setFrame(const QRect &around)
+{
+    if (around == frame_)
+        return;
+    for (const QRect &rect : {frame_, around})
+        if (!rect.isEmpty())
+            update(rect.adjusted(-frameReach, -frameReach, frameReach, frameReach));
+    frame_ = around;
+}
+
+/// Whoever has spoken for the picture so far goes: Qt keeps the first one that it was given.
+void PictureBox::setSpeaker(Speaker speaker)
+{
+    if (QAccessibleInterface *before = QAccessible::queryAccessibleInterface(this))
+        QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(before));
+    speaker_ = std::move(speaker);
 }
 
 void PictureBox::LockWindow(bool locked)
@@ -70,6 +98,20 @@ void PictureBox::paintEvent(QPaintEvent *event)
     for (const QRect &part : event->region())
         painter.drawImage(QRectF(part), image_,
                           QRectF(QPointF(part.topLeft()) * ratio, QSizeF(part.size()) * ratio));
+    paintFrame(painter);
+}
+
+/// A dark line between two white ones.
+void PictureBox::paintFrame(QPainter &painter) const
+{
+    if (frame_.isEmpty())
+        return;
+    const auto line = [&](const QColor &colour, double width) {
+        painter.setPen(QPen(colour, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter.drawRect(QRectF(frame_).adjusted(-2.5, -2.5, 2.5, 2.5));
+    };
+    line(Qt::white, 5);
+    line(darkLine, 3);
 }
 
 void PictureBox::resizeEvent(QResizeEvent *event)

@@ -5,6 +5,10 @@
 #include <QImage>
 #include <QWidget>
 
+#include <functional>
+
+class QAccessibleInterface;
+
 /// A picture box that keeps its image: what was painted on it survives being covered. The image has the
 /// screen's device pixel ratio, so that tiles are sharp on a fine display; all coordinates are logical
 /// pixels. Painting can be frozen during bulk work, which hides the steps between. Who paints on the image
@@ -30,6 +34,16 @@ public:
     /// Clears the image to the back colour and the picture.
     void cls();
 
+    /// A frame round that rectangle (logical pixels) that lies over the picture and is no part of it; an
+    /// empty one removes it. It is seen on every colour.
+    void setFrame(const QRect &around);
+    QRect frame() const { return frame_; }
+
+    /// Who speaks for the picture to a screen reader, made when one asks; nothing for the plain picture.
+    using Speaker = std::function<QAccessibleInterface *()>;
+    void setSpeaker(Speaker speaker);
+    QAccessibleInterface *makeAccessible() const { return speaker_ ? speaker_() : nullptr; }
+
     /// Suspends (True) or resumes repainting of this surface. Not counted: one resume ends any number of
     /// suspends.
     void LockWindow(bool locked);
@@ -49,11 +63,14 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
+    void paintFrame(QPainter &painter) const;
     void ensureImage();
     void clearImage(QImage &image) const;
 
     QImage image_;
     QImage picture_;
     QColor backColour_{Qt::white};
+    QRect frame_;
+    Speaker speaker_;
     bool locked_ = false;
 };

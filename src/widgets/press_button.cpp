@@ -3,6 +3,7 @@
 #include "widgets/press_button.h"
 
 #include "widgets/colour.h"
+#include "widgets/press_keys.h"
 
 #include <QLinearGradient>
 #include <QMouseEvent>
@@ -11,6 +12,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 
 namespace {
 
@@ -38,7 +40,7 @@ struct PressButton::Look
 PressButton::PressButton(QWidget *parent)
     : QToolButton(parent)
 {
-    setFocusPolicy(Qt::NoFocus);
+    setFocusPolicy(Qt::TabFocus);
     setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     setAttribute(Qt::WA_Hover);
 }
@@ -120,11 +122,8 @@ void PressButton::paintFace(QPainter &painter, const Look &look) const
         painter.setPen(QPen(QColor(255, 255, 255, 220), 1.5));
         painter.drawRoundedRect(look.face.adjusted(2, 2, -2, -2), cornerRadius - 2, cornerRadius - 2);
     }
-    if (hasFocus()) { // only in a window whose buttons take it
-        painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(look.checked ? look.text : paint::activeFrame, 1.5, Qt::DotLine));
-        painter.drawRoundedRect(look.face.adjusted(4, 4, -4, -4), cornerRadius - 3, cornerRadius - 3);
-    }
+    if (hasFocus())
+        paintKeyFrame(painter, look.face.adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius);
 }
 
 void PressButton::paintContent(QPainter &painter, const Look &look) const
@@ -160,6 +159,27 @@ void PressButton::paintContent(QPainter &painter, const Look &look) const
         painter.drawText(textRect, side | Qt::AlignVCenter | Qt::TextShowMnemonic, text());
     }
 }
+
+/// A button of several that exclude each other would take the Tab key from the others here.
+void PressButton::focusInEvent(QFocusEvent *event) { QWidget::focusInEvent(event); }
+
+void PressButton::keyPressEvent(QKeyEvent *event)
+{
+    const std::optional<Qt::MouseButton> button = buttonOfKey(*event);
+    if (!button) {
+        event->ignore(); // arrows, too: they are the board's or the window's
+        return;
+    }
+    if (event->isAutoRepeat())
+        return;
+    const QPointer<PressButton> self(this);
+    if (button == Qt::LeftButton)
+        click();
+    if (self)
+        emit mouseDown(*button, event->modifiers());
+}
+
+void PressButton::keyReleaseEvent(QKeyEvent *event) { event->ignore(); }
 
 void PressButton::mousePressEvent(QMouseEvent *event)
 {

@@ -5,8 +5,8 @@
 #include <QToolButton>
 
 /// A tool of the lower band: a push, check or option button with an icon or a short text that tells left from
-/// right presses, because most tools do two things. It never takes the keyboard focus, so the keyboard stays
-/// with the board.
+/// right presses, because most tools do two things. A press never takes the keyboard focus, only the Tab key
+/// gives it: then blank and Enter are the left press, and the menu key is the right one.
 class PressButton : public QToolButton
 {
     Q_OBJECT
@@ -18,6 +18,11 @@ public:
     void setFace(const QColor &back, const QColor &text = {});
     QColor faceColour() const { return back_; }
 
+    /// What a screen reader says for a caption that is a mere number: "%1 Wortel". Empty for a tool whose
+    /// tip or own name tells what it is.
+    void setSpokenCaption(const QString &pattern) { spokenCaption_ = pattern; }
+    QString spokenCaption() const { return spokenCaption_; }
+
     QSize sizeHint() const override;
 
 signals:
@@ -27,6 +32,9 @@ signals:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
 
@@ -38,4 +46,5 @@ private:
 
     QColor back_;
     QColor text_;
+    QString spokenCaption_;
 };

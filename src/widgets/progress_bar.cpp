@@ -4,6 +4,7 @@
 
 #include "widgets/colour.h"
 
+#include <QAccessible>
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
@@ -37,8 +38,13 @@ void GameProgressBar::setValue(int value)
     const int kept = std::clamp(value, 0, maximum_);
     if (kept == value_)
         return;
+    const bool isHeard = kept * 100LL / maximum_ != value_ * 100LL / maximum_;
     value_ = kept;
     update();
+    if (isHeard) { // by whole per cents: a long work counts thousands
+        QAccessibleValueChangeEvent event(this, kept);
+        QAccessible::updateAccessibility(&event);
+    }
     emit ValueChanged(kept);
 }
 

@@ -4,6 +4,7 @@
 
 #include "platform/word_store.h"
 #include "widgets/long_press.h"
+#include "widgets/press_keys.h"
 
 #include <QAbstractListModel>
 #include <QMetaMethod>
@@ -12,6 +13,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <optional>
 
 /// The rows of a store as a model. A store tells that it has changed, not how; the count that the view works
 /// with is therefore one of the last refresh, and a row that has gone since reads as the empty string.
@@ -223,7 +225,18 @@ void StoreList::connectNotify(const QMetaMethod &signal)
 void StoreList::keyPressEvent(QKeyEvent *event)
 {
     refresh();
-    QListView::keyPressEvent(event);
+    const std::optional<Qt::MouseButton> button = buttonOfKey(*event);
+    if (!button || event->key() == Qt::Key_Space) {
+        QListView::keyPressEvent(event);
+        return;
+    }
+    if (event->isAutoRepeat())
+        return;
+    const QModelIndex row = currentIndex();
+    if (button == Qt::RightButton)
+        emit rightPressed(row.isValid() ? visualRect(row).center() : rect().center());
+    else if (row.isValid())
+        emit rowClicked(row.row());
 }
 
 void StoreList::currentChanged(const QModelIndex &current, const QModelIndex &previous)

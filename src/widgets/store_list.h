@@ -34,9 +34,9 @@ public:
     void selectRows(const QList<int> &rows);
 
 signals:
-    /// A left click on a row that exists.
+    /// A left click on a row that exists, or Enter.
     void rowClicked(int row);
-    /// A right press, at the point in this widget's pixels.
+    /// A right press, or the menu key, at the point in this widget's pixels.
     void rightPressed(const QPoint &position);
 
 protected:

@@ -13,11 +13,11 @@
 
 /// The rooms of the house, from the ground up. A file includes headers of its own room and of those below.
 static const QStringList rooms{
-    QStringLiteral("platform"),       QStringLiteral("widgets"),      QStringLiteral("dialogs"),
-    QStringLiteral("board/tiles"),    QStringLiteral("board/canvas"), QStringLiteral("board/hand"),
-    QStringLiteral("output/columns"), QStringLiteral("language"),     QStringLiteral("generators"),
-    QStringLiteral("persistence"),    QStringLiteral("output"),       QStringLiteral("games/scores"),
-    QStringLiteral("games"),          QStringLiteral("shell")};
+    QStringLiteral("platform"),     QStringLiteral("widgets"),        QStringLiteral("dialogs"),
+    QStringLiteral("board/tiles"),  QStringLiteral("board/canvas"),   QStringLiteral("board/hand"),
+    QStringLiteral("board/reader"), QStringLiteral("output/columns"), QStringLiteral("language"),
+    QStringLiteral("generators"),   QStringLiteral("persistence"),    QStringLiteral("output"),
+    QStringLiteral("games/scores"), QStringLiteral("games"),          QStringLiteral("shell")};
 
 /// The floor on which a file (or folder) of the house stands: that of the room with the longest name that
 /// holds it; -1 for none.

@@ -10,6 +10,8 @@ wortel_test(board
         hand/tst_morpheme_lists.cpp
         hand/tst_pointer.cpp
         hand/tst_random_player.cpp
+        hand/tst_tile_keys.cpp
+        reader/tst_board_reader.cpp
         tiles/tst_board_rules.cpp
         tiles/tst_tile_store.cpp
 )

@@ -73,6 +73,8 @@ QProcessEnvironment Desktop::environment() const
     environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
     environment.remove(u"WAYLAND_DISPLAY"_s);
     environment.remove(u"PULSE_SERVER"_s);
+    for (auto variable = variables_.begin(); variable != variables_.end(); ++variable)
+        environment.insert(variable.key(), variable.value());
     return environment;
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QImage>
+#include <QMap>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -29,6 +30,9 @@ public:
     void setSetting(const QString &key, const QString &value);
     /// The settings as the program has written them.
     QString storedSettings() const;
+    /// A variable of the environment that the program is started in.
+    void setVariable(const QString &name, const QString &value) { variables_.insert(name, value); }
+    QProcessEnvironment environment() const;
     /// Writes a file into the program's folder and returns its name.
     QString writeFile(const QString &name, const QByteArray &content);
 
@@ -85,10 +89,10 @@ public:
     QByteArray run(const QString &program, const QStringList &arguments);
 
 private:
-    QProcessEnvironment environment() const;
     void makePortableCopy();
 
     QTemporaryDir place_;
+    QMap<QString, QString> variables_;
     QProcess display_;
     QProcess manager_;
     QProcess game_;

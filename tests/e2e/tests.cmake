@@ -4,14 +4,19 @@ wortel_test(e2e SLOW TIMEOUT 600
     SOURCES
         desktop.cpp
         known_board.cpp
+        tst_blind_child.cpp
         tst_board_by_hand.cpp
         tst_chosen_words.cpp
         tst_first_board.cpp
         tst_games_by_hand.cpp
         tst_interrupted.cpp
         tst_kept_boards.cpp
+        tst_keys_alone.cpp
         tst_stems_by_hand.cpp
         tst_memory_by_hand.cpp
         tst_words_by_hand.cpp
 )
+# The screen reader's end of the accessibility bus.
+find_package(Qt6 6.4 REQUIRED COMPONENTS DBus)
+target_link_libraries(tst_e2e PRIVATE Qt6::DBus)
 add_dependencies(tst_e2e wortel)

@@ -3,6 +3,7 @@
 #include "support/registry.h"
 #include "support/watchful_application.h"
 
+#include "widgets/accessible_tools.h"
 #include "widgets/resources.h"
 #include "widgets/roomy_style.h"
 
@@ -19,6 +20,7 @@ int main(int argc, char *argv[])
 {
     WatchfulApplication application(argc, argv);
     initResources();
+    installAccessibleTools();
     QApplication::setStyle(new RoomyStyle);
     QFont font(QStringLiteral("Liberation Sans"));
     font.setPixelSize(11);

@@ -45,7 +45,7 @@ private slots:
         QTest::mouseRelease(&bench.button, Qt::LeftButton, Qt::ShiftModifier);
         QCOMPARE(bench.told, QStringList{u"left+shift"_s});
         QVERIFY(bench.button.isChecked());
-        QCOMPARE(bench.button.focusPolicy(), Qt::NoFocus);
+        QCOMPARE(bench.button.focusPolicy(), Qt::TabFocus);
     }
 
     void releaseOutsideIsNothing()

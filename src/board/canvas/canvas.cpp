@@ -74,10 +74,16 @@ void Canvas::draw(const TileList &tiles, bool everyKind)
             tile->Draw(surface_);
 }
 
+void Canvas::drawStore(bool everyKind)
+{
+    draw(store_.tiles(), everyKind);
+    emit drawn();
+}
+
 void Canvas::CanvasRedrawAll()
 {
     Procedure step{ground_.log, "CanvasRedrawAll", form};
-    step([&] { draw(store_.tiles(), true); });
+    step([&] { drawStore(true); });
     step([&] { ground_.pump.yield(); });
     step([&] { optTypes_.updateTotal(); });
 }
@@ -89,14 +95,14 @@ void Canvas::CanvasFilterAndDraw()
         if (optTypes_.selected() == TileFilter::all)
             surface_.clear();
         else
-            draw(store_.tiles(), false);
+            drawStore(false);
     });
 }
 
 void Canvas::repaint()
 {
     Procedure step{ground_.log, "repaint", form, Procedure::Silent};
-    step([&] { draw(store_.tiles(), false); });
+    step([&] { drawStore(false); });
     step([&] { optTypes_.updateTotal(); });
 }
 
@@ -151,12 +157,12 @@ void Canvas::eraseTile(Procedure &step, int index)
     step([&] { ground_.pump.yield(); });
 }
 
-void Canvas::CanvasEraseWortel(int x, int y, std::optional<Colour> kind)
+void Canvas::CanvasEraseWortel(QPoint place, const QString &text, Colour kind)
 {
     Procedure step{ground_.log, "CanvasEraseWortel", form};
     const TileList &tiles = store_.tiles();
     const auto hit = std::find_if(tiles.begin(), tiles.end(), [&](const auto &tile) {
-        return tile->Inside(x, y) && (!kind || tile->BGColor == *kind);
+        return QPoint(tile->xLeft(), tile->yTop()) == place && tile->BGColor == kind && tile->txt == text;
     });
     if (hit != tiles.end())
         eraseTile(step, static_cast<int>(hit - tiles.begin()));
@@ -206,7 +212,7 @@ void Canvas::EditObject(QPoint place, const QString &text, Colour kind)
 bool Canvas::CanvasSelectWortel(int x, int y)
 {
     Procedure step{ground_.log, "CanvasSelectWortel", form};
-    bool picked = false;
+    bool isPicked = false;
     step([&] {
         for (const auto &tile : store_.tiles()) {
             if (!tile->Inside(x, y))
@@ -214,15 +220,17 @@ bool Canvas::CanvasSelectWortel(int x, int y)
             store_.setCurrent(tile.get());
             if (!optTypes_.shows(tile->BGColor))
                 continue;
-            picked = true;
+            isPicked = true;
             tile->Selected = true;
             showHeld(*tile);
             break;
         }
     });
-    if (picked && WordCheckDrag_)
+    if (isPicked)
+        emit picked();
+    if (isPicked && WordCheckDrag_)
         emit wordCheckDragBegins();
-    return picked;
+    return isPicked;
 }
 
 void Canvas::showHeld(const cWortel &tile)

@@ -8,8 +8,6 @@
 #include <QObject>
 #include <QPoint>
 
-#include <optional>
-
 class ControlSheet;
 class OptTypes;
 class Procedure;
@@ -44,9 +42,9 @@ public:
     void drawShown(TileSurface &paper) const;
     /// Draws every tile black on white on another surface.
     void DrawMonoChrome(TileSurface &paper) const;
-    /// Removes the first tile with `Inside(x, y)`, or the first of the kind with that back colour. The kind's
-    /// own counter stays: the callers lower it.
-    void CanvasEraseWortel(int x, int y, std::optional<Colour> kind = {});
+    /// Removes the tile of that kind and text whose corner lies at `place`. The kind's own counter stays: the
+    /// callers lower it.
+    void CanvasEraseWortel(QPoint place, const QString &text, Colour kind);
     /// Removes all tiles of that back colour; serves all three kinds despite its name.
     void CanvasEraseAllAffix(Colour colour);
     /// Gives the tile of that kind whose corner lies at `place` a new text. It moves to the top of the
@@ -69,11 +67,17 @@ public slots:
     void Check1_Click();
 
 signals:
+    /// The board shows the store's tiles as they are now. Comes from within walks of Qt as well: who hears it
+    /// lets nothing run.
+    void drawn();
+    /// A tile was picked up: it is the store's current one.
+    void picked();
     /// A tile was picked up in the mode "Ziehmodus Wortkontrolle": a drag of `BtnMove1` begins.
     void wordCheckDragBegins();
 
 private:
     void draw(const TileList &tiles, bool everyKind);
+    void drawStore(bool everyKind);
     void showHeld(const cWortel &tile);
     void eraseTile(Procedure &step, int index);
 

@@ -95,7 +95,7 @@ Ending BoardCommands::removeTile(const Press &press)
                               press.kind->box, ground_.options.isOn(Setting::ConfirmBeforeErase)))
         return Ending::RecallOnly;
     store_.counters().add(press.kind->filterIndex, -1, true);
-    rooms_.canvas.CanvasEraseWortel(press.point.x(), press.point.y(), press.kind->back);
+    rooms_.canvas.CanvasEraseWortel(press.place, press.text, press.kind->back);
     return Ending::Whole;
 }
 

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "board/hand/board_keys.h"
 
+#include "board/hand/board_focus.h"
 #include "board/hand/board_pointer.h"
 #include "board/hand/command_router.h"
-#include "board/hand/popup_menu.h"
 #include "platform/boxes.h"
 #include "platform/ground.h"
 #include "platform/options.h"
@@ -13,14 +13,15 @@
 #include "widgets/dropper.h"
 #include "widgets/main_controls.h"
 #include "widgets/picture_box.h"
+#include "widgets/store_list.h"
 
 #include <QAbstractButton>
-#include <QAbstractScrollArea>
 #include <QApplication>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QScreen>
+#include <QPointer>
 #include <QTextEdit>
 
 using command::From;
@@ -31,22 +32,69 @@ constexpr auto form = "frmMain";
 constexpr int helpCommand = 1001;
 } // namespace
 
-BoardKeys::BoardKeys(Ground &ground, const MainControls &controls, CommandRouter &router,
-                     BoardPointer &pointer, PopupMenu &popup)
+BoardKeys::BoardKeys(Ground &ground, const MainControls &controls, const TileKeys::Rooms &rooms)
     : ground_(ground)
     , controls_(controls)
-    , router_(router)
-    , pointer_(pointer)
-    , popup_(popup)
+    , rooms_(rooms)
+    , tileKeys_(ground, controls, rooms)
+    , letters_(ground, controls)
 {
     qApp->installEventFilter(this);
+    connect(&ground.gate, &Gate::boxOpens, this, [this] { tileKeys_.endRun(); });
 }
 
 bool BoardKeys::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::KeyPress && goesToForm(watched))
-        return handle(*static_cast<QKeyEvent *>(event));
-    return QObject::eventFilter(watched, event);
+    switch (event->type()) {
+    case QEvent::KeyPress:
+        return goesToForm(watched) && handle(*static_cast<QKeyEvent *>(event));
+    case QEvent::KeyRelease:
+        if (!static_cast<QKeyEvent *>(event)->isAutoRepeat() && goesToForm(watched))
+            tileKeys_.endRun();
+        return false;
+    case QEvent::InputMethod:
+        return goesToForm(watched) && letters_.isFree(controls_.form->window()->focusWidget()) &&
+               letters_.type(static_cast<QInputMethodEvent *>(event)->commitString());
+    case QEvent::MouseButtonPress:
+        if (const auto *widget = qobject_cast<QWidget *>(watched))
+            pressed(widget);
+        return false;
+    case QEvent::Show:
+        if (keyWasLast_)
+            if (auto *list = qobject_cast<StoreList *>(watched))
+                listOpens(list);
+        return false;
+    case QEvent::FocusOut:
+        if (tileKeys_.inRun())
+            ground_.gate.whenFree([this] { tileKeys_.endRun(); });
+        return false;
+    default:
+        return false;
+    }
+}
+
+/// The press of a pointer: the frame of the keys is of no more use, and a tool that had the keyboard gives it
+/// back, so that the next Enter does not press it again.
+void BoardKeys::pressed(const QWidget *widget)
+{
+    if (!controls_.form->isAncestorOf(widget))
+        return;
+    keyWasLast_ = false;
+    rooms_.focus.setByKeys(false);
+    const QWidget *focus = controls_.form->window()->focusWidget();
+    if (focus != nullptr && focus != widget && focus != controls_.picCanvas && letters_.isFree(focus))
+        controls_.picCanvas->setFocus(Qt::OtherFocusReason);
+}
+
+/// A list that a key has opened gets the keyboard, so that its rows can be gone through at once.
+void BoardKeys::listOpens(QWidget *list)
+{
+    if (!controls_.form->isAncestorOf(list) || list == controls_.LexiconList)
+        return;
+    ground_.gate.whenFree([list = QPointer<QWidget>(list)] {
+        if (list != nullptr && list->isVisible())
+            list->setFocus(Qt::OtherFocusReason);
+    });
 }
 
 bool BoardKeys::goesToForm(const QObject *watched) const
@@ -58,12 +106,39 @@ bool BoardKeys::goesToForm(const QObject *watched) const
 
 bool BoardKeys::handle(const QKeyEvent &event)
 {
+    keyWasLast_ = true;
     const Qt::KeyboardModifiers shift = event.modifiers();
+    const bool ctrl = shift.testFlag(Qt::ControlModifier);
+    const bool alt = shift.testFlag(Qt::AltModifier);
     const int key = event.key();
-    if (shift.testFlag(Qt::ControlModifier) && !shift.testFlag(Qt::AltModifier) && key >= Qt::Key_A &&
-        key <= Qt::Key_Z)
+    if (ctrl && !alt && key >= Qt::Key_A && key <= Qt::Key_Z)
         return Form_KeyPress(key - Qt::Key_A + 1);
-    return Form_KeyDown(key) || picCanvas_KeyDown(key);
+    // A key that is held would close one thing after the other.
+    const bool heldDown = event.isAutoRepeat() && (key == Qt::Key_Escape || key == Qt::Key_F6);
+    if (heldDown || Form_KeyDown(key))
+        return true;
+    if (isOnBoard() && tileKeys_.press(event))
+        return true;
+    if (key == Qt::Key_Down && goesDownToList())
+        return true;
+    // The right Alt key comes as both on some keyboards, and gives letters.
+    return ctrl == alt && letters_.isFree(controls_.form->window()->focusWidget()) &&
+           letters_.type(event.text());
+}
+
+/// From the search box to what was found: the list stands below it.
+bool BoardKeys::goesDownToList()
+{
+    if (!controls_.Text2->hasFocus() || !controls_.LexiconList->isVisible())
+        return false;
+    controls_.LexiconList->setFocus(Qt::OtherFocusReason);
+    return true;
+}
+
+bool BoardKeys::isOnBoard() const
+{
+    const QWidget *focus = controls_.form->window()->focusWidget();
+    return focus == nullptr || focus == controls_.form || focus == controls_.picCanvas;
 }
 
 bool BoardKeys::isTyping() const
@@ -80,35 +155,49 @@ bool BoardKeys::isTyping() const
 bool BoardKeys::Form_KeyPress(int code)
 {
     const command::Command *row = command::find(From::Key, code);
-    if (row == nullptr || isTyping())
+    if (row == nullptr || (isTyping() && (row->flags & command::WhileTyping) == 0))
         return false;
     const auto way = (row->flags & command::Looks) != 0 ? Gate::Way::Look : Gate::Way::Play;
     if (const Gate::Passage passage = ground_.gate.enter(way)) {
-        pointer_.letGo();
+        rooms_.pointer.letGo();
+        tileKeys_.endRun();
         Press press;
-        press.filter = router_.selectedFilter();
-        router_.run(From::Key, code, press);
+        press.filter = rooms_.router.selectedFilter();
+        rooms_.router.run(From::Key, code, press);
     }
     return true;
 }
 
 bool BoardKeys::Form_KeyDown(int key)
 {
-    if (key == Qt::Key_F1) {
+    switch (key) {
+    case Qt::Key_F1:
         if (const Gate::Passage passage = ground_.gate.enter(Gate::Way::Look))
-            router_.run(From::MainMenu, helpCommand, {});
+            rooms_.router.run(From::MainMenu, helpCommand, {});
         return true;
-    }
-    if (key != Qt::Key_Escape)
-        return false;
-    if (pointer_.isHolding()) {
-        pointer_.letGo();
+    case Qt::Key_F6:
+        changeSides();
         return true;
-    }
-    if (ground_.gate.work() == nullptr)
+    case Qt::Key_Escape:
+        if (rooms_.pointer.isHolding())
+            rooms_.pointer.letGo();
+        else if (ground_.gate.work() != nullptr)
+            stopWork();
+        else
+            emit escapes();
+        return true;
+    default:
         return false;
-    stopWork();
-    return true;
+    }
+}
+
+/// From the board to the word and back.
+void BoardKeys::changeSides()
+{
+    if (isOnBoard())
+        letters_.takeFocus();
+    else
+        controls_.picCanvas->setFocus(Qt::TabFocusReason);
 }
 
 /// While words are prepared it is asked first, by the option; any other work just ends.
@@ -123,18 +212,4 @@ void BoardKeys::stopWork()
                                  u"Bestätigen"_s, BoxStyle::Confirm, asks))
             ground_.gate.cancelWork();
     });
-}
-
-bool BoardKeys::picCanvas_KeyDown(int key)
-{
-    if (key != Qt::Key_Menu || isTyping())
-        return false;
-    const Gate::Passage passage = ground_.gate.enter(Gate::Way::Play);
-    if (!passage)
-        return true;
-    const QSize screen = controls_.form->screen()->size();
-    const QSize rest = (screen - controls_.picCanvas->size()) / 2;
-    // What is chosen here has never been acted on.
-    popup_.ShowPopupMenu(MenuName::MainMenu, QPoint(rest.width(), rest.height()));
-    return true;
 }

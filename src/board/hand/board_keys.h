@@ -2,32 +2,32 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "board/hand/just_type.h"
+#include "board/hand/tile_keys.h"
+
 #include <QObject>
 
-class BoardPointer;
-class CommandRouter;
-class PopupMenu;
 class QKeyEvent;
-struct Ground;
-struct MainControls;
 
-/// The keys of the board. The window sees them before its controls do, so this room looks at every key that
-/// goes to the window, and takes those that are its own.
+/// The keys of the main window. The window sees them before its controls do, so this room looks at every key
+/// that goes to the window, and takes those that are its own: the commands, those of the chosen tile, and
+/// letters that nobody else has a use for.
 class BoardKeys : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Listens to the application's key presses from now on.
-    BoardKeys(Ground &ground, const MainControls &controls, CommandRouter &router, BoardPointer &pointer,
-              PopupMenu &popup);
+    /// Listens to the application's keys and presses from now on.
+    BoardKeys(Ground &ground, const MainControls &controls, const TileKeys::Rooms &rooms);
 
     /// A control character, 1 for Ctrl+A to 26. Returns true if it was a key of the board.
     bool Form_KeyPress(int code);
-    /// F1 and Esc, by `Qt::Key`.
+    /// F1, F6 and Esc, by `Qt::Key`.
     bool Form_KeyDown(int key);
-    /// The menu key.
-    bool picCanvas_KeyDown(int key);
+
+signals:
+    /// Esc, with nothing in the hand and no work running: what lies on top is to be closed.
+    void escapes();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -36,11 +36,17 @@ private:
     bool goesToForm(const QObject *watched) const;
     bool handle(const QKeyEvent &event);
     bool isTyping() const;
+    bool isOnBoard() const;
+    bool goesDownToList();
+    void changeSides();
     void stopWork();
+    void pressed(const QWidget *widget);
+    void listOpens(QWidget *list);
 
     Ground &ground_;
     const MainControls &controls_;
-    CommandRouter &router_;
-    BoardPointer &pointer_;
-    PopupMenu &popup_;
+    TileKeys::Rooms rooms_;
+    TileKeys tileKeys_;
+    JustType letters_;
+    bool keyWasLast_ = false; ///< and no press of a pointer
 };

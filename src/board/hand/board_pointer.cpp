@@ -4,6 +4,7 @@
 
 #include "board/canvas/canvas.h"
 #include "board/hand/board_commands.h"
+#include "board/hand/board_focus.h"
 #include "board/hand/command_router.h"
 #include "board/hand/popup_menu.h"
 #include "board/tiles/board_news.h"
@@ -140,6 +141,7 @@ void BoardPointer::picCanvas_MouseDown(Qt::MouseButton button, Qt::KeyboardModif
 void BoardPointer::leftPress(Qt::KeyboardModifiers shift, const QPoint &point)
 {
     tileMoved_ = rooms_.canvas.CanvasSelectWortel(point.x(), point.y());
+    rooms_.focus.choose(tileMoved_ ? store_.current() : nullptr);
     if (tileMoved_) {
         takenFrom_ = {store_.current()->xLeft(), store_.current()->yTop()};
         return;
@@ -199,6 +201,14 @@ void BoardPointer::showMenu(const Press &press, const QPoint &corner)
 // Moving
 // ------------------------------------------------------------------------------------------------------------
 
+QPoint BoardPointer::farthest() const
+{
+    const BoardMeasures &window = store_.measures();
+    // Under the band a tile could never be taken again, so it ends above it, however high the band is.
+    return {window.ScaleWidth() - rightMargin,
+            std::min(window.ScaleHeight() - lowerMargin, window.BandTop() - Canvas::heldHeight)};
+}
+
 void BoardPointer::picCanvas_MouseMove(Qt::MouseButtons buttons, const QPoint &point)
 {
     if (!buttons.testFlag(Qt::LeftButton) || !ground_.gate.letsIn(Gate::Way::Play))
@@ -209,12 +219,10 @@ void BoardPointer::picCanvas_MouseMove(Qt::MouseButtons buttons, const QPoint &p
     }
     const int x = std::max(0, point.x());
     const int y = std::max(0, point.y());
-    const BoardMeasures &window = store_.measures();
+    const QPoint last = farthest();
     FloatingTile &held = *controls_.BtnMove1;
-    // Under the band a tile could never be taken again, so it ends above it, however high the band is.
-    const int lowest = std::min(window.ScaleHeight() - lowerMargin, window.BandTop() - held.height());
     cWortel *tile = store_.current();
-    if (tile == nullptr || x > window.ScaleWidth() - rightMargin || y > lowest)
+    if (tile == nullptr || x > last.x() || y > last.y())
         return;
     if (ground_.options.isOn(Setting::MoveableInFilter) && !store_.filter().shows(tile->BGColor))
         return;
@@ -269,9 +277,18 @@ void BoardPointer::letGo()
 void BoardPointer::Dropper1_DragDrop()
 {
     Procedure step{ground_.log, "Dropper1_DragDrop", form};
+    step([&] { controls_.Dropper1->UnHighlight(); });
+    step([&] { putIntoWord(controls_.BtnMove1->Caption()); });
+    step([&] { controls_.Dropper1->takeFocus(); });
+}
+
+void BoardPointer::putIntoWord(const QString &text)
+{
     Dropper &field = *controls_.Dropper1;
-    step([&] { field.UnHighlight(); });
-    step([&] { field.setCaption(Trim(field.Caption()) + Trim(controls_.BtnMove1->Caption())); });
+    if (!field.isEnabled() || field.isHidden())
+        return;
+    Procedure step{ground_.log, "putIntoWord", form, Procedure::Silent};
+    step([&] { field.setCaption(Trim(field.Caption()) + Trim(text)); });
     rooms_.canvas.setWordCheckDrag(false);
     step([&] { ground_.pump.yield(); });
     step([&] { playSound(ground_, SoundId::TileDropped); });

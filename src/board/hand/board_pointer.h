@@ -9,6 +9,7 @@
 #include <QPoint>
 
 class BoardCommands;
+class BoardFocus;
 class BoardNews;
 class Canvas;
 class CommandRouter;
@@ -39,6 +40,7 @@ public:
         BoardCommands &commands;
         PopupMenu &popup;
         BoardNews &news;
+        BoardFocus &focus;
     };
 
     /// Listens to `picCanvas` from now on.
@@ -53,8 +55,14 @@ public:
     /// middle of the board.
     void openMenu(const QPoint &corner);
 
-    /// Joins the held tile's text to the word in the field.
+    /// Joins the held tile's text to the word in the field, which gets the keyboard, so that Enter checks it.
     void Dropper1_DragDrop();
+    /// Joins a text to the word in the field, unless that takes none.
+    void putIntoWord(const QString &text);
+    /// Shows the menu of what was pressed, with its corner at a point of the screen, and does what is chosen.
+    void showMenu(const Press &press, const QPoint &corner);
+    /// The last place to the right and below that a tile can be moved to.
+    QPoint farthest() const;
     /// What follows a drop: the board is drawn anew and the filter comes back.
     void DoOnDrop();
 
@@ -75,7 +83,6 @@ private:
     void leftPress(Qt::KeyboardModifiers shift, const QPoint &point);
     void rightPress(Qt::KeyboardModifiers shift, const QPoint &point);
     void insertByShift(Qt::KeyboardModifiers shift, const QPoint &point);
-    void showMenu(const Press &press, const QPoint &corner);
 
     Ground &ground_;
     const MainControls &controls_;

@@ -75,6 +75,10 @@ void CommandRouter::run(From from, int id, const Press &press, int itemIndex)
     const Command *found = command::find(from, id);
     if (found == nullptr)
         return;
+    if ((found->flags & command::NotInRetype) != 0 && play_.RetypeActive()) {
+        ground_.notes.tell(note::afterRetype);
+        return;
+    }
     if ((found->flags & command::NotInGame) != 0 && play_.GameActive()) {
         ground_.notes.tell(note::afterGame);
         return;

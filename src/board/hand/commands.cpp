@@ -153,6 +153,10 @@ constexpr Command rows[] = {
     {Key, 8, 0, Looks, SoundId::None, nullptr},
     {Key, 9, 0, None, SoundId::None, nullptr},
     {Key, 10, 0, None, SoundId::None, nullptr},
+    {Key, 15, 0, NotInGame | NotInRetype | WhileTyping, SoundId::None, u"Sitzung laden"},
+    {Key, 19, 0, WhileTyping, SoundId::None, u"Sitzung speichern als"},
+    {Key, 25, 0, None, SoundId::None, nullptr},
+    {Key, 26, 0, None, SoundId::None, nullptr},
 };
 
 constexpr std::array<KindWords, 3> kindWords{{

@@ -38,7 +38,9 @@ enum Flag : std::uint8_t {
     Commits = 4, ///< tiles have changed: undo snapshot and backup
     Recalls = 8, ///< the filter of before
     SelectsAll = 16,
-    Looks = 32, ///< changes nothing: allowed while a work runs
+    Looks = 32,        ///< changes nothing: allowed while a work runs
+    NotInRetype = 128, ///< nor while words are copied
+    WhileTyping = 64,  ///< a key that no text field has a use for
 };
 
 struct Command

@@ -114,9 +114,7 @@ void MorphemeLists::ToggleAllMorphemeLists()
 {
     Procedure step{ground_.log, "ToggleAllMorphemeLists", "frmMain"};
     step([&] {
-        bool anyOpen = false;
-        for (int i = 0; i < allLists; ++i)
-            anyOpen = anyOpen || !list(i)->isHidden();
+        const bool anyOpen = isAnyOpen();
         for (int i = 0; i < allLists; ++i)
             list(i)->setVisible(!anyOpen);
         placeOpen();
@@ -129,4 +127,12 @@ void MorphemeLists::hideAll()
 {
     for (int i = 0; i < allLists; ++i)
         list(i)->hide();
+}
+
+bool MorphemeLists::isAnyOpen() const
+{
+    bool anyOpen = false;
+    for (int i = 0; i < allLists; ++i)
+        anyOpen = anyOpen || !list(i)->isHidden();
+    return anyOpen;
 }

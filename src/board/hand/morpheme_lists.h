@@ -22,6 +22,7 @@ public:
     /// If any list is open all are closed, else all are opened.
     void ToggleAllMorphemeLists();
     void hideAll();
+    bool isAnyOpen() const;
     /// A filter was chosen: a note if the board has nothing that it shows.
     void tellIfNone(int index);
 

@@ -9,6 +9,7 @@
 #include "platform/text_masks.h"
 #include "widgets/click_label.h"
 #include "widgets/gradient.h"
+#include "widgets/key_order.h"
 #include "widgets/press_button.h"
 #include "widgets/progress_bar.h"
 #include "widgets/store_list.h"
@@ -203,6 +204,8 @@ QWidget *makeFileGroup(C &c, QWidget *parent)
     c.cboWordLen = make<QComboBox>(group, "cboWordLen", u"Wortlänge (Min. 20)"_s);
     c.cboWordLen->setEditable(true);
     c.cboWordLen->setToolTip(u"0 bedeutet: alle Wörter"_s);
+    if (c.cboWordLen->lineEdit() != nullptr)
+        c.cboWordLen->lineEdit()->setAccessibleName(c.cboWordLen->accessibleName());
     c.cboWordLen->setInsertPolicy(QComboBox::NoInsert);
     c.cboWordLen->addItem(u"0"_s);
     for (int length = 2; length <= longestWordOffered; ++length)
@@ -411,6 +414,7 @@ KernlingControls makeKernlingControls(QWidget *form)
     auto *whole = new QHBoxLayout(form);
     whole->setContentsMargins(0, 0, 0, 0);
     whole->addWidget(c.panels);
+    orderForKeys(whole);
     return c;
 }
 

@@ -12,6 +12,7 @@
 #include "platform/procedure.h"
 #include "platform/product.h"
 #include "platform/sound.h"
+#include "widgets/announce.h"
 #include "widgets/colour.h"
 
 #include <QApplication>
@@ -105,6 +106,7 @@ void StemMarking::show(Verdict verdict)
         AppendColoured(answer, piece.text, piece.colour);
     answer.moveCursor(QTextCursor::Start);
     answer.setAccessibleDescription(answer.toPlainText());
+    announce(answer, answer.toPlainText());
     desk_.controls.Text1->setText(verdict.Text1);
     desk_.controls.Image1->setVisible(verdict.Image1);
     if (verdict.tone == Verdict::Tone::Right)

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "games/klotar/game_sign.h"
 
+#include "widgets/announce.h"
+
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -39,6 +41,7 @@ void GameSign::tell(const QString &task, int minutesLeft)
     place();
     update();
     show();
+    announce(*this, text_);
 }
 
 void GameSign::place()

@@ -4,6 +4,7 @@
 
 #include "games/paarlon/backdrop.h"
 #include "games/paarlon/memory_card.h"
+#include "widgets/announce.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -119,6 +120,7 @@ MemoryControls makeMemoryControls(QWidget *form)
     c.lblNotice->setAlignment(Qt::AlignCenter);
     c.lblNotice->setAutoFillBackground(true);
     c.lblNotice->hide();
+    announceWhenShown(*c.lblNotice);
 
     c.Picture1 = new Backdrop(form);
     c.Picture1->setObjectName(u"Picture1"_s);

@@ -6,6 +6,7 @@
 #include "persistence/settings/options_layout.h"
 #include "platform/options.h"
 #include "widgets/gradient.h"
+#include "widgets/key_order.h"
 
 #include <QButtonGroup>
 #include <QGridLayout>
@@ -53,7 +54,7 @@ const QString pageStyle = uR"(
 QToolButton { border: 1px solid transparent; border-radius: 6px; padding: 8px 10px; color: black; background: transparent; }
 QToolButton:hover { background: rgba(255, 255, 255, 110); }
 QToolButton:checked { background: white; border-color: #3d95ff; font-weight: bold; }
-QToolButton:focus { border-color: #1a4f9c; }
+QToolButton:focus { border: 2px solid #e67e00; padding: 7px 9px; }
 )"_s;
 
 QString text(const char16_t *literal) { return QString::fromUtf16(literal); }
@@ -100,6 +101,10 @@ OptionsView::OptionsView(Options &options, QWidget *parent)
     whole->addWidget(makeBar());
     whole->addLayout(right, 1);
     ShowProperFrame(text(options_layout::pages.front().frame));
+    QWidget *last = barMain_->buttons().constLast();
+    for (const PageRow &page : options_layout::pages)
+        last = orderForKeys(columns_.value(text(page.frame)), last);
+    orderForKeys(button(u"cmdOK"_s)->parentWidget()->layout(), last);
 }
 
 QWidget *OptionsView::makeBar()

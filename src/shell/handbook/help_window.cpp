@@ -3,6 +3,7 @@
 #include "shell/handbook/help_window.h"
 
 #include "shell/handbook/help_browser.h"
+#include "widgets/announce.h"
 #include "widgets/gradient.h"
 
 #include <QFile>
@@ -258,6 +259,7 @@ void HelpWindow::searchOn(bool backward)
             return;
     }
     searchState_->setText(u"nicht gefunden"_s);
+    announce(*searchState_, searchState_->text());
 }
 
 bool HelpWindow::pageHolds(const HelpPage &page, const QString &text)

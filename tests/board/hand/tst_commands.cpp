@@ -55,7 +55,7 @@ private slots:
         collectIds(hand.menus.Restore(MenuName::MainMenu), ofMain);
         QCOMPARE(rows[From::TileMenu], ofTiles);
         QCOMPARE(rows[From::MainMenu], ofMain);
-        QCOMPARE(rows[From::Key], (QSet<int>{1, 2, 4, 5, 6, 8, 9, 10}));
+        QCOMPARE(rows[From::Key], (QSet<int>{1, 2, 4, 5, 6, 8, 9, 10, 15, 19, 25, 26}));
         QCOMPARE(rows[From::Pointer], (QSet<int>{103, 204, 303}));
         std::sort(later.begin(), later.end());
         QCOMPARE(later, (QList<int>{1602, 1603, 1604, 1605, 1606}));

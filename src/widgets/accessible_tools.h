@@ -1,0 +1,8 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+/// Tells screen readers what the widgets of this room are: names, states, values, and what a press on them
+/// does. A reader's press goes the way of a hand's, from the event loop, so that it passes the same gate and
+/// nobody waits for it. To be called once, before the first window; nothing is made while no reader asks.
+void installAccessibleTools();
