@@ -24,10 +24,10 @@ struct Rooms;
 struct StartFacts
 {
     QStringList CommandLine;
-    QString Complaint; ///< what the user has to be told once the window stands, or nothing
-    bool CanStore = true;
     int ScreenResolutionCode = 1;
     bool RecoverOnStart = false;
+    bool CanStore = true;
+    QString Complaint; ///< what the user has to be told once the window stands, or nothing
 };
 
 /// The main window and hub: it makes the controls, makes the rooms, wires them, and forwards events. What a

@@ -144,10 +144,11 @@ void frmOptions::Command3_Click()
         takeList(chosen.first());
 }
 
+/// What is missing is told at once, though only "OK" refuses it.
 void frmOptions::takeList(const QString &path)
 {
-    if (listIsWhole(path))
-        ground_.options.setText(Setting::WortelFile, path);
+    ground_.options.setText(Setting::WortelFile, path);
+    listIsWhole(path);
 }
 
 /// True as well for a blank field, which gets the usual list. Tells what is missing.
