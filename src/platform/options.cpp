@@ -177,8 +177,8 @@ void Options::FillBlankFields(SettingsWindow window)
 QString Options::stored(Setting id) const
 {
     const SettingRow &row = settingRow(id);
-    const QString text =
-        store_.GetSetting(QLatin1String(row.section), QLatin1String(row.key), QString::fromUtf16(row.fallback));
+    const QString text = store_.GetSetting(QLatin1String(row.section), QLatin1String(row.key),
+                                           QString::fromUtf16(row.fallback));
     return row.type == SettingType::Path ? withFolder(text) : text;
 }
 
@@ -190,7 +190,10 @@ bool Options::storedIsOn(Setting id) const
     return result;
 }
 
-QString Options::fallback(const SettingRow &row) const { return withFolder(QString::fromUtf16(row.fallback)); }
+QString Options::fallback(const SettingRow &row) const
+{
+    return withFolder(QString::fromUtf16(row.fallback));
+}
 
 QString Options::withFolder(QString text) const
 {

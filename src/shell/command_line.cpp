@@ -45,10 +45,7 @@ command_line::Sessions command_line::sessionsOf(const QStringList &arguments)
         QStringList missing;
         const QStringList pieces = argument.split(u' ', Qt::SkipEmptyParts);
         for (const QString &piece : pieces)
-            (IsTextFile(piece)           ? result.there
-             : piece.startsWith(u'/') ? result.switches
-                                         : missing)
-                << piece;
+            (IsTextFile(piece) ? result.there : piece.startsWith(u'/') ? result.switches : missing) << piece;
         // A name with blanks that was mistyped is told as it was given.
         result.missing << (missing == pieces ? QStringList(missing.join(u' ')) : missing);
     }

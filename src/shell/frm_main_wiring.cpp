@@ -159,8 +159,8 @@ void frmMain::wireModes()
         [&r] { r.game.Check3_MouseDown(Qt::RightButton); });
     for (int level = 0; level < 3; ++level)
         onPress(
-            controls_.Option2[static_cast<std::size_t>(level)],
-            [&r, level] { r.game.Option2_Click(level); }, nothing);
+            controls_.Option2[static_cast<std::size_t>(level)], [&r, level] { r.game.Option2_Click(level); },
+            nothing);
     for (int box = 0; box < 2; ++box)
         onPress(
             controls_.ChkVokal[static_cast<std::size_t>(box)],

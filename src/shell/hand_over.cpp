@@ -33,10 +33,11 @@ start_steps::Next hand_over::toFirst(Ground &ground, InstanceLink &link, const Q
     if (outcome == IsFirst)
         return start_steps::Next::GoOn;
     if (outcome == NoAnswer)
-        ground.boxes.plainBox(Boxes::Icon::Warning, product::name,
-                              u"Wortel-Meister läuft schon, antwortet aber nicht.\n\n"
-                              "Warte einen Augenblick und versuche es noch einmal. Wenn das nicht hilft, melde "
-                              "dich am Computer ab und wieder an."_s);
+        ground.boxes.plainBox(
+            Boxes::Icon::Warning, product::name,
+            u"Wortel-Meister läuft schon, antwortet aber nicht.\n\n"
+            "Warte einen Augenblick und versuche es noch einmal. Wenn das nicht hilft, melde "
+            "dich am Computer ab und wieder an."_s);
     if (outcome == TooLong)
         ground.boxes.plainBox(
             Boxes::Icon::Warning, product::name,

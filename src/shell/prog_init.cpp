@@ -76,8 +76,9 @@ bool ProgInit::offersUsualList(const QString &missing)
     }
     const Boxes::Answer answer = ground_.boxes.plainBox(
         Boxes::Icon::Critical, product::faultTitle,
-        missing + u"\n\nSoll Wortel-Meister statt dessen mit der Liste \"%1\" starten, jetzt und in Zukunft?"_s
-                      .arg(listBaseName(usual)),
+        missing +
+            u"\n\nSoll Wortel-Meister statt dessen mit der Liste \"%1\" starten, jetzt und in Zukunft?"_s.arg(
+                listBaseName(usual)),
         Boxes::Buttons::YesNo);
     if (answer != Boxes::Answer::Yes)
         return false;

@@ -108,6 +108,26 @@ void checkStorage(const Ground &ground, StartFacts &facts)
     facts.Complaint = storage::complaint(state);
 }
 
+/// From the switches to the end of the main window. Returns the process's exit code.
+int run(QApplication &application, InstanceLink &link)
+{
+    RealGround real(findAppFolder());
+    Ground &ground = real.ground();
+    StartFacts facts;
+    facts.CommandLine = command_line::read(QCoreApplication::arguments().mid(1));
+    if (goThroughArguments(ground, link, facts.CommandLine) == start_steps::Next::End)
+        return 0;
+    if (start_steps::askForRecovery(ground, facts.RecoverOnStart) == start_steps::Next::End)
+        return 0;
+    checkStorage(ground, facts);
+    if (ground.options.stored(Setting::HideTaskbar) == u"1")
+        ShowTaskBar(false);
+    if (const QScreen *screen = QGuiApplication::primaryScreen())
+        facts.ScreenResolutionCode =
+            affix_rows::GetScreenResolution(screen->size().width(), screen->size().height());
+    return StartApplication(application, real, link, facts);
+}
+
 } // namespace
 
 void showMainWindow(QWidget &form, const Options &options)
@@ -140,24 +160,8 @@ int startWortel(int argc, char *argv[])
     QApplication application(argc, argv);
     initResources();
     dressApplication(application);
-
     auto link = std::make_unique<InstanceLink>(); // the first start listens from here on
-    RealGround real(findAppFolder());
-    Ground &ground = real.ground();
-
-    StartFacts facts;
-    facts.CommandLine = command_line::read(application.arguments().mid(1));
-    if (goThroughArguments(ground, *link, facts.CommandLine) == start_steps::Next::End)
-        return 0;
-    if (start_steps::askForRecovery(ground, facts.RecoverOnStart) == start_steps::Next::End)
-        return 0;
-    checkStorage(ground, facts);
-    if (ground.options.stored(Setting::HideTaskbar) == u"1")
-        ShowTaskBar(false);
-    if (const QScreen *screen = QGuiApplication::primaryScreen())
-        facts.ScreenResolutionCode =
-            affix_rows::GetScreenResolution(screen->size().width(), screen->size().height());
-    const int exitCode = StartApplication(application, real, *link, facts);
+    const int exitCode = run(application, *link);
     hand_over::passOn(std::move(link));
     return exitCode;
 }

@@ -57,7 +57,8 @@ QString storage::complaint(State state)
         return {};
     return (state == State::Full ? u"Der Datenträger ist voll."_s
                                  : u"In deinen Ordner darf nichts geschrieben werden."_s) +
-           u"\n\nDu kannst trotzdem spielen. Einstellungen, Bestenlisten und die automatische Sicherung gehen "
+           u"\n\nDu kannst trotzdem spielen. Einstellungen, Bestenlisten und die automatische Sicherung "
+           u"gehen "
            u"aber am Ende verloren.\n\nEine Sitzung kannst du an einem anderen Ort speichern, zum Beispiel "
            u"auf einem USB-Stick."_s;
 }

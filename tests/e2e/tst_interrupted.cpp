@@ -142,7 +142,7 @@ private slots:
         QVERIFY(!desktop.waitForWindow(u"Error Recovery$"_s).isEmpty());
         QCOMPARE(desktop.startAgain({desktop.writeFile(u"Stunde 1.wlx"_s, knownBoard())}), 0);
         Desktop::pause(300);
-        desktop.key(u"Return"_s); // recovers
+        desktop.key(u"Return"_s);  // recovers
         QVERIFY(desktop.keeps(8)); // and behind it the session
         QCOMPARE(desktop.startAgain({u"Stunde 2.wlx"_s}), 0);
         QVERIFY(!desktop.waitForWindow(u"^Wortel-Meister$"_s).isEmpty());

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/instance_link.h"
 #include "platform/files.h"
+#include "platform/instance_link.h"
 #include "platform/local_socket.h"
 #include "support/registry.h"
 
@@ -74,9 +74,10 @@ private slots:
             address.sun_family = AF_UNIX;
             qstrncpy(address.sun_path, QFile::encodeName(address_).constData(), sizeof address.sun_path);
             char answer = 0;
-            const bool refused = as == 0 && local_socket::connectTo(address_) < 0 &&
-                                 ::connect(plain, reinterpret_cast<sockaddr *>(&address), sizeof address) == 0 &&
-                                 send(plain, "\0\0\0\1a", 5, MSG_NOSIGNAL) >= -1 && read(plain, &answer, 1) <= 0;
+            const bool refused =
+                as == 0 && local_socket::connectTo(address_) < 0 &&
+                ::connect(plain, reinterpret_cast<sockaddr *>(&address), sizeof address) == 0 &&
+                send(plain, "\0\0\0\1a", 5, MSG_NOSIGNAL) >= -1 && read(plain, &answer, 1) <= 0;
             _exit(refused ? 0 : 1);
         }
         int status = 0;
@@ -162,7 +163,8 @@ private slots:
         QTest::addColumn<int>("mode");
         QTest::newRow("empty") << u""_s << 0600;
         QTest::newRow("of another program") << u"99999999\nsh\nschule7\n"_s << 0644;
-        QTest::newRow("of a process that lives") << u"1\nwortel\n%1\n"_s.arg(QSysInfo::machineHostName()) << 0600;
+        QTest::newRow("of a process that lives")
+            << u"1\nwortel\n%1\n"_s.arg(QSysInfo::machineHostName()) << 0600;
         QTest::newRow("not to be read") << u"x"_s << 0;
         QTest::newRow("a link") << u"->"_s << 0;
         QTest::newRow("a folder") << u"/"_s << 0;
@@ -192,8 +194,7 @@ private slots:
 
     void aFolderMayHaveALongName()
     {
-        const QString address =
-            folder_.filePath(QString(200, u'l') + u'/' + QString(200, u'ö') + u"/link"_s);
+        const QString address = folder_.filePath(QString(200, u'l') + u'/' + QString(200, u'ö') + u"/link"_s);
         InstanceLink first(address);
         QVERIFY(first.isFirst());
         QCOMPARE(handOver({u"a"_s}, 5000, address), InstanceLink::Outcome::Taken);
@@ -225,10 +226,7 @@ private slots:
         QVERIFY(!InstanceLink(address_).isFirst());
     }
 
-    void aMissingFolderDoesNotStopTheStart()
-    {
-        QVERIFY(InstanceLink(u"/proc/wortel/link"_s).isFirst());
-    }
+    void aMissingFolderDoesNotStopTheStart() { QVERIFY(InstanceLink(u"/proc/wortel/link"_s).isFirst()); }
 
     void takesAFolderThatIsTheUsersAlone_data()
     {

@@ -107,7 +107,9 @@ private slots:
             house.t.writeFile(u"text\\Tiere.txt"_s, u"Igel\r\n"_s);
         if (!usualThere)
             QFile::remove(house.t.folder.filePath(u"facit/Hauptbausteine.lex"_s));
-        house.t.boxes.willAnswer(!usualThere ? Boxes::Answer::Ok : agrees ? Boxes::Answer::Yes : Boxes::Answer::No);
+        house.t.boxes.willAnswer(!usualThere ? Boxes::Answer::Ok
+                                 : agrees    ? Boxes::Answer::Yes
+                                             : Boxes::Answer::No);
         QCOMPARE(house.form.Form_Load(), agrees);
         QCOMPARE(house.t.boxes.asked.first().text.contains(u"\"Hauptbausteine\""_s), usualThere);
         QCOMPARE(house.t.store.GetSetting(u"Settings"_s, u"WortelFile"_s, {}),
@@ -280,7 +282,8 @@ private slots:
         QCOMPARE(house.t.clock.waited, 1000);
 
         const QPoint middle = house.controls.Command1->rect().center();
-        QTest::mousePress(house.controls.Command1, Qt::LeftButton, {}, middle); // help, which may be looked at
+        QTest::mousePress(house.controls.Command1, Qt::LeftButton, {},
+                          middle); // help, which may be looked at
         QTest::mouseClick(house.controls.OptType[0], Qt::LeftButton);
         QVERIFY(!house.controls.OptType[0]->isChecked());
         QVERIFY(house.form.findChild<QWidget *>(u"HelpWindow"_s) == nullptr);

@@ -86,19 +86,20 @@ private slots:
     // "%" stands for a folder with the files "a.wlx" and "Stunde 1.wlx"
     void findsSessionsInArguments_data()
     {
-        columns<QStringList, QStringList, QStringList, QStringList>("arguments", "there", "missing", "switches");
+        columns<QStringList, QStringList, QStringList, QStringList>("arguments", "there", "missing",
+                                                                    "switches");
         const QStringList none;
         QTest::newRow("nothing") << QStringList{u""_s, u"  "_s} << none << none << none;
-        QTest::newRow("with a blank") << QStringList{u"%\\Stunde 1.wlx"_s} << QStringList{u"%\\Stunde 1.wlx"_s}
-                                      << none << none;
-        QTest::newRow("with blanks around") << QStringList{u" %\\Stunde 1.wlx "_s}
-                                            << QStringList{u"%\\Stunde 1.wlx"_s} << none << none;
+        QTest::newRow("with a blank")
+            << QStringList{u"%\\Stunde 1.wlx"_s} << QStringList{u"%\\Stunde 1.wlx"_s} << none << none;
+        QTest::newRow("with blanks around")
+            << QStringList{u" %\\Stunde 1.wlx "_s} << QStringList{u"%\\Stunde 1.wlx"_s} << none << none;
         QTest::newRow("one text of several") << QStringList{u"%\\a.wlx  %\\fort.wlx /L %\\A.WLX"_s}
                                              << QStringList{u"%\\a.wlx"_s, u"%\\A.WLX"_s}
                                              << QStringList{u"%\\fort.wlx"_s} << QStringList{u"/L"_s};
-        QTest::newRow("mistyped, with a blank") << QStringList{u"%\\Stunde 2.wlx"_s, u"%\\a.wlx"_s}
-                                                << QStringList{u"%\\a.wlx"_s}
-                                                << QStringList{u"%\\Stunde 2.wlx"_s} << none;
+        QTest::newRow("mistyped, with a blank")
+            << QStringList{u"%\\Stunde 2.wlx"_s, u"%\\a.wlx"_s} << QStringList{u"%\\a.wlx"_s}
+            << QStringList{u"%\\Stunde 2.wlx"_s} << none;
         QTest::newRow("a folder is none") << QStringList{u"%"_s} << none << QStringList{u"%"_s} << none;
     }
     void findsSessionsInArguments()

@@ -69,7 +69,8 @@ void HighScores::CheckForHighScore(ScoredGame game, double score, std::optional<
     if (list.placeOf(score) > 0) {
         QString name;
         step([&] { name = ground_.boxes.ShowEnterName(text(rowOf(game).entryTitle)); });
-        place = insertInFile(game, list, ScoreList::nameFor(name), score); // also of a game that was closed on
+        place =
+            insertInFile(game, list, ScoreList::nameFor(name), score); // also of a game that was closed on
     }
     if (ground_.gate.isClosing())
         return;

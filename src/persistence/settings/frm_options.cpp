@@ -159,7 +159,8 @@ bool frmOptions::listIsWhole(const QString &path)
         return true;
     const QString fault =
         missing == path
-            ? u"Diese Wortel-Liste gibt es nicht:\n\n%1\n\nWähle eine andere, oder leere das Feld: Dann nimmt "
+            ? u"Diese Wortel-Liste gibt es nicht:\n\n%1\n\nWähle eine andere, oder leere das Feld: Dann "
+              u"nimmt "
               "Wortel-Meister seine eigene."_s
             : u"Zu dieser Wortel-Liste gehört ein Wörterbuch, und das fehlt:\n\n%1\n\nOhne Wörterbuch kann "
               "Wortel-Meister nicht mit ihr starten."_s;

@@ -168,7 +168,8 @@ private slots:
         t.fileDialogs.willOpen({u"C:\\w.txt"_s});
         t.boxes.willAnswer(Boxes::Answer::Ok);
         press(window, "Command3");
-        QVERIFY(t.boxes.told().startsWith(u"Wortel-Meister|Diese Wortel-Liste gibt es nicht:\n\nC:\\w.txt\n"_s));
+        QVERIFY(
+            t.boxes.told().startsWith(u"Wortel-Meister|Diese Wortel-Liste gibt es nicht:\n\nC:\\w.txt\n"_s));
         QCOMPARE(t.fileDialogs.asked.last().style, QString(t.AppFolder + u"text\\"_s));
         QCOMPARE(t.options.text(Setting::WortelFile), u"C:\\w.txt"_s);
         press(window, "Command6");
@@ -176,7 +177,8 @@ private slots:
         QVERIFY(t.ok());
     }
 
-    // "%" stands for the program's folder, in which "text\Tiere.txt" has a dictionary and "text\Obst.txt" none.
+    // "%" stands for the program's folder, in which "text\Tiere.txt" has a dictionary and "text\Obst.txt"
+    // none.
     void aListThatCannotStartIsRefused_data()
     {
         columns<QString, QString, QString>("list", "told", "stored");
