@@ -153,6 +153,8 @@ void frmMain::Form_Activate()
         step([&] { showWelcome(); });
     if (!play_.RetypeActive() && !play_.GameActive())
         step([&] { rooms_->tips.startTipTimer(); });
+    for (const auto &tell : std::exchange(onceActivated_, {}))
+        step(tell);
     step([&] { tellLeftOut(); });
 }
 
@@ -217,11 +219,14 @@ void frmMain::tellNotOpened(const QStringList &missing, const QStringList &switc
         tellLater(sentences.join(u"\n\n"_s));
 }
 
-/// Not in the middle of something else, and not before there is a window.
+/// Not in the middle of something else, and not before the window is in use.
 void frmMain::tellLater(const QString &text)
 {
-    ground_.gate.whenFree(
-        [this, text] { ground_.boxes.plainBox(Boxes::Icon::Warning, product::name, text); });
+    const auto tell = [this, text] { ground_.boxes.plainBox(Boxes::Icon::Warning, product::name, text); };
+    if (activated_)
+        ground_.gate.whenFree(tell);
+    else
+        onceActivated_.push_back(tell);
 }
 
 void frmMain::dragEnterEvent(QDragEnterEvent *event)

@@ -14,7 +14,9 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <functional>
 #include <memory>
+#include <vector>
 
 class PressButton;
 struct Ground;
@@ -117,6 +119,7 @@ private:
     Help help_;
     QStringList hiddenText_;
     QTimer boxCloser_;
+    std::vector<std::function<void()>> onceActivated_;
     bool cmdLineReady_ = false;
     bool activated_ = false;
     bool firstBoardReplaced_ = false;

@@ -77,7 +77,7 @@ bool ProgInit::offersUsualList(const QString &missing)
     const Boxes::Answer answer = ground_.boxes.plainBox(
         Boxes::Icon::Critical, product::faultTitle,
         missing +
-            u"\n\nSoll Wortel-Meister statt dessen mit der Liste \"%1\" starten, jetzt und in Zukunft?"_s.arg(
+            u"\n\nSoll Wortel-Meister stattdessen mit der Liste \"%1\" starten, jetzt und in Zukunft?"_s.arg(
                 listBaseName(usual)),
         Boxes::Buttons::YesNo);
     if (answer != Boxes::Answer::Yes)

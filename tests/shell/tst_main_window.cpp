@@ -168,10 +168,12 @@ private slots:
         QVERIFY(house.form.Form_Load()); // its own arguments
         const bool isSwitch = arguments == QStringList{u"/L"_s};
         for (const bool own : {true, false}) {
-            if (!own)
-                house.form.HiddenText_Change(arguments);
             if (!own || !isSwitch)
                 house.t.boxes.willAnswer(Boxes::Answer::Ok);
+            if (own)
+                house.appear();
+            else
+                house.form.HiddenText_Change(arguments);
             TestHouse::settle();
             QCOMPARE(house.counters().first(), u"3"_s);
             QVERIFY(!house.r.undo.CanUndo());
@@ -186,7 +188,7 @@ private slots:
         QVERIFY(QDir().mkpath(nativePath(house.backup()))); // no file can take its place
         house.t.boxes.willAnswer(Boxes::Answer::Ok);
         QVERIFY(house.form.Form_Load());
-        TestHouse::settle();
+        house.appear();
         QCOMPARE(house.t.boxes.told(), u"Wortel-Meister|Voll"_s);
         house.r.news.Commit();
         house.r.news.Commit();
