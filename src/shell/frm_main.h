@@ -29,7 +29,7 @@ struct StartFacts
     int ScreenResolutionCode = 1;
     bool RecoverOnStart = false;
     bool CanStore = true;
-    QString Complaint; ///< what the user has to be told once the window stands, or nothing
+    QString Complaint{}; ///< what the user has to be told once the window stands, or nothing
 };
 
 /// The main window and hub: it makes the controls, makes the rooms, wires them, and forwards events. What a
