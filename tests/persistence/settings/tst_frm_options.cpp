@@ -250,7 +250,8 @@ private slots:
         QCOMPARE(drop.dropAction(), Qt::CopyAction);
         QCoreApplication::processEvents();
         QCOMPARE(box(window, "Text2")->text() == QString(file).replace(u'/', u'\\'), taken);
-        QCOMPARE(t.boxes.asked.last().title, taken ? u"Wortel-Meister"_s : u"Wortel-Meister - Fehler: Format"_s);
+        QCOMPARE(t.boxes.asked.last().title,
+                 taken ? u"Wortel-Meister"_s : u"Wortel-Meister - Fehler: Format"_s);
         QVERIFY(t.ok());
     }
 };
