@@ -67,7 +67,10 @@ QString application_folder::find(const QString &programFolder, const QString &in
         if (!isFilled(userFolder))
             fill(userFolder, installedData);
     } catch (const std::exception &) {
-        // A full disk: what is missing is told by the start, which names the file.
+        // A full disk, a home that cannot be written: unless an older version has filled the folder once, the
+        // program runs from the installed data.
+        if (!QFileInfo::exists(userFolder + QString::fromUtf16(filledMark)) || !holdsData(userFolder))
+            return withTrailingBackslash(installedData);
     }
     return withTrailingBackslash(userFolder);
 }

@@ -33,6 +33,38 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto nothing = [] {};
+constexpr int boxCloserMs = 50;
+
+/// What a hand does, also with a pen, a finger or a file that it drops.
+bool isOfAHand(QEvent::Type type)
+{
+    switch (type) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::Wheel:
+    case QEvent::ContextMenu:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::ShortcutOverride:
+    case QEvent::Shortcut:
+    case QEvent::InputMethod:
+    case QEvent::TabletPress:
+    case QEvent::TabletRelease:
+    case QEvent::TabletMove:
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+    case QEvent::DragEnter:
+    case QEvent::DragMove:
+    case QEvent::Drop:
+        return true;
+    default:
+        return false;
+    }
+}
+
 using Nothing = std::decay_t<decltype(nothing)>;
 
 /// What a tool at rest says, by the index of its reason. A report goes by itself at once.
@@ -98,7 +130,10 @@ void frmMain::wireBoard()
             throughGate(gate, Gate::Way::Play, [this] { showAbout(); }));
 
     connect(&r.keys, &BoardKeys::escapes, this, &frmMain::closeOnTop);
+    boxCloser_.setInterval(boxCloserMs);
     connect(&gate, &Gate::closeRequested, this, &frmMain::closeBoxes);
+    connect(&gate, &Gate::closeRequested, &boxCloser_, qOverload<>(&QTimer::start));
+    connect(&boxCloser_, &QTimer::timeout, this, &frmMain::closeBoxes);
     connect(&gate, &Gate::closeNow, this, &frmMain::unload);
 }
 
@@ -290,6 +325,9 @@ void frmMain::tellWhyAtRest(const QWidget *tool)
 
 bool frmMain::eventFilter(QObject *watched, QEvent *event)
 {
+    // A window that closes takes nothing any more, and neither does any other of the program's.
+    if (ground_.gate.isClosing() && isOfAHand(event->type()))
+        return true;
     // The welcome has been read when the first press or key comes.
     if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::KeyPress)
         controls_.txtWelcomeMsg->hide();
