@@ -3,6 +3,7 @@
 wortel_test(shell
     SOURCES
         handbook/tst_help.cpp
+        tst_data_upgrade.cpp
         tst_main_window.cpp
         tst_one_work.cpp
         tst_sheets.cpp
