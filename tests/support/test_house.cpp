@@ -104,7 +104,9 @@ QStringList TestHouse::counters() const
     return {r.optTypes.caption(0), r.optTypes.caption(1), r.optTypes.caption(2), r.optTypes.caption(3)};
 }
 
-bool TestHouse::countersEqualTiles() const
+bool TestHouse::countersEqualTiles() const { return countersEqualTiles(r); }
+
+bool TestHouse::countersEqualTiles(const Rooms &r)
 {
     int sum = 0;
     for (const TileKind &kind : tileKinds) {
@@ -177,7 +179,7 @@ void TestHouse::settle()
         QCoreApplication::processEvents();
 }
 
-QString TestHouse::trouble() const
+QString TestHouse::troubleOf(Rooms &r, const MainControls &controls, const PlayState &play, const Gate &gate)
 {
     if (!gate.isFree())
         return u"something is still on the stack"_s;
@@ -214,7 +216,9 @@ QString TestHouse::trouble() const
     r.canvas.repaint();
     if (seen != controls.picCanvas->image())
         return u"the board's picture is not what lies there"_s;
-    if (!countersEqualTiles())
-        return u"the counters say %1 for %2 tiles"_s.arg(counters().join(u' ')).arg(r.store.count());
+    if (!countersEqualTiles(r))
+        return u"the counters say %1, %2, %3, %4 for %5 tiles"_s
+            .arg(r.optTypes.caption(0), r.optTypes.caption(1), r.optTypes.caption(2), r.optTypes.caption(3))
+            .arg(r.store.count());
     return {};
 }

@@ -2,6 +2,9 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 wortel_test(torture SLOW TIMEOUT 600
     SOURCES
+        soak_ground.cpp
+        soak_hand.cpp
+        tst_soak.cpp
         tst_torture.cpp
 )
 # One function starts the program some two hundred times.

@@ -28,6 +28,7 @@
 #include "shell/frm_main.h"
 #include "shell/rooms.h"
 #include "shell/start_steps.h"
+#include "torture/quick_seams.h"
 #include "widgets/picture_box.h"
 #include "widgets/resources.h"
 
@@ -125,22 +126,6 @@ public:
 
 private:
     QString path_;
-};
-
-/// A clock that never waits.
-class QuickClock : public Clock
-{
-public:
-    QDateTime now() const override { return QDateTime::currentDateTime(); }
-    qint64 elapsed() const override { return now().toMSecsSinceEpoch(); }
-    void wait(int) override {}
-};
-
-class NoSound : public Sound
-{
-public:
-    void PlayResourceSound(int) override {}
-    bool playFile(const QString &) override { return true; }
 };
 
 /// The program's ground with quick seams over real files.
