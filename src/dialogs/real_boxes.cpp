@@ -113,16 +113,11 @@ RealBoxes::RealBoxes(QWidget *mainWindow)
 
 RealBoxes::~RealBoxes() = default;
 
-/// Between two boxes no window is active yet; the second belongs to the owner of the first.
-QWidget *RealBoxes::owner()
+/// A window that is not modal can be closed in the middle of a box, so no box belongs to one.
+QWidget *RealBoxes::owner() const
 {
     if (QWidget *modal = QApplication::activeModalWidget())
         return modal;
-    QWidget *active = QApplication::activeWindow();
-    if (active != nullptr && active->isVisible() && active->windowType() != Qt::SplashScreen)
-        return lastOwner_ = active;
-    if (active == nullptr && lastOwner_ != nullptr && lastOwner_->isVisible())
-        return lastOwner_;
     return mainWindow_ != nullptr && mainWindow_->isVisible() ? mainWindow_.data() : nullptr;
 }
 

@@ -8,14 +8,15 @@
 
 class QWidget;
 
-/// The boxes that the program shows: each is made anew for its question, over the window that is in use.
+/// The boxes that the program shows: each is made anew for its question, over the modal window that is
+/// open or the main window.
 class RealBoxes : public Boxes
 {
 public:
     explicit RealBoxes(QWidget *mainWindow = nullptr);
     ~RealBoxes() override;
 
-    /// The window that boxes belong to while no other one is open.
+    /// The window that boxes belong to while no modal one is open.
     void setMainWindow(QWidget *mainWindow) { mainWindow_ = mainWindow; }
 
     Answer plainBox(Icon icon, const QString &title, const QString &text, Buttons buttons) override;
@@ -31,10 +32,9 @@ public:
     void ShowBestTimes(const HighScoreSheet &sheet) override;
 
 private:
-    QWidget *owner();
+    QWidget *owner() const;
 
     QPointer<QWidget> mainWindow_;
-    QPointer<QWidget> lastOwner_; ///< in use when the last box came up
 };
 
 /// A text cut to what a plain message box can show on a small screen: at most a dozen lines, and long words

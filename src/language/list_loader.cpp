@@ -93,6 +93,14 @@ QString ListLoader::dictionaryOf(const QString &path)
     return RTrimText(facitPath(path), u".txt"_s) + u".lex"_s;
 }
 
+QString ListLoader::missingOf(const QString &path)
+{
+    if (!IsTextFile(path))
+        return path;
+    const QString dictionary = dictionaryOf(path);
+    return IsTextFile(dictionary) ? QString() : dictionary;
+}
+
 std::optional<QString> ListLoader::loadAtStart()
 {
     lists_.CurrentWortelFile = ground_.options.text(Setting::WortelFile);
@@ -101,16 +109,12 @@ std::optional<QString> ListLoader::loadAtStart()
     lists_.CurrentLexiconFile = dictionaryOf(lists_.CurrentWortelFile);
     if (loadedAtStart_)
         return std::nullopt;
-    loadedAtStart_ = true;
-
     Procedure step{ground_.log, "ProgInit", "frmMain", Procedure::Silent};
     const Busy busyNow(*this);
-    std::optional<QString> fatal;
     for (const StartList &row : startLists) {
         const QString &path = lists_.*row.path;
         if (!IsTextFile(path)) {
-            fatal = missingListFile(path, "ProgInit", __LINE__);
-            break;
+            return missingListFile(path, "ProgInit", __LINE__);
         }
         WordStore &store = lists_.*row.store;
         emit loading(&store);
@@ -120,7 +124,8 @@ std::optional<QString> ListLoader::loadAtStart()
         if (row.removesDuplicates)
             step([&] { store.removeNeighbouringDuplicates(); });
     }
-    return fatal;
+    loadedAtStart_ = true;
+    return std::nullopt;
 }
 
 void ListLoader::FillWortelList(QString &path)

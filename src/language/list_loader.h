@@ -31,8 +31,9 @@ public:
 
     /// Names the four files (the stem list by the options, the affixes below `affix\`, the dictionary of the
     /// stem list) and fills `WortelList`, `LexiconList`, `PrefixList` and `SuffixList`: once, a second call
-    /// leaves the lists alone. The dictionary keeps its neighbouring duplicates here, and only here. If a
-    /// file is missing the load stops, and the message with which the program has to end is returned.
+    /// leaves the lists alone, unless the first one failed. The dictionary keeps its neighbouring duplicates
+    /// here, and only here. If a file is missing the load stops, and the message with which the program has
+    /// to end is returned.
     std::optional<QString> loadAtStart();
 
     /// Appends the stem list `path` to `WortelList` and its dictionary to `LexiconList`. `path` comes back
@@ -61,6 +62,8 @@ public:
     /// The dictionary that goes with a stem list: `facitPath` without a trailing ".txt" (any case), with
     /// ".lex".
     static QString dictionaryOf(const QString &path);
+    /// The stem list `path` or its dictionary, whichever is missing; empty if both are there.
+    static QString missingOf(const QString &path);
 
 signals:
     /// The pointer is to be the hourglass (True), or what it was before. Always in pairs, which may be

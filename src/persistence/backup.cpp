@@ -14,6 +14,8 @@
 #include "platform/product.h"
 #include "widgets/guards.h"
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -46,8 +48,11 @@ QString Backup::file(const Ground &ground) { return product::backupFile(ground.A
 
 void Backup::saveIfWanted()
 {
-    if (ground_.options.storedIsOn(Setting::UseBackup))
-        SaveMyObjects(file(ground_));
+    if (!ground_.options.storedIsOn(Setting::UseBackup))
+        return;
+    const bool written = tryToWrite(file(ground_));
+    if (!std::exchange(failureKnown_, !written) && !written)
+        tellFailure();
 }
 
 void Backup::SaveMyObjects(const QString &path)
@@ -61,9 +66,20 @@ void Backup::SaveMyObjects(const QString &path)
             return;
         step([&] { rememberFolder(ground_, ask, target); });
     }
-    if (!step([&] { writeBoard(target); }))
-        ground_.boxes.plainBox(Boxes::Icon::Warning, product::faultTitle,
-                               u".BAK-Datei könnte nicht gespeichert werden"_s);
+    if (!tryToWrite(target))
+        tellFailure();
+}
+
+bool Backup::tryToWrite(const QString &path)
+{
+    Procedure step{ground_.log, "SaveMyObjects", form, Procedure::Silent};
+    return step([&] { writeBoard(path); });
+}
+
+void Backup::tellFailure()
+{
+    ground_.boxes.plainBox(Boxes::Icon::Warning, product::faultTitle,
+                           u".BAK-Datei könnte nicht gespeichert werden"_s);
 }
 
 void Backup::writeBoard(const QString &path)

@@ -28,15 +28,22 @@ public:
     /// the board stays.
     void RestoreMyObjects(const QString &path = {});
 
+    /// The user knows that the backup cannot be written.
+    void failureIsKnown() { failureKnown_ = true; }
+
 public slots:
-    /// The board has changed: writes the backup file if the setting is on.
+    /// The board has changed: writes the backup file if the setting is on. That it cannot be written is told
+    /// once, until it could be again.
     void saveIfWanted();
 
 private:
+    bool tryToWrite(const QString &path);
     void writeBoard(const QString &path);
+    void tellFailure();
     void readBoard(const QString &path);
 
     Ground &ground_;
     Canvas &canvas_;
     BoardNews &news_;
+    bool failureKnown_ = false;
 };

@@ -4,9 +4,15 @@
 
 #include <QtEndian>
 
-std::optional<QByteArray> LinkMessage::encode(const QString &text)
+namespace {
+
+constexpr QChar separator = QChar::Null;
+
+} // namespace
+
+std::optional<QByteArray> LinkMessage::encode(const QStringList &arguments)
 {
-    const QByteArray bytes = text.toUtf8();
+    const QByteArray bytes = arguments.join(separator).toUtf8();
     if (bytes.size() > static_cast<qsizetype>(largestText))
         return std::nullopt;
     QByteArray message(headerSize, Qt::Uninitialized);
@@ -22,7 +28,7 @@ LinkMessage::State LinkMessage::take(const QByteArray &bytes)
     state_ = judge();
     if (state_ == State::Broken) {
         bytes_.clear();
-        text_.clear();
+        arguments_.clear();
     }
     return state_;
 }
@@ -38,8 +44,9 @@ LinkMessage::State LinkMessage::judge()
     if (bytes_.size() != whole)
         return bytes_.size() < whole ? State::Incomplete : State::Broken;
     const QByteArray text = bytes_.mid(headerSize);
-    if (!text.isValidUtf8() || text.contains('\0'))
+    if (!text.isValidUtf8())
         return State::Broken;
-    text_ = QString::fromUtf8(text);
+    if (!text.isEmpty())
+        arguments_ = QString::fromUtf8(text).split(separator);
     return State::Whole;
 }

@@ -16,6 +16,7 @@ namespace {
 
 const QString on = u"True"_s;
 const QString off = u"False"_s;
+const QString folderMark = u"%APP%"_s; ///< stands for AppFolder
 
 constexpr int invalidPropertyValue = 380;
 
@@ -103,6 +104,13 @@ void Options::keepOption(Setting id)
             store_.SaveSetting(QLatin1String(row.section), QLatin1String(row.key), value(row.id));
 }
 
+void Options::reset(Setting id)
+{
+    const SettingRow &row = settingRow(id);
+    change(id, fallback(row));
+    store_.SaveSetting(QLatin1String(row.section), QLatin1String(row.key), toStore(row));
+}
+
 void Options::GetSettings(SettingsWindow window)
 {
     Procedure step{log_, "GetSettings", "frmOptions"};
@@ -148,7 +156,7 @@ bool Options::ApplySettings(SettingsWindow window)
     const bool saved = step([&] {
         QMap<QString, QList<QPair<QString, QString>>> sections;
         forRowsOf(window, [&](const SettingRow &row) {
-            sections[QLatin1String(row.section)].append({QLatin1String(row.key), value(row.id)});
+            sections[QLatin1String(row.section)].append({QLatin1String(row.key), toStore(row)});
         });
         for (auto section = sections.cbegin(); section != sections.cend(); ++section)
             store_.SaveSettings(section.key(), section.value());
@@ -162,14 +170,16 @@ void Options::FillBlankFields(SettingsWindow window)
 {
     forRowsOf(window, [this](const SettingRow &row) {
         if (row.repair && Trim(value(row.id)).isEmpty())
-            change(row.id, withFolder(row.repair));
+            change(row.id, withFolder(QString::fromUtf16(row.repair)));
     });
 }
 
 QString Options::stored(Setting id) const
 {
     const SettingRow &row = settingRow(id);
-    return store_.GetSetting(QLatin1String(row.section), QLatin1String(row.key), fallback(row));
+    const QString text = store_.GetSetting(QLatin1String(row.section), QLatin1String(row.key),
+                                           QString::fromUtf16(row.fallback));
+    return row.type == SettingType::Path ? withFolder(text) : text;
 }
 
 bool Options::storedIsOn(Setting id) const
@@ -180,11 +190,22 @@ bool Options::storedIsOn(Setting id) const
     return result;
 }
 
-QString Options::fallback(const SettingRow &row) const { return withFolder(row.fallback); }
-
-QString Options::withFolder(const char16_t *text) const
+QString Options::fallback(const SettingRow &row) const
 {
-    return QString::fromUtf16(text).replace(u"%APP%"_s, appFolder_);
+    return withFolder(QString::fromUtf16(row.fallback));
+}
+
+QString Options::withFolder(QString text) const
+{
+    return text.startsWith(folderMark) ? text.replace(0, folderMark.size(), appFolder_) : text;
+}
+
+QString Options::toStore(const SettingRow &row) const
+{
+    QString text = value(row.id);
+    if (row.type == SettingType::Path && text.startsWith(appFolder_))
+        text.replace(0, appFolder_.size(), folderMark);
+    return text;
 }
 
 void Options::change(Setting id, const QString &text)

@@ -20,7 +20,8 @@ class Options : public QObject
     Q_OBJECT
 
 public:
-    /// Starts with every default. `appFolder` stands in for the folder of default paths.
+    /// Starts with every default. `appFolder` stands in for the folder of default paths. A path below it is
+    /// stored without it, so that it stays valid when the folder moves.
     Options(SettingsStore &store, const QString &appFolder, Log &log);
 
     QString text(Setting id) const;
@@ -50,6 +51,10 @@ public:
     bool ApplySettings(SettingsWindow window = SettingsWindow::frmOptions);
     void FillBlankFields(SettingsWindow window = SettingsWindow::frmOptions);
 
+    QString fallback(Setting id) const { return fallback(settingRow(id)); }
+    /// Back to its default, in the store as well.
+    void reset(Setting id);
+
     /// Remembers the values, for `IsChanged`.
     void subSnapShot(SettingsWindow window = SettingsWindow::frmOptions);
     bool IsChanged(SettingsWindow window = SettingsWindow::frmOptions) const;
@@ -72,7 +77,8 @@ private:
     QString &value(Setting id) { return values_[static_cast<std::size_t>(id)]; }
     const QString &value(Setting id) const { return values_[static_cast<std::size_t>(id)]; }
     QString fallback(const SettingRow &row) const;
-    QString withFolder(const char16_t *text) const;
+    QString withFolder(QString text) const;
+    QString toStore(const SettingRow &row) const;
     void load(const SettingRow &row, const QString &text);
     void change(Setting id, const QString &text);
 

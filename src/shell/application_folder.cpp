@@ -24,7 +24,7 @@ QString application_folder::find(const QString &programFolder, const QString &in
     try {
         data_upgrade::bringUpToDate(userFolder, installedData, product::version());
     } catch (const std::exception &) {
-        // A full disk: what is missing is told by the start, which names the file.
+        // A full disk, a home that cannot be written: what lies there may do all the same.
     }
-    return withTrailingBackslash(userFolder);
+    return withTrailingBackslash(data_upgrade::isWhole(userFolder) ? userFolder : installedData);
 }

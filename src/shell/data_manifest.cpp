@@ -35,7 +35,9 @@ DataManifest DataManifest::read(const QString &folder)
     for (const QByteArray &line : text.split('\n')) {
         const qsizetype blank = line.indexOf(' ');
         if (std::exchange(first, false)) {
-            manifest.version_ = QString::fromUtf8(line.left(blank));
+            const QString version = QString::fromUtf8(line.left(blank));
+            if (!QVersionNumber::fromString(version).isNull())
+                manifest.version_ = version;
             if (blank > 0 && line.mid(blank + 1) != unfinished)
                 manifest.fingerprint_ = line.mid(blank + 1);
         } else if (blank > 0) {

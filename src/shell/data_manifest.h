@@ -18,6 +18,8 @@ public:
 
     /// True if exactly these data have been laid down to the last file.
     bool isComplete(const QString &version, const QByteArray &fingerprint) const;
+    /// True if this or an earlier version has been.
+    bool wasComplete() const { return !version_.isEmpty(); }
     bool isNewerThan(const QString &version) const;
     void setComplete(const QString &version, const QByteArray &fingerprint);
     /// Files are being laid down: until the next setComplete nothing is said of the whole.

@@ -152,6 +152,11 @@ bool data_upgrade::holdsData(const QString &folder)
     return QFileInfo(folder + u"/text"_s).isDir() && QFileInfo(folder + u"/facit"_s).isDir();
 }
 
+bool data_upgrade::isWhole(const QString &userFolder)
+{
+    return holdsData(userFolder) && DataManifest::read(userFolder).wasComplete();
+}
+
 void data_upgrade::bringUpToDate(const QString &userFolder, const QString &installedData,
                                  const QString &version)
 {

@@ -17,6 +17,9 @@ namespace data_upgrade {
 /// True if the folder has the lists and dictionaries without which there is no game.
 bool holdsData(const QString &folder);
 
+/// True if some version has filled the folder to the last file.
+bool isWhole(const QString &userFolder);
+
 /// Native paths; `version` is the program's, "1.2.3". When nothing has changed since the last time it looks
 /// at sizes and times only. It may be cut off at any moment and goes on at the next start: every file is the
 /// old one or the new. A file that cannot be written stays as it is and is tried again then. Throws

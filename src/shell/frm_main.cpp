@@ -15,6 +15,7 @@
 #include "platform/sounds.h"
 #include "platform/system_info.h"
 #include "platform/text.h"
+#include "shell/command_line.h"
 #include "shell/crash_filter.h"
 #include "shell/rooms.h"
 #include "widgets/click_label.h"
@@ -34,7 +35,6 @@
 #include <QMimeData>
 #include <QScreen>
 
-#include <array>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -58,7 +58,7 @@ frmMain::frmMain(Ground &ground, const StartFacts &facts)
     , facts_(facts)
     , controls_(makeMainControls(this))
     , status_(controls_.GameProgress)
-    , help_(ground.AppFolder, this)
+    , help_(ground.AppFolder, ground.gate, this)
 {
     setObjectName(u"frmMain"_s);
     setWindowTitle(product::name);
@@ -81,8 +81,7 @@ bool frmMain::Form_Load()
 {
     Procedure step{ground_.log, "Form_Load", "frmMain"};
     cmdLineReady_ = false;
-    hiddenText_ = Trim(facts_.CommandLine).isEmpty() ? QString() : facts_.CommandLine;
-    cmdLineReady_ = true;
+    hiddenText_ = facts_.CommandLine;
 
     step([&] { crash_filter::install(ground_.log.enabled() ? nativePath(ground_.log.file()) : QString()); });
     step([&] { makeReady(); });
@@ -104,6 +103,9 @@ bool frmMain::Form_Load()
     if (!filled)
         return false;
     step([&] { loadKept(); });
+    cmdLineReady_ = true;
+    if (!facts_.Complaint.isEmpty())
+        tellLater(facts_.Complaint);
     return true;
 }
 
@@ -151,6 +153,8 @@ void frmMain::Form_Activate()
         step([&] { showWelcome(); });
     if (!play_.RetypeActive() && !play_.GameActive())
         step([&] { rooms_->tips.startTipTimer(); });
+    for (const auto &tell : std::exchange(onceActivated_, {}))
+        step(tell);
     step([&] { tellLeftOut(); });
 }
 
@@ -178,25 +182,51 @@ void frmMain::showWelcome()
         ground_.pump.yield();
 }
 
-void frmMain::HiddenText_Change(const QString &text)
+void frmMain::HiddenText_Change(const QStringList &arguments)
 {
-    ground_.gate.whenFree([this, text] {
-        rooms_->pointer.letGo(); // a tile that is held lies on the board that goes
-        hiddenText_ = text;
-        if (cmdLineReady_)
-            UpdateCaption();
-    });
+    ground_.gate.whenFree([this, arguments] { openHandedOver(arguments); });
 }
 
+void frmMain::openHandedOver(const QStringList &arguments)
+{
+    rooms_->pointer.letGo(); // a tile that is held lies on the board that goes
+    hiddenText_ = arguments;
+    UpdateCaption();
+}
+
+/// What names no session leaves the board alone.
 void frmMain::UpdateCaption()
 {
     Procedure step{ground_.log, "UpdateCaption", "frmMain"};
-    const QStringList pieces = Trim(hiddenText_).split(u' ', Qt::SkipEmptyParts);
-    for (const QString &piece : pieces)
-        step([&] { rooms_->sessions.RestoreObjects(piece); });
-    cmdLineReady_ = false;
+    const auto [there, missing, switches] = command_line::sessionsOf(hiddenText_);
+    for (const QString &path : there)
+        step([&] { rooms_->sessions.RestoreObjects(path); });
     hiddenText_.clear();
-    cmdLineReady_ = true;
+    // This start's own switches have done their work.
+    tellNotOpened(missing, cmdLineReady_ ? switches : QStringList());
+}
+
+void frmMain::tellNotOpened(const QStringList &missing, const QStringList &switches)
+{
+    QStringList sentences;
+    if (!missing.isEmpty())
+        sentences << (missing.size() == 1 ? u"Diese Sitzung gibt es nicht:\n"_s
+                                          : u"Diese Sitzungen gibt es nicht:\n"_s) +
+                         missing.join(u'\n');
+    if (!switches.isEmpty())
+        sentences << u"Wortel-Meister läuft schon. Das gilt nur beim ersten Start: "_s + switches.join(u' ');
+    if (!sentences.isEmpty())
+        tellLater(sentences.join(u"\n\n"_s));
+}
+
+/// Not in the middle of something else, and not before the window is in use.
+void frmMain::tellLater(const QString &text)
+{
+    const auto tell = [this, text] { ground_.boxes.plainBox(Boxes::Icon::Warning, product::name, text); };
+    if (activated_)
+        ground_.gate.whenFree(tell);
+    else
+        onceActivated_.push_back(tell);
 }
 
 void frmMain::dragEnterEvent(QDragEnterEvent *event)
@@ -224,7 +254,7 @@ void frmMain::closeEvent(QCloseEvent *event)
     ground_.gate.requestClose();
 }
 
-/// Each question that is open is answered as if with Esc.
+/// Each question that is open is answered as if with Esc, also one that comes behind another.
 void frmMain::closeBoxes()
 {
     while (QWidget *popup = QApplication::activePopupWidget())
@@ -238,6 +268,7 @@ void frmMain::closeBoxes()
 void frmMain::unload()
 {
     ended_ = true;
+    boxCloser_.stop();
     Form_QueryUnload();
     Form_Unload();
     close();
@@ -264,7 +295,6 @@ void frmMain::Form_QueryUnload()
 void frmMain::Form_Unload()
 {
     Procedure step{ground_.log, "Form_Unload", "frmMain"};
-    step([&] { qApp->removeEventFilter(this); });
     step([&] { rooms_->store.takeAll(); });
     step([&] { rooms_->homes = {}; });
     step([&] { rooms_->background.remove(); });
@@ -285,15 +315,14 @@ void frmMain::Form_Unload()
 void frmMain::loadKept()
 {
     Rooms &r = *rooms_;
+    if (!facts_.CanStore)
+        r.backup.failureIsKnown();
     // What did not fit on the first board does not matter once another has taken its place.
     connect(&r.news, &BoardNews::opened, this, [this] { firstBoardReplaced_ = true; });
     connect(&r.news, &BoardNews::committed, this, [this] { firstBoardReplaced_ = true; });
     if (std::exchange(facts_.RecoverOnStart, false))
         r.backup.RestoreMyObjects(Backup::file(ground_));
-    constexpr std::array<QStringView, 5> noSessions{u"", u" ", u"/L", u"/I", u"/?"};
-    if (std::find(noSessions.begin(), noSessions.end(), facts_.CommandLine) == noSessions.end() &&
-        !hiddenText_.isEmpty())
-        UpdateCaption();
+    UpdateCaption();
     r.undo.ClearCollBuffer();
     emit menusStale();
 }

@@ -10,9 +10,13 @@
 #include "widgets/main_work_view.h"
 #include "widgets/status_line.h"
 
+#include <QStringList>
+#include <QTimer>
 #include <QWidget>
 
+#include <functional>
 #include <memory>
+#include <vector>
 
 class PressButton;
 struct Ground;
@@ -21,9 +25,11 @@ struct Rooms;
 /// What the entry procedure knows when it makes the main window.
 struct StartFacts
 {
-    QString CommandLine;
+    QStringList CommandLine;
     int ScreenResolutionCode = 1;
     bool RecoverOnStart = false;
+    bool CanStore = true;
+    QString Complaint; ///< what the user has to be told once the window stands, or nothing
 };
 
 /// The main window and hub: it makes the controls, makes the rooms, wires them, and forwards events. What a
@@ -44,9 +50,12 @@ public:
     /// Reads the settings and fills the first board. False if the program has to end: a word file is missing,
     /// and the user has been told.
     bool Form_Load();
-    /// Text that a second start has handed over, the window's `HiddenText`: each piece between blanks is
-    /// opened as a session.
-    void HiddenText_Change(const QString &text);
+    /// What a second start has handed over, the window's `HiddenText`: once nothing else is under way, each
+    /// session that it names is opened.
+    void HiddenText_Change(const QStringList &arguments);
+    void HiddenText_Change(const QString &text) { HiddenText_Change(QStringList{text}); }
+    /// The same at once, for who stands in a passage of the gate.
+    void openHandedOver(const QStringList &arguments);
 
     const MainControls &controls() const { return controls_; }
     // For whoever plays the program without a hand at the mouse.
@@ -84,6 +93,8 @@ private:
     void Form_Unload();
     void closeBoxes();
     void UpdateCaption();
+    void tellNotOpened(const QStringList &missing, const QStringList &switches);
+    void tellLater(const QString &text);
     void loadKept();
     void wire();
     void wireBoard();
@@ -106,7 +117,9 @@ private:
     MainWorkView workView_{sheet_, status_};
     std::unique_ptr<Rooms> rooms_;
     Help help_;
-    QString hiddenText_;
+    QStringList hiddenText_;
+    QTimer boxCloser_;
+    std::vector<std::function<void()>> onceActivated_;
     bool cmdLineReady_ = false;
     bool activated_ = false;
     bool firstBoardReplaced_ = false;

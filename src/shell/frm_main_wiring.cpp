@@ -26,6 +26,37 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto nothing = [] {};
+constexpr int boxCloserMs = 50;
+
+/// What a hand does, also with a pen, a finger or a file that it drops.
+bool isOfAHand(QEvent::Type type)
+{
+    switch (type) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::Wheel:
+    case QEvent::ContextMenu:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::ShortcutOverride:
+    case QEvent::Shortcut:
+    case QEvent::InputMethod:
+    case QEvent::TabletPress:
+    case QEvent::TabletRelease:
+    case QEvent::TabletMove:
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+    case QEvent::DragEnter:
+    case QEvent::DragMove:
+    case QEvent::Drop:
+        return true;
+    default:
+        return false;
+    }
+}
 
 } // namespace
 
@@ -66,7 +97,10 @@ void frmMain::wireBoard()
     connect(controls_.Label2, &ClickLabel::clicked, this,
             throughGate(gate, Gate::Way::Play, [this] { showAbout(); }));
 
+    boxCloser_.setInterval(boxCloserMs);
     connect(&gate, &Gate::closeRequested, this, &frmMain::closeBoxes);
+    connect(&gate, &Gate::closeRequested, &boxCloser_, qOverload<>(&QTimer::start));
+    connect(&boxCloser_, &QTimer::timeout, this, &frmMain::closeBoxes);
     connect(&gate, &Gate::closeNow, this, &frmMain::unload);
 }
 
@@ -125,8 +159,8 @@ void frmMain::wireModes()
         [&r] { r.game.Check3_MouseDown(Qt::RightButton); });
     for (int level = 0; level < 3; ++level)
         onPress(
-            controls_.Option2[static_cast<std::size_t>(level)],
-            [&r, level] { r.game.Option2_Click(level); }, nothing);
+            controls_.Option2[static_cast<std::size_t>(level)], [&r, level] { r.game.Option2_Click(level); },
+            nothing);
     for (int box = 0; box < 2; ++box)
         onPress(
             controls_.ChkVokal[static_cast<std::size_t>(box)],
@@ -210,6 +244,9 @@ void frmMain::showHelp() { help_.open(); }
 
 bool frmMain::eventFilter(QObject *watched, QEvent *event)
 {
+    // A window that closes takes nothing any more, and neither does any other of the program's.
+    if (ground_.gate.isClosing() && isOfAHand(event->type()))
+        return true;
     // The welcome has been read when the first press or key comes.
     if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::KeyPress)
         controls_.txtWelcomeMsg->hide();

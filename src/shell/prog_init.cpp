@@ -43,10 +43,8 @@ bool ProgInit::run(Int16 count, int screenCode)
 {
     Procedure step{ground_.log, "ProgInit", "frmMain"};
     Hourglass hourglass;
-    if (const std::optional<QString> missing = loader_.loadAtStart()) {
-        ground_.boxes.plainBox(Boxes::Icon::Critical, product::faultTitle, *missing);
+    if (!loadLists())
         return false;
-    }
     step([&] { nameTheList(); });
     step([&] { controls_.form->setWindowTitle(product::caption()); });
     step([&] { canvas_.surface().clear(); });
@@ -54,6 +52,37 @@ bool ProgInit::run(Int16 count, int screenCode)
         step([&] { findHomes(screenCode); });
     step([&] { leftOut_ = std::max<int>(0, count - bulk_.layFirstBoard(count, expectedBandTop())); });
     step([&] { loader_.FillKurzLanglist(); });
+    return true;
+}
+
+bool ProgInit::loadLists()
+{
+    while (const std::optional<QString> missing = loader_.loadAtStart())
+        if (!offersUsualList(*missing))
+            return false;
+    return true;
+}
+
+/// A chosen list that is gone, or has no dictionary, must not end every start from now on: the list that came
+/// with the program takes its place if the user agrees. Any other missing file is only told.
+bool ProgInit::offersUsualList(const QString &missing)
+{
+    Procedure step{ground_.log, "ProgInit", "frmMain", Procedure::Silent};
+    const QString usual = ground_.options.fallback(Setting::WortelFile);
+    const bool isGone = !ListLoader::missingOf(lists_.CurrentWortelFile).isEmpty();
+    if (!isGone || !ListLoader::missingOf(usual).isEmpty()) {
+        ground_.boxes.plainBox(Boxes::Icon::Critical, product::faultTitle, missing);
+        return false;
+    }
+    const Boxes::Answer answer = ground_.boxes.plainBox(
+        Boxes::Icon::Critical, product::faultTitle,
+        missing +
+            u"\n\nSoll Wortel-Meister stattdessen mit der Liste \"%1\" starten, jetzt und in Zukunft?"_s.arg(
+                listBaseName(usual)),
+        Boxes::Buttons::YesNo);
+    if (answer != Boxes::Answer::Yes)
+        return false;
+    step([&] { ground_.options.reset(Setting::WortelFile); });
     return true;
 }
 

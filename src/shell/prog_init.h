@@ -31,6 +31,8 @@ public:
     int leftOut() const { return leftOut_; }
 
 private:
+    bool loadLists();
+    bool offersUsualList(const QString &missing);
     void nameTheList();
     void findHomes(int screenCode);
     static void findRow(std::vector<AffixHome> &homes, const WordStore &affixes, int top,

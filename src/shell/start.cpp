@@ -11,10 +11,13 @@
 #include "shell/about_window.h"
 #include "shell/application_folder.h"
 #include "shell/argument_handler.h"
+#include "shell/command_line.h"
 #include "shell/frm_main.h"
+#include "shell/hand_over.h"
 #include "shell/real_ground.h"
 #include "shell/splash.h"
 #include "shell/start_steps.h"
+#include "shell/storage.h"
 #include "shell/termination.h"
 #include "widgets/resources.h"
 
@@ -55,8 +58,7 @@ int StartApplication(QApplication &application, RealGround &real, InstanceLink &
     real.boxes().setMainWindow(&form);
     if (!form.Form_Load())
         return 1;
-    QObject::connect(&link, &InstanceLink::textReceived, &form, &frmMain::HiddenText_Change);
-    link.listen();
+    hand_over::receive(link, ground, form);
     ground.clock.wait(300);
     ground.pump.yield();
 
@@ -75,20 +77,55 @@ int StartApplication(QApplication &application, RealGround &real, InstanceLink &
     });
 
     Termination termination;
+    QObject::connect(&termination, &Termination::requested, &link, &InstanceLink::forgetAll);
     QObject::connect(&termination, &Termination::requested, &form, &QWidget::close);
     QObject::connect(&form, &frmMain::unloaded, &application, &QCoreApplication::quit);
     return application.exec();
 }
 
-/// A switch has one "/" and stands before its value's colon; any other text that begins so is a path, also of
-/// a session that is gone.
-bool namesAFile(const QString &argument)
+/// What the switches ask for. A later start hands its arguments over, unless they have ended it; with none it
+/// ends in silence and does not bring the first window forward.
+start_steps::Next goThroughArguments(Ground &ground, InstanceLink &link, const QStringList &commandLine)
 {
-    if (QFileInfo(argument).isFile())
-        return true;
-    const QString name = argument.section(u':', 0, 0).mid(1);
-    return argument.startsWith(u'/') &&
-           (name.contains(u'/') || name.endsWith(u".wlx"_s, Qt::CaseInsensitive));
+    using enum start_steps::Next;
+    ArgumentHandler arguments;
+    arguments.ParseCommandLine(command_line::text(commandLine));
+    const auto apply = [&] {
+        return start_steps::ApplyArguments(ground, arguments, link.isFirst(), [] { fAbout().exec(); });
+    };
+    if (apply() == End)
+        return End;
+    if (link.isFirst())
+        return GoOn;
+    return hand_over::toFirst(ground, link, commandLine) == End ? End : apply();
+}
+
+void checkStorage(const Ground &ground, StartFacts &facts)
+{
+    const storage::State state =
+        storage::stateOf({nativePath(ground.AppFolder), QFileInfo(SettingsFile::defaultFile()).path()});
+    facts.CanStore = state == storage::State::Writable;
+    facts.Complaint = storage::complaint(state);
+}
+
+/// From the switches to the end of the main window. Returns the process's exit code.
+int run(QApplication &application, InstanceLink &link)
+{
+    RealGround real(findAppFolder());
+    Ground &ground = real.ground();
+    StartFacts facts;
+    facts.CommandLine = command_line::read(QCoreApplication::arguments().mid(1));
+    if (goThroughArguments(ground, link, facts.CommandLine) == start_steps::Next::End)
+        return 0;
+    if (start_steps::askForRecovery(ground, facts.RecoverOnStart) == start_steps::Next::End)
+        return 0;
+    checkStorage(ground, facts);
+    if (ground.options.stored(Setting::HideTaskbar) == u"1")
+        ShowTaskBar(false);
+    if (const QScreen *screen = QGuiApplication::primaryScreen())
+        facts.ScreenResolutionCode =
+            affix_rows::GetScreenResolution(screen->size().width(), screen->size().height());
+    return StartApplication(application, real, link, facts);
 }
 
 } // namespace
@@ -118,45 +155,13 @@ void dressApplication(QApplication &application)
         QCoreApplication::installTranslator(german);
 }
 
-QString commandLineText(const QStringList &arguments)
-{
-    QStringList pieces;
-    for (const QString &argument : arguments)
-        pieces << (namesAFile(argument) ? storedPath(QFileInfo(argument).absoluteFilePath()) : argument);
-    return pieces.join(u' ');
-}
-
 int startWortel(int argc, char *argv[])
 {
     QApplication application(argc, argv);
     initResources();
     dressApplication(application);
-
-    RealGround real(findAppFolder());
-    Ground &ground = real.ground();
-    InstanceLink link;
-
-    StartFacts facts;
-    facts.CommandLine = commandLineText(application.arguments().mid(1));
-    ArgumentHandler arguments;
-    arguments.ParseCommandLine(facts.CommandLine);
-    const auto showAbout = [] { fAbout().exec(); };
-    if (start_steps::ApplyArguments(ground, arguments, link.isFirst(), showAbout) == start_steps::Next::End)
-        return 0;
-
-    if (!link.isFirst()) {
-        // A second start with nothing to hand over ends in silence and does not bring the first window
-        // forward.
-        if (!facts.CommandLine.trimmed().isEmpty())
-            link.send(facts.CommandLine);
-        return 0;
-    }
-    if (start_steps::askForRecovery(ground, facts.RecoverOnStart) == start_steps::Next::End)
-        return 0;
-    if (ground.options.stored(Setting::HideTaskbar) == u"1")
-        ShowTaskBar(false);
-    if (const QScreen *screen = QGuiApplication::primaryScreen())
-        facts.ScreenResolutionCode =
-            affix_rows::GetScreenResolution(screen->size().width(), screen->size().height());
-    return StartApplication(application, real, link, facts);
+    auto link = std::make_unique<InstanceLink>(); // the first start listens from here on
+    const int exitCode = run(application, *link);
+    hand_over::passOn(std::move(link));
+    return exitCode;
 }

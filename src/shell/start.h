@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QString>
-
 class Options;
 class QApplication;
 class QWidget;
@@ -17,8 +15,3 @@ void dressApplication(QApplication &application);
 
 /// Shows the window as large as the screen allows: with the task bar hidden, on all of it.
 void showMainWindow(QWidget &form, const Options &options);
-
-/// The command line as one text, the way the program reads it: the arguments joined by blanks. An argument
-/// that names a file, by its whole path also one that does not exist, becomes a full stored path (with
-/// backslashes, so that it is not taken for a switch).
-QString commandLineText(const QStringList &arguments);

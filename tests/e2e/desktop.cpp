@@ -13,6 +13,7 @@
 #include <QVector>
 #include <QWidget>
 
+#include <csignal>
 #include <cstdlib>
 #include <unistd.h>
 
@@ -164,6 +165,8 @@ void Desktop::kill()
     game_.kill();
     game_.waitForFinished(5000);
 }
+
+void Desktop::signal(int number) { ::kill(static_cast<pid_t>(game_.processId()), number); }
 
 QString Desktop::waitForWindow(const QString &titlePattern, int milliseconds)
 {

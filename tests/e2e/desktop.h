@@ -44,6 +44,8 @@ public:
     bool close();
     /// Kills with SIGKILL.
     void kill();
+    /// Sends a signal: SIGSTOP for a program that is busy, SIGCONT for the end of that, SIGTERM.
+    void signal(int number);
 
     /// The id of a visible window whose title matches the regular expression, waited for; empty if none came.
     QString waitForWindow(const QString &titlePattern, int milliseconds = 15000);

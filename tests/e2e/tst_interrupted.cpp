@@ -8,12 +8,16 @@
 #include <QFile>
 #include <QtTest>
 
+#include <csignal>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr int tileCount =
     700; ///< more than fit on the board without overlap: placing them goes on until it is stopped
+
+const QString handbook = u"Hilfe$"_s;
 
 /// A crowd of tiles in the upper left corner.
 QByteArray crowdedBoard()
@@ -128,6 +132,50 @@ private slots:
         desktop.key(u"ctrl+i"_s);
         QVERIFY(desktop.keeps(tileCount));
         QVERIFY(desktop.close());
+    }
+
+    void aSecondStartWhileTheFirstOneAsks()
+    {
+        Crowd desktop;
+        desktop.kill();
+        desktop.start();
+        QVERIFY(!desktop.waitForWindow(u"Error Recovery$"_s).isEmpty());
+        QCOMPARE(desktop.startAgain({desktop.writeFile(u"Stunde 1.wlx"_s, knownBoard())}), 0);
+        Desktop::pause(300);
+        desktop.key(u"Return"_s);  // recovers
+        QVERIFY(desktop.keeps(8)); // and behind it the session
+        QCOMPARE(desktop.startAgain({u"Stunde 2.wlx"_s}), 0);
+        QVERIFY(!desktop.waitForWindow(u"^Wortel-Meister$"_s).isEmpty());
+        desktop.keepPicture(u"no-such-session"_s);
+        desktop.key(u"Return"_s);
+        QCOMPARE(desktop.keptTiles(), 8);
+        QVERIFY(desktop.close());
+    }
+
+    void theHandbookIsClosedWhileTheProgramIsBusy()
+    {
+        Crowd desktop;
+        desktop.key(u"F1"_s);
+        QVERIFY(!desktop.waitForWindow(handbook).isEmpty());
+        Desktop::pause(500);
+        const QPoint page = desktop.geometry(desktop.waitForWindow(handbook)).center();
+        desktop.signal(SIGSTOP);
+        desktop.click(desktop.boardArea().topLeft() + QPoint(60, 300));
+        desktop.click(page);
+        desktop.key(u"Escape"_s);
+        desktop.signal(SIGCONT);
+        QVERIFY(desktop.waitForNoWindow(handbook));
+        QVERIFY(desktop.isRunning());
+        desktop.key(u"F1"_s);
+        QVERIFY(!desktop.waitForWindow(handbook).isEmpty());
+
+        // A box that comes while the handbook is in front, and the end of the session.
+        QCOMPARE(desktop.startAgain({u"/L"_s}), 0);
+        QVERIFY(!desktop.waitForWindow(u"^Wortel-Meister$"_s).isEmpty());
+        desktop.signal(SIGTERM);
+        QVERIFY(desktop.waitForEnd());
+        QCOMPARE(desktop.exitCode(), 0);
+        QCOMPARE(desktop.keptTiles(), -1);
     }
 
     void closingInTheMiddleIsACleanEnd()

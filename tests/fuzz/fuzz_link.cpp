@@ -11,10 +11,10 @@ void fuzz::link(const QByteArray &bytes)
     qsizetype at = 0;
     for (qsizetype size = 1; at < bytes.size(); at += size++)
         inPieces.take(bytes.mid(at, size));
-    promise(atOnce.state() == inPieces.state() && atOnce.text() == inPieces.text(),
+    promise(atOnce.state() == inPieces.state() && atOnce.arguments() == inPieces.arguments(),
             "a message is the same however it arrives");
-    promise(atOnce.state() == LinkMessage::State::Whole || atOnce.text().isEmpty(),
-            "no text but a whole one");
+    promise(atOnce.state() == LinkMessage::State::Whole || atOnce.arguments().isEmpty(),
+            "no arguments but whole ones");
     if (atOnce.state() == LinkMessage::State::Whole)
-        promise(LinkMessage::encode(atOnce.text()) == bytes, "a message is written as it was read");
+        promise(LinkMessage::encode(atOnce.arguments()) == bytes, "a message is written as it was read");
 }

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/files.h"
 #include "platform/instance_link.h"
+#include "platform/local_socket.h"
 #include "support/registry.h"
 
 #include <QLocalSocket>
@@ -8,6 +10,9 @@
 #include <QtTest>
 
 #include <atomic>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
@@ -22,34 +27,63 @@ class InstanceLinkTest : public QObject
     QString address_ = folder_.filePath(u"link"_s);
 
 private slots:
-    void handsTextOver_data()
+    void handsArgumentsOver_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::newRow("paths") << u"C:\\Übung.wlx  /home/x/b.wlx"_s;
-        QTest::newRow("empty") << QString();
-        QTest::newRow("largest") << QString(64 * 1024, u'x');
+        QTest::addColumn<QStringList>("arguments");
+        QTest::newRow("paths") << QStringList{u"C:\\Übung 1.wlx"_s, u"/home/x/b.wlx"_s};
+        QTest::newRow("an empty one between") << QStringList{u"a"_s, u""_s, u"b"_s};
+        QTest::newRow("largest") << QStringList{QString(64 * 1024, u'x')};
     }
-    void handsTextOver()
+    void handsArgumentsOver()
     {
-        QFETCH(QString, text);
+        QFETCH(QStringList, arguments);
         InstanceLink first(address_);
-        QVERIFY(first.isFirst() && first.listen());
-        QSignalSpy received(&first, &InstanceLink::textReceived);
-        const InstanceLink second(address_);
-        QVERIFY(!second.isFirst());
-        QVERIFY(second.send(text)); // does not wait for the first instance to read
-        QTRY_COMPARE(received.count(), 1);
-        QCOMPARE(received.first().first().toString(), text);
-        QVERIFY(!second.send(QString(64 * 1024 + 1, u'x')));
+        QVERIFY(first.isFirst());
+        QSignalSpy arrived(&first, &InstanceLink::arrived);
+        QCOMPARE(handOver(arguments), InstanceLink::Outcome::Taken);
+        QCOMPARE(handOver({}), InstanceLink::Outcome::Taken); // only asks
+        QCOMPARE(arrived.count(), 1);
+        QCOMPARE(first.waiting(), std::size_t(1)); // until somebody opens it
+        QCOMPARE(first.takeNext(), arguments);
+        QCOMPARE(first.takeNext(), std::nullopt);
+        QCOMPARE(handOver({QString(64 * 1024 + 1, u'x')}), InstanceLink::Outcome::TooLong);
     }
 
     void onlyTheUserReachesTheSocket()
     {
         InstanceLink first(address_);
-        QVERIFY(first.listen());
         const QFile::Permissions others =
             QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
         QCOMPARE(QFile::permissions(address_) & others, QFile::Permissions());
+    }
+
+    void answersItsOwnUserOnly()
+    {
+        if (geteuid() != 0)
+            QSKIP("only root may be another user");
+        const InstanceLink first(address_);
+        // Even where the rights of the files have been opened.
+        QCOMPARE(chmod(QFile::encodeName(folder_.path()).constData(), 0755), 0);
+        QCOMPARE(chmod(QFile::encodeName(address_).constData(), 0666), 0);
+        const pid_t child = fork();
+        if (child == 0) {
+            constexpr uid_t nobody = 65534;
+            const int as = setuid(nobody);
+            const int plain = socket(AF_UNIX, SOCK_STREAM, 0);
+            sockaddr_un address{};
+            address.sun_family = AF_UNIX;
+            qstrncpy(address.sun_path, QFile::encodeName(address_).constData(), sizeof address.sun_path);
+            char answer = 0;
+            const bool refused =
+                as == 0 && local_socket::connectTo(address_) < 0 &&
+                ::connect(plain, reinterpret_cast<sockaddr *>(&address), sizeof address) == 0 &&
+                send(plain, "\0\0\0\1a", 5, MSG_NOSIGNAL) >= -1 && read(plain, &answer, 1) <= 0;
+            _exit(refused ? 0 : 1);
+        }
+        int status = 0;
+        QTRY_VERIFY(waitpid(child, &status, WNOHANG) == child);
+        QCOMPARE(status, 0);
+        QCOMPARE(first.waiting(), std::size_t(0));
     }
 
     void dropsWhatIsNoMessage_data()
@@ -65,8 +99,6 @@ private slots:
     {
         QFETCH(QByteArray, bytes);
         InstanceLink first(address_);
-        QVERIFY(first.listen());
-        QSignalSpy received(&first, &InstanceLink::textReceived);
         QLocalSocket stranger;
         stranger.connectToServer(address_);
         QVERIFY(stranger.waitForConnected(1000));
@@ -74,24 +106,20 @@ private slots:
         stranger.flush();
         QTest::qWait(20);
         stranger.disconnectFromServer();
-        QVERIFY(InstanceLink(address_).send(u"danach"_s)); // the link still lives
-        QTRY_COMPARE(received.count(), 1);
-        QCOMPARE(received.first().first().toString(), u"danach"_s);
+        QCOMPARE(handOver({u"danach"_s}), InstanceLink::Outcome::Taken); // the link still lives
+        QCOMPARE(first.waiting(), std::size_t(1));
     }
 
     void silentStrangersDoNotBlockTheLink()
     {
         InstanceLink first(address_);
-        QVERIFY(first.listen());
-        QSignalSpy received(&first, &InstanceLink::textReceived);
         std::vector<std::unique_ptr<QLocalSocket>> strangers;
         for (int i = 0; i < 10; ++i) {
             strangers.push_back(std::make_unique<QLocalSocket>());
             strangers.back()->connectToServer(address_);
             QVERIFY(strangers.back()->waitForConnected(1000));
         }
-        QVERIFY(InstanceLink(address_).send(u"hier"_s));
-        QTRY_COMPARE(received.count(), 1);
+        QCOMPARE(handOver({u"hier"_s}), InstanceLink::Outcome::Taken);
     }
 
     void aCrashLeavesNoLock()
@@ -99,15 +127,15 @@ private slots:
         const pid_t child = fork();
         if (child == 0) {
             InstanceLink crashed(address_);
-            _exit(crashed.isFirst() && crashed.listen() ? 0 : 1);
+            _exit(crashed.isFirst() ? 0 : 1);
         }
         int status = 1;
         waitpid(child, &status, 0);
         QCOMPARE(status, 0);
         QVERIFY(QFileInfo::exists(address_)); // the stale socket
-        InstanceLink next(address_);
+        const InstanceLink next(address_);
         QVERIFY(next.isFirst());
-        QVERIFY(next.listen());
+        QCOMPARE(handOver({u"x"_s}), InstanceLink::Outcome::Taken);
     }
 
     void ofManyStartsInOneInstantOneIsFirst()
@@ -129,23 +157,117 @@ private slots:
         QCOMPARE(firsts.load(), 1);
     }
 
-    void waitsForAFirstInstanceThatStillStarts()
+    void whatLiesInTheWayIsTakenOver_data()
     {
-        InstanceLink first(address_);
-        QSignalSpy received(&first, &InstanceLink::textReceived);
-        std::atomic<bool> sent = false;
-        std::thread other([&] { sent = InstanceLink(address_).send(u"früh"_s); });
-        QTest::qWait(150);
-        QVERIFY(first.listen());
-        QTRY_COMPARE(received.count(), 1);
-        other.join();
-        QVERIFY(sent);
+        QTest::addColumn<QString>("inTheWay");
+        QTest::addColumn<int>("mode");
+        QTest::newRow("empty") << u""_s << 0600;
+        QTest::newRow("of another program") << u"99999999\nsh\nschule7\n"_s << 0644;
+        QTest::newRow("of a process that lives")
+            << u"1\nwortel\n%1\n"_s.arg(QSysInfo::machineHostName()) << 0600;
+        QTest::newRow("not to be read") << u"x"_s << 0;
+        QTest::newRow("a link") << u"->"_s << 0;
+        QTest::newRow("a folder") << u"/"_s << 0;
+    }
+    void whatLiesInTheWayIsTakenOver()
+    {
+        QFETCH(QString, inTheWay);
+        QFETCH(int, mode);
+        const QString address = folder_.filePath(u"weg"_s);
+        const QString lock = address + u".lock"_s;
+        QFile::remove(lock);
+        if (inTheWay == u"/"_s)
+            QVERIFY(QDir().mkdir(lock));
+        else if (inTheWay == u"->"_s)
+            QVERIFY(QFile::link(u"/etc/hostname"_s, lock));
+        else
+            writeFileAtomically(lock, inTheWay.toUtf8());
+        if (mode != 0 || inTheWay == u"x"_s)
+            QCOMPARE(chmod(lock.toLocal8Bit().constData(), static_cast<mode_t>(mode)), 0);
+        writeFileAtomically(address, "no socket");
+
+        const InstanceLink first(address);
+        QVERIFY(first.isFirst());
+        QVERIFY(!InstanceLink(address).isFirst());
+        QCOMPARE(handOver({u"a"_s}, 5000, address), InstanceLink::Outcome::Taken);
     }
 
-    void neitherNobodyNorAMissingFolderStopsTheStart()
+    void aFolderMayHaveALongName()
     {
-        QVERIFY(!InstanceLink(address_).send(u"x"_s, 200));
-        QVERIFY(InstanceLink(u"/proc/wortel/link"_s).isFirst());
+        const QString address = folder_.filePath(QString(200, u'l') + u'/' + QString(200, u'ö') + u"/link"_s);
+        InstanceLink first(address);
+        QVERIFY(first.isFirst());
+        QCOMPARE(handOver({u"a"_s}, 5000, address), InstanceLink::Outcome::Taken);
+        first.stopListening();
+        QVERIFY(!QFileInfo::exists(address));
+    }
+
+    void whoGetsNoAnswerBecomesTheFirstOrSaysSo()
+    {
+        auto first = std::make_unique<InstanceLink>(address_);
+        // Stopped: it lives and does not read. What it reads too late is not opened behind the user's back.
+        QCOMPARE(InstanceLink(address_).handOver({u"spät"_s}, 200), InstanceLink::Outcome::NoAnswer);
+        QTest::qWait(50);
+        QCOMPARE(first->waiting(), std::size_t(0));
+        // Ending: it takes nothing any more, and the one who waits follows it.
+        first->stopListening();
+        std::atomic<InstanceLink::Outcome> outcome{};
+        std::thread other([&] { outcome = InstanceLink(address_).handOver({u"a"_s}); });
+        QTest::qWait(150);
+        first.reset();
+        other.join();
+        QCOMPARE(outcome.load(), InstanceLink::Outcome::IsFirst);
+    }
+
+    void aDeletedLockMakesNoSecondFirst()
+    {
+        const InstanceLink first(address_);
+        QVERIFY(QFile::remove(address_ + u".lock"_s));
+        QVERIFY(!InstanceLink(address_).isFirst());
+    }
+
+    void aMissingFolderDoesNotStopTheStart() { QVERIFY(InstanceLink(u"/proc/wortel/link"_s).isFirst()); }
+
+    void takesAFolderThatIsTheUsersAlone_data()
+    {
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<bool>("taken");
+        QTest::newRow("his alone") << 0700 << true;
+        QTest::newRow("others may write") << 0777 << false;
+        QTest::newRow("not there") << 0 << false;
+    }
+    void takesAFolderThatIsTheUsersAlone()
+    {
+        QFETCH(int, mode);
+        QFETCH(bool, taken);
+        const QString runtime = folder_.filePath(u"run%1"_s.arg(mode));
+        if (mode != 0) {
+            QVERIFY(QDir().mkpath(runtime));
+            QCOMPARE(chmod(runtime.toLocal8Bit().constData(), static_cast<mode_t>(mode)), 0);
+        }
+        const QByteArray before = qgetenv("XDG_RUNTIME_DIR");
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtime));
+        const QString address = InstanceLink::defaultAddress();
+        qputenv("XDG_RUNTIME_DIR", before);
+        const QString own = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+        QCOMPARE(address.startsWith(runtime + u"/wortel-meister-"_s), taken);
+        QCOMPARE(address.startsWith(own + u"/Wortel-Meister/wortel-meister-"_s), !taken);
+    }
+
+private:
+    /// What another process of the same user does, while the first one's events run.
+    InstanceLink::Outcome handOver(const QStringList &arguments, int patience = 5000, const QString &to = {})
+    {
+        std::atomic<bool> done = false;
+        InstanceLink::Outcome outcome{};
+        std::thread other([&] {
+            outcome = InstanceLink(to.isEmpty() ? address_ : to).handOver(arguments, patience);
+            done = true;
+        });
+        while (!done)
+            QTest::qWait(5);
+        other.join();
+        return outcome;
     }
 };
 

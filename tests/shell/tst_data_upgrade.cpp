@@ -205,8 +205,15 @@ private slots:
     {
         const Place place;
         const QByteArray big(5000, 'x');
+        place.install({{list, big}, {u"text/b.txt"_s, "b1"}});
+        {
+            const FileSizeLimit full(4000);
+            place.start(u"1.0.0"_s);
+        }
+        QVERIFY(!data_upgrade::isWhole(place.user));
         place.install({{list, "alt"}, {u"text/b.txt"_s, "b1"}});
         place.start(u"1.0.0"_s);
+        QVERIFY(data_upgrade::isWhole(place.user));
         place.install({{list, big}, {u"text/b.txt"_s, "b2"}});
         {
             const FileSizeLimit full(0);
@@ -219,6 +226,7 @@ private slots:
         }
         QCOMPARE(place.bytes(list), QByteArray("alt"));
         QCOMPARE(place.bytes(u"text/b.txt"_s), QByteArray("b2"));
+        QVERIFY(data_upgrade::isWhole(place.user));
         place.start(u"1.1.0"_s);
         QCOMPARE(place.bytes(list), big);
     }

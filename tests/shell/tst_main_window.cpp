@@ -8,6 +8,7 @@
 #include "version.h"
 #include "widgets/gradient.h"
 
+#include <QDir>
 #include <QSignalSpy>
 #include <QTimer>
 #include <QtTest>
@@ -86,6 +87,38 @@ private slots:
         QCOMPARE(house.t.boxes.asked.first().title, u"Wortel-Meister - Fehler"_s);
     }
 
+    void aMissingChosenListGivesWayToTheUsualOne_data()
+    {
+        columns<bool, bool, bool>("listThere", "agrees", "usualThere");
+        QTest::newRow("list gone") << false << true << true;
+        QTest::newRow("dictionary gone") << true << true << true;
+        QTest::newRow("refused") << false << false << true;
+        QTest::newRow("nothing to offer") << false << false << false;
+    }
+    void aMissingChosenListGivesWayToTheUsualOne()
+    {
+        QFETCH(bool, listThere);
+        QFETCH(bool, agrees);
+        QFETCH(bool, usualThere);
+        Start house;
+        const QString list = house.t.AppFolder + u"text\\Tiere.txt"_s;
+        house.t.store.SaveSetting(u"Settings"_s, u"WortelFile"_s, list);
+        if (listThere)
+            house.t.writeFile(u"text\\Tiere.txt"_s, u"Igel\r\n"_s);
+        if (!usualThere)
+            QFile::remove(house.t.folder.filePath(u"facit/Hauptbausteine.lex"_s));
+        house.t.boxes.willAnswer(!usualThere ? Boxes::Answer::Ok
+                                 : agrees    ? Boxes::Answer::Yes
+                                             : Boxes::Answer::No);
+        QCOMPARE(house.form.Form_Load(), agrees);
+        QCOMPARE(house.t.boxes.asked.first().text.contains(u"\"Hauptbausteine\""_s), usualThere);
+        QCOMPARE(house.t.store.GetSetting(u"Settings"_s, u"WortelFile"_s, {}),
+                 agrees ? u"%APP%text\\Hauptbausteine.Txt"_s : list);
+        if (agrees)
+            QCOMPARE(house.lists.WortelList.count(), 3);
+        QVERIFY(house.t.ok());
+    }
+
     void firstBoard_data()
     {
         // line: with "%" for the folder
@@ -105,7 +138,7 @@ private slots:
         writeFileAtomically(folder.filePath(u"a.wlx"_s), session("Prefix", "ab"));
         writeFileAtomically(folder.filePath(u"b.wlx"_s), session("Suffix", "er"));
         Start house({{"NumWortel", "3"}},
-                    {line.replace(u'%', storedPath(folder.path()) + u'\\'), 1, recovers});
+                    {{line.replace(u'%', storedPath(folder.path()) + u'\\')}, 1, recovers});
         if (recovers) {
             MyObj array;
             array.AddElementToMyObj(u"M1"_s, 'S', 5, 6, u"lich"_s);
@@ -115,6 +148,51 @@ private slots:
         QCOMPARE(house.described().join(u'|'), tiles);
         QVERIFY2(!house.r.undo.CanUndo(), "undo knows nothing before it");
         QVERIFY(house.t.ok());
+    }
+
+    void whatNamesNoSessionLeavesTheBoardAlone_data()
+    {
+        columns<QStringList, QString>("arguments", "told");
+        QTest::newRow("mistyped") << QStringList{u"\\fort 1.wlx"_s}
+                                  << u"Diese Sitzung gibt es nicht:\n\\fort 1.wlx"_s;
+        QTest::newRow("several") << QStringList{u"a.wlx"_s, u"b.wlx"_s}
+                                 << u"Diese Sitzungen gibt es nicht:\na.wlx\nb.wlx"_s;
+        QTest::newRow("a switch") << QStringList{u"/L"_s}
+                                  << u"Wortel-Meister läuft schon. Das gilt nur beim ersten Start: /L"_s;
+    }
+    void whatNamesNoSessionLeavesTheBoardAlone()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, told);
+        Start house({{"NumWortel", "3"}, {"UseBackup", "1"}}, {arguments});
+        QVERIFY(house.form.Form_Load()); // its own arguments
+        const bool isSwitch = arguments == QStringList{u"/L"_s};
+        for (const bool own : {true, false}) {
+            if (!own || !isSwitch)
+                house.t.boxes.willAnswer(Boxes::Answer::Ok);
+            if (own)
+                house.appear();
+            else
+                house.form.HiddenText_Change(arguments);
+            TestHouse::settle();
+            QCOMPARE(house.counters().first(), u"3"_s);
+            QVERIFY(!house.r.undo.CanUndo());
+            QCOMPARE(house.t.boxes.told(), own && isSwitch ? QString() : u"Wortel-Meister|"_s + told);
+        }
+        QVERIFY(house.t.ok());
+    }
+
+    void tellsOnceThatNothingCanBeStored()
+    {
+        Start house({{"UseBackup", "1"}}, {{}, 1, false, false, u"Voll"_s});
+        QVERIFY(QDir().mkpath(nativePath(house.backup()))); // no file can take its place
+        house.t.boxes.willAnswer(Boxes::Answer::Ok);
+        QVERIFY(house.form.Form_Load());
+        house.appear();
+        QCOMPARE(house.t.boxes.told(), u"Wortel-Meister|Voll"_s);
+        house.r.news.Commit();
+        house.r.news.Commit();
+        QVERIFY(house.t.ok()); // no box a move
     }
 
     void firstActivation_data()
@@ -205,6 +283,12 @@ private slots:
         QVERIFY(house.t.sound.resources.contains(118));
         QCOMPARE(house.t.clock.waited, 1000);
 
+        const QPoint middle = house.controls.Command1->rect().center();
+        QTest::mousePress(house.controls.Command1, Qt::LeftButton, {},
+                          middle); // help, which may be looked at
+        QTest::mouseClick(house.controls.OptType[0], Qt::LeftButton);
+        QVERIFY(!house.controls.OptType[0]->isChecked());
+        QVERIFY(house.form.findChild<QWidget *>(u"HelpWindow"_s) == nullptr);
         house.tool(house.controls.Check2);
         house.form.HiddenText_Change(house.t.AppFolder + u"a.wlx"_s);
         close();

@@ -4,9 +4,11 @@
 #include "platform/files.h"
 #include "shell/application_folder.h"
 #include "shell/argument_handler.h"
+#include "shell/command_line.h"
 #include "shell/crash_filter.h"
-#include "shell/start.h"
+#include "shell/storage.h"
 #include "support/columns.h"
+#include "support/file_size_limit.h"
 #include "support/registry.h"
 
 #include <QDir>
@@ -67,7 +69,7 @@ private slots:
         QCOMPARE(found, expected);
     }
 
-    void readsTheCommandLineAsOneText_data()
+    void readsArguments_data()
     {
         columns<QStringList, QString>("arguments", "text");
         QTest::newRow("switches") << QStringList{u"/L"_s, u"/?"_s, u"/Name:/a/b"_s} << u"/L /? /Name:/a/b"_s;
@@ -75,10 +77,58 @@ private slots:
             << QStringList{u"/home/wir/fort.wlx"_s, u"/home/fort"_s, u"/fort.WLX"_s}
             << u"\\home\\wir\\fort.wlx \\home\\fort \\fort.WLX"_s;
     }
-    void readsTheCommandLineAsOneText()
+    void readsArguments()
     {
         QFETCH(QStringList, arguments);
-        QTEST(commandLineText(arguments), "text");
+        QTEST(command_line::text(command_line::read(arguments)), "text");
+    }
+
+    // "%" stands for a folder with the files "a.wlx" and "Stunde 1.wlx"
+    void findsSessionsInArguments_data()
+    {
+        columns<QStringList, QStringList, QStringList, QStringList>("arguments", "there", "missing",
+                                                                    "switches");
+        const QStringList none;
+        QTest::newRow("nothing") << QStringList{u""_s, u"  "_s} << none << none << none;
+        QTest::newRow("with a blank")
+            << QStringList{u"%\\Stunde 1.wlx"_s} << QStringList{u"%\\Stunde 1.wlx"_s} << none << none;
+        QTest::newRow("with blanks around")
+            << QStringList{u" %\\Stunde 1.wlx "_s} << QStringList{u"%\\Stunde 1.wlx"_s} << none << none;
+        QTest::newRow("one text of several") << QStringList{u"%\\a.wlx  %\\fort.wlx /L %\\A.WLX"_s}
+                                             << QStringList{u"%\\a.wlx"_s, u"%\\A.WLX"_s}
+                                             << QStringList{u"%\\fort.wlx"_s} << QStringList{u"/L"_s};
+        QTest::newRow("mistyped, with a blank")
+            << QStringList{u"%\\Stunde 2.wlx"_s, u"%\\a.wlx"_s} << QStringList{u"%\\a.wlx"_s}
+            << QStringList{u"%\\Stunde 2.wlx"_s} << none;
+        QTest::newRow("a folder is none") << QStringList{u"%"_s} << none << QStringList{u"%"_s} << none;
+    }
+    void findsSessionsInArguments()
+    {
+        QFETCH(QStringList, arguments);
+        QTemporaryDir place;
+        const QString folder = storedPath(place.path());
+        for (const char *name : {"a.wlx", "Stunde 1.wlx"})
+            writeFileAtomically(place.filePath(QLatin1String(name)), "x");
+        const command_line::Sessions found =
+            command_line::sessionsOf(QStringList(arguments).replaceInStrings(u"%"_s, folder));
+        const auto shortened = [&](QStringList paths) { return paths.replaceInStrings(folder, u"%"_s); };
+        QTEST(shortened(found.there), "there");
+        QTEST(shortened(found.missing), "missing");
+        QTEST(found.switches, "switches");
+    }
+
+    void tellsWhetherItCanStore()
+    {
+        QTemporaryDir place;
+        const QString fresh = place.filePath(u"neu/tief"_s);
+        writeFileAtomically(place.filePath(u"datei"_s), "x");
+        QCOMPARE(storage::stateOf({fresh}), storage::State::Writable);
+        QVERIFY(QDir(fresh).isEmpty(QDir::Files | QDir::Hidden));
+        QCOMPARE(storage::stateOf({fresh, place.filePath(u"datei/x"_s)}), storage::State::Protected);
+        QCOMPARE(storage::stateOf({u"/proc/wortel"_s}), storage::State::Full); // a system of no size
+        const FileSizeLimit limit(1000);
+        QCOMPARE(storage::stateOf({fresh}), storage::State::Full);
+        QVERIFY(storage::complaint(storage::State::Writable).isEmpty());
     }
 
     void knowsTheScreens_data()
@@ -177,6 +227,10 @@ private slots:
         QVERIFY(!QFile::exists(half));
         QCOMPARE(ReadWholeFile(user + u"/facit/Ä.lex"_s), QByteArray("ganz neu"));
         QCOMPARE(ReadWholeFile(user + u"/text/Ä.txt"_s), QByteArray("vom Lehrer"));
+
+        // A home that cannot be written: the installed data themselves, unless it was filled once.
+        QCOMPARE(application_folder::find(program, installed, u"/proc/wortel"_s),
+                 application_folder::withTrailingBackslash(installed));
 
         // Portable: the data lie beside the program.
         QDir().mkpath(program + u"/text"_s);

@@ -24,11 +24,11 @@ void BestLists::GetBestTimes(const MemoryKind &kind, int clicks, const QString &
             name = ground_.boxes.ShowEnterName(
                 u"Bestenliste Paarlon (%1)"_s.arg(QString::fromUtf16(kind.tile->plural)));
         });
-        if (ground_.gate.isClosing())
-            return;
         list.enter(*place, clicks, name);
         const TopTen::Record entry = list.records().at(*place);
         step([&] { scores_.saveTopTen(kind, list); });
+        if (ground_.gate.isClosing())
+            return;
         list = TopTen::fromText(list.text()); // where it stands among its equals
         step([&] { ShowBestTimes(message, kind, static_cast<int>(list.records().indexOf(entry)) + 1); });
         if (ground_.gate.isClosing())

@@ -69,10 +69,11 @@ void HighScores::CheckForHighScore(ScoredGame game, double score, std::optional<
     if (list.placeOf(score) > 0) {
         QString name;
         step([&] { name = ground_.boxes.ShowEnterName(text(rowOf(game).entryTitle)); });
-        if (ground_.gate.isClosing())
-            return;
-        place = insertInFile(game, list, ScoreList::nameFor(name), score);
+        place =
+            insertInFile(game, list, ScoreList::nameFor(name), score); // also of a game that was closed on
     }
+    if (ground_.gate.isClosing())
+        return;
     step([&] { show(game, list, score, count, place); });
 }
 

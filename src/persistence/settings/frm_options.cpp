@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "persistence/settings/frm_options.h"
 
+#include "language/list_loader.h"
 #include "persistence/settings/options_view.h"
 #include "platform/boxes.h"
 #include "platform/clock.h"
@@ -88,6 +89,12 @@ void frmOptions::cmdOK_Click()
 {
     Procedure step{ground_.log, "cmdOK_Click", "frmOptions"};
     int answer = answerNo;
+    // A list that the next start could not load; one that was stored before is the start's affair.
+    const QString list = ground_.options.text(Setting::WortelFile);
+    bool whole = true;
+    step([&] { whole = list == ground_.options.stored(Setting::WortelFile) || listIsWhole(list); });
+    if (!whole)
+        return;
     step([&] {
         if (ground_.options.IsChanged())
             answer = ground_.boxes.ShowMBox(
@@ -134,7 +141,31 @@ void frmOptions::Command3_Click()
         ground_.fileDialogs.openFiles(u"Choose Initial Wortel-File"_s, ground_.AppFolder + u"text\\"_s,
                                       u"Text Dateien (*.txt)|*.txt"_s, false);
     if (!chosen.isEmpty())
-        ground_.options.setText(Setting::WortelFile, chosen.first());
+        takeList(chosen.first());
+}
+
+/// What is missing is told at once, though only "OK" refuses it.
+void frmOptions::takeList(const QString &path)
+{
+    ground_.options.setText(Setting::WortelFile, path);
+    listIsWhole(path);
+}
+
+/// True as well for a blank field, which gets the usual list. Tells what is missing.
+bool frmOptions::listIsWhole(const QString &path)
+{
+    const QString missing = Trim(path).isEmpty() ? QString() : ListLoader::missingOf(path);
+    if (missing.isEmpty())
+        return true;
+    const QString fault =
+        missing == path
+            ? u"Diese Wortel-Liste gibt es nicht:\n\n%1\n\nWähle eine andere, oder leere das Feld: Dann "
+              u"nimmt "
+              "Wortel-Meister seine eigene."_s
+            : u"Zu dieser Wortel-Liste gehört ein Wörterbuch, und das fehlt:\n\n%1\n\nOhne Wörterbuch kann "
+              "Wortel-Meister nicht mit ihr starten."_s;
+    ground_.boxes.plainBox(Boxes::Icon::Warning, product::name, fault.arg(missing));
+    return false;
 }
 
 void frmOptions::Command4_Click()
@@ -166,7 +197,7 @@ void frmOptions::Text2_OLEDragDrop(const QString &path)
         return;
     const QString ending = path.mid(path.lastIndexOf(u'.') + 1).right(3);
     if (UCase(ending) == u"TXT"_s)
-        ground_.options.setText(Setting::WortelFile, path);
+        takeList(path);
     else
         ground_.boxes.plainBox(Boxes::Icon::Warning, product::name + u" - Fehler: Format"_s,
                                u"Hier passt nur eine Text-Datei (*.txt)."_s);

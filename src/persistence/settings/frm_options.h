@@ -44,6 +44,8 @@ private:
     void Command5_Click();
     void Command6_Click();
     void Text2_OLEDragDrop(const QString &path);
+    void takeList(const QString &path);
+    bool listIsWhole(const QString &path);
     void apply();
     void fitToScreen();
 

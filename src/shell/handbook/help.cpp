@@ -10,8 +10,9 @@
 #include <QStandardPaths>
 #include <QUrl>
 
-Help::Help(const QString &appFolder, QWidget *owner)
+Help::Help(const QString &appFolder, Gate &gate, QWidget *owner)
     : appFolder_(appFolder)
+    , gate_(gate)
     , owner_(owner)
 {}
 
@@ -22,7 +23,9 @@ void Help::open()
     if (openCompiled())
         return;
     if (window_.isNull())
-        window_ = new HelpWindow(nativePath(appFolder_ + QStringLiteral("hilfe")), owner_);
+        window_ = new HelpWindow(nativePath(appFolder_ + QStringLiteral("hilfe")), gate_, owner_);
+    else if (!window_->isVisible())
+        window_->startAfresh();
     window_->showNormal();
     window_->raise();
     window_->activateWindow();

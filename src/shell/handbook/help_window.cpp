@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/handbook/help_window.h"
 
+#include "platform/gate.h"
 #include "shell/handbook/help_browser.h"
 #include "widgets/gradient.h"
 
@@ -44,8 +45,9 @@ constexpr int addressRole = Qt::UserRole;
 
 } // namespace
 
-HelpWindow::HelpWindow(const QString &folder, QWidget *owner)
+HelpWindow::HelpWindow(const QString &folder, Gate &gate, QWidget *owner)
     : QWidget(owner, windowKind)
+    , gate_(gate)
     , pages_(folder)
     , browser_(new HelpBrowser(pages_, this))
     , contents_(new QTreeWidget(this))
@@ -54,7 +56,6 @@ HelpWindow::HelpWindow(const QString &folder, QWidget *owner)
 {
     setObjectName(u"HelpWindow"_s);
     setWindowTitle(u"Wortel-Meister - Hilfe"_s);
-    setAttribute(Qt::WA_DeleteOnClose);
     QFont letters = font();
     letters.setPixelSize(controlText);
     setFont(letters);
@@ -84,16 +85,25 @@ HelpWindow::HelpWindow(const QString &folder, QWidget *owner)
 
     if (pages_.pages().isEmpty())
         browser_->setPlainText(u"Das Handbuch fehlt. Es gehört in den Ordner\n\n"_s + folder);
-    else
-        browser_->setSource(pages_.address(HelpPages::startPage));
-    browser_->setFocus();
-    placeBesideBoard();
+    startAfresh();
 }
 
 HelpWindow::~HelpWindow()
 {
     // The browser asks the pages for its pictures, so it goes before them.
     delete std::exchange(browser_, nullptr);
+}
+
+void HelpWindow::startAfresh()
+{
+    searchBox_->clear();
+    contents_->collapseAll();
+    if (!pages_.pages().isEmpty())
+        browser_->setSource(pages_.address(HelpPages::startPage));
+    browser_->moveCursor(QTextCursor::Start);
+    browser_->clearHistory();
+    browser_->setFocus();
+    placeBesideBoard();
 }
 
 // Tools
@@ -273,11 +283,14 @@ bool HelpWindow::pageHolds(const HelpPage &page, const QString &text)
 
 void HelpWindow::print()
 {
+    const Gate::Passage open = gate_.openBox();
+    if (!open)
+        return;
     QPrinter printer(QPrinter::HighResolution);
     printer.setDocName(windowTitle());
-    QPrintDialog dialog(&printer, this);
+    QPrintDialog dialog(&printer, parentWidget());
     dialog.setWindowTitle(u"Hilfe drucken"_s);
-    if (dialog.exec() == QDialog::Accepted)
+    if (dialog.exec() == QDialog::Accepted && !gate_.isClosing())
         printTo(printer);
 }
 

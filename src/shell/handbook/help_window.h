@@ -6,6 +6,7 @@
 
 #include <QWidget>
 
+class Gate;
 class HelpBrowser;
 class QKeySequence;
 class QLabel;
@@ -17,7 +18,7 @@ class QTreeWidgetItem;
 
 /// The handbook in a window of its own that blocks nothing, so that the board can be played beside it:
 /// contents on the left, the page on the right, above them back and forward, search, size of the text and
-/// printing. Esc closes it. It keeps nothing for the next time.
+/// printing. Esc closes it, and closed it is only hidden.
 class HelpWindow : public QWidget
 {
     Q_OBJECT
@@ -25,12 +26,14 @@ class HelpWindow : public QWidget
 public:
     /// `folder` of the handbook, as the file system takes it. If nothing is there, the window says so.
     /// `owner` is the window that it stays above.
-    explicit HelpWindow(const QString &folder, QWidget *owner = nullptr);
+    HelpWindow(const QString &folder, Gate &gate, QWidget *owner = nullptr);
     ~HelpWindow() override;
 
     HelpBrowser *browser() const { return browser_; }
     const HelpPages &handbook() const { return pages_; }
 
+    /// As it was when it was made: the first page, no search, its place. Only the size of the text stays.
+    void startAfresh();
     /// Goes to the next place of the search box's text, through all pages and round. Without such a place it
     /// says "nicht gefunden" and stays.
     void searchOn(bool backward);
@@ -52,6 +55,7 @@ private:
     void print();
     void placeBesideBoard();
 
+    Gate &gate_;
     HelpPages pages_;
     HelpBrowser *browser_;
     QTreeWidget *contents_;

@@ -166,11 +166,46 @@ private slots:
         QCOMPARE(t.options.text(Setting::BackgroundPicture), QString());
 
         t.fileDialogs.willOpen({u"C:\\w.txt"_s});
+        t.boxes.willAnswer(Boxes::Answer::Ok);
         press(window, "Command3");
+        QVERIFY(
+            t.boxes.told().startsWith(u"Wortel-Meister|Diese Wortel-Liste gibt es nicht:\n\nC:\\w.txt\n"_s));
         QCOMPARE(t.fileDialogs.asked.last().style, QString(t.AppFolder + u"text\\"_s));
         QCOMPARE(t.options.text(Setting::WortelFile), u"C:\\w.txt"_s);
         press(window, "Command6");
         QCOMPARE(t.options.text(Setting::WortelFile), QString());
+        QVERIFY(t.ok());
+    }
+
+    // "%" stands for the program's folder, in which "text\Tiere.txt" has a dictionary and "text\Obst.txt"
+    // none.
+    void aListThatCannotStartIsRefused_data()
+    {
+        columns<QString, QString, QString>("list", "told", "stored");
+        QTest::newRow("whole") << u"%text\\Tiere.txt"_s << u""_s << u"%APP%text\\Tiere.txt"_s;
+        QTest::newRow("a letter too many") << u"%text\\Tiere.txtx"_s << u"%text\\Tiere.txtx"_s << u""_s;
+        QTest::newRow("no dictionary") << u"%text\\Obst.txt"_s << u"%facit\\Obst.lex"_s << u""_s;
+        QTest::newRow("blank") << u" "_s << u""_s << u"%APP%text\\Hauptbausteine.Txt"_s;
+    }
+    void aListThatCannotStartIsRefused()
+    {
+        QFETCH(QString, list);
+        QFETCH(QString, told);
+        QFETCH(QString, stored);
+        TestGround t;
+        for (const QString &name : {u"text\\Tiere.txt"_s, u"facit\\Tiere.lex"_s, u"text\\Obst.txt"_s})
+            t.writeFile(name, u"x\r\n"_s);
+        frmOptions window(t.ground);
+        window.show();
+        t.options.setText(Setting::WortelFile, list.replace(u'%', t.AppFolder));
+        if (told.isEmpty())
+            t.boxes.willPress(0);
+        else
+            t.boxes.willAnswer(Boxes::Answer::Ok);
+        press(window, "cmdOK");
+        QCOMPARE(window.isVisible(), !told.isEmpty());
+        QCOMPARE(t.store.GetSetting(u"Settings"_s, u"WortelFile"_s, {}), stored);
+        QVERIFY(told.isEmpty() || t.boxes.told().contains(told.replace(u'%', t.AppFolder)));
         QVERIFY(t.ok());
     }
 

@@ -3,6 +3,7 @@
 #include "board/hand/menu_table.h"
 #include "persistence/settings/options_layout.h"
 #include "platform/files.h"
+#include "platform/gate.h"
 #include "platform/settings_table.h"
 #include "shell/handbook/compiled_help.h"
 #include "shell/handbook/help.h"
@@ -166,7 +167,7 @@ private slots:
         QFETCH(QString, address);
         QFETCH(bool, inside);
         const SmallHandbook handbook;
-        HelpWindow window(handbook.folder());
+        HelpWindow window(handbook.folder(), gate_);
         const QUrl url(address.replace(u"%1"_s, handbook.place.path()));
         const bool picture = url.fileName().endsWith(u".png"_s);
         const int type = picture ? QTextDocument::ImageResource : QTextDocument::HtmlResource;
@@ -188,7 +189,7 @@ private slots:
     void contentsLeadToPagesAndSections()
     {
         const SmallHandbook handbook;
-        HelpWindow window(handbook.folder());
+        HelpWindow window(handbook.folder(), gate_);
         window.show();
         auto *contents = window.findChild<QTreeWidget *>(u"contents"_s);
         QCOMPARE(contents->topLevelItemCount(), 3);
@@ -208,7 +209,7 @@ private slots:
     void searchGoesThroughAllPagesAndRound()
     {
         const SmallHandbook handbook;
-        HelpWindow window(handbook.folder());
+        HelpWindow window(handbook.folder(), gate_);
         window.show();
         auto *box = window.findChild<QLineEdit *>(u"search"_s);
         auto *state = window.findChild<QLabel *>(u"searchState"_s);
@@ -246,7 +247,7 @@ private slots:
 
     void printsThePage()
     {
-        HelpWindow window(handbookFolder);
+        HelpWindow window(handbookFolder, gate_);
         window.browser()->setSource(window.handbook().address(u"kinder.html"_s));
         const QTemporaryDir place;
         const QString path = place.filePath(u"seite.pdf"_s);
@@ -258,7 +259,7 @@ private slots:
     void missingHandbookIsTold()
     {
         const QTemporaryDir place;
-        HelpWindow window(place.filePath(u"hilfe"_s));
+        HelpWindow window(place.filePath(u"hilfe"_s), gate_);
         window.show();
         QVERIFY(window.browser()->toPlainText().contains(place.filePath(u"hilfe"_s)));
         window.findChild<QLineEdit *>(u"search"_s)->setText(u"Wort"_s);
@@ -270,7 +271,7 @@ private slots:
         const SmallHandbook handbook;
         QWidget owner;
         owner.show();
-        Help help(storedPath(handbook.place.path()) + u'\\', &owner);
+        Help help(storedPath(handbook.place.path()) + u'\\', gate_, &owner);
         help.open();
         const QPointer<HelpWindow> first = help.window();
         QVERIFY(first->isVisible());
@@ -279,9 +280,15 @@ private slots:
         QCOMPARE(help.window(), first.data());
         QVERIFY(QTest::qWaitForWindowActive(first));
         QTest::keyClick(first->browser(), Qt::Key_Escape);
-        QTRY_VERIFY(first.isNull());
+        QTRY_VERIFY(!first->isVisible());
+        first->browser()->setSource(first->handbook().address(u"eins.html"_s));
+        first->findChild<QLineEdit *>(u"search"_s)->setText(u"Wort"_s);
         help.open();
-        QVERIFY(help.window() != nullptr);
+        QCOMPARE(help.window(), first.data()); // hidden, never gone
+        QVERIFY(first->isVisible());
+        QCOMPARE(first->browser()->source(), first->handbook().address(HelpPages::startPage));
+        QVERIFY(first->findChild<QLineEdit *>(u"search"_s)->text().isEmpty());
+        QVERIFY(!first->browser()->isBackwardAvailable());
     }
 
     void compiledHelpGoesFirstWhereItCanBeShown()
@@ -303,7 +310,7 @@ private slots:
 
         qputenv("XDG_DATA_DIRS", QFile::encodeName(caches));
         QDesktopServices::setUrlHandler(u"file"_s, this, "noteOpened");
-        Help help(folder, nullptr);
+        Help help(folder, gate_, nullptr);
         help.open();
         QDesktopServices::unsetUrlHandler(u"file"_s);
         qunsetenv("XDG_DATA_DIRS");
@@ -315,7 +322,7 @@ private slots:
 
     void fitsASmallScreen()
     {
-        HelpWindow window(handbookFolder);
+        HelpWindow window(handbookFolder, gate_);
         QVERIFY2(
             window.minimumSizeHint().width() <= 853 && window.minimumSizeHint().height() <= 420,
             qPrintable(
@@ -327,6 +334,7 @@ public slots:
 
 private:
     QUrl noted_;
+    Gate gate_;
 };
 
 WORTEL_TEST(HelpTest)
