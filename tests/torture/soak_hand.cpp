@@ -307,11 +307,12 @@ void SoakHand::key()
     }
 }
 
-/// Any row of the table, as if a menu had been opened at a tile.
+/// Any row of the table, as if a menu had been opened at a tile, which no held button allows.
 void SoakHand::command()
 {
     if (front() != &form_)
         return;
+    letGo();
     const auto table = command::table();
     const command::Command &row = table[static_cast<std::size_t>(below(static_cast<int>(table.size())))];
     note(u"command %1 from %2"_s.arg(row.id).arg(int(row.from)));
