@@ -47,7 +47,6 @@ private:
     void takeList(const QString &path);
     bool listIsWhole(const QString &path);
     void apply();
-    void fitToScreen();
 
     Ground &ground_;
     OptionsView *view_;
