@@ -203,15 +203,35 @@ QString TestHouse::troubleOf(Rooms &r, const MainControls &controls, const PlayS
     if (controls.GameProgress->isHidden() == plays)
         return u"the status line is wrong"_s;
     const bool dictionaryOpen = r.dictionary.isOpen();
-    if (controls.Check2->isHidden() != plays || !controls.Check2->isEnabled() ||
-        controls.Command5->isEnabled() == builds ||
-        controls.Command2->isEnabled() == (builds || dictionaryOpen) ||
-        controls.Command3->isEnabled() == plays || controls.Check3->isEnabled() == retypes ||
-        controls.Check3->isHidden() || controls.Check4->isHidden() || controls.Check4->isEnabled() == game ||
-        controls.Picture3->isHidden() || controls.Dropper1->isEnabled() == builds ||
-        controls.Label1->isHidden() == game ||
-        controls.Option1[0]->isEnabled() == (retypes || builds || dictionaryOpen))
-        return u"tools are not as the state wants them"_s;
+    struct Wish
+    {
+        const char *what;
+        bool is;
+        bool wanted;
+    };
+    for (const Wish &wish : {
+             Wish{"Check2 is hidden", controls.Check2->isHidden(), plays},
+             {"Check2 acts", controls.Check2->isEnabled(), true},
+             {"Command5 acts", controls.Command5->isEnabled(), !builds},
+             {"Command2 acts", controls.Command2->isEnabled(), !builds && !dictionaryOpen},
+             {"Command3 acts", controls.Command3->isEnabled(), !plays},
+             {"Check3 acts", controls.Check3->isEnabled(), !retypes},
+             {"Check3 is hidden", controls.Check3->isHidden(), false},
+             {"Check4 is hidden", controls.Check4->isHidden(), false},
+             {"Check4 acts", controls.Check4->isEnabled(), !game},
+             {"Picture3 is hidden", controls.Picture3->isHidden(), false},
+             {"Dropper1 acts", controls.Dropper1->isEnabled(), !builds},
+             {"Label1 is hidden", controls.Label1->isHidden(), !game},
+             {"Option1 acts", controls.Option1[0]->isEnabled(), !retypes && !builds && !dictionaryOpen},
+         })
+        if (wish.is != wish.wanted)
+            return u"%1: %2 (retypes %3, game %4, builds %5, dictionary open %6)"_s
+                .arg(QLatin1String(wish.what))
+                .arg(wish.is)
+                .arg(retypes)
+                .arg(game)
+                .arg(builds)
+                .arg(dictionaryOpen);
     const QImage seen = controls.picCanvas->image().copy();
     r.canvas.repaint();
     if (seen != controls.picCanvas->image())

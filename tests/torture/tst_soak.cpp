@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/frm_main.h"
+#include "soak/soak_gauge.h"
+#include "soak/soak_hand.h"
 #include "support/registry.h"
-#include "torture/soak_gauge.h"
-#include "torture/soak_hand.h"
 
 #include <QElapsedTimer>
 #include <QtTest>
@@ -63,7 +63,7 @@ private slots:
         SoakGauge gauge;
         int done = 0;
         int lives = 0;
-        for (; done < events && !time.hasExpired(1000 * seconds); ++lives) {
+        for (; done < events && (done < 500 || !time.hasExpired(1000LL * seconds)); ++lives) {
             const std::uint32_t seed = firstSeed + static_cast<std::uint32_t>(lives);
             trail.resize(0);
             trail.seek(0);
@@ -83,7 +83,6 @@ private slots:
                             .toLatin1());
         }
         qInfo("%d events in %d lives and %lld s", done, lives, time.elapsed() / 1000);
-        QVERIFY(done > 500);
         QVERIFY2(gauge.growth().isEmpty(), qPrintable(gauge.growth()));
     }
 

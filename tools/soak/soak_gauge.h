@@ -41,10 +41,11 @@ class SoakGauge
 public:
     void add(const SoakSample &sample) { samples_.push_back(sample); }
 
-    /// What grows, or nothing. Says nothing of fewer than twenty samples.
+    /// What grows, or nothing. Says nothing of fewer than sixty samples:
+    /// the heap goes up and down with what a life has opened.
     QString growth() const
     {
-        if (samples_.size() < 20)
+        if (samples_.size() < 60)
             return {};
         const auto grows = [this](qint64 SoakSample::*value, qint64 slack, const char *name) {
             const qint64 before = median(samples_.size() / 4, samples_.size() / 2, value);

@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "torture/soak_ground.h"
+#include "soak/soak_ground.h"
 
+#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QFile>
 #include <QPointer>
@@ -66,8 +67,10 @@ private:
     int events_ = 0;
     int done_ = 0;
     int untilRest_ = 0;
-    int calm_ = -1; ///< steps in a row in which nothing stood on the stack; below 0 while it plays
-    int tired_ = 0; ///< steps that coming to rest, or closing, has taken
+    int calm_ = -1;       ///< steps in a row in which nothing stood on the stack; below 0 while it plays
+    QElapsedTimer since_; ///< coming to rest, or closing, has begun
+    int playsOn_ = 30;    ///< events that the closing window gets
+    bool closing_ = false;
     bool ended_ = false;
     Qt::MouseButton held_ = Qt::NoButton;
     QPointer<QWidget> pressed_; ///< the window that the button went down in

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "torture/soak_ground.h"
+#include "soak/soak_ground.h"
 
 #include "platform/files.h"
 #include "platform/text_encoding.h"

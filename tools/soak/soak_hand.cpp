@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "torture/soak_hand.h"
+#include "soak/soak_hand.h"
 
 #include "board/hand/commands.h"
 #include "dialogs/wrapped_text.h"
@@ -25,10 +25,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int patience = 20000; ///< steps for coming to rest, or for closing
-constexpr unsigned hangs = 240; ///< seconds in one step: the process ends then
-constexpr int mostTiles = 150;  ///< on a fuller board placing takes long
-constexpr int calmSteps = 6;    ///< in a row: what waited for a free gate is done by then
+constexpr int patience = 60000;     ///< milliseconds for coming to rest, or for closing
+constexpr int reportStands = 15000; ///< milliseconds, at most; tools rest meanwhile
+constexpr unsigned hangs = 240;     ///< seconds in one step: the process ends then
+constexpr int mostTiles = 150;      ///< on a fuller board placing takes long
+constexpr int calmSteps = 6;        ///< in a row: what waited for a free gate is done by then
 constexpr int removeAllTiles = 1503;
 
 struct Stroke
@@ -127,7 +128,7 @@ void SoakHand::act()
     ++done_;
     if (--untilRest_ <= 0) {
         calm_ = 0;
-        tired_ = 0;
+        since_.start();
         return;
     }
     const int what = below(1000);
@@ -154,7 +155,7 @@ void SoakHand::act()
 /// Takes its hands off, puts away what stands over the board, and looks.
 void SoakHand::rest()
 {
-    if (++tired_ > patience) {
+    if (since_.hasExpired(patience)) {
         fail(u"it does not come to rest; in front stands "_s + described(front()));
         return;
     }
@@ -169,9 +170,13 @@ void SoakHand::rest()
         else
             sendKey(front(), how == 1 ? Qt::Key_Return : Qt::Key_Escape, Qt::NoModifier, {});
     } else if (++calm_ >= calmSteps) {
-        if (const QString trouble =
-                TestHouse::troubleOf(form_.rooms(), form_.controls(), form_.play(), ground_.gate);
-            !trouble.isEmpty())
+        const QString trouble =
+            TestHouse::troubleOf(form_.rooms(), form_.controls(), form_.play(), ground_.gate);
+        if (!trouble.isEmpty() && !since_.hasExpired(reportStands)) {
+            calm_ = 0;
+            return;
+        }
+        if (!trouble.isEmpty())
             fail(trouble);
         calm_ = -1;
         untilRest_ = 10 + below(200);
@@ -184,16 +189,17 @@ void SoakHand::rest()
 /// Closes the window wherever it is, and goes on playing in the closing one.
 void SoakHand::endIt()
 {
-    if (tired_ >= 0) {
+    if (!closing_) {
         note(u"close"_s);
-        tired_ = -1;
+        closing_ = true;
+        since_.start();
         form_.close();
         return;
     }
-    if (--tired_ < -patience)
+    if (since_.hasExpired(patience))
         qFatal("the window does not close; in front stands %s; %s", qPrintable(described(front())),
                qPrintable(fault_));
-    if (fault_.isEmpty() && tired_ > -30)
+    if (fault_.isEmpty() && playsOn_-- > 0)
         oneIn(2) ? pointer() : key();
 }
 
