@@ -12,8 +12,9 @@ install_missing lintian desktop-file-utils appstream reuse xvfb xauth
 
 if [ $# -eq 0 ]; then
     build_preset release
+    rm -f build/release/wortel-meister_*.deb
     cmake --build --preset release --target package >/dev/null
-    set -- "$(realpath "$(ls -t build/release/wortel-meister_*.deb | head -1)")"
+    set -- "$PWD"/build/release/wortel-meister_*.deb
 fi
 package=$1
 work=$(mktemp -d)
