@@ -41,9 +41,11 @@ private:
     void writeBoard(const QString &path);
     void tellFailure();
     void readBoard(const QString &path);
+    void tellLost();
 
     Ground &ground_;
     Canvas &canvas_;
     BoardNews &news_;
     bool failureKnown_ = false;
+    QString toldLost_; ///< the letters of the board that the file does not hold
 };

@@ -58,7 +58,9 @@ frmMain::frmMain(Ground &ground, const StartFacts &facts)
     , facts_(facts)
     , controls_(makeMainControls(this))
     , status_(controls_.GameProgress)
+    , note_(new ShortNote(*controls_.picCanvas, *controls_.Picture1))
     , help_(ground.AppFolder, ground.gate, this)
+    , longPress_(ground)
 {
     setObjectName(u"frmMain"_s);
     setWindowTitle(product::name);
@@ -128,6 +130,7 @@ void frmMain::resizeEvent(QResizeEvent *)
     layOutMainControls(controls_, width(), height());
     rooms_->canvas.repaint();
     rooms_->tips.recompose();
+    rooms_->strip.boardResized();
 }
 
 void frmMain::changeEvent(QEvent *event)

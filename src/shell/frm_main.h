@@ -6,8 +6,10 @@
 #include "platform/word_lists.h"
 #include "shell/handbook/help.h"
 #include "widgets/control_sheet.h"
+#include "widgets/long_press.h"
 #include "widgets/main_controls.h"
 #include "widgets/main_work_view.h"
+#include "widgets/short_note.h"
 #include "widgets/status_line.h"
 
 #include <QStringList>
@@ -29,7 +31,7 @@ struct StartFacts
     int ScreenResolutionCode = 1;
     bool RecoverOnStart = false;
     bool CanStore = true;
-    QString Complaint; ///< what the user has to be told once the window stands, or nothing
+    QString Complaint{}; ///< what the user has to be told once the window stands, or nothing
 };
 
 /// The main window and hub: it makes the controls, makes the rooms, wires them, and forwards events. What a
@@ -92,6 +94,8 @@ private:
     void Form_QueryUnload();
     void Form_Unload();
     void closeBoxes();
+    void showNote(const QString &text);
+    void tellWhyAtRest(const QWidget *tool);
     void UpdateCaption();
     void tellNotOpened(const QStringList &missing, const QStringList &switches);
     void tellLater(const QString &text);
@@ -104,8 +108,6 @@ private:
     void wireKeeping();
     void wireCommands();
     template <typename Left, typename Right> void onPress(PressButton *tool, Left left, Right right);
-    /// Tells in one sentence that a command belongs to a part of the game that is still to be built.
-    void comesLater();
 
     Ground &ground_;
     StartFacts facts_;
@@ -115,8 +117,10 @@ private:
     ControlSheet sheet_{controls_};
     StatusLine status_;
     MainWorkView workView_{sheet_, status_};
+    ShortNote *note_;
     std::unique_ptr<Rooms> rooms_;
     Help help_;
+    LongPress longPress_;
     QStringList hiddenText_;
     QTimer boxCloser_;
     std::vector<std::function<void()>> onceActivated_;

@@ -7,6 +7,8 @@
 
 #include "platform/gate.h"
 #include "platform/ground.h"
+#include "platform/note_texts.h"
+#include "platform/notes.h"
 #include "platform/options.h"
 #include "platform/printer.h"
 #include "shell/about_window.h"
@@ -14,12 +16,16 @@
 #include "widgets/alpha_panel.h"
 #include "widgets/click_label.h"
 #include "widgets/dropper.h"
+#include "widgets/long_press.h"
 #include "widgets/press_button.h"
 #include "widgets/store_list.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QShortcut>
+
+#include <type_traits>
 
 using namespace Qt::StringLiterals;
 
@@ -58,11 +64,21 @@ bool isOfAHand(QEvent::Type type)
     }
 }
 
+using Nothing = std::decay_t<decltype(nothing)>;
+
+/// What a tool at rest says, by the index of its reason. A report goes by itself at once.
+constexpr const char16_t *restNotes[] = {note::wholeList,   note::afterDictionary, nullptr,
+                                         note::afterRetype, note::afterRetype,     note::afterRetype,
+                                         note::afterGame,   note::afterBuilding,   note::afterWork};
+static_assert(std::size(restNotes) == static_cast<std::size_t>(Reason::Work) + 1);
+
 } // namespace
 
 /// Connects a tool's left and right press. A tool acts if the gate lets it in and no reason lies on it.
 template <typename Left, typename Right> void frmMain::onPress(PressButton *tool, Left left, Right right)
 {
+    if constexpr (!std::is_same_v<Right, Nothing>)
+        LongPress::offer(tool);
     connect(tool, &PressButton::mouseDown, this, [this, tool, left, right](Qt::MouseButton button) {
         const Gate::Passage passage = ground_.gate.enter(Gate::Way::Play);
         if (passage && sheet_.acts(tool))
@@ -72,6 +88,7 @@ template <typename Left, typename Right> void frmMain::onPress(PressButton *tool
 
 void frmMain::wire()
 {
+    connect(&ground_.notes, &Notes::told, this, &frmMain::showNote);
     wireBoard();
     wireWords();
     wireLists();
@@ -93,6 +110,20 @@ void frmMain::wireBoard()
                 if (button == Qt::LeftButton)
                     showHelp();
             }));
+    // Beside the tool, so that the second press of a double click chooses nothing.
+    const auto openMenu = [this, &r, tool = controls_.CmdMenu] {
+        r.pointer.openMenu(tool->mapToGlobal(QPoint(tool->width(), 0)));
+    };
+    onPress(controls_.CmdMenu, openMenu, nothing);
+    connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, this,
+            throughGate(gate, Gate::Way::Play, openMenu));
+    for (const PressButton *tool :
+         {controls_.Check1, controls_.Option1[0], controls_.Option1[1], controls_.Command6,
+          controls_.Command1, controls_.Option2[0], controls_.Option2[1], controls_.Option2[2]})
+        connect(tool, &PressButton::mouseDown, this, [this](Qt::MouseButton button) {
+            if (button == Qt::RightButton)
+                ground_.notes.tell(note::leftPressOnly);
+        });
     connect(controls_.Label4, &ClickLabel::clicked, &gate, &Gate::cancelWork);
     connect(controls_.Label2, &ClickLabel::clicked, this,
             throughGate(gate, Gate::Way::Play, [this] { showAbout(); }));
@@ -153,6 +184,7 @@ void frmMain::wireLists()
 void frmMain::wireModes()
 {
     Rooms &r = *rooms_;
+    LongPress::offer(controls_.Check4);
     connect(controls_.Check4, &PressButton::mouseDown, &r.retype, &RetypeMode::Check4_MouseDown);
     onPress(
         controls_.Check3, [&r] { r.game.Check3_MouseDown(Qt::LeftButton); },
@@ -208,8 +240,7 @@ void frmMain::wireKeeping()
     connect(&ground_.options, &Options::applied, this, [this, &r] {
         r.game.takeLevel();
         r.placement.takeTryLimit();
-        r.background.remove();
-        r.background.loadFromSetting();
+        r.background.takeSetting();
         r.strip.SetUpMsgScroller();
         r.undo.takeSetting();
     });
@@ -242,6 +273,28 @@ void frmMain::showAbout()
 
 void frmMain::showHelp() { help_.open(); }
 
+/// In the window that has the hand: one that lies over this one would cover the note.
+void frmMain::showNote(const QString &text)
+{
+    constexpr int narrowest = 500; // a box is too small for it
+    QWidget *const above = QApplication::activeModalWidget();
+    if (above == nullptr || above->width() < narrowest) {
+        note_->tell(text);
+        return;
+    }
+    auto *note = above->findChild<ShortNote *>({}, Qt::FindDirectChildrenOnly);
+    (note != nullptr ? note : new ShortNote(above))->tell(text);
+}
+
+/// A tool that rests, greyed or not, hears of no press.
+void frmMain::tellWhyAtRest(const QWidget *tool)
+{
+    const std::optional<Reason> reason = sheet_.restsFor(tool);
+    const char16_t *text = reason ? restNotes[static_cast<std::size_t>(*reason)] : nullptr;
+    if (text != nullptr)
+        ground_.notes.tell(text);
+}
+
 bool frmMain::eventFilter(QObject *watched, QEvent *event)
 {
     // A window that closes takes nothing any more, and neither does any other of the program's.
@@ -250,5 +303,7 @@ bool frmMain::eventFilter(QObject *watched, QEvent *event)
     // The welcome has been read when the first press or key comes.
     if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::KeyPress)
         controls_.txtWelcomeMsg->hide();
+    if (event->type() == QEvent::MouseButtonPress && watched->isWidgetType())
+        tellWhyAtRest(static_cast<const QWidget *>(watched));
     return QWidget::eventFilter(watched, event);
 }

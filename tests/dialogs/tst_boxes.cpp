@@ -289,7 +289,7 @@ private slots:
         board->setBackColour(Qt::cyan);
         board->cls();
         form.show();
-        form.activateWindow();
+        boxes_.setMainWindow(&form);
         const auto onScreen = [&] {
             QCoreApplication::processEvents();
             return form.screen()->grabWindow(form.winId()).toImage();

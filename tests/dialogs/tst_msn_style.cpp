@@ -80,6 +80,30 @@ private slots:
         QCOMPARE(desk.trouble(), QString());
     }
 
+    /// A pointer that was moved onto it holds it, a forgotten one and a finger do not, and a key lets it go.
+    void staysUnderThePointer()
+    {
+        Desk desk;
+        desk.report(0);
+        ReportWindow *window = desk.row(1);
+        const auto point = [&](Qt::MouseEventSource source) {
+            QMouseEvent event(QEvent::MouseMove, {5, 5}, {5, 5}, {5, 5}, {}, {}, {}, source);
+            QApplication::sendEvent(window->findChild<QLabel *>(u"Label2"_s), &event);
+        };
+        point(Qt::MouseEventNotSynthesized);
+        QTest::qWait(800);
+        QVERIFY(desk.isUp(1));
+        QEvent leave(QEvent::Leave);
+        QApplication::sendEvent(window, &leave);
+        QTRY_VERIFY(window->height() < window->fullHeight());
+        point(Qt::MouseEventNotSynthesized); // it was sinking already
+        QTRY_VERIFY(desk.isUp(1));
+        QTest::keyClick(&desk.form, Qt::Key_A);
+        point(Qt::MouseEventSynthesizedByQt);
+        QTRY_VERIFY(!window->isVisible());
+        QCOMPARE(desk.trouble(), QString());
+    }
+
     /// Its time begins when it has slid up.
     void standsItsTime_data()
     {

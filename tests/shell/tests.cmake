@@ -4,7 +4,9 @@ wortel_test(shell
     SOURCES
         handbook/tst_help.cpp
         tst_data_upgrade.cpp
+        tst_long_press.cpp
         tst_main_window.cpp
+        tst_notes.cpp
         tst_one_work.cpp
         tst_sheets.cpp
         tst_start_rules.cpp

@@ -89,29 +89,22 @@ private slots:
 
     void aMissingChosenListGivesWayToTheUsualOne_data()
     {
-        columns<bool, bool, bool>("listThere", "agrees", "usualThere");
-        QTest::newRow("list gone") << false << true << true;
-        QTest::newRow("dictionary gone") << true << true << true;
-        QTest::newRow("refused") << false << false << true;
-        QTest::newRow("nothing to offer") << false << false << false;
+        columns<bool, bool>("listThere", "agrees");
+        QTest::newRow("list gone") << false << true;
+        QTest::newRow("dictionary gone") << true << true;
+        QTest::newRow("refused") << false << false;
     }
     void aMissingChosenListGivesWayToTheUsualOne()
     {
         QFETCH(bool, listThere);
         QFETCH(bool, agrees);
-        QFETCH(bool, usualThere);
         Start house;
         const QString list = house.t.AppFolder + u"text\\Tiere.txt"_s;
         house.t.store.SaveSetting(u"Settings"_s, u"WortelFile"_s, list);
         if (listThere)
             house.t.writeFile(u"text\\Tiere.txt"_s, u"Igel\r\n"_s);
-        if (!usualThere)
-            QFile::remove(house.t.folder.filePath(u"facit/Hauptbausteine.lex"_s));
-        house.t.boxes.willAnswer(!usualThere ? Boxes::Answer::Ok
-                                 : agrees    ? Boxes::Answer::Yes
-                                             : Boxes::Answer::No);
+        house.t.boxes.willAnswer(agrees ? Boxes::Answer::Yes : Boxes::Answer::No);
         QCOMPARE(house.form.Form_Load(), agrees);
-        QCOMPARE(house.t.boxes.asked.first().text.contains(u"\"Hauptbausteine\""_s), usualThere);
         QCOMPARE(house.t.store.GetSetting(u"Settings"_s, u"WortelFile"_s, {}),
                  agrees ? u"%APP%text\\Hauptbausteine.Txt"_s : list);
         if (agrees)
@@ -155,8 +148,6 @@ private slots:
         columns<QStringList, QString>("arguments", "told");
         QTest::newRow("mistyped") << QStringList{u"\\fort 1.wlx"_s}
                                   << u"Diese Sitzung gibt es nicht:\n\\fort 1.wlx"_s;
-        QTest::newRow("several") << QStringList{u"a.wlx"_s, u"b.wlx"_s}
-                                 << u"Diese Sitzungen gibt es nicht:\na.wlx\nb.wlx"_s;
         QTest::newRow("a switch") << QStringList{u"/L"_s}
                                   << u"Wortel-Meister läuft schon. Das gilt nur beim ersten Start: /L"_s;
     }

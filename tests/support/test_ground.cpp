@@ -151,8 +151,9 @@ QStringList QueuedFileDialogs::openFiles(const QString &title, const QString &fo
 }
 
 QString QueuedFileDialogs::saveFile(const QString &title, const QString &folder, const QString &filter,
-                                    const QString &, const QString &)
+                                    const QString &, const SaveHints &hints)
 {
+    lastHints = hints;
     asked.append({u"saveFile"_s, title, filter, folder, 0});
     if (const std::optional<QString> given = saved_.take())
         return *given;
@@ -186,8 +187,11 @@ TestGround::TestGround(quint64 seed)
     : AppFolder(storedPath(folder.path()) + u'\\')
     , rnd(seed)
     , options(store, AppFolder, log)
-    , ground{AppFolder, log, gatedBoxes, gatedDialogs, printer, rnd, sound, clock, pump, store, options, gate}
-{}
+    , ground{AppFolder, log,  gatedBoxes, gatedDialogs, printer, rnd,  sound,
+             clock,     pump, store,      options,      gate,    notes}
+{
+    QObject::connect(&notes, &Notes::told, &notes, [this](const QString &note) { told.append(note); });
+}
 
 bool TestGround::ok() const
 {

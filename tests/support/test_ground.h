@@ -9,6 +9,7 @@
 #include "platform/gated_boxes.h"
 #include "platform/ground.h"
 #include "platform/log.h"
+#include "platform/notes.h"
 #include "platform/options.h"
 #include "platform/rnd.h"
 #include "platform/settings_store.h"
@@ -111,6 +112,7 @@ public:
     void willChoose(std::optional<Colour> colour) { colours_.add(colour); }
 
     QList<Question> asked;
+    SaveHints lastHints;
     int unexpected = 0;
 
     bool allTaken() const { return opened_.isEmpty() && saved_.isEmpty() && colours_.isEmpty(); }
@@ -118,7 +120,7 @@ public:
     QStringList openFiles(const QString &title, const QString &folder, const QString &filter,
                           bool multiple) override;
     QString saveFile(const QString &title, const QString &folder, const QString &filter,
-                     const QString &suffix, const QString &suggestedName) override;
+                     const QString &suffix, const SaveHints &hints) override;
     std::optional<Colour> chooseColour(const QString &title, Colour present) override;
 
 private:
@@ -243,6 +245,8 @@ struct TestGround
     TestPump pump{gate};
     MemoryStore store;
     Options options;
+    Notes notes;
+    QStringList told; ///< the notes in their order
     GatedBoxes gatedBoxes{boxes, gate};
     GatedFileDialogs gatedDialogs{fileDialogs, gate};
     Ground ground;

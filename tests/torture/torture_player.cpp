@@ -31,12 +31,12 @@
 #include "torture/quick_seams.h"
 #include "widgets/picture_box.h"
 #include "widgets/resources.h"
+#include "widgets/roomy_style.h"
 
 #include <QApplication>
 #include <QFile>
 #include <QFont>
 #include <QMouseEvent>
-#include <QStyleFactory>
 
 #include <random>
 
@@ -118,7 +118,7 @@ public:
         return IsTextFile(path_) ? QStringList{path_} : QStringList();
     }
     QString saveFile(const QString &, const QString &, const QString &, const QString &,
-                     const QString &) override
+                     const SaveHints &) override
     {
         return path_;
     }
@@ -254,7 +254,7 @@ int main(int argc, char *argv[])
     if (arguments.size() != 4)
         return 2;
     initResources();
-    QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
+    QApplication::setStyle(new RoomyStyle);
     QFont font(u"Liberation Sans"_s);
     font.setPixelSize(11);
     QApplication::setFont(font);
