@@ -19,6 +19,7 @@
 #include "platform/gated_boxes.h"
 #include "platform/ground.h"
 #include "platform/log.h"
+#include "platform/notes.h"
 #include "platform/options.h"
 #include "platform/rnd.h"
 #include "platform/settings_file.h"
@@ -151,11 +152,12 @@ struct QuickGround
     QuickClock clock;
     LoopPump pump{gate};
     SettingsFile store;
+    Notes notes;
     Options options;
     GatedBoxes gatedBoxes{boxes, gate};
     GatedFileDialogs gatedDialogs{dialogs, gate};
-    Ground ground{AppFolder, log,   gatedBoxes, gatedDialogs, printer, rnd,
-                  sound,     clock, pump,       store,        options, gate};
+    Ground ground{AppFolder, log,  gatedBoxes, gatedDialogs, printer, rnd,  sound,
+                  clock,     pump, store,      options,      gate,    notes};
 };
 
 /// The tiles in their order, in a form that has nothing to do with the backup's.

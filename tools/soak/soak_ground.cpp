@@ -70,7 +70,7 @@ QStringList SoakDialogs::openFiles(const QString &, const QString &, const QStri
 }
 
 QString SoakDialogs::saveFile(const QString &, const QString &, const QString &, const QString &suffix,
-                              const QString &)
+                              const SaveHints &)
 {
     return random_() % 4 == 0 ? QString() : folder_ + u"neu."_s + suffix.section(u'.', -1);
 }

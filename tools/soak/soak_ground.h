@@ -8,6 +8,7 @@
 #include "platform/gated_boxes.h"
 #include "platform/ground.h"
 #include "platform/log.h"
+#include "platform/notes.h"
 #include "platform/options.h"
 #include "platform/rnd.h"
 #include "platform/settings_file.h"
@@ -34,7 +35,7 @@ public:
 
     QStringList openFiles(const QString &, const QString &, const QString &, bool multiple) override;
     QString saveFile(const QString &, const QString &, const QString &, const QString &suffix,
-                     const QString &) override;
+                     const SaveHints &) override;
     std::optional<Colour> chooseColour(const QString &, Colour) override;
 
 private:
@@ -95,9 +96,10 @@ struct SoakGround
     QuickClock clock;
     SoakPump pump{gate};
     SettingsFile store;
+    Notes notes;
     Options options;
     GatedBoxes gatedBoxes{boxes, gate};
     GatedFileDialogs gatedDialogs{dialogs, gate};
-    Ground ground{AppFolder, log,   gatedBoxes, gatedDialogs, printer, rnd,
-                  sound,     clock, pump,       store,        options, gate};
+    Ground ground{AppFolder, log,  gatedBoxes, gatedDialogs, printer, rnd,  sound,
+                  clock,     pump, store,      options,      gate,    notes};
 };
