@@ -5,6 +5,8 @@
 #include "platform/product.h"
 #include "widgets/gradient.h"
 
+#include <QCoreApplication>
+#include <QFileInfo>
 #include <QIcon>
 #include <QLabel>
 #include <QPushButton>
@@ -23,6 +25,16 @@ QLabel *line(const QString &text, int pixelSize, bool bold, QWidget *parent)
     font.setBold(bold);
     label->setFont(font);
     return label;
+}
+
+/// Both files lie among the documents of an installed copy, and beside the sources otherwise.
+QString whereToRead()
+{
+    const QFileInfo notice(QCoreApplication::applicationDirPath() +
+                           QStringLiteral("/../share/doc/wortel-meister/NOTICE"));
+    const QString folder =
+        notice.exists() ? QStringLiteral(" im Ordner\n") + notice.canonicalPath() : QString();
+    return QStringLiteral("Einzelheiten stehen in den Dateien NOTICE und LICENSE") + folder + u'.';
 }
 
 } // namespace
@@ -48,7 +60,8 @@ fAbout::fAbout(QWidget *parent)
     inner->addWidget(
         line(QStringLiteral("Freie Software unter der GNU General Public License, Version 3 oder später.\n"
                             "Die Wörterbücher sind aus dem deutschen Hunspell-Wörterbuch (frami) gemacht:\n"
-                            "Björn Jacke, Franz Michael Baumann. Einzelheiten stehen in der Datei NOTICE."),
+                            "Björn Jacke, Franz Michael Baumann.\n") +
+                 whereToRead(),
              12, false, panel));
 
     auto *close = new QPushButton(QStringLiteral("Schließen"), this);

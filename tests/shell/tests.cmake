@@ -4,6 +4,7 @@ wortel_test(shell
     SOURCES
         handbook/tst_help.cpp
         tst_keys_everywhere.cpp
+        tst_data_upgrade.cpp
         tst_long_press.cpp
         tst_main_window.cpp
         tst_notes.cpp

@@ -210,16 +210,17 @@ private slots:
         QFile::remove(user + u"/lextip.ini"_s);
         application_folder::find(program, installed, user);
         QCOMPARE(ReadWholeFile(user + u"/text/Ä.txt"_s), QByteArray("vom Lehrer"));
-        QVERIFY(
-            !QFile::exists(user + u"/lextip.ini"_s)); // filled already: what the teacher took away stays away
+        QVERIFY(!QFile::exists(user + u"/lextip.ini"_s)); // what the teacher took away stays away
 
-        // A copy that was cut off is completed.
-        QFile::remove(user + u"/.filled"_s);
+        // Another installation: what nobody has touched is renewed.
         const QString half = user + u"/text/.wortel-AbCdEf.tmp"_s;
         writeFileAtomically(half, "al");
+        for (const QString &name : {u"/text/Ä.txt"_s, u"/facit/Ä.lex"_s, u"/lextip.ini"_s})
+            writeFileAtomically(installed + name, "ganz neu");
         application_folder::find(program, installed, user);
-        QVERIFY(QFile::exists(user + u"/lextip.ini"_s));
+        QVERIFY(!QFile::exists(user + u"/lextip.ini"_s));
         QVERIFY(!QFile::exists(half));
+        QCOMPARE(ReadWholeFile(user + u"/facit/Ä.lex"_s), QByteArray("ganz neu"));
         QCOMPARE(ReadWholeFile(user + u"/text/Ä.txt"_s), QByteArray("vom Lehrer"));
 
         // A home that cannot be written: the installed data themselves, unless it was filled once.

@@ -104,7 +104,9 @@ QStringList TestHouse::counters() const
     return {r.optTypes.caption(0), r.optTypes.caption(1), r.optTypes.caption(2), r.optTypes.caption(3)};
 }
 
-bool TestHouse::countersEqualTiles() const
+bool TestHouse::countersEqualTiles() const { return countersEqualTiles(r); }
+
+bool TestHouse::countersEqualTiles(const Rooms &r)
 {
     int sum = 0;
     for (const TileKind &kind : tileKinds) {
@@ -177,7 +179,7 @@ void TestHouse::settle()
         QCoreApplication::processEvents();
 }
 
-QString TestHouse::trouble() const
+QString TestHouse::troubleOf(Rooms &r, const MainControls &controls, const PlayState &play, const Gate &gate)
 {
     if (!gate.isFree())
         return u"something is still on the stack"_s;
@@ -201,20 +203,42 @@ QString TestHouse::trouble() const
     if (controls.GameProgress->isHidden() == plays)
         return u"the status line is wrong"_s;
     const bool dictionaryOpen = r.dictionary.isOpen();
-    if (controls.Check2->isHidden() != plays || !controls.Check2->isEnabled() ||
-        controls.Command5->isEnabled() == builds ||
-        controls.Command2->isEnabled() == (builds || dictionaryOpen) ||
-        controls.Command3->isEnabled() == plays || controls.Check3->isEnabled() == retypes ||
-        controls.Check3->isHidden() || controls.Check4->isHidden() || controls.Check4->isEnabled() == game ||
-        controls.Picture3->isHidden() || controls.Dropper1->isEnabled() == builds ||
-        controls.Label1->isHidden() == game ||
-        controls.Option1[0]->isEnabled() == (retypes || builds || dictionaryOpen))
-        return u"tools are not as the state wants them"_s;
+    struct Wish
+    {
+        const char *what;
+        bool is;
+        bool wanted;
+    };
+    for (const Wish &wish : {
+             Wish{"Check2 is hidden", controls.Check2->isHidden(), plays},
+             {"Check2 acts", controls.Check2->isEnabled(), true},
+             {"Command5 acts", controls.Command5->isEnabled(), !builds},
+             {"Command2 acts", controls.Command2->isEnabled(), !builds && !dictionaryOpen},
+             {"Command3 acts", controls.Command3->isEnabled(), !plays},
+             {"Check3 acts", controls.Check3->isEnabled(), !retypes},
+             {"Check3 is hidden", controls.Check3->isHidden(), false},
+             {"Check4 is hidden", controls.Check4->isHidden(), false},
+             {"Check4 acts", controls.Check4->isEnabled(), !game},
+             {"Picture3 is hidden", controls.Picture3->isHidden(), false},
+             {"Dropper1 acts", controls.Dropper1->isEnabled(), !builds},
+             {"Label1 is hidden", controls.Label1->isHidden(), !game},
+             {"Option1 acts", controls.Option1[0]->isEnabled(), !retypes && !builds && !dictionaryOpen},
+         })
+        if (wish.is != wish.wanted)
+            return u"%1: %2 (retypes %3, game %4, builds %5, dictionary open %6)"_s
+                .arg(QLatin1String(wish.what))
+                .arg(wish.is)
+                .arg(retypes)
+                .arg(game)
+                .arg(builds)
+                .arg(dictionaryOpen);
     const QImage seen = controls.picCanvas->image().copy();
     r.canvas.repaint();
     if (seen != controls.picCanvas->image())
         return u"the board's picture is not what lies there"_s;
-    if (!countersEqualTiles())
-        return u"the counters say %1 for %2 tiles"_s.arg(counters().join(u' ')).arg(r.store.count());
+    if (!countersEqualTiles(r))
+        return u"the counters say %1, %2, %3, %4 for %5 tiles"_s
+            .arg(r.optTypes.caption(0), r.optTypes.caption(1), r.optTypes.caption(2), r.optTypes.caption(3))
+            .arg(r.store.count());
     return {};
 }

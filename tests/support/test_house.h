@@ -63,6 +63,7 @@ public:
     QStringList counters() const;
     /// True if every counter says what lies on the board.
     bool countersEqualTiles() const;
+    static bool countersEqualTiles(const Rooms &rooms);
     /// The colour on the board at that logical pixel.
     QColor pixel(int x, int y) const;
 
@@ -84,7 +85,9 @@ public:
     static void settle();
 
     /// The house at rest: what does not hold, or nothing. For the end of every wild test.
-    QString trouble() const;
+    QString trouble() const { return troubleOf(r, controls, play, gate); }
+    /// The same for a window that another test has made.
+    static QString troubleOf(Rooms &r, const MainControls &controls, const PlayState &play, const Gate &gate);
 
 private:
     void mouse(QEvent::Type type, const QPoint &point, Qt::MouseButton button, Qt::MouseButtons buttons,

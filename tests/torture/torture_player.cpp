@@ -19,6 +19,7 @@
 #include "platform/gated_boxes.h"
 #include "platform/ground.h"
 #include "platform/log.h"
+#include "platform/notes.h"
 #include "platform/options.h"
 #include "platform/rnd.h"
 #include "platform/settings_file.h"
@@ -28,6 +29,7 @@
 #include "shell/frm_main.h"
 #include "shell/rooms.h"
 #include "shell/start_steps.h"
+#include "torture/quick_seams.h"
 #include "widgets/picture_box.h"
 #include "widgets/resources.h"
 #include "widgets/roomy_style.h"
@@ -127,22 +129,6 @@ private:
     QString path_;
 };
 
-/// A clock that never waits.
-class QuickClock : public Clock
-{
-public:
-    QDateTime now() const override { return QDateTime::currentDateTime(); }
-    qint64 elapsed() const override { return now().toMSecsSinceEpoch(); }
-    void wait(int) override {}
-};
-
-class NoSound : public Sound
-{
-public:
-    void PlayResourceSound(int) override {}
-    bool playFile(const QString &) override { return true; }
-};
-
 /// The program's ground with quick seams over real files.
 struct QuickGround
 {
@@ -166,11 +152,12 @@ struct QuickGround
     QuickClock clock;
     LoopPump pump{gate};
     SettingsFile store;
+    Notes notes;
     Options options;
     GatedBoxes gatedBoxes{boxes, gate};
     GatedFileDialogs gatedDialogs{dialogs, gate};
-    Ground ground{AppFolder, log,   gatedBoxes, gatedDialogs, printer, rnd,
-                  sound,     clock, pump,       store,        options, gate};
+    Ground ground{AppFolder, log,  gatedBoxes, gatedDialogs, printer, rnd,  sound,
+                  clock,     pump, store,      options,      gate,    notes};
 };
 
 /// The tiles in their order, in a form that has nothing to do with the backup's.

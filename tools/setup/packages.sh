@@ -5,8 +5,8 @@
 build_packages=(g++ cmake ninja-build qt6-base-dev qt6-base-dev-tools qt6-svg-dev qt6-multimedia-dev libgl1-mesa-dev
                 fonts-liberation qt6-translations-l10n)
 display_packages=(xvfb xauth imagemagick xdotool openbox x11-utils)
-# What tests read PDF files and web pages with, and the bus of screen readers.
-test_packages=(poppler-utils chromium dbus at-spi2-core)
+# What tests read PDF files, web pages, the desktop's files and the bus of screen readers with.
+test_packages=(poppler-utils chromium desktop-file-utils appstream dbus at-spi2-core)
 
 # install_missing <package>...: asks dpkg once; calls apt only if something is missing.
 install_missing() {
