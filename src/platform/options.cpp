@@ -103,6 +103,13 @@ void Options::keepOption(Setting id)
             store_.SaveSetting(QLatin1String(row.section), QLatin1String(row.key), value(row.id));
 }
 
+void Options::keepText(Setting id, const QString &text)
+{
+    setText(id, text);
+    const SettingRow &row = settingRow(id);
+    store_.SaveSetting(QLatin1String(row.section), QLatin1String(row.key), value(id));
+}
+
 void Options::GetSettings(SettingsWindow window)
 {
     Procedure step{log_, "GetSettings", "frmOptions"};
