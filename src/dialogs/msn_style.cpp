@@ -50,14 +50,15 @@ ReportWindow *frmMsnStyle::windowOf(int slot)
 }
 
 void frmMsnStyle::Display(const QString &title, const QString &line1, const QString &line2,
-                          const QString &line3, int seconds, SoundId sound, bool boldLine2, bool showSmiley)
+                          const QString &line3, int seconds, SoundId sound, bool boldLine2, bool showSmiley,
+                          const QList<int> &marked)
 {
     if (++slot_ > rows)
         slot_ = 1;
     ReportWindow *window = windowOf(slot_);
     const int bandTop = controls_.Picture1->mapTo(controls_.form, QPoint(0, 0)).y();
     QPoint foot(left, bandTop + below + firstPixels);
-    const Report report{title, line1, line2, line3, boldLine2, showSmiley};
+    const Report report{title, line1, line2, line3, boldLine2, showSmiley, marked};
     window->setReport(report, foot);
     foot.ry() -= (slot_ - 1) * window->fullHeight();
     window->setReport(report, foot);

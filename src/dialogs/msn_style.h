@@ -29,7 +29,8 @@ public:
     /// Shows a report for `seconds` after it has slid up, with the sound `sound` if sounds are on. Returns
     /// while it slides.
     void Display(const QString &title, const QString &line1, const QString &line2, const QString &line3,
-                 int seconds, SoundId sound, bool boldLine2, bool showSmiley) override;
+                 int seconds, SoundId sound, bool boldLine2, bool showSmiley,
+                 const QList<int> &marked = {}) override;
     /// The slot of the last report, 1 to 4, or 0.
     int slot() const { return slot_; }
 

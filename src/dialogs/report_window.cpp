@@ -3,16 +3,20 @@
 #include "dialogs/report_window.h"
 
 #include "widgets/colour.h"
+#include "widgets/finger.h"
 #include "widgets/gradient.h"
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QIcon>
-#include <QLabel>
+#include <QMouseEvent>
 #include <QPainter>
+#include <QTextLayout>
 #include <QTimer>
 #include <QToolButton>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -28,10 +32,11 @@ constexpr int margin = 14;
 constexpr int lineGap = 5;
 constexpr int signSize = 20;
 constexpr int frameWidth = 2;
+constexpr QColor markColour{0xC0, 0x00, 0x00};
 
-QLabel *makeLine(QWidget *parent, const char *name, int pixels)
+template <typename Label = QLabel> Label *makeLine(QWidget *parent, const char *name, int pixels)
 {
-    auto *label = new QLabel(parent);
+    auto *label = new Label(parent);
     label->setObjectName(QLatin1String(name));
     label->setTextFormat(Qt::PlainText);
     QFont font = label->font();
@@ -62,12 +67,40 @@ void setElided(QLabel *label, const QString &text, int width)
 
 } // namespace
 
+void WordLine::setMarked(const QList<int> &letters)
+{
+    marked_ = letters;
+    update();
+}
+
+void WordLine::paintEvent(QPaintEvent *event)
+{
+    if (marked_.isEmpty()) {
+        QLabel::paintEvent(event);
+        return;
+    }
+    QTextCharFormat stands;
+    stands.setForeground(markColour);
+    stands.setFontUnderline(true);
+    QList<QTextLayout::FormatRange> formats;
+    for (const int letter : marked_)
+        formats.append({letter, 1, stands});
+    QTextLayout layout(text(), font());
+    layout.setFormats(formats);
+    layout.beginLayout();
+    const QTextLine line = layout.createLine();
+    layout.endLayout();
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::WindowText));
+    layout.draw(&painter, QPointF(0, (height() - line.height()) / 2));
+}
+
 ReportWindow::ReportWindow(QWidget *parent)
     : QWidget(parent)
     , picBackground_(new GradientPanel(this))
     , Label1_(makeLine(picBackground_, "Label1", 16))
     , lblAlert_(makeLine(picBackground_, "lblAlert", 15))
-    , Label2_(makeLine(picBackground_, "Label2", 22))
+    , Label2_(makeLine<WordLine>(picBackground_, "Label2", 22))
     , Label3_(makeLine(picBackground_, "Label3", 15))
     , ImgSmiley_(new QLabel(picBackground_))
     , Image1_(new QToolButton(picBackground_))
@@ -101,11 +134,14 @@ ReportWindow::ReportWindow(QWidget *parent)
     frame_->setInterval(frameTime);
     AlertTimer_->setSingleShot(true);
     AlertTimer_->setObjectName(QStringLiteral("AlertTimer"));
-    connect(frame_, &QTimer::timeout, this, [this] { sinking_ ? sink() : grow(); });
+    connect(frame_, &QTimer::timeout, this, [this] { isOver_ && !held_ ? sink() : grow(); });
     connect(AlertTimer_, &QTimer::timeout, this, [this] {
-        sinking_ = true;
-        frame_->start();
+        isOver_ = true;
+        if (!held_)
+            frame_->start();
     });
+    for (QWidget *part : findChildren<QWidget *>())
+        part->setMouseTracking(true);
     hide();
 }
 
@@ -143,6 +179,7 @@ void ReportWindow::setReport(const Report &report, const QPoint &foot)
     setElided(Label1_, report.title, width - beside - signSize);
     setElided(lblAlert_, report.line1.trimmed(), width - beside);
     setElided(Label2_, report.line2, width - beside);
+    Label2_->setMarked(report.marked);
     setElided(Label3_, report.line3.trimmed(), width - beside);
     picBackground_->layout()->invalidate();
     const int inside = picBackground_->layout()->totalMinimumSize().height();
@@ -154,7 +191,8 @@ void ReportWindow::setReport(const Report &report, const QPoint &foot)
 
 void ReportWindow::slide(int seconds)
 {
-    sinking_ = false;
+    isOver_ = false;
+    letGo();
     AlertTimer_->stop();
     AlertTimer_->setInterval(std::clamp(seconds, 0, 24 * 3600) * 1000);
     show();
@@ -166,6 +204,7 @@ void ReportWindow::drop()
 {
     frame_->stop();
     AlertTimer_->stop();
+    letGo();
     hide();
 }
 
@@ -181,7 +220,8 @@ void ReportWindow::grow()
     setTwips(std::min(twips_ + growStep * stepsPerFrame, fullHeight_ * twipsPerPixel));
     if (twips_ >= fullHeight_ * twipsPerPixel) {
         frame_->stop();
-        AlertTimer_->start();
+        if (!isOver_)
+            AlertTimer_->start();
     }
 }
 
@@ -192,6 +232,43 @@ void ReportWindow::sink()
         return;
     drop();
     emit sunk();
+}
+
+// Held by the pointer
+// ------------------------------------------------------------------------------------------------------------
+
+/// A report that comes up under a pointer at rest gets no move, and a finger does not rest on anything.
+void ReportWindow::mouseMoveEvent(QMouseEvent *event)
+{
+    if (!finger::isBehind(*event))
+        hold();
+}
+
+void ReportWindow::leaveEvent(QEvent *) { letGo(); }
+
+void ReportWindow::hold()
+{
+    if (held_)
+        return;
+    held_ = true;
+    qApp->installEventFilter(this);
+    frame_->start(); // one that was sinking comes up again
+}
+
+void ReportWindow::letGo()
+{
+    if (!std::exchange(held_, false))
+        return;
+    qApp->removeEventFilter(this);
+    if (isOver_)
+        frame_->start();
+}
+
+bool ReportWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::KeyPress)
+        letGo();
+    return QWidget::eventFilter(watched, event);
 }
 
 void ReportWindow::paintEvent(QPaintEvent *) { QPainter(this).fillRect(rect(), paint::activeFrame); }

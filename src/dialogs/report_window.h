@@ -2,10 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QLabel>
+#include <QList>
 #include <QString>
 #include <QWidget>
 
-class QLabel;
 class QTimer;
 class QToolButton;
 
@@ -18,11 +19,31 @@ struct Report
     QString line3;
     bool boldLine2 = false;
     bool showSmiley = false;
+    QList<int> marked; ///< indexes of the letters of line 2 that stand out
+};
+
+/// The line of a report that has the word: letters that were written too large or too small stand out.
+class WordLine : public QLabel
+{
+    Q_OBJECT
+
+public:
+    using QLabel::QLabel;
+
+    void setMarked(const QList<int> &letters);
+    const QList<int> &marked() const { return marked_; }
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QList<int> marked_;
 };
 
 /// One window of the report popup. It stands on its lower edge, grows upward out of it, waits, and sinks
 /// back. It is a child of the main window and lies over all its other children, so that it never takes the
-/// keyboard from the word field.
+/// keyboard from the word field. It does not sink while a pointer that was moved onto it rests there; the
+/// next key lets it go, so that a pointer that is only forgotten stops nobody.
 class ReportWindow : public QWidget
 {
     Q_OBJECT
@@ -39,6 +60,7 @@ public:
     void slide(int seconds);
     /// Goes at once, without `sunk`.
     void drop();
+    bool eventFilter(QObject *watched, QEvent *event) override;
     /// Pixels with all of its text shown.
     int fullHeight() const { return fullHeight_; }
 
@@ -48,9 +70,13 @@ signals:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void leaveEvent(QEvent *event) override;
 
 private:
     void layOutParts();
+    void hold();
+    void letGo();
     void grow();
     void sink();
     void setTwips(int twips);
@@ -58,7 +84,7 @@ private:
     QWidget *picBackground_;
     QLabel *Label1_;
     QLabel *lblAlert_;
-    QLabel *Label2_;
+    WordLine *Label2_;
     QLabel *Label3_;
     QLabel *ImgSmiley_;
     QToolButton *Image1_;
@@ -67,5 +93,6 @@ private:
     QPoint foot_;
     int fullHeight_ = 0;
     int twips_ = 0;
-    bool sinking_ = false;
+    bool held_ = false;
+    bool isOver_ = false; ///< its time has passed
 };

@@ -5,6 +5,8 @@
 #include "board/hand/command_router.h"
 #include "platform/gate.h"
 #include "platform/ground.h"
+#include "platform/note_texts.h"
+#include "platform/notes.h"
 #include "platform/procedure.h"
 #include "platform/word_lists.h"
 #include "widgets/control_sheet.h"
@@ -81,6 +83,8 @@ void DictionaryPanel::openList()
 {
     standOnBand(controls_, controls_.LexiconList);
     controls_.LexiconList->show();
+    if (lists_.LexiconList.isEmpty())
+        ground_.notes.tell(note::dictionaryEmpty);
     controls_.CorrectWordList->hide();
     controls_.Dropper1->setCaption(QString());
     const QRect list = controls_.LexiconList->geometry();
@@ -111,7 +115,11 @@ void DictionaryPanel::Text2_Change()
 {
     if (!isOpen())
         return;
-    controls_.LexiconList->setListIndex(lists_.LexiconList.findPrefix(controls_.Text2->text(), 0));
+    const QString start = controls_.Text2->text();
+    const int row = lists_.LexiconList.findPrefix(start, 0);
+    controls_.LexiconList->setListIndex(row);
+    if (row < 0 && !start.isEmpty())
+        ground_.notes.tell(note::noSuchWord, start);
 }
 
 template <typename Slot> auto DictionaryPanel::play(Slot slot)
@@ -149,7 +157,9 @@ QMenu *DictionaryPanel::makeMenu()
 
 void DictionaryPanel::LexiconList_MouseDown(const QPoint &position)
 {
-    if (!lists_.LexiconList.isEmpty())
+    if (lists_.LexiconList.isEmpty())
+        ground_.notes.tell(note::dictionaryEmpty);
+    else
         mnuLex_->popup(OpeningPress::placeFor(*mnuLex_, controls_.LexiconList->mapToGlobal(position)));
 }
 
@@ -157,12 +167,15 @@ void DictionaryPanel::mnuAddToRetypeList()
 {
     Procedure step{ground_.log, "mnuAddToRetypeList_Click", "frmMain"};
     const QString word = lists_.LexiconList.at(controls_.LexiconList->ListIndex());
-    if (!word.isEmpty())
-        step([&] { lists_.CorrectWordList.add(word); });
+    if (word.isEmpty())
+        ground_.notes.tell(note::noWordMarked);
+    else if (step([&] { lists_.CorrectWordList.add(word); }))
+        ground_.notes.tell(note::wordAdded, word);
 }
 
 void DictionaryPanel::mnuClearRetypeList()
 {
     Procedure step{ground_.log, "mnuClearRetypeList_Click", "frmMain"};
+    ground_.notes.tell(lists_.CorrectWordList.isEmpty() ? note::wordListEmpty : note::listCleared);
     step([&] { lists_.CorrectWordList.clear(); });
 }

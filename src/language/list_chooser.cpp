@@ -11,6 +11,8 @@
 #include "platform/files.h"
 #include "platform/gate.h"
 #include "platform/ground.h"
+#include "platform/note_texts.h"
+#include "platform/notes.h"
 #include "platform/procedure.h"
 #include "platform/text.h"
 #include "platform/word_lists.h"
@@ -72,6 +74,7 @@ void ListChooser::chooseStemLists()
     const QString shownName = paths.size() == 1 ? listBaseName(paths.first()) : QString();
     for (QString path : paths)
         step([&] { loader_.FillWortelList(path); });
+    tellLoaded(paths);
     controls_.Label3->setToolTip(plainToolTip(shownName));
     bool dealt = false;
     step([&] { dealt = board_.Refill(); });
@@ -95,6 +98,15 @@ void ListChooser::chooseDictionaries()
     step([&] { lists_.LexiconList.clear(); });
     for (const QString &path : paths)
         step([&] { loader_.Fill_Lexicon(RTrimText(ListLoader::facitPath(path), u".txt"_s)); });
+    tellLoaded(paths);
+}
+
+void ListChooser::tellLoaded(const QStringList &paths)
+{
+    QStringList names;
+    for (const QString &path : paths)
+        names << nameWithoutEnding(path);
+    ground_.notes.tell(note::loaded, names.join(u", "_s));
 }
 
 void ListChooser::WortelList_Click(int row) { layTile(wortelKind, row); }

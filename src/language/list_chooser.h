@@ -49,6 +49,7 @@ signals:
     void listsChosen();
 
 private:
+    void tellLoaded(const QStringList &paths);
     void layTile(const TileKind &kind, int row);
 
     Ground &ground_;

@@ -9,6 +9,8 @@
 #include "platform/ground.h"
 #include "platform/ini_file.h"
 #include "platform/minute_timer.h"
+#include "platform/note_texts.h"
+#include "platform/notes.h"
 #include "platform/options.h"
 #include "platform/play_state.h"
 #include "platform/procedure.h"
@@ -266,8 +268,10 @@ void Tips::showWhenFree(const std::function<void()> &show)
 
 void Tips::Image1_Click()
 {
-    if (isShown())
+    if (isShown()) {
+        ground_.notes.tell(note::tipIsOpen);
         return;
+    }
     if (play_.checkedVowels() != Vowels::None)
         ShowVokalTip(play_.checkedVowels());
     else
@@ -276,7 +280,9 @@ void Tips::Image1_Click()
 
 void Tips::mnuShowTip_Click()
 {
-    if (!isShown())
+    if (isShown())
+        ground_.notes.tell(note::tipIsOpen);
+    else
         ShowLexiconTip2(lists_.CurrentLexiconFile);
 }
 

@@ -7,6 +7,8 @@
 #include "platform/boxes.h"
 #include "platform/clock.h"
 #include "platform/ground.h"
+#include "platform/note_texts.h"
+#include "platform/notes.h"
 #include "platform/options.h"
 #include "platform/procedure.h"
 #include "platform/report_popup.h"
@@ -28,6 +30,23 @@ namespace {
 
 QString quoted(const QString &word) { return u'"' + word + u'"'; }
 
+/// Which letters of `"word"`, in quotation marks, teach how large it is written: the capitals of the
+/// dictionary's spelling, or if it has none, what was written as one. None if the two do not differ.
+QList<int> wrongCapitals(const QString &typed, const QString &proper)
+{
+    QList<int> capitals;
+    QList<int> differing;
+    if (typed.size() != proper.size())
+        return {};
+    for (int letter = 0; letter < proper.size(); ++letter) {
+        if (proper.at(letter).isUpper())
+            capitals << letter + 1;
+        if (typed.at(letter) != proper.at(letter))
+            differing << letter + 1;
+    }
+    return differing.isEmpty() || capitals.isEmpty() ? differing : capitals;
+}
+
 } // namespace
 
 WordCheck::WordCheck(Ground &ground, const MainControls &controls, WordLists &lists, PlayState &play,
@@ -46,8 +65,10 @@ void WordCheck::Command2_MouseDown(Qt::MouseButton button)
 {
     Procedure step{ground_.log, "Command2_MouseDown", "frmMain"};
     if (button == Qt::RightButton) {
-        if (play_.GameActive() || play_.RetypeActive())
+        if (play_.GameActive() || play_.RetypeActive()) {
+            ground_.notes.tell(play_.GameActive() ? note::afterGame : note::afterRetype);
             return;
+        }
         step([&] {
             if (takeEntry())
                 dictionary_.toggleForSearch();
@@ -111,17 +132,19 @@ int WordCheck::verifySeconds() const
 
 void WordCheck::checkInDictionary(const QString &word)
 {
+    const QString proper = tests_.ProperCase(word);
+    const QList<int> marked = wrongCapitals(word, proper);
     if (!tests_.In_Lexicon(word)) {
         popup_.Display(u"Wort nicht gefunden"_s, u"Das gesuchte Wort \n"_s, quoted(word) + u'\n',
-                       u" steht nicht im Wörterbuch."_s, verifySeconds(), SoundId::WordNotFound, false,
-                       false);
+                       u" steht nicht im Wörterbuch."_s, verifySeconds(), SoundId::WordNotFound, false, false,
+                       marked);
         offerAgain();
         return;
     }
     // The dictionary's spelling is shown, so that a hit teaches the right capitals; the list keeps the
     // learner's.
-    popup_.Display(u"Richtig !"_s, u"Das gesuchte Wort \n"_s, quoted(tests_.ProperCase(word)) + u'\n',
-                   u"ist richtig."_s, verifySeconds(), SoundId::WordRight, true, true);
+    popup_.Display(u"Richtig !"_s, u"Das gesuchte Wort \n"_s, quoted(proper) + u'\n', u"ist richtig."_s,
+                   verifySeconds(), SoundId::WordRight, true, true, marked);
     if (play_.RetypeActive()) {
         emit retypeWordFound(word);
         ground_.pump.yield();
@@ -208,6 +231,8 @@ void WordCheck::Command5_MouseDown(Qt::MouseButton button)
 {
     Procedure step{ground_.log, "Command5_MouseDown", "frmMain"};
     if (button == Qt::LeftButton) {
+        if (controls_.Dropper1->Caption().isEmpty() && !dictionary_.isOpen())
+            ground_.notes.tell(note::wordFieldEmpty);
         clearEntry();
         if (dictionary_.isOpen()) {
             controls_.Text2->show();

@@ -5,7 +5,10 @@
 #include "output/columns/columns.h"
 #include "platform/boxes.h"
 #include "platform/file_dialogs.h"
+#include "platform/files.h"
 #include "platform/ground.h"
+#include "platform/note_texts.h"
+#include "platform/notes.h"
 #include "platform/procedure.h"
 #include "platform/settings_store.h"
 
@@ -25,4 +28,5 @@ void saveWords(Ground &ground, Procedure &step, const QStringList &words, const 
         return;
     }
     step([&] { ground.store.SaveSetting(u"Path"_s, u"Export"_s, path.left(path.lastIndexOf(u'\\'))); });
+    ground.notes.tellSaved(nameWithoutEnding(path), words.join(QString()));
 }

@@ -9,6 +9,8 @@
 #include "platform/boxes.h"
 #include "platform/gate.h"
 #include "platform/ground.h"
+#include "platform/note_texts.h"
+#include "platform/notes.h"
 #include "platform/options.h"
 #include "platform/play_state.h"
 #include "platform/procedure.h"
@@ -97,6 +99,8 @@ void WordListPanel::Show_Result()
     StoreList *list = controls_.CorrectWordList;
     step([&] { standOnBand(controls_, list); });
     list->setVisible(list->isHidden());
+    if (!list->isHidden() && lists_.CorrectWordList.isEmpty())
+        ground_.notes.tell(note::wordListEmpty);
     if (dictionary_.isOpen())
         step([&] { dictionary_.toggle(); });
 }
@@ -129,12 +133,16 @@ void WordListPanel::Save_Result()
 void WordListPanel::CorrectWordsToClip()
 {
     Procedure step{ground_.log, "CorrectWordsToClip", "frmMain"};
+    const QStringList &words = lists_.CorrectWordList.rows();
     step([&] {
-        if (lists_.CorrectWordList.isEmpty())
+        if (words.isEmpty()) {
             ground_.boxes.ShowInfoBox(u"Es gibt noch keine richtigen Wörter zum kopieren !"_s, BoxSign::Info,
                                       product::name);
-        else
-            QGuiApplication::clipboard()->setText(lists_.CorrectWordList.rows().join(u"\r\n"_s) + u"\r\n"_s);
+            return;
+        }
+        QGuiApplication::clipboard()->setText(words.join(u"\r\n"_s) + u"\r\n"_s);
+        ground_.notes.tell(words.size() == 1 ? note::oneWordCopied : note::wordsCopied,
+                           QString::number(words.size()));
     });
 }
 
@@ -174,6 +182,10 @@ void WordListPanel::mnuDeleteWord()
 {
     Procedure step{ground_.log, "mnuDeleteWord_Click", "frmMain"};
     const int row = controls_.CorrectWordList->ListIndex();
+    if (row < 0) {
+        ground_.notes.tell(note::noWordMarked);
+        return;
+    }
     if (step([&] { lists_.CorrectWordList.removeAt(row); }))
         emit wordsEdited(lists_.CorrectWordList.rows(), false);
 }
@@ -197,6 +209,10 @@ void WordListPanel::mnuDeleteAllWords()
 void WordListPanel::moveSelection(int step)
 {
     const int row = controls_.CorrectWordList->ListIndex() + step;
-    if (row >= 0 && row < lists_.CorrectWordList.count())
+    if (row < 0)
+        ground_.notes.tell(note::firstWord);
+    else if (row >= lists_.CorrectWordList.count())
+        ground_.notes.tell(note::lastWord);
+    else
         controls_.CorrectWordList->setListIndex(row);
 }

@@ -9,9 +9,12 @@
 #include "platform/boxes.h"
 #include "platform/files.h"
 #include "platform/ground.h"
+#include "platform/note_texts.h"
+#include "platform/notes.h"
 #include "platform/options.h"
 #include "platform/procedure.h"
 #include "platform/product.h"
+#include "platform/windows1252.h"
 #include "widgets/guards.h"
 
 using namespace Qt::StringLiterals;
@@ -71,6 +74,19 @@ void Backup::writeBoard(const QString &path)
     MyObj array;
     array.addTiles(canvas_.store().tiles());
     writeFileAtomically(path, backup_file::encode(array));
+    tellLost();
+}
+
+/// The letters that would come back from the file as question marks: told once, until others come.
+void Backup::tellLost()
+{
+    QString texts;
+    for (const auto &tile : canvas_.store().tiles())
+        texts += tile->txt;
+    const QString lost = windows1252::missing(texts);
+    if (!lost.isEmpty() && lost != toldLost_)
+        ground_.notes.tell(note::notInBackup, lost);
+    toldLost_ = lost;
 }
 
 void Backup::RestoreMyObjects(const QString &path)
@@ -85,13 +101,15 @@ void Backup::RestoreMyObjects(const QString &path)
     if (path.isEmpty())
         step([&] { rememberFolder(ground_, ask, source); });
     const Hourglass hourglass;
-    if (step([&] { readBoard(source); }))
+    if (step([&] { readBoard(source); })) {
         step([&] { news_.open(); });
-    else
+        ground_.notes.tell(note::boardRecovered);
+    } else {
         ground_.boxes.plainBox(
             Boxes::Icon::Critical, product::faultTitle,
             u"Die BAK-Session konnte nicht eingelesen werden: "_s + source +
                 u"\n\nDie Datei enthält ungültige Daten.\n\nDas Laden wird abgebrochen..."_s);
+    }
 }
 
 /// What was read before a fault stays; if that is nothing, the board does.

@@ -35,8 +35,10 @@ public slots:
 private:
     void writeBoard(const QString &path);
     void readBoard(const QString &path);
+    void tellLost();
 
     Ground &ground_;
     Canvas &canvas_;
     BoardNews &news_;
+    QString toldLost_; ///< the letters of the board that the file does not hold
 };

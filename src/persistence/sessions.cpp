@@ -14,6 +14,8 @@
 #include "platform/files.h"
 #include "platform/ground.h"
 #include "platform/ini_file.h"
+#include "platform/note_texts.h"
+#include "platform/notes.h"
 #include "platform/options.h"
 #include "platform/procedure.h"
 #include "platform/product.h"
@@ -77,7 +79,8 @@ void Sessions::SaveObjects(const QString &path)
         step([&] { rememberFolder(ground_, ask, target); });
     }
     const Hourglass hourglass;
-    step([&] { writeSession(target); });
+    if (step([&] { writeSession(target); }))
+        step([&] { tellSaved(target); });
     step([&] { ground_.pump.yield(); });
 }
 
@@ -95,6 +98,14 @@ void Sessions::writeSession(const QString &path)
         throw;
     }
     makeCurrent(path);
+}
+
+void Sessions::tellSaved(const QString &path)
+{
+    QString texts;
+    for (const auto &tile : rooms_.canvas.store().tiles())
+        texts += tile->txt;
+    ground_.notes.tellSaved(nameWithoutEnding(path), texts);
 }
 
 // Opening
@@ -126,6 +137,7 @@ void Sessions::RestoreObjects(const QString &path)
     }
     step([&] { AddToRecentDocs(source, FileType::mimeType); });
     step([&] { makeCurrent(source); });
+    ground_.notes.tell(note::loaded, nameWithoutEnding(source));
 }
 
 /// The tiles that were read before a fault stay; then the session's stem list is left alone. True if there

@@ -49,6 +49,7 @@ signals:
 
 private:
     void writeSession(const QString &path);
+    void tellSaved(const QString &path);
     bool readSession(const QString &path);
     void loadLists(const QString &name);
     void makeCurrent(const QString &path);

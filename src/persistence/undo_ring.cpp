@@ -7,6 +7,8 @@
 #include "board/tiles/board_news.h"
 #include "platform/clock.h"
 #include "platform/ground.h"
+#include "platform/note_texts.h"
+#include "platform/notes.h"
 #include "platform/options.h"
 #include "platform/procedure.h"
 #include "widgets/guards.h"
@@ -27,17 +29,18 @@ UndoRing::UndoRing(Ground &ground, Canvas &canvas, BoardNews &news, QObject *par
 void UndoRing::registerCommands(CommandRouter &router)
 {
     using command::From;
-    const auto on = [this, &router](From from, int id, const bool &can, void (UndoRing::*act)()) {
-        router.on(from, {id}, [this, &can, act](const command::Command &, const Press &) {
-            if (can)
-                (this->*act)();
-            return Ending::Whole;
-        });
+    const auto undo = [this](const command::Command &, const Press &) {
+        CanUndo_ ? UndoAction() : ground_.notes.tell(isOn() ? note::nothingToUndo : note::undoIsOff);
+        return Ending::Whole;
     };
-    on(From::MainMenu, 2801, CanUndo_, &UndoRing::UndoAction);
-    on(From::MainMenu, 2802, CanRedo_, &UndoRing::RedoAction);
-    on(From::Key, 9, CanUndo_, &UndoRing::UndoAction);
-    on(From::Key, 10, CanRedo_, &UndoRing::RedoAction);
+    const auto redo = [this](const command::Command &, const Press &) {
+        CanRedo_ ? RedoAction() : ground_.notes.tell(isOn() ? note::nothingToRedo : note::undoIsOff);
+        return Ending::Whole;
+    };
+    router.on(From::MainMenu, {2801}, undo);
+    router.on(From::MainMenu, {2802}, redo);
+    router.on(From::Key, {9}, undo);
+    router.on(From::Key, {10}, redo);
 }
 
 bool UndoRing::isOn() const { return ground_.options.storedIsOn(Setting::UseUndo); }

@@ -111,6 +111,13 @@ QString GetOnlyFileName(const QString &path)
     return at < 0 ? QString() : path.mid(at + 1);
 }
 
+QString nameWithoutEnding(const QString &path)
+{
+    const QString name = GetOnlyFileName(path);
+    const qsizetype dot = name.lastIndexOf(u'.');
+    return dot > 0 ? name.left(dot) : name;
+}
+
 QString listBaseName(const QString &path) { return RTrimText(GetOnlyFileName(path), u".txt"_s); }
 
 QByteArray ReadWholeFile(const QString &path)

@@ -20,6 +20,8 @@ QString storedPath(const QString &native);
 bool IsTextFile(const QString &path);
 /// The text behind the last backslash (or slash), or the empty string if the path has none.
 QString GetOnlyFileName(const QString &path);
+/// `GetOnlyFileName` without its last ending: what a note calls a file.
+QString nameWithoutEnding(const QString &path);
 /// `GetOnlyFileName` without a trailing ".txt" (any case): the name a list goes by.
 QString listBaseName(const QString &path);
 

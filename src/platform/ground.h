@@ -10,6 +10,7 @@ class EventPump;
 class FileDialogs;
 class Gate;
 class Log;
+class Notes;
 class Options;
 class Printer;
 class Rnd;
@@ -32,4 +33,5 @@ struct Ground
     SettingsStore &store;
     Options &options;
     Gate &gate;
+    Notes &notes;
 };

@@ -63,6 +63,16 @@ std::optional<QByteArray> encode(const QString &text)
     return bytes;
 }
 
+QString missing(const QString &text)
+{
+    QStringList found;
+    for (const char32_t character : text.normalized(QString::NormalizationForm_C).toUcs4())
+        if (const QString shown = QString::fromUcs4(&character, 1);
+            (character > 0xFFFF || byteOf(static_cast<char16_t>(character)) < 0) && !found.contains(shown))
+            found << shown;
+    return found.join(u' ');
+}
+
 QByteArray encodeLossy(const QString &text)
 {
     const QString composed = text.normalized(QString::NormalizationForm_C);

@@ -20,4 +20,7 @@ std::optional<QByteArray> encode(const QString &text);
 /// The bytes of `text` with "?" for a character that has none.
 QByteArray encodeLossy(const QString &text);
 
+/// The characters of `text` that have no byte, each once, with a blank between two.
+QString missing(const QString &text);
+
 } // namespace windows1252

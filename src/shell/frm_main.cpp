@@ -58,6 +58,7 @@ frmMain::frmMain(Ground &ground, const StartFacts &facts)
     , facts_(facts)
     , controls_(makeMainControls(this))
     , status_(controls_.GameProgress)
+    , note_(new ShortNote(*controls_.picCanvas, *controls_.Picture1))
     , help_(ground.AppFolder, this)
 {
     setObjectName(u"frmMain"_s);
@@ -126,6 +127,7 @@ void frmMain::resizeEvent(QResizeEvent *)
     layOutMainControls(controls_, width(), height());
     rooms_->canvas.repaint();
     rooms_->tips.recompose();
+    rooms_->strip.boardResized();
 }
 
 void frmMain::changeEvent(QEvent *event)

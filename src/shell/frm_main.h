@@ -8,6 +8,7 @@
 #include "widgets/control_sheet.h"
 #include "widgets/main_controls.h"
 #include "widgets/main_work_view.h"
+#include "widgets/short_note.h"
 #include "widgets/status_line.h"
 
 #include <QWidget>
@@ -83,6 +84,7 @@ private:
     void Form_QueryUnload();
     void Form_Unload();
     void closeBoxes();
+    void tellWhyAtRest(const QWidget *tool);
     void UpdateCaption();
     void loadKept();
     void wire();
@@ -93,8 +95,6 @@ private:
     void wireKeeping();
     void wireCommands();
     template <typename Left, typename Right> void onPress(PressButton *tool, Left left, Right right);
-    /// Tells in one sentence that a command belongs to a part of the game that is still to be built.
-    void comesLater();
 
     Ground &ground_;
     StartFacts facts_;
@@ -104,6 +104,7 @@ private:
     ControlSheet sheet_{controls_};
     StatusLine status_;
     MainWorkView workView_{sheet_, status_};
+    ShortNote *note_;
     std::unique_ptr<Rooms> rooms_;
     Help help_;
     QString hiddenText_;

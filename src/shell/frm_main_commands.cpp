@@ -4,10 +4,8 @@
 #include "shell/frm_main.h"
 
 #include "output/web/frm_save_as_web.h"
-#include "platform/boxes.h"
 #include "platform/gate.h"
 #include "platform/ground.h"
-#include "platform/product.h"
 #include "platform/word_lists.h"
 #include "shell/rooms.h"
 #include "widgets/main_controls.h"
@@ -45,10 +43,6 @@ void frmMain::wireCommands()
     r.router.onMenu(1001, [this] { showHelp(); });
     r.router.onMenu(1003, [this] { showAbout(); });
     r.router.onMenu(1906, [this] { close(); });
-    r.router.otherwise([this](const command::Command &, const Press &) {
-        comesLater();
-        return Ending::Whole;
-    });
 }
 
 void frmMain::saveAsWeb()
@@ -57,10 +51,4 @@ void frmMain::saveAsWeb()
     sessions.SaveObjects();
     if (!ground_.gate.isClosing())
         FrmSaveAsWeb(ground_, sessions.CurrentSessionFile(), sessions.WebExportName(), this).edit();
-}
-
-void frmMain::comesLater()
-{
-    ground_.boxes.ShowInfoBox(u"Das gibt es in dieser Version noch nicht. Es kommt später dazu."_s,
-                              BoxSign::Info, product::name);
 }

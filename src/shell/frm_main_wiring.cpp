@@ -7,6 +7,8 @@
 
 #include "platform/gate.h"
 #include "platform/ground.h"
+#include "platform/note_texts.h"
+#include "platform/notes.h"
 #include "platform/options.h"
 #include "platform/printer.h"
 #include "shell/about_window.h"
@@ -27,6 +29,12 @@ namespace {
 
 constexpr auto nothing = [] {};
 
+/// What a tool at rest says, by the index of its reason. A report goes by itself at once.
+constexpr const char16_t *restNotes[] = {note::wholeList,   note::afterDictionary, nullptr,
+                                         note::afterRetype, note::afterRetype,     note::afterRetype,
+                                         note::afterGame,   note::afterBuilding,   note::afterWork};
+static_assert(std::size(restNotes) == static_cast<std::size_t>(Reason::Work) + 1);
+
 } // namespace
 
 /// Connects a tool's left and right press. A tool acts if the gate lets it in and no reason lies on it.
@@ -41,6 +49,7 @@ template <typename Left, typename Right> void frmMain::onPress(PressButton *tool
 
 void frmMain::wire()
 {
+    connect(&ground_.notes, &Notes::told, note_, &ShortNote::tell);
     wireBoard();
     wireWords();
     wireLists();
@@ -62,6 +71,13 @@ void frmMain::wireBoard()
                 if (button == Qt::LeftButton)
                     showHelp();
             }));
+    for (const PressButton *tool :
+         {controls_.Check1, controls_.Option1[0], controls_.Option1[1], controls_.Command6,
+          controls_.Command1, controls_.Option2[0], controls_.Option2[1], controls_.Option2[2]})
+        connect(tool, &PressButton::mouseDown, this, [this](Qt::MouseButton button) {
+            if (button == Qt::RightButton)
+                ground_.notes.tell(note::leftPressOnly);
+        });
     connect(controls_.Label4, &ClickLabel::clicked, &gate, &Gate::cancelWork);
     connect(controls_.Label2, &ClickLabel::clicked, this,
             throughGate(gate, Gate::Way::Play, [this] { showAbout(); }));
@@ -125,8 +141,8 @@ void frmMain::wireModes()
         [&r] { r.game.Check3_MouseDown(Qt::RightButton); });
     for (int level = 0; level < 3; ++level)
         onPress(
-            controls_.Option2[static_cast<std::size_t>(level)],
-            [&r, level] { r.game.Option2_Click(level); }, nothing);
+            controls_.Option2[static_cast<std::size_t>(level)], [&r, level] { r.game.Option2_Click(level); },
+            nothing);
     for (int box = 0; box < 2; ++box)
         onPress(
             controls_.ChkVokal[static_cast<std::size_t>(box)],
@@ -208,10 +224,21 @@ void frmMain::showAbout()
 
 void frmMain::showHelp() { help_.open(); }
 
+/// A tool that rests, greyed or not, hears of no press.
+void frmMain::tellWhyAtRest(const QWidget *tool)
+{
+    const std::optional<Reason> reason = sheet_.restsFor(tool);
+    const char16_t *text = reason ? restNotes[static_cast<std::size_t>(*reason)] : nullptr;
+    if (text != nullptr)
+        ground_.notes.tell(text);
+}
+
 bool frmMain::eventFilter(QObject *watched, QEvent *event)
 {
     // The welcome has been read when the first press or key comes.
     if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::KeyPress)
         controls_.txtWelcomeMsg->hide();
+    if (event->type() == QEvent::MouseButtonPress && watched->isWidgetType())
+        tellWhyAtRest(static_cast<const QWidget *>(watched));
     return QWidget::eventFilter(watched, event);
 }

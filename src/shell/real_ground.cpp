@@ -7,6 +7,6 @@
 RealGround::RealGround(const QString &appFolder)
     : rnd_(QRandomGenerator::system()->generate64())
     , options_(store_, appFolder, log_)
-    , ground_{appFolder, log_,   gatedBoxes_, gatedDialogs_, printer_, rnd_,
-              sound_,    clock_, pump_,       store_,        options_, gate_}
+    , ground_{appFolder, log_,  gatedBoxes_, gatedDialogs_, printer_, rnd_,  sound_,
+              clock_,    pump_, store_,      options_,      gate_,    notes_}
 {}

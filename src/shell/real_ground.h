@@ -7,6 +7,7 @@
 #include "platform/gated_boxes.h"
 #include "platform/ground.h"
 #include "platform/log.h"
+#include "platform/notes.h"
 #include "platform/options.h"
 #include "platform/rnd.h"
 #include "platform/settings_file.h"
@@ -39,5 +40,6 @@ private:
     LoopPump pump_{gate_};
     SettingsFile store_;
     Options options_;
+    Notes notes_;
     Ground ground_;
 };

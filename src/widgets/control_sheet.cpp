@@ -35,12 +35,14 @@ void ControlSheet::set(Reason reason, std::span<const SheetRow> rows, bool on)
         lay(reason, rows);
 }
 
-bool ControlSheet::acts(const QWidget *control) const
+std::optional<Reason> ControlSheet::restsFor(const QWidget *control) const
 {
     constexpr unsigned restsBy = SheetRow::Disabled | SheetRow::Hidden | SheetRow::Resting;
-    return std::none_of(laid_.begin(), laid_.end(), [control](const Laid &laid) {
-        return laid.control == control && (laid.row.marks & restsBy) != 0;
-    });
+    std::optional<Reason> found;
+    for (const Laid &laid : laid_)
+        if (laid.control == control && (laid.row.marks & restsBy) != 0 && found < laid.reason)
+            found = laid.reason;
+    return found;
 }
 
 void ControlSheet::setToolTip(QWidget *control, const QString &text)

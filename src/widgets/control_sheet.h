@@ -22,8 +22,8 @@ enum class Reason : std::uint8_t {
     Preparing,  ///< words for it are searched on the board
     Retype,     ///< retype mode, from its preparing on
     Typing,     ///< the strip runs
-    Game,     ///< the word game, from its start to its end
-    Building, ///< its time to build words on the board: none is entered yet
+    Game,       ///< the word game, from its start to its end
+    Building,   ///< its time to build words on the board: none is entered yet
     Work,
 };
 
@@ -68,7 +68,9 @@ public:
     void takeOff(Reason reason);
     void set(Reason reason, std::span<const SheetRow> rows, bool on);
     /// Whether a press on the tool does something.
-    bool acts(const QWidget *control) const;
+    bool acts(const QWidget *control) const { return !restsFor(control); }
+    /// Why a press on the tool does nothing; of several reasons the last of the list above.
+    std::optional<Reason> restsFor(const QWidget *control) const;
     /// What the tool says while no sheet says something else.
     void setToolTip(QWidget *control, const QString &text);
 

@@ -35,7 +35,6 @@ constexpr int secondRow = 38;
 constexpr int rowHeight = 32;
 constexpr int statusRow = 73;
 constexpr int statusHeight = 14;
-constexpr int scrollerFontPixels = 18; // read from a whiteboard, across a room
 
 using C = MainControls;
 
@@ -258,9 +257,6 @@ void makeLists(C &c)
     c.Text2->setAccessibleName(QStringLiteral("Wort im Wörterbuch suchen"));
     c.Text2->hide();
     c.Scroller = make<MsgScroller>(c.form, "MsgScroller");
-    QFont large = c.form->font();
-    large.setPixelSize(scrollerFontPixels);
-    c.Scroller->setFont(large);
     c.Scroller->setBackColor(Qt::white);
     c.Scroller->setForeColor(Qt::black);
     c.Scroller->resize(c.Scroller->sizeHint());

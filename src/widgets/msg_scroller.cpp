@@ -10,14 +10,17 @@
 #include <QLinearGradient>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScreen>
 
 #include <algorithm>
 #include <cmath>
 
 namespace {
 
-constexpr int shortestFrame = 16; ///< milliseconds: no screen shows more
-constexpr int fadeWidth = 18;     ///< pixels in which words come up and fade at the edges of a running strip
+constexpr int steps = 4;             ///< places within a pixel of the screen in which letters are drawn
+constexpr double slowestScreen = 30; ///< pictures a second
+constexpr double fastestScreen = 120;
+constexpr int fadeWidth = 18; ///< pixels in which words come up and fade at the edges of a running strip
 
 } // namespace
 
@@ -170,7 +173,8 @@ void MsgScroller::decideScroll()
 
 void MsgScroller::draw()
 {
-    strip_.draw(width());
+    // What slides in before the next tick is there already.
+    strip_.draw(width() + (strip_.Running() ? scrollSpeed_ : 0));
     update();
 }
 
@@ -185,7 +189,8 @@ void MsgScroller::startTimer()
 {
     timerOn_ = true;
     clock_.start();
-    due_ = frameTime();
+    // The part of a tick that was run before a pause counts.
+    due_ = scrollInterval_ - std::lround(glide_ * scrollInterval_ / scrollSpeed_);
     scheduleFrame(0);
 }
 
@@ -198,28 +203,25 @@ void MsgScroller::pauseTimer()
 void MsgScroller::stopTimer()
 {
     pauseTimer();
-    frame_ = 0;
     setGlide(0);
 }
 
-int MsgScroller::framesPerTick() const
+/// Milliseconds between two pictures of the run: as often as the screen shows one, unless nothing would have
+/// moved. Unseen, the strip only ticks.
+double MsgScroller::frameTime() const
 {
-    const int devicePixels = static_cast<int>(scrollSpeed_ * devicePixelRatioF());
-    return isVisible() ? std::max(1, std::min(devicePixels, scrollInterval_ / shortestFrame)) : 1;
-}
-
-int MsgScroller::frameTime() const
-{
-    // The frames of a tick share its time without a remainder.
-    const int frames = framesPerTick();
-    return scrollInterval_ * (frame_ + 1) / frames - scrollInterval_ * frame_ / frames;
+    if (!isVisible())
+        return scrollInterval_;
+    const double ofScreen = 1000.0 / std::clamp(screen()->refreshRate(), slowestScreen, fastestScreen);
+    const double ofStep = scrollInterval_ / (scrollSpeed_ * devicePixelRatioF() * steps);
+    return std::clamp(ofStep, ofScreen, static_cast<double>(std::max(scrollInterval_, 1)));
 }
 
 void MsgScroller::scheduleFrame(qint64 now)
 {
     tmrScroll_.stop();
     if (timerOn_ && scrollInterval_ > 0)
-        tmrScroll_.start(static_cast<int>(std::max<qint64>(0, due_ - now)));
+        tmrScroll_.start(static_cast<int>(std::clamp<qint64>(due_ - now, 0, std::lround(frameTime()))));
 }
 
 void MsgScroller::advance(qint64 now)
@@ -227,29 +229,21 @@ void MsgScroller::advance(qint64 now)
     if (now - due_ >= 2 * scrollInterval_)
         due_ = now - scrollInterval_;
     while (timerOn_ && scrollInterval_ > 0 && due_ <= now) {
-        nextFrame();
-        due_ += frameTime();
-    }
-    scheduleFrame(now);
-}
-
-void MsgScroller::nextFrame()
-{
-    const int frames = framesPerTick();
-    if (++frame_ >= frames) {
-        frame_ = 0;
         tick();
-    } else {
-        setGlide(static_cast<double>(scrollSpeed_) * frame_ / frames);
+        due_ += scrollInterval_;
     }
+    if (timerOn_ && scrollInterval_ > 0 && isVisible())
+        setGlide(scrollSpeed_ * (1 - static_cast<double>(due_ - now) / scrollInterval_));
+    scheduleFrame(now);
 }
 
 void MsgScroller::setGlide(double pixels)
 {
-    const double onDevice = std::round(pixels * devicePixelRatioF()) / devicePixelRatioF();
-    if (qFuzzyCompare(1 + onDevice, 1 + glide_))
+    const double fineness = steps * devicePixelRatioF();
+    const double place = std::round(pixels * fineness) / fineness;
+    if (qFuzzyCompare(1 + place, 1 + glide_))
         return;
-    glide_ = onDevice;
+    glide_ = place;
     update();
 }
 

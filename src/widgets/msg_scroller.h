@@ -12,10 +12,11 @@
 /// The running strip: a list of texts, one behind the other, that runs from right to left as on a news
 /// ticker. A text under the pointer is a hot spot. The player can stop the run and pull the strip by hand.
 ///
-/// `Offset` moves once a tick. Between two ticks the picture glides by whole device pixels, so that the run
-/// is smooth and each letter stays sharp. The ticks keep to a clock, however late the timer is; a strip that
-/// was held up longer goes on from where it stood. A strip that stands has no timer and paints only when it
-/// is uncovered. Indexes are 1-based; one that is not there throws RuntimeError 9.
+/// `Offset` moves once a tick. Between two ticks the picture glides with the clock, as often as the screen
+/// shows a new one, and by parts of a pixel, so that the run is even. The ticks keep to the clock, however
+/// late the timer is; a strip that was held up longer goes on from where it stood. A strip that stands has no
+/// timer and paints only when it is uncovered. Indexes are 1-based; one that is not there throws
+/// RuntimeError 9.
 class MsgScroller : public QWidget
 {
     Q_OBJECT
@@ -112,9 +113,7 @@ private:
     /// Puts the picture back to `Offset`, too.
     void stopTimer();
     void scheduleFrame(qint64 now);
-    void nextFrame();
-    int framesPerTick() const;
-    int frameTime() const;
+    double frameTime() const;
     void setGlide(double pixels);
     void startPan(int x);
     void endPan();
@@ -125,7 +124,7 @@ private:
     ScrollerStrip strip_;
     QTimer tmrScroll_;
     QElapsedTimer clock_;
-    qint64 due_ = 0; ///< when the next frame is, on `clock_`
+    qint64 due_ = 0; ///< when the next tick is, on `clock_`
     QColor backColor_;
     QColor foreColor_;
     int borderStyle_ = 1;
@@ -136,7 +135,6 @@ private:
     bool allowPan_ = true;
 
     bool timerOn_ = false;
-    int frame_ = 0;    ///< of the present tick
     double glide_ = 0; ///< pixels that the picture is ahead of `Offset`
     int currentHotSpot_ = ScrollerStrip::none;
 

@@ -80,6 +80,35 @@ private slots:
         QCOMPARE(desk.trouble(), QString());
     }
 
+    /// A pointer that was moved onto it holds it, a forgotten one and a finger do not, and a key lets it go.
+    void staysUnderThePointer()
+    {
+        Desk desk;
+        desk.report(0);
+        ReportWindow *window = desk.row(1);
+        const auto moveOver = [&](QWidget *part, Qt::MouseEventSource source) {
+            QMouseEvent event(QEvent::MouseMove, QPointF(5, 5), part->mapToGlobal(QPointF(5, 5)),
+                              QPointF(5, 5), Qt::NoButton, Qt::NoButton, Qt::NoModifier, source);
+            QApplication::sendEvent(part, &event);
+        };
+        QWidget *word = window->findChild<QLabel *>(u"Label2"_s);
+        moveOver(word, Qt::MouseEventNotSynthesized);
+        QTRY_VERIFY(desk.isUp(1));
+        QTest::qWait(400);
+        QVERIFY(desk.isUp(1));
+        QEvent leave(QEvent::Leave);
+        QApplication::sendEvent(window, &leave);
+        QTRY_VERIFY(window->height() < window->fullHeight());
+        moveOver(word, Qt::MouseEventNotSynthesized); // it was sinking already
+        QTRY_VERIFY(desk.isUp(1));
+        QTest::qWait(200);
+        QVERIFY(desk.isUp(1));
+        QTest::keyClick(&desk.form, Qt::Key_A);
+        moveOver(word, Qt::MouseEventSynthesizedByQt);
+        QTRY_VERIFY(!window->isVisible());
+        QCOMPARE(desk.trouble(), QString());
+    }
+
     /// Its time begins when it has slid up.
     void standsItsTime_data()
     {

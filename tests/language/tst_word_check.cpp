@@ -61,6 +61,30 @@ private slots:
         QVERIFY(w.t.ok());
     }
 
+    /// A word that is wrong only in its capitals: the letters that stand out in the report's second line,
+    /// which begins with a quotation mark.
+    void marksCapitals_data()
+    {
+        columns<QString, int, QList<int>>("typed", "caseRule", "marked");
+        QTest::newRow("right") << u"Haus"_s << 0 << QList<int>{};
+        QTest::newRow("small") << u"haus"_s << 0 << QList{1};
+        QTest::newRow("upside down") << u"hAUS"_s << 0 << QList{1};
+        QTest::newRow("shouted") << u"HAUS"_s << 0 << QList{1};
+        QTest::newRow("a capital too much") << u"Laufen"_s << 0 << QList{1};
+        QTest::newRow("umlaut") << u"lÄUFEr"_s << 0 << QList{1};
+        QTest::newRow("refused for it") << u"haus"_s << 1 << QList{1};
+        QTest::newRow("another word") << u"hauß"_s << 0 << QList<int>{};
+    }
+    void marksCapitals()
+    {
+        QFETCH(QString, typed);
+        QFETCH(int, caseRule);
+        WordWindow w;
+        w.t.options.setBox(Setting::CaseCheck, caseRule);
+        w.enter(typed);
+        QTEST(w.form.findChild<WordLine *>()->marked(), "marked");
+    }
+
     void nothingEntered()
     {
         for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {

@@ -186,8 +186,11 @@ TestGround::TestGround(quint64 seed)
     : AppFolder(storedPath(folder.path()) + u'\\')
     , rnd(seed)
     , options(store, AppFolder, log)
-    , ground{AppFolder, log, gatedBoxes, gatedDialogs, printer, rnd, sound, clock, pump, store, options, gate}
-{}
+    , ground{AppFolder, log,  gatedBoxes, gatedDialogs, printer, rnd,  sound,
+             clock,     pump, store,      options,      gate,    notes}
+{
+    QObject::connect(&notes, &Notes::told, &notes, [this](const QString &note) { told.append(note); });
+}
 
 bool TestGround::ok() const
 {

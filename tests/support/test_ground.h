@@ -9,6 +9,7 @@
 #include "platform/gated_boxes.h"
 #include "platform/ground.h"
 #include "platform/log.h"
+#include "platform/notes.h"
 #include "platform/options.h"
 #include "platform/rnd.h"
 #include "platform/settings_store.h"
@@ -243,6 +244,8 @@ struct TestGround
     TestPump pump{gate};
     MemoryStore store;
     Options options;
+    Notes notes;
+    QStringList told; ///< the notes in their order
     GatedBoxes gatedBoxes{boxes, gate};
     GatedFileDialogs gatedDialogs{fileDialogs, gate};
     Ground ground;

@@ -6,6 +6,7 @@ wortel_test(widgets
         tst_msg_scroller.cpp
         tst_press_button.cpp
         tst_scroller_strip.cpp
+        tst_short_note.cpp
         tst_small_widgets.cpp
         tst_store_list.cpp
 )

@@ -11,6 +11,8 @@
 #include "platform/boxes.h"
 #include "platform/clock.h"
 #include "platform/ground.h"
+#include "platform/note_texts.h"
+#include "platform/notes.h"
 #include "platform/options.h"
 #include "platform/procedure.h"
 #include "platform/product.h"
@@ -147,10 +149,15 @@ bool BulkTiles::Refill()
         wholeList ? std::optional<int>(lists_.WortelList.count()) : countInText1();
     if (!wanted)
         return false;
+    const bool isNought = typedNumber(controls_.Text1->text()) == 0.0;
+    if (isNought)
+        ground_.notes.tell(note::numberIsNought);
+    else if (lists_.WortelList.isEmpty())
+        ground_.notes.tell(note::listEmpty, u"Wortel"_s);
     const int filter = store_.filter().selected();
     Work work(ground_);
     TileList fresh;
-    if (typedNumber(controls_.Text1->text()) != 0.0) {
+    if (!isNought) {
         const FrozenBoard frozen(canvas_.surface());
         step([&] { layWortels(*wanted, wholeList, fresh, work, Placement::noBound); });
         step([&] { layAffixRows(fresh, store_.measures().BandTop()); });

@@ -11,6 +11,8 @@
 #include "platform/boxes.h"
 #include "platform/clock.h"
 #include "platform/ground.h"
+#include "platform/note_texts.h"
+#include "platform/notes.h"
 #include "platform/options.h"
 #include "platform/procedure.h"
 #include "platform/text.h"
@@ -60,12 +62,19 @@ void BoardCommands::registerTileCommands()
                                             {106, &BoardCommands::toggleCapitals}};
     for (const auto &[id, act] : acts)
         router_.on(From::TileMenu, {id}, [this, act](const Command &, const Press &press) {
-            return press.kind == nullptr ? Ending::None : (this->*act)(press);
+            return lies(press) ? (this->*act)(press) : Ending::None;
         });
     router_.on(From::TileMenu, {116, 117, 118, 119, 120, 121, 122, 123},
                [this](const Command &command, const Press &press) {
-                   return press.kind == nullptr ? Ending::None : copyTile(command, press);
+                   return lies(press) ? copyTile(command, press) : Ending::None;
                });
+}
+
+bool BoardCommands::lies(const Press &press)
+{
+    if (press.kind == nullptr)
+        ground_.notes.tell(note::noTileThere);
+    return press.kind != nullptr;
 }
 
 Ending BoardCommands::editTile(const Press &press)
@@ -109,7 +118,7 @@ Ending BoardCommands::copyTile(const Command &command, const Press &press)
 void BoardCommands::duplicateAt(const Press &press)
 {
     Procedure step{ground_.log, "picCanvas_MouseDown", form, Procedure::Silent};
-    if (press.kind != nullptr) {
+    if (lies(press)) {
         step([&] { store_.DuplicateObject(press.kind->back, press.text, press.point.x(), press.point.y()); });
         step([&] { store_.counters().updateTotal(); });
     }
@@ -118,7 +127,7 @@ void BoardCommands::duplicateAt(const Press &press)
 
 void BoardCommands::removeAt(const Press &press)
 {
-    if (press.kind != nullptr)
+    if (lies(press))
         router_.run(From::TileMenu, removeCommand, press);
 }
 
@@ -128,8 +137,10 @@ void BoardCommands::removeAt(const Press &press)
 Ending BoardCommands::insert(const Command &command, const Press &press)
 {
     const TileKind &kind = kindAt(command.argument);
-    if (!store_.filter().shows(kind.back))
+    if (!store_.filter().shows(kind.back)) {
+        ground_.notes.tell(note::kindHidden, text(kind.plural));
         return Ending::None;
+    }
     const command::KindWords &words = command::words(command.argument);
     const QPoint corner = controls_.picCanvas->mapToGlobal(press.point);
     const QString typed = ground_.boxes.ShowIBox(text(words.prompt), kind.box, {}, text(words.insertTitle),
@@ -153,8 +164,8 @@ Ending BoardCommands::addWortelFree()
 {
     if (!ground_.options.isOn(Setting::NoOverlapOnStart))
         rooms_.bulk.addOneWortel();
-    else
-        rooms_.placement.PlaceWortelFree(1);
+    else if (rooms_.placement.PlaceWortelFree(1) == 0)
+        ground_.notes.tell(note::noRoom);
     return Ending::Whole;
 }
 
@@ -166,6 +177,8 @@ std::optional<int> BoardCommands::number(const Command &command, const TileKind 
     if (command.argument != command::presetNumber)
         return command.argument;
     const std::optional<int> count = rooms_.bulk.countInText1(kind);
+    if (count == 0)
+        ground_.notes.tell(note::numberIsNought);
     const bool isNone = command.from == From::TileMenu && Val(controls_.Text1->text()) < 0;
     return count && isNone ? 0 : count;
 }
@@ -233,7 +246,9 @@ void BoardCommands::registerBoardCommands()
     on(From::MainMenu, {1505, 1522},
        [this](const Command &command) { rooms_.arrangement.SpreadAllMorpheme(command.argument == 1); });
 
-    on(From::MainMenu, {102, 203, 302, 1502},
-       [this](const Command &command) { store_.filter().select(command.argument); });
+    on(From::MainMenu, {102, 203, 302, 1502}, [this](const Command &command) {
+        store_.filter().select(command.argument);
+        rooms_.morphemeLists.tellIfNone(command.argument);
+    });
     on(From::MainMenu, {1501}, [this](const Command &) { rooms_.morphemeLists.ToggleAllMorphemeLists(); });
 }

@@ -47,6 +47,8 @@ private:
     /// The number of tiles it is about, or nothing if the user has to mend the box first.
     std::optional<int> number(const Command &command, const TileKind &kind);
 
+    /// Whether a tile lies there; if not, a note says so.
+    bool lies(const Press &press);
     Ending editTile(const Press &press);
     Ending removeTile(const Press &press);
     Ending toggleCapitals(const Press &press);

@@ -7,6 +7,8 @@
 #include "platform/boxes.h"
 #include "platform/ground.h"
 #include "platform/log.h"
+#include "platform/note_texts.h"
+#include "platform/notes.h"
 #include "platform/options.h"
 #include "platform/play_state.h"
 #include "platform/procedure.h"
@@ -71,11 +73,14 @@ int CommandRouter::selectedFilter() const { return canvas_.store().filter().sele
 void CommandRouter::run(From from, int id, const Press &press, int itemIndex)
 {
     const Command *found = command::find(from, id);
-    if (found == nullptr || ((found->flags & command::NotInGame) != 0 && play_.GameActive()))
+    if (found == nullptr)
         return;
+    if ((found->flags & command::NotInGame) != 0 && play_.GameActive()) {
+        ground_.notes.tell(note::afterGame);
+        return;
+    }
     const Command &command = *found;
     const auto handler = handlers_.find({from, id});
-    const Handler &act = handler != handlers_.end() ? handler->second : otherwise_;
     const char *procedure = from == From::Key ? "Form_KeyPress" : "picCanvas_MouseDown";
     Procedure step{ground_.log, procedure, form, Procedure::Silent};
     if (itemIndex > 0)
@@ -84,14 +89,14 @@ void CommandRouter::run(From from, int id, const Press &press, int itemIndex)
     step([&] { log(command, procedure); });
     bool goesOn = false;
     step([&] { goesOn = hasWhatItNeeds(command) && isAgreed(command); });
-    if (!goesOn || !act)
+    if (!goesOn || handler == handlers_.end())
         return;
 
     const bool soundFirst = (command.flags & command::SoundFirst) != 0;
     if (soundFirst)
         step([&] { playSound(ground_, command.sound); });
     Ending ending = Ending::Whole; // a step that fails is no reason to leave out the rest
-    step([&] { ending = act(command, press); });
+    step([&] { ending = handler->second(command, press); });
     if (ending == Ending::None || ground_.gate.isClosing())
         return;
     const bool whole = ending == Ending::Whole;

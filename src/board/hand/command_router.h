@@ -47,8 +47,6 @@ public:
     /// One that needs to know nothing, and always ends whole. A number that is no key of the table is for the
     /// main menu.
     void onMenu(int id, std::function<void()> handler);
-    /// What is done for a command of the table that nobody has registered.
-    void otherwise(Handler handler) { otherwise_ = std::move(handler); }
     bool hasHandler(command::From from, int id) const { return handlers_.contains({from, id}); }
 
     /// Looks under the point: kind, text and place of the tile that the filter shows there.
@@ -71,5 +69,4 @@ private:
     Canvas &canvas_;
     BoardNews &news_;
     std::map<std::pair<command::From, int>, Handler> handlers_;
-    Handler otherwise_;
 };

@@ -2,9 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "board/hand/morpheme_lists.h"
 
+#include "board/tiles/tile_kind.h"
 #include "platform/clock.h"
 #include "platform/gate.h"
 #include "platform/ground.h"
+#include "platform/note_texts.h"
+#include "platform/notes.h"
 #include "platform/procedure.h"
 #include "platform/sounds.h"
 #include "widgets/gradient.h"
@@ -23,6 +26,9 @@ constexpr int allLists = 3;
 
 /// Pixels from a filter button's left edge to that of its list.
 constexpr std::array<int, 3> listShift{-11, -20, 8};
+
+/// In the order of the filters' indexes.
+constexpr std::array<const char16_t *, 3> listNames{u"Wortel", u"Präfix", u"Suffix"};
 
 } // namespace
 
@@ -73,16 +79,31 @@ void MorphemeLists::OptType_MouseDown(int index, Qt::MouseButton button)
         step([&] { hideAll(); });
         step([&] { emit menuRestoreWanted(); });
         step([&] { ground_.log.WriteLog(u"Event: User requested a menu-restore"_s); });
+        step([&] { tellIfNone(index); });
     } else if (index == allLists) {
         step([&] { ToggleAllMorphemeLists(); });
     } else {
         step([&] {
             list(index)->setVisible(list(index)->isHidden());
             placeOpen();
-            if (!list(index)->isHidden())
-                playOpened();
+            if (list(index)->isHidden())
+                return;
+            if (list(index)->store()->isEmpty())
+                ground_.notes.tell(note::listEmpty,
+                                   QString::fromUtf16(listNames.at(static_cast<std::size_t>(index))));
+            playOpened();
         });
     }
+}
+
+void MorphemeLists::tellIfNone(int index)
+{
+    if (controls_.OptType.at(static_cast<std::size_t>(index))->text() != u"0")
+        return;
+    if (index == allLists)
+        ground_.notes.tell(note::boardEmpty);
+    else
+        ground_.notes.tell(note::noTiles, QString::fromUtf16(kindAt(index).plural));
 }
 
 void MorphemeLists::ToggleAllMorphemeLists()

@@ -22,6 +22,8 @@ public:
     /// If any list is open all are closed, else all are opened.
     void ToggleAllMorphemeLists();
     void hideAll();
+    /// A filter was chosen: a note if the board has nothing that it shows.
+    void tellIfNone(int index);
 
 signals:
     /// A left press on a filter button: the menus are to be made anew.

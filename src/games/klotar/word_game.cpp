@@ -14,6 +14,8 @@
 #include "language/word_check.h"
 #include "platform/gate.h"
 #include "platform/ground.h"
+#include "platform/note_texts.h"
+#include "platform/notes.h"
 #include "platform/options.h"
 #include "platform/procedure.h"
 #include "platform/sounds.h"
@@ -110,8 +112,10 @@ void WordGame::Check3_MouseDown(Qt::MouseButton button)
 {
     Procedure step{ground_.log, "Check3_MouseDown", form};
     if (button == Qt::RightButton) {
-        if (play_.GameActive())
+        if (play_.GameActive()) {
+            ground_.notes.tell(note::afterGame);
             return;
+        }
         const ScoredGame game =
             rooms_.check.boxVowels() == Vowels::None ? ScoredGame::Klotar : ScoredGame::Tonarin;
         step([&] { rooms_.scores.DisplayHighScores(game); });
@@ -153,8 +157,10 @@ void WordGame::takeLevel()
 
 void WordGame::startVowelGame(Vowels vowels)
 {
-    if (play_.RetypeActive())
+    if (play_.RetypeActive()) {
+        ground_.notes.tell(note::afterRetype);
         return;
+    }
     for (PressButton *box : controls_.ChkVokal) {
         const QSignalBlocker quietly(box); // the game's start loads the board
         box->setChecked(box == controls_.ChkVokal[vowels == Vowels::Short ? 0 : 1]);
@@ -176,8 +182,10 @@ int WordGame::chosenLevel() const
 void WordGame::StartTheGame(int Level)
 {
     Procedure step{ground_.log, "StartTheGame", form};
-    if (play_.RetypeActive())
+    if (play_.RetypeActive()) {
+        ground_.notes.tell(note::afterRetype);
         return;
+    }
     const Vowels vowels = rooms_.check.boxVowels();
     const GameStage &stage = game_stages::first(Level);
     play_.setLevel(Level);

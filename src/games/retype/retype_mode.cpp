@@ -13,6 +13,8 @@
 #include "platform/files.h"
 #include "platform/gate.h"
 #include "platform/ground.h"
+#include "platform/note_texts.h"
+#include "platform/notes.h"
 #include "platform/procedure.h"
 #include "platform/product.h"
 #include "platform/text.h"
@@ -115,8 +117,8 @@ void RetypeMode::rightPress(bool shift)
 {
     rooms_.check.readVowelBoxes();
     if (play_.checkedVowels() != Vowels::None)
-        return;
-    if (play_.RetypeActive())
+        ground_.notes.tell(note::afterVowels);
+    else if (play_.RetypeActive())
         leave();
     else if (Val(controls_.OptType[0]->text()) == 0)
         notice(u"Es sind keine Wortele auf dem Bildschirm"_s);
@@ -178,11 +180,14 @@ void RetypeMode::colourWords(const QColor &colour)
 void RetypeMode::StartTheRetyping(WordSource words)
 {
     Procedure step(ground_.log, "StartTheRetyping", "frmMain");
+    if (play_.GameActive())
+        ground_.notes.tell(note::afterGame);
     if (state_ != State::Rest || play_.GameActive())
         return;
     running_ = &retypeSource(words);
     if (running_->origin == RetypeSource::WordList && wordsOf(*running_).isEmpty()) {
         leave();
+        ground_.notes.tell(note::wordListEmpty);
         return;
     }
     bool runs = false;

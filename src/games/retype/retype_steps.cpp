@@ -15,6 +15,8 @@
 #include "platform/boxes.h"
 #include "platform/clock.h"
 #include "platform/ground.h"
+#include "platform/note_texts.h"
+#include "platform/notes.h"
 #include "platform/options.h"
 #include "platform/procedure.h"
 #include "platform/sounds.h"
@@ -40,7 +42,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 using C = MainControls;
-
 
 /// While the strip runs: the board is switched to typing.
 constexpr SheetRow typingSheet[] = {
@@ -90,7 +91,10 @@ bool RetypeMode::prepare(const RetypeSource &source)
         controls_.Scroller->Clear();
         return false;
     }
-    return controls_.Scroller->ListCount() > 0;
+    const bool any = controls_.Scroller->ListCount() > 0;
+    if (!any && source.origin == RetypeSource::WordList)
+        ground_.notes.tell(note::noKnownWord);
+    return any;
 }
 
 /// Nonsense words that were made before a cancel are used, unless it came from the mode's own button: the

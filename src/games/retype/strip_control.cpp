@@ -7,15 +7,23 @@
 #include "platform/options.h"
 #include "platform/procedure.h"
 #include "platform/text.h"
+#include "widgets/gradient.h"
 #include "widgets/main_controls.h"
 #include "widgets/msg_scroller.h"
 
 #include <QMouseEvent>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int gapBlanks = 36;
 constexpr int tickInterval = 125;
+
+// Letters that the last row of a class reads: a share of the board's height, within these pixels.
+constexpr int boardToLetters = 20;
+constexpr int smallestLetters = 24;
+constexpr int largestLetters = 48;
 
 } // namespace
 
@@ -47,8 +55,45 @@ void StripControl::SetUpMsgScroller()
 void StripControl::PlaceTheMsgScroller()
 {
     Procedure step(ground_.log, "PlaceTheMsgScroller", "frmMain");
+    step([&] { takeLetters(); });
+    // The place is that of a strip of the usual size; from there it takes what the board has.
+    controls_.Scroller->resize(controls_.Scroller->sizeHint());
     step([&] { placeOverBoard(controls_, ground_.options, ground_.rnd, *controls_.Scroller); });
+    movedByHand_ = false;
+    step([&] { fitToBoard(); });
     controls_.Scroller->raise();
+}
+
+/// Letters that move by parts of a pixel would tremble if each were pulled to whole ones.
+void StripControl::takeLetters()
+{
+    QFont letters = controls_.Scroller->font();
+    letters.setPixelSize(
+        std::clamp(controls_.Picture1->y() / boardToLetters, smallestLetters, largestLetters));
+    letters.setHintingPreference(QFont::PreferNoHinting);
+    if (letters != controls_.Scroller->font())
+        controls_.Scroller->setFont(letters);
+}
+
+/// In the middle to both sides, otherwise from the strip's left edge to the board's right one. The word field
+/// in the band stays free.
+void StripControl::fitToBoard()
+{
+    MsgScroller &strip = *controls_.Scroller;
+    const int board = controls_.form->width();
+    const int left = ground_.options.isOn(Setting::ScrollerMiddlePos) ? 0 : strip.x();
+    const int top = std::max(0, std::min(strip.y(), controls_.Picture1->y() - strip.height()));
+    strip.setGeometry(left, top, std::max(strip.sizeHint().width(), board - left), strip.height());
+}
+
+void StripControl::boardResized()
+{
+    if (controls_.Scroller->isHidden() || movedByHand_)
+        return;
+    if (ground_.options.isOn(Setting::ScrollerRndPos)) // chance has said where, once
+        fitToBoard();
+    else
+        PlaceTheMsgScroller();
 }
 
 void StripControl::takeWords(const QStringList &words, bool fillEmptyStrip)
@@ -82,8 +127,10 @@ void StripControl::MsgScroller_MouseDown(QMouseEvent *event)
 void StripControl::MsgScroller_MouseMove(QMouseEvent *event)
 {
     if (ScrollerMoving_ && event->buttons().testFlag(Qt::LeftButton) &&
-        event->modifiers().testFlag(Qt::ShiftModifier))
+        event->modifiers().testFlag(Qt::ShiftModifier)) {
+        movedByHand_ = true;
         controls_.Scroller->move(controls_.Scroller->pos() + event->pos() - movedFrom_);
+    }
 }
 
 void StripControl::MsgScroller_MouseUp() { ScrollerMoving_ = false; }

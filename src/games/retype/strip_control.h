@@ -23,8 +23,11 @@ public:
 
     /// The window's own values, with the settings for speed and pan; also after the options were applied.
     void SetUpMsgScroller();
-    /// Puts the strip where the options want it.
+    /// Puts the strip where the options want it, as wide as the board lets it there, with letters that a
+    /// class reads.
     void PlaceTheMsgScroller();
+    /// The window has another size: the strip takes what there is now, unless a hand has moved it.
+    void boardResized();
     /// The word list was edited by hand: the strip shows `words` instead of its own; an empty strip takes
     /// them only if `fillEmptyStrip`.
     void takeWords(const QStringList &words, bool fillEmptyStrip);
@@ -37,9 +40,13 @@ public:
     void MsgScroller_MouseUp();
 
 private:
+    void takeLetters();
+    void fitToBoard();
+
     Ground &ground_;
     const MainControls &controls_;
     QString LastScrollerWord_;
     bool ScrollerMoving_ = false;
+    bool movedByHand_ = false;
     QPoint movedFrom_; ///< the pointer in the strip's pixels
 };

@@ -14,6 +14,8 @@
 #include "platform/files.h"
 #include "platform/gate.h"
 #include "platform/ground.h"
+#include "platform/note_texts.h"
+#include "platform/notes.h"
 #include "platform/options.h"
 #include "platform/procedure.h"
 #include "platform/product.h"
@@ -56,8 +58,10 @@ void VowelBoard::ChkVokal_MouseDown(int Index, Qt::MouseButton button)
     Procedure step{ground_.log, "ChkVokal_MouseDown", form};
     PressButton *const box = controls_.ChkVokal[static_cast<std::size_t>(Index)];
     if (button == Qt::RightButton) {
-        if (box->isChecked())
+        if (box->isChecked()) {
+            ground_.notes.tell(note::afterVowels);
             return;
+        }
         step([&] {
             if (const Gate::Passage open = ground_.gate.openBox())
                 FrmPlayVokal(ground_, controls_.form).exec();
@@ -170,6 +174,9 @@ void VowelBoard::makeRoom()
 void VowelBoard::PlayTheVokal(const QString &Word)
 {
     const vowel_stems::Row *row = vowel_stems::find(Word);
-    if (row != nullptr && ground_.options.isOn(Setting::SoundOnActions))
-        ground_.sound.playFile(vowel_stems::soundFile(ground_.AppFolder, QString::fromUtf16(row->file)));
+    if (!ground_.options.isOn(Setting::SoundOnActions))
+        return;
+    if (row == nullptr ||
+        !ground_.sound.playFile(vowel_stems::soundFile(ground_.AppFolder, QString::fromUtf16(row->file))))
+        ground_.notes.tell(note::noSound, Word);
 }

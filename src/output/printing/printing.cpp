@@ -14,6 +14,8 @@
 #include "platform/file_dialogs.h"
 #include "platform/gate.h"
 #include "platform/ground.h"
+#include "platform/note_texts.h"
+#include "platform/notes.h"
 #include "platform/options.h"
 #include "platform/procedure.h"
 #include "platform/product.h"
@@ -145,8 +147,10 @@ void Printing::print(const char *procedure, const PrintJob &job, const Painting 
         step([&] { tellFault(job, reason); });
         return;
     }
-    if (job.pdfFile.isEmpty())
+    if (job.pdfFile.isEmpty()) {
+        ground_.notes.tell(note::printed, job.title);
         return;
+    }
     step([&] {
         ground_.store.SaveSetting(u"Path"_s, u"Export"_s, job.pdfFile.left(job.pdfFile.lastIndexOf(u'\\')));
     });

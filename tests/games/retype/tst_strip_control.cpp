@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/registry.h"
 #include "support/test_house.h"
+#include "widgets/gradient.h"
 
 #include <QtTest>
 
@@ -42,21 +43,50 @@ private slots:
     void places()
     {
         Desk desk;
-        desk.strip.resize(250, 30);
-        for (const auto &[option, place] : {std::pair{Setting::ScrollerMiddlePos, QPoint(375, 247)},
-                                            {Setting::ScrollerLeftUpPos, QPoint(0, 0)}}) {
+        const int height = desk.strip.sizeHint().height();
+        for (const auto &[option, place] :
+             {std::pair{Setting::ScrollerMiddlePos, QPoint(0, 262 - height / 2)},
+              {Setting::ScrollerLeftUpPos, QPoint(0, 0)}}) {
             desk.t.options.setOption(option);
             desk.control.PlaceTheMsgScroller();
             QCOMPARE(desk.strip.pos(), place);
+            QCOMPARE(desk.strip.width(), 1000);
         }
         desk.t.options.setOption(Setting::ScrollerRndPos);
         QSet<int> seen;
         for (int round = 0; round < 1000; ++round) {
             desk.control.PlaceTheMsgScroller();
-            QVERIFY(QRect(0, 80, 1000, 620).contains(desk.strip.geometry()));
+            QVERIFY(QRect(0, 80, 1000, desk.controls.Picture1->y() - 80).contains(desk.strip.geometry()));
+            QCOMPARE(desk.strip.geometry().right(), 999);
             seen.insert(desk.strip.x());
         }
         QVERIFY(seen.size() > 200);
+    }
+
+    /// From the smallest laptop to the whiteboard: letters to be read, room for them, never over the word
+    /// field; what a hand has moved stays.
+    void fitsTheBoard()
+    {
+        Desk desk;
+        desk.t.options.setOption(Setting::ScrollerRndPos);
+        int before = 0;
+        for (const QSize &size : {QSize(640, 420), QSize(853, 480), QSize(1280, 800), QSize(1920, 1080)}) {
+            desk.form.resize(size);
+            desk.form.show();
+            desk.control.PlaceTheMsgScroller();
+            const int letters = QFontInfo(desk.strip.font()).pixelSize();
+            QVERIFY(letters >= 24 && letters >= before && letters < desk.strip.height());
+            QVERIFY(desk.strip.geometry().bottom() < desk.controls.Picture1->y());
+            before = letters;
+        }
+        QVERIFY(before >= 40);
+        desk.form.resize(800, 600); // while words run
+        QCOMPARE(desk.strip.geometry().right(), 799);
+        QTest::mousePress(&desk.strip, Qt::LeftButton, Qt::ShiftModifier, {20, 10});
+        desk.drag({25, 12}, Qt::ShiftModifier);
+        const QRect moved = desk.strip.geometry();
+        desk.form.resize(900, 700);
+        QCOMPARE(desk.strip.geometry(), moved);
     }
 
     void takesItsValuesFromTheOptions()

@@ -1,0 +1,159 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "widgets/short_note.h"
+
+#include "widgets/colour.h"
+
+#include <QEvent>
+#include <QPainter>
+
+#include <algorithm>
+#include <optional>
+
+namespace {
+
+// Pixels:
+constexpr int letters = 16; ///< read from a whiteboard, across a room
+constexpr int beside = 14;  ///< of the words
+constexpr int over = 6;     ///< and under them
+constexpr int gap = 6;      ///< to what stands beside or under the note
+constexpr int narrowest = 260;
+
+struct Span
+{
+    int left, right; ///< the first pixel, and the one behind the last
+    int width() const { return right - left; }
+};
+
+/// The widest part of `row` that none of `taken` reaches into.
+Span widestFree(const QRect &row, QList<QRect> taken)
+{
+    std::sort(taken.begin(), taken.end(), [](const QRect &a, const QRect &b) { return a.left() < b.left(); });
+    Span widest{row.left(), row.left()};
+    int left = row.left();
+    const auto endAt = [&](int right) {
+        if (right - left > widest.width())
+            widest = {left, right};
+    };
+    for (const QRect &rect : taken) {
+        if (!rect.intersects(row))
+            continue;
+        endAt(std::min(rect.left() - gap, row.right() + 1));
+        left = std::max(left, rect.right() + 1 + gap);
+    }
+    endAt(row.right() + 1);
+    return widest;
+}
+
+/// The row over what reaches into `row`, if it still lies below `top`.
+std::optional<QRect> rowAbove(const QRect &row, const QList<QRect> &taken, int top)
+{
+    int foot = row.bottom() + 1;
+    for (const QRect &rect : taken)
+        if (rect.intersects(row))
+            foot = std::min(foot, rect.top() - gap);
+    QRect above = row;
+    above.moveBottom(foot - 1);
+    return above.top() > top && above != row ? std::optional(above) : std::nullopt;
+}
+
+} // namespace
+
+ShortNote::ShortNote(const QWidget &board, QWidget &band)
+    : QWidget(band.parentWidget())
+    , board_(board)
+    , band_(band)
+{
+    setObjectName(QStringLiteral("ShortNote"));
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setFocusPolicy(Qt::NoFocus);
+    QFont font = this->font();
+    font.setPixelSize(letters);
+    font.setBold(true);
+    setFont(font);
+    timer_.setSingleShot(true);
+    timer_.setInterval(staysFor);
+    connect(&timer_, &QTimer::timeout, this, [this] {
+        text_.clear();
+        hide();
+    });
+    hide();
+}
+
+void ShortNote::tell(const QString &text)
+{
+    text_ = text.simplified();
+    setVisible(!text_.isEmpty());
+    if (text_.isEmpty())
+        return;
+    // What opens, closes or grows beside it makes it look for its place again; the band moves with the
+    // window.
+    for (QObject *sibling : parentWidget()->children())
+        if (sibling->isWidgetType() && sibling != this)
+            sibling->installEventFilter(this);
+    place();
+    raise();
+    if (isVisible())
+        timer_.start();
+}
+
+void ShortNote::showEvent(QShowEvent *) { timer_.start(); }
+
+bool ShortNote::eventFilter(QObject *watched, QEvent *event)
+{
+    const auto type = event->type();
+    const bool isBand = watched == &band_;
+    if (!isHidden() && (type == QEvent::Show || type == QEvent::Hide || type == QEvent::Resize ||
+                        (isBand && type == QEvent::Move)))
+        place();
+    return QWidget::eventFilter(watched, event);
+}
+
+/// What a hand passes through (a tile on its way, another note) may be covered, and so may the board with all
+/// that covers the whole of it.
+QList<QRect> ShortNote::covered() const
+{
+    QList<QRect> taken;
+    for (const QObject *child : parentWidget()->children()) {
+        const auto *widget = qobject_cast<const QWidget *>(child);
+        if (widget == nullptr || widget == &board_ || widget == &band_ || widget->isHidden() ||
+            widget->isWindow() || widget->testAttribute(Qt::WA_TransparentForMouseEvents))
+            continue;
+        if (widget->width() < board_.width() || 2 * widget->height() < board_.height())
+            taken << widget->geometry();
+    }
+    return taken;
+}
+
+void ShortNote::place()
+{
+    const int wanted = fontMetrics().horizontalAdvance(text_) + 2 * beside + 2;
+    const int height = fontMetrics().height() + 2 * over;
+    const QRect onBand(gap, band_.y() - gap - height, parentWidget()->width() - 2 * gap, height);
+    const QList<QRect> taken = covered();
+    QRect row = onBand;
+    Span free = widestFree(row, taken);
+    while (free.width() < std::min(wanted, narrowest)) {
+        const std::optional<QRect> above = rowAbove(row, taken, board_.y());
+        row = above.value_or(onBand);
+        free = above ? widestFree(row, taken) : Span{onBand.left(), onBand.right() + 1};
+        if (!above)
+            break;
+    }
+    const int width = std::min(wanted, free.width());
+    const int middle = (parentWidget()->width() - width) / 2;
+    setGeometry(std::clamp(middle, free.left, free.right - width), row.top(), width, height);
+    update();
+}
+
+/// Light on dark with a light rim: seen on white, on tiles and on any picture.
+void ShortNote::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(Qt::white, 2));
+    painter.setBrush(paint::ink);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 8, 8);
+    painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine,
+                     fontMetrics().elidedText(text_, Qt::ElideRight, width() - 2 * beside));
+}
