@@ -123,6 +123,13 @@ std::optional<QString> ListLoader::loadAtStart()
     return fatal;
 }
 
+void ListLoader::takeAsLoaded()
+{
+    loadedAtStart_ = true;
+    langVokalFile_ = vowelFile(Vowels::Long);
+    kurzVokalFile_ = vowelFile(Vowels::Short);
+}
+
 void ListLoader::FillWortelList(QString &path)
 {
     Procedure step{ground_.log, "FillWortelList", "frmMain"};

@@ -205,6 +205,8 @@ bool Tips::IsSideWindowOpen()
     });
 }
 
+bool Tips::isTipDue() const { return TipTimer_->isActive(); }
+
 void Tips::startTipTimer()
 {
     if (ground_.options.isOn(Setting::UseLexTip))

@@ -36,6 +36,7 @@ public:
     void SaveObjects(const QString &path = {});
     void RestoreObjects(const QString &path = {});
 
+    void makeCurrent(const QString &path);
     /// The session last opened or saved.
     QString CurrentSessionFile() const { return CurrentSessionFile_; }
     /// The name that its web page gets by default.
@@ -44,6 +45,8 @@ public:
 signals:
     /// The tiles of a session are about to take the board.
     void boardOpens();
+    /// The tiles of a session lie on the board, whole, and every box about it is closed.
+    void restored();
     /// A session has brought its own stem list.
     void listsChosen();
 
@@ -52,7 +55,6 @@ private:
     void tellSaved(const QString &path);
     bool readSession(const QString &path);
     void loadLists(const QString &name);
-    void makeCurrent(const QString &path);
 
     Ground &ground_;
     const MainControls &controls_;

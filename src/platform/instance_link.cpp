@@ -52,6 +52,8 @@ QString InstanceLink::defaultAddress()
     return folder + u"/wortel-meister-"_s + QString::fromLatin1(key);
 }
 
+void InstanceLink::rest() { server_.close(); }
+
 bool InstanceLink::listen()
 {
     if (!first_)

@@ -34,6 +34,9 @@ public:
     bool isFirst() const { return first_; }
     /// Lets later starts connect. To be called by the first instance; false if the socket cannot be made.
     bool listen();
+    /// Lets nobody connect until the next `listen`, and stays the first: the program's event loop ends, and
+    /// another begins.
+    void rest();
     /// Hands `text` over to the first instance, which may still be starting. False if that failed within
     /// `timeoutMs`.
     bool send(const QString &text, int timeoutMs = 3000) const;

@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/gate.h"
 #include "platform/play_state.h"
 #include "platform/word_lists.h"
 #include "shell/handbook/help.h"
+#include "shell/size_change.h"
 #include "widgets/control_sheet.h"
 #include "widgets/main_controls.h"
 #include "widgets/main_work_view.h"
@@ -14,8 +16,10 @@
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 
 class PressButton;
+struct Continuation;
 struct Ground;
 struct Rooms;
 
@@ -25,6 +29,7 @@ struct StartFacts
     QString CommandLine;
     int ScreenResolutionCode = 1;
     bool RecoverOnStart = false;
+    int SizePercent = 100; ///< the size that the program runs at
 };
 
 /// The main window and hub: it makes the controls, makes the rooms, wires them, and forwards events. What a
@@ -45,6 +50,11 @@ public:
     /// Reads the settings and fills the first board. False if the program has to end: a word file is missing,
     /// and the user has been told.
     bool Form_Load();
+    /// The same for a window that takes the place of another: it shows what that has shown.
+    void goOn(const Continuation &kept);
+    /// Ends the window so that another can take its place: no goodbye, and the backup stays. From now on
+    /// nobody is let in.
+    void leave();
     /// Text that a second start has handed over, the window's `HiddenText`: each piece between blanks is
     /// opened as a session.
     void HiddenText_Change(const QString &text);
@@ -55,6 +65,10 @@ public:
     PlayState &play() { return play_; }
     WordLists &lists() { return lists_; }
     ControlSheet &sheet() { return sheet_; }
+    Ground &ground() { return ground_; }
+    SizeChange &size() { return size_; }
+    /// The handbook's window while it is open.
+    HelpWindow *handbook() const { return help_.window(); }
 
     // What menus and tools of the window itself do.
     void showOptions();
@@ -64,6 +78,8 @@ public:
 
 signals:
     void unloaded();
+    /// The window is to be made anew at another size; nothing stands in the way.
+    void sizeChangeDue();
     /// Something that the menus' states hang on has changed.
     void menusStale();
 
@@ -86,7 +102,9 @@ private:
     void closeBoxes();
     void tellWhyAtRest(const QWidget *tool);
     void UpdateCaption();
+    void loadForm();
     void loadKept();
+    void offerToFit();
     void wire();
     void wireBoard();
     void wireWords();
@@ -107,10 +125,14 @@ private:
     ShortNote *note_;
     std::unique_ptr<Rooms> rooms_;
     Help help_;
+    SizeChange size_;
+    std::unique_ptr<Continuation> opensAgain_; ///< once the window is seen
+    std::optional<Gate::Passage> left_;
     QString hiddenText_;
     bool cmdLineReady_ = false;
     bool activated_ = false;
     bool firstBoardReplaced_ = false;
     bool activationWaits_ = false;
+    bool boardOpened_ = false; ///< before the window was seen
     bool ended_ = false;
 };

@@ -130,12 +130,13 @@ void BoardPointer::picCanvas_MouseDown(Qt::MouseButton button, Qt::KeyboardModif
 
 void BoardPointer::leftPress(Qt::KeyboardModifiers shift, const QPoint &point)
 {
-    tileMoved_ = rooms_.canvas.CanvasSelectWortel(point.x(), point.y());
+    const QPoint spot = rooms_.canvas.view().toBoard(point);
+    tileMoved_ = rooms_.canvas.CanvasSelectWortel(spot.x(), spot.y());
     if (tileMoved_)
         return;
     store_.setCurrent(nullptr);
     if (shift != Qt::NoModifier)
-        insertByShift(shift, point);
+        insertByShift(shift, spot);
 }
 
 void BoardPointer::insertByShift(Qt::KeyboardModifiers shift, const QPoint &point)
@@ -154,7 +155,7 @@ void BoardPointer::insertByShift(Qt::KeyboardModifiers shift, const QPoint &poin
 
 void BoardPointer::rightPress(Qt::KeyboardModifiers shift, const QPoint &point)
 {
-    const Press press = rooms_.router.pressAt(point);
+    const Press press = rooms_.router.pressAt(rooms_.canvas.view().toBoard(point));
     if (shift == Qt::NoModifier) {
         showMenu(press);
     } else if (shift == Qt::ShiftModifier) {
@@ -169,7 +170,8 @@ void BoardPointer::rightPress(Qt::KeyboardModifiers shift, const QPoint &point)
 void BoardPointer::showMenu(const Press &press)
 {
     const MenuName name = menuOf(press.kind);
-    const int index = rooms_.popup.ShowPopupMenu(name, controls_.picCanvas->mapToGlobal(press.point));
+    const int index = rooms_.popup.ShowPopupMenu(
+        name, controls_.picCanvas->mapToGlobal(rooms_.canvas.view().toCanvas(press.point)));
     if (index <= 0 || ground_.gate.isClosing())
         return;
     const int id = rooms_.popup.model().ItemKey(name, index);
@@ -199,8 +201,9 @@ void BoardPointer::picCanvas_MouseMove(Qt::MouseButtons buttons, const QPoint &p
     if (ground_.options.isOn(Setting::MoveableInFilter) && !store_.filter().shows(tile->BGColor))
         return;
     held.move(x, y);
-    tile->setXLeft(held.x());
-    tile->setYTop(held.y());
+    const QPoint place = rooms_.canvas.view().toBoard(held.pos());
+    tile->setXLeft(place.x());
+    tile->setYTop(place.y());
 }
 
 // Letting go

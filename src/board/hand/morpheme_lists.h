@@ -22,6 +22,8 @@ public:
     /// If any list is open all are closed, else all are opened.
     void ToggleAllMorphemeLists();
     void hideAll();
+    /// The list of `index` (0 to 2) lies over the board, as if it had been open all the time.
+    void show(int index);
     /// A filter was chosen: a note if the board has nothing that it shows.
     void tellIfNone(int index);
 

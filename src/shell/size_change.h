@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QObject>
+#include <QSize>
+#include <QTimer>
+
+class CommandRouter;
+class PlayState;
+class QKeyEvent;
+struct Ground;
+
+/// The wish for another size of the program: by Strg++, Strg+- and Strg+0 in any window, by the menu, by the
+/// options. It is kept in the settings, and takes effect as soon as nothing runs, is played or stands open:
+/// then `due` is told, and the program starts anew within itself. What has to wait says so in a sentence.
+class SizeChange : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// How long the hand may rest between two steps before they take effect, in milliseconds.
+    static constexpr int rest = 350;
+
+    /// `percent` is the size that the program has now.
+    SizeChange(Ground &ground, const PlayState &play, int percent, QObject *parent = nullptr);
+    void registerCommands(CommandRouter &router);
+
+    void larger();
+    void smaller();
+    void automatic();
+    /// The options were applied.
+    void takeSetting();
+    /// The size that the program is to have, in percent.
+    int wanted() const { return wanted_; }
+
+    /// The primary screen in pixels as they would be at 100 %, when the program runs at `percent`.
+    static QSize screenAtFullSize(int percent);
+
+signals:
+    /// The gate is free, nothing is played: the window may be made anew.
+    void due();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    bool isMine(const QKeyEvent &event);
+    void want(int wish);
+    void settle();
+    void act();
+    void tellWait();
+
+    Ground &ground_;
+    const PlayState &play_;
+    QTimer timer_;
+    int percent_;
+    int wish_; ///< as it is kept
+    int wanted_;
+    bool queued_ = false;
+    bool told_ = false; ///< that this wish has to wait
+};
