@@ -152,7 +152,7 @@ void ReportWindow::layOutParts()
     head->addWidget(Image1_, 0, Qt::AlignRight | Qt::AlignTop);
     auto *lines = new QVBoxLayout;
     lines->setSpacing(lineGap);
-    for (QLabel *line : {lblAlert_, Label2_, Label3_})
+    for (QLabel *line : std::initializer_list<QLabel *>{lblAlert_, Label2_, Label3_})
         lines->addWidget(line);
     auto *body = new QHBoxLayout;
     body->setSpacing(margin);

@@ -61,7 +61,7 @@ frmMain::frmMain(Ground &ground, const StartFacts &facts)
     , status_(controls_.GameProgress)
     , note_(new ShortNote(*controls_.picCanvas, *controls_.Picture1))
     , help_(ground.AppFolder, this)
-    , size_(ground, play_, facts.SizePercent)
+    , size_(ground, play_, facts.SizePercent, facts.Screen)
 {
     setObjectName(u"frmMain"_s);
     setWindowTitle(product::name);

@@ -29,7 +29,8 @@ struct StartFacts
     QString CommandLine;
     int ScreenResolutionCode = 1;
     bool RecoverOnStart = false;
-    int SizePercent = 100; ///< the size that the program runs at
+    int SizePercent = 100;   ///< the size that the program runs at
+    QSize Screen{1366, 768}; ///< the primary one, in pixels as they are at 100 %
 };
 
 /// The main window and hub: it makes the controls, makes the rooms, wires them, and forwards events. What a
@@ -66,7 +67,7 @@ public:
     WordLists &lists() { return lists_; }
     ControlSheet &sheet() { return sheet_; }
     Ground &ground() { return ground_; }
-    SizeChange &size() { return size_; }
+    SizeChange &sizeChange() { return size_; }
     /// The handbook's window while it is open.
     HelpWindow *handbook() const { return help_.window(); }
 

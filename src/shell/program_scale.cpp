@@ -3,9 +3,9 @@
 #include "shell/program_scale.h"
 
 #include "platform/program_size.h"
-#include "shell/size_change.h"
 
 #include <QApplication>
+#include <QScreen>
 
 #include <cmath>
 
@@ -29,12 +29,18 @@ std::unique_ptr<QApplication> ProgramScale::makeApplication(int &argc, char **ar
     }
     const int guess = wish == program_size::automatic ? program_size::smallest : wish;
     std::unique_ptr<QApplication> application = make(argc, argv, guess);
-    const int percent = program_size::onScreen(wish, SizeChange::screenAtFullSize(guess));
+    const int percent = program_size::onScreen(wish, screen());
     if (percent != guess) {
         application.reset();
         application = make(argc, argv, percent);
     }
     return application;
+}
+
+QSize ProgramScale::screen() const
+{
+    const QScreen *primary = QGuiApplication::primaryScreen();
+    return primary == nullptr ? QSize() : primary->size() * percent_ / 100;
 }
 
 std::unique_ptr<QApplication> ProgramScale::make(int &argc, char **argv, int percent)

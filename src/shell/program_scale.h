@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QSize>
 
 #include <memory>
 
@@ -20,6 +21,8 @@ public:
     std::unique_ptr<QApplication> makeApplication(int &argc, char **argv, int wish);
     /// The size of the application object made last, in percent.
     int percent() const { return percent_; }
+    /// The primary screen, in pixels as they are at 100 %.
+    QSize screen() const;
 
 private:
     std::unique_ptr<QApplication> make(int &argc, char **argv, int percent);

@@ -15,16 +15,16 @@
 
 #include <QApplication>
 #include <QKeyEvent>
-#include <QScreen>
 #include <QToolTip>
 
 #include <utility>
 
-SizeChange::SizeChange(Ground &ground, const PlayState &play, int percent, QObject *parent)
+SizeChange::SizeChange(Ground &ground, const PlayState &play, int percent, QSize screen, QObject *parent)
     : QObject(parent)
     , ground_(ground)
     , play_(play)
     , percent_(percent)
+    , screen_(screen)
     , wish_(program_size::wishOf(ground.options.stored(Setting::ProgramSize)))
     , wanted_(percent)
 {
@@ -40,12 +40,6 @@ void SizeChange::registerCommands(CommandRouter &router)
     router.onMenu(1510, [this] { larger(); });
     router.onMenu(1511, [this] { smaller(); });
     router.onMenu(1512, [this] { automatic(); });
-}
-
-QSize SizeChange::screenAtFullSize(int percent)
-{
-    const QScreen *screen = QGuiApplication::primaryScreen();
-    return screen == nullptr ? QSize() : screen->size() * percent / 100;
 }
 
 bool SizeChange::eventFilter(QObject *watched, QEvent *event)
@@ -79,7 +73,7 @@ bool SizeChange::isMine(const QKeyEvent &event)
 
 void SizeChange::larger()
 {
-    const int next = program_size::larger(wanted_, screenAtFullSize(percent_));
+    const int next = program_size::larger(wanted_, screen_);
     next > wanted_ ? want(next) : ground_.notes.tell(note::noLarger);
 }
 
@@ -97,7 +91,7 @@ void SizeChange::want(int wish)
     Procedure step{ground_.log, "ProgramSize", "frmMain", Procedure::Silent};
     step([&] { ground_.options.keepText(Setting::ProgramSize, program_size::textOf(wish)); });
     wish_ = wish;
-    wanted_ = program_size::onScreen(wish, screenAtFullSize(percent_));
+    wanted_ = program_size::onScreen(wish, screen_);
     ground_.notes.tell(note::sizeIs, program_size::textOf(wanted_));
     told_ = false;
     timer_.start();
@@ -109,7 +103,7 @@ void SizeChange::takeSetting()
     if (wish == wish_)
         return; // what the environment or another screen has made of it stays
     wish_ = wish;
-    wanted_ = program_size::onScreen(wish, screenAtFullSize(percent_));
+    wanted_ = program_size::onScreen(wish, screen_);
     told_ = false;
     timer_.start();
 }

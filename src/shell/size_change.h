@@ -22,8 +22,9 @@ public:
     /// How long the hand may rest between two steps before they take effect, in milliseconds.
     static constexpr int rest = 350;
 
-    /// `percent` is the size that the program has now.
-    SizeChange(Ground &ground, const PlayState &play, int percent, QObject *parent = nullptr);
+    /// `percent` is the size that the program has now, `screen` the primary one in pixels as they are at
+    /// 100 %.
+    SizeChange(Ground &ground, const PlayState &play, int percent, QSize screen, QObject *parent = nullptr);
     void registerCommands(CommandRouter &router);
 
     void larger();
@@ -33,9 +34,6 @@ public:
     void takeSetting();
     /// The size that the program is to have, in percent.
     int wanted() const { return wanted_; }
-
-    /// The primary screen in pixels as they would be at 100 %, when the program runs at `percent`.
-    static QSize screenAtFullSize(int percent);
 
 signals:
     /// The gate is free, nothing is played: the window may be made anew.
@@ -55,6 +53,7 @@ private:
     const PlayState &play_;
     QTimer timer_;
     int percent_;
+    QSize screen_;
     int wish_; ///< as it is kept
     int wanted_;
     bool queued_ = false;

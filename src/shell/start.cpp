@@ -189,7 +189,8 @@ bool begin(Ground &ground, InstanceLink &link, StartFacts &facts)
 
 /// One life of the application object: the whole program, or from one change of its size to the next. `link`
 /// is made by the first and kept for all.
-int runRound(QApplication &application, int percent, std::unique_ptr<InstanceLink> &link, Kept &kept)
+int runRound(QApplication &application, const ProgramScale &scale, std::unique_ptr<InstanceLink> &link,
+             Kept &kept)
 {
     initResources();
     dressApplication(application);
@@ -197,7 +198,8 @@ int runRound(QApplication &application, int percent, std::unique_ptr<InstanceLin
     Ground &ground = real.ground();
 
     StartFacts facts;
-    facts.SizePercent = percent;
+    facts.SizePercent = scale.percent();
+    facts.Screen = scale.screen();
     if (link == nullptr)
         link = std::make_unique<InstanceLink>();
     if (kept == nullptr && !begin(ground, *link, facts))
@@ -226,7 +228,7 @@ int startWortel(int argc, char *argv[])
     int code = 0;
     do {
         const std::unique_ptr<QApplication> application = scale.makeApplication(argc, argv, storedSize());
-        code = runRound(*application, scale.percent(), link, kept);
+        code = runRound(*application, scale, link, kept);
     } while (kept != nullptr);
     return code;
 }

@@ -9,6 +9,7 @@ wortel_test(platform
         tst_instance_link.cpp
         tst_options.cpp
         tst_procedure.cpp
+        tst_program_size.cpp
         tst_settings_file.cpp
         tst_system_info.cpp
         tst_text.cpp

@@ -3,10 +3,12 @@
 wortel_test(shell
     SOURCES
         handbook/tst_help.cpp
+        tst_board_fit.cpp
         tst_main_window.cpp
         tst_notes.cpp
         tst_one_work.cpp
         tst_sheets.cpp
+        tst_size_change.cpp
         tst_start_rules.cpp
         tst_start_steps.cpp
         tst_wiring.cpp
