@@ -101,6 +101,7 @@ private:
     void Form_QueryUnload();
     void Form_Unload();
     void closeBoxes();
+    void showNote(const QString &text);
     void tellWhyAtRest(const QWidget *tool);
     void UpdateCaption();
     void loadForm();

@@ -19,7 +19,7 @@
 #include "widgets/press_button.h"
 #include "widgets/store_list.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 
@@ -49,7 +49,7 @@ template <typename Left, typename Right> void frmMain::onPress(PressButton *tool
 
 void frmMain::wire()
 {
-    connect(&ground_.notes, &Notes::told, note_, &ShortNote::tell);
+    connect(&ground_.notes, &Notes::told, this, &frmMain::showNote);
     wireBoard();
     wireWords();
     wireLists();
@@ -230,6 +230,19 @@ void frmMain::showAbout()
 }
 
 void frmMain::showHelp() { help_.open(); }
+
+/// In the window that has the hand: one that lies over this one would cover the note.
+void frmMain::showNote(const QString &text)
+{
+    constexpr int narrowest = 500; // a box is too small for it
+    QWidget *const above = QApplication::activeModalWidget();
+    if (above == nullptr || above->width() < narrowest) {
+        note_->tell(text);
+        return;
+    }
+    auto *note = above->findChild<ShortNote *>({}, Qt::FindDirectChildrenOnly);
+    (note != nullptr ? note : new ShortNote(above))->tell(text);
+}
 
 /// A tool that rests, greyed or not, hears of no press.
 void frmMain::tellWhyAtRest(const QWidget *tool)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "widgets/short_note.h"
 
+#include "widgets/announce.h"
 #include "widgets/colour.h"
 
 #include <QEvent>
@@ -60,7 +61,15 @@ std::optional<QRect> rowAbove(const QRect &row, const QList<QRect> &taken, int t
 } // namespace
 
 ShortNote::ShortNote(const QWidget &board, QWidget &band)
-    : QWidget(band.parentWidget())
+    : ShortNote(band.parentWidget(), &board, &band)
+{}
+
+ShortNote::ShortNote(QWidget *window)
+    : ShortNote(window, nullptr, nullptr)
+{}
+
+ShortNote::ShortNote(QWidget *window, const QWidget *board, const QWidget *band)
+    : QWidget(window)
     , board_(board)
     , band_(band)
 {
@@ -91,8 +100,10 @@ void ShortNote::tell(const QString &text)
     for (QObject *sibling : parentWidget()->children())
         if (sibling->isWidgetType() && sibling != this)
             sibling->installEventFilter(this);
+    parentWidget()->installEventFilter(this);
     place();
     raise();
+    announce(*this, text_);
     if (isVisible())
         timer_.start();
 }
@@ -102,7 +113,7 @@ void ShortNote::showEvent(QShowEvent *) { timer_.start(); }
 bool ShortNote::eventFilter(QObject *watched, QEvent *event)
 {
     const auto type = event->type();
-    const bool isBand = watched == &band_;
+    const bool isBand = watched == band_;
     if (!isHidden() && (type == QEvent::Show || type == QEvent::Hide || type == QEvent::Resize ||
                         (isBand && type == QEvent::Move)))
         place();
@@ -114,12 +125,14 @@ bool ShortNote::eventFilter(QObject *watched, QEvent *event)
 QList<QRect> ShortNote::covered() const
 {
     QList<QRect> taken;
+    if (board_ == nullptr)
+        return taken;
     for (const QObject *child : parentWidget()->children()) {
         const auto *widget = qobject_cast<const QWidget *>(child);
-        if (widget == nullptr || widget == &board_ || widget == &band_ || widget->isHidden() ||
+        if (widget == nullptr || widget == board_ || widget == band_ || widget->isHidden() ||
             widget->isWindow() || widget->testAttribute(Qt::WA_TransparentForMouseEvents))
             continue;
-        if (widget->width() < board_.width() || 2 * widget->height() < board_.height())
+        if (widget->width() < board_->width() || 2 * widget->height() < board_->height())
             taken << widget->geometry();
     }
     return taken;
@@ -129,12 +142,13 @@ void ShortNote::place()
 {
     const int wanted = fontMetrics().horizontalAdvance(text_) + 2 * beside + 2;
     const int height = fontMetrics().height() + 2 * over;
-    const QRect onBand(gap, band_.y() - gap - height, parentWidget()->width() - 2 * gap, height);
+    const int floor = band_ != nullptr ? band_->y() : parentWidget()->height();
+    const QRect onBand(gap, floor - gap - height, parentWidget()->width() - 2 * gap, height);
     const QList<QRect> taken = covered();
     QRect row = onBand;
     Span free = widestFree(row, taken);
     while (free.width() < std::min(wanted, narrowest)) {
-        const std::optional<QRect> above = rowAbove(row, taken, board_.y());
+        const std::optional<QRect> above = rowAbove(row, taken, 0);
         row = above.value_or(onBand);
         free = above ? widestFree(row, taken) : Span{onBand.left(), onBand.right() + 1};
         if (!above)

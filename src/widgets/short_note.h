@@ -6,9 +6,9 @@
 #include <QTimer>
 #include <QWidget>
 
-/// One line over the lower band that goes by itself. It takes no press and no focus, and looks for a place
-/// where it covers nothing but the board: beside open lists and reports, or above them. What is too long for
-/// that place is elided. A child of the window that the board stands in.
+/// One line over the foot of a window that goes by itself. It takes no press and no focus. In the main window
+/// it stands on the lower band and looks for a place where it covers nothing but the board: beside open lists
+/// and reports, or above them. What is too long for that place is elided.
 class ShortNote : public QWidget
 {
     Q_OBJECT
@@ -16,8 +16,10 @@ class ShortNote : public QWidget
 public:
     static constexpr int staysFor = 3000; ///< milliseconds
 
-    /// `band` is what the note stands on.
+    /// A note on the band of the window that both stand in.
     ShortNote(const QWidget &board, QWidget &band);
+    /// A note on the lower edge of a window that has no board.
+    explicit ShortNote(QWidget *window);
 
     /// Shows `text`, plain and in one line, in the place of an earlier note.
     void tell(const QString &text);
@@ -34,8 +36,9 @@ private:
     QList<QRect> covered() const;
     void place();
 
-    const QWidget &board_;
-    const QWidget &band_;
+    ShortNote(QWidget *window, const QWidget *board, const QWidget *band);
+    const QWidget *board_; ///< or nullptr, and so the band
+    const QWidget *band_;
     QString text_;
     QTimer timer_;
 };

@@ -10,6 +10,7 @@
 #include "platform/notes.h"
 #include "platform/procedure.h"
 #include "platform/sounds.h"
+#include "platform/word_store.h"
 #include "widgets/gradient.h"
 #include "widgets/main_controls.h"
 #include "widgets/press_button.h"
