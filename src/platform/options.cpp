@@ -3,6 +3,7 @@
 #include "platform/options.h"
 
 #include "platform/procedure.h"
+#include "platform/program_size.h"
 #include "platform/runtime_error.h"
 #include "platform/settings_store.h"
 #include "platform/text.h"
@@ -38,6 +39,8 @@ QString masked(SettingType type, const QString &text)
         return Integer_Pos(text);
     case SettingType::SignedInteger:
         return Integer_All(text);
+    case SettingType::Size:
+        return program_size::storedText(program_size::wishOf(text));
     default:
         return text;
     }

@@ -15,8 +15,7 @@ constexpr QSize tightest{850, 475}; ///< the boxes and the options fit into it
 int largestWith(QSize room, QSize screen)
 {
     using namespace program_size;
-    const int percent =
-        std::min(screen.width() * 100 / room.width(), screen.height() * 100 / room.height());
+    const int percent = std::min(screen.width() * 100 / room.width(), screen.height() * 100 / room.height());
     return std::clamp(percent / step * step, smallest, largest);
 }
 
@@ -35,9 +34,14 @@ int program_size::wishOf(const QString &stored)
     return static_cast<int>(std::lround(bounded / step)) * step;
 }
 
+QString program_size::storedText(int wish)
+{
+    return wish == automatic ? u"automatisch"_s : QString::number(wish);
+}
+
 QString program_size::textOf(int wish)
 {
-    return wish == automatic ? u"automatisch"_s : u"%1 %"_s.arg(wish);
+    return wish == automatic ? storedText(wish) : storedText(wish) + u" %"_s;
 }
 
 int program_size::suggested(QSize screen) { return largestWith(comfortable, screen); }

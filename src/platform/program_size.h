@@ -17,7 +17,8 @@ inline constexpr int step = 25;
 /// The wish that a stored text stands for, with or without a percent sign. A number comes to the nearest
 /// quarter step from 100 to 300; no text, no number, 0 and less are `automatic`.
 int wishOf(const QString &stored);
-/// The text that is stored and shown for a wish.
+/// The text that is stored for a wish, and the one that is shown.
+QString storedText(int wish);
 QString textOf(int wish);
 
 /// The largest quarter step at which the screen still has 1,000 by 600 pixels; `smallest` for a small one.

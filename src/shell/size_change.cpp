@@ -138,7 +138,8 @@ void SizeChange::tellWait()
         return;
     const auto tell = [this](const char16_t *sentence) { ground_.notes.tell(sentence); };
     if (QWidget *window = QApplication::activeModalWidget())
-        QToolTip::showText(window->mapToGlobal(QPoint(0, 0)), QString::fromUtf16(note::sizeAfterWindow));
+        QToolTip::showText(window->mapToGlobal(window->rect().bottomLeft()),
+                           QString::fromUtf16(note::sizeAfterWindow));
     else if (play_.GameActive())
         tell(note::sizeAfterGame);
     else if (play_.RetypeActive())
