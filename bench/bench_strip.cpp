@@ -26,6 +26,18 @@ public:
             strip_.tick();
     }
 
+    /// As the screen sees it: a picture every 16 milliseconds, most of them between two ticks.
+    void pictures()
+    {
+        strip_.show();
+        strip_.ToggleScroll();
+        for (int picture = 1; picture <= ticksPerRound; ++picture) {
+            strip_.advance(picture * 16);
+            strip_.render(&picture_);
+        }
+        strip_.ToggleScroll();
+    }
+
     void ticks()
     {
         for (int tick = 0; tick < ticksPerRound; ++tick) {
@@ -45,5 +57,11 @@ const bench::Row tickOfLongStrip{"strip: a tick with 1,000 words to one with 50"
                                      return bench::ratio([&] { longStrip.ticks(); },
                                                          [&] { shortStrip.ticks(); });
                                  }};
+
+const bench::Row picturesOfRun{"strip: a picture of its glide to one of a tick", 1.3, [] {
+                                   Run glides(50);
+                                   Run ticks(50);
+                                   return bench::ratio([&] { glides.pictures(); }, [&] { ticks.ticks(); });
+                               }};
 
 } // namespace

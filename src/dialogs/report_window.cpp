@@ -140,6 +140,7 @@ ReportWindow::ReportWindow(QWidget *parent)
         if (!held_)
             frame_->start();
     });
+    setMouseTracking(true);
     for (QWidget *part : findChildren<QWidget *>())
         part->setMouseTracking(true);
     hide();

@@ -15,7 +15,6 @@
 
 #include <QApplication>
 #include <QKeyEvent>
-#include <QToolTip>
 
 #include <utility>
 
@@ -136,14 +135,12 @@ void SizeChange::tellWait()
 {
     if (std::exchange(told_, true))
         return;
-    const auto tell = [this](const char16_t *sentence) { ground_.notes.tell(sentence); };
-    if (QWidget *window = QApplication::activeModalWidget())
-        QToolTip::showText(window->mapToGlobal(window->rect().bottomLeft()),
-                           QString::fromUtf16(note::sizeAfterWindow));
+    const char16_t *sentence = note::sizeAfterWork;
+    if (QApplication::activeModalWidget() != nullptr)
+        sentence = note::sizeAfterWindow;
     else if (play_.GameActive())
-        tell(note::sizeAfterGame);
+        sentence = note::sizeAfterGame;
     else if (play_.RetypeActive())
-        tell(note::sizeAfterRetype);
-    else
-        tell(note::sizeAfterWork);
+        sentence = note::sizeAfterRetype;
+    ground_.notes.tell(sentence);
 }

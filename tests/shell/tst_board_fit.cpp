@@ -4,6 +4,7 @@
 #include "support/registry.h"
 #include "support/test_house.h"
 #include "widgets/colour.h"
+#include "widgets/gradient.h"
 
 #include <QtTest>
 
