@@ -3,6 +3,7 @@
 #include "support/columns.h"
 #include "support/registry.h"
 #include "support/test_house.h"
+#include "widgets/gradient.h"
 #include "widgets/short_note.h"
 
 #include <QtTest>
