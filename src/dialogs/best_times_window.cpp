@@ -20,7 +20,7 @@ constexpr int encourageSize = 18;
 constexpr int encourageWidth = 290;
 constexpr int side = 22;
 
-constexpr score_table::Names names{u"Label1(%1)", u"lblName(%1)", u"lblScore(%1)", 1, 0, u""};
+constexpr score_table::Names names{u"Label1(%1)", u"lblName(%1)", u"lblScore(%1)", 0, u""};
 
 } // namespace
 

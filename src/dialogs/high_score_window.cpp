@@ -17,7 +17,7 @@ constexpr int headingSize = 26; ///< pixels, the letters
 constexpr int rowSize = 16;
 constexpr int resultSize = 18;
 
-constexpr score_table::Names names{u"LblRank(%1)", u"LblName(%1)", u"LblScore(%1)", 1, 1, u"."};
+constexpr score_table::Names names{u"LblRank(%1)", u"LblName(%1)", u"LblScore(%1)", 1, u"."};
 
 } // namespace
 

@@ -54,9 +54,9 @@ QGridLayout *score_table::make(const HighScoreSheet &sheet, const Names &names, 
         who->setText(
             who->fontMetrics().elidedText(name.simplified(), Qt::ElideRight, nameWidth - 2 * cellMargin));
         who->setFixedWidth(nameWidth);
-        rank->setObjectName(QString::fromUtf16(names.rank).arg(place - names.rankLess));
-        who->setObjectName(QString::fromUtf16(names.name).arg(place - names.othersLess));
-        points->setObjectName(QString::fromUtf16(names.score).arg(place - names.othersLess));
+        rank->setObjectName(QString::fromUtf16(names.rank).arg(place - 1));
+        who->setObjectName(QString::fromUtf16(names.name).arg(place - names.less));
+        points->setObjectName(QString::fromUtf16(names.score).arg(place - names.less));
         rank->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         points->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         QLabel *const cells[] = {rank, who, points};

@@ -17,8 +17,7 @@ struct Names
     const char16_t *rank;
     const char16_t *name;
     const char16_t *score;
-    int rankLess;            ///< the number in the rank's name is the place less this
-    int othersLess;          ///< that of name and score
+    int less; ///< the number in the names of name and score is the place less this; in the rank's, less one
     const char16_t *rankEnd; ///< what stands behind the number of the rank
 };
 

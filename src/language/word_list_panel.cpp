@@ -193,13 +193,12 @@ void WordListPanel::mnuDeleteWord()
 void WordListPanel::mnuDeleteAllWords()
 {
     Procedure step{ground_.log, "mnuDeleteAllWords_Click", "frmMain"};
-    int answer = 0;
+    bool agreed = true;
     step([&] {
-        answer = ground_.boxes.ShowMBox(u"Entfernen alle Wörter?"_s,
-                                        ground_.options.isOn(Setting::ConfirmBeforeErase), 3,
-                                        u"Wortel - Bestätigen"_s, BoxStyle::Confirm);
+        agreed = ground_.boxes.agrees(u"Entfernen alle Wörter?"_s, u"Wortel - Bestätigen"_s,
+                                      BoxStyle::Confirm, ground_.options.isOn(Setting::ConfirmBeforeErase));
     });
-    if (answer == 1)
+    if (!agreed)
         return;
     step([&] { lists_.CorrectWordList.clear(); });
     emit wordsEdited({}, false);

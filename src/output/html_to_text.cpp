@@ -82,7 +82,6 @@ private:
     void openRow();
     void closeRow();
     void openCell();
-    void closeCell();
 
     bool passGoesOnTo(qsizetype position, const PassStep &step);
     bool takeRun(const Token &token, const PassStep &step);
@@ -113,7 +112,7 @@ private:
 const PagePass::TagRow PagePass::tags[] = {
     {"P"_L1, &PagePass::paragraph},      {"BR"_L1, &PagePass::lineBreak},
     {"TD"_L1, &PagePass::openCell},      {"TH"_L1, &PagePass::openCell},
-    {"/TD"_L1, &PagePass::closeCell},    {"/TH"_L1, &PagePass::closeCell},
+    {"/TD"_L1, &PagePass::leaveCell},    {"/TH"_L1, &PagePass::leaveCell},
     {"TR"_L1, &PagePass::openRow},       {"/TR"_L1, &PagePass::closeRow},
     {"TABLE"_L1, &PagePass::openTable},  {"/TABLE"_L1, &PagePass::closeTable},
     {"LI"_L1, &PagePass::item},          {"OL"_L1, &PagePass::openOrdered},
@@ -324,8 +323,6 @@ void PagePass::openCell()
     cellHasText_ = false;
     betweenCells_ = false;
 }
-
-void PagePass::closeCell() { leaveCell(); }
 
 void PagePass::leaveCell()
 {

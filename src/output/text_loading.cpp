@@ -80,14 +80,13 @@ QString withShortLines(const QString &text)
     return from == 0 ? text : result += QStringView(text).sliced(from);
 }
 
-LoadedText read(const QByteArray &bytes, TextKind kind, const PassStep &step)
+PageText read(const QByteArray &bytes, TextKind kind, const PassStep &step)
 {
     if (isRichText(bytes))
         return {richTextToPlain(bytes, step), {}, {}};
     if (kind != TextKind::Page)
         return {decodeText(bytes), {}, {}};
-    const PageText page = HTML2Text(decodePage(bytes), step);
-    return {page.text, page.title, page.complaint};
+    return HTML2Text(decodePage(bytes), step);
 }
 
 } // namespace
@@ -103,16 +102,16 @@ TextKind textKindOf(const QString &path)
     return TextKind::Other;
 }
 
-LoadedText decodeLoadedText(const QByteArray &bytes, TextKind kind, const PassStep &step)
+PageText decodeLoadedText(const QByteArray &bytes, TextKind kind, const PassStep &step)
 {
-    LoadedText loaded = read(bytes, kind, step);
+    PageText loaded = read(bytes, kind, step);
     loaded.text = textForBox(loaded.text);
     return loaded;
 }
 
 QString textForBox(const QString &text) { return withShortLines(withPlainLines(text)); }
 
-LoadedText loadText(const QString &path, const PassStep &step)
+PageText loadText(const QString &path, const PassStep &step)
 {
     return decodeLoadedText(ReadWholeFile(path), textKindOf(path), step);
 }

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/long_pass.h"
+#include "output/html_to_text.h"
 
 #include <QString>
 
@@ -16,22 +16,14 @@ enum class TextKind {
 };
 TextKind textKindOf(const QString &path);
 
-struct LoadedText
-{
-    QString text;
-    QString title;     ///< of a page
-    QString complaint; ///< as of `PageText`
-};
-
 /// The text of a file of any kind as it is to be shown, with "\n" for line ends and without other control
-/// characters below 32 but the tab. Whether
-/// plain text or rich text is told by what the file holds, not by its name. A line longer than
-/// `longestLine` is broken at a blank, because a text box is slow with one line of megabytes; not a character
-/// is lost. Throws RuntimeError as ReadWholeFile. If `step` ends the pass, what has been read until then
-/// comes back.
-LoadedText loadText(const QString &path, const PassStep &step = {});
+/// characters below 32 but the tab; only a page has a title. Whether plain text or rich text is told by what
+/// the file holds, not by its name. A line longer than `longestLine` is broken at a blank, because a text box
+/// is slow with one line of megabytes; not a character is lost. Throws RuntimeError as ReadWholeFile. If
+/// `step` ends the pass, what has been read until then comes back.
+PageText loadText(const QString &path, const PassStep &step = {});
 /// The same of bytes.
-LoadedText decodeLoadedText(const QByteArray &bytes, TextKind kind, const PassStep &step = {});
+PageText decodeLoadedText(const QByteArray &bytes, TextKind kind, const PassStep &step = {});
 
 inline constexpr qsizetype longestLine = 4000;
 /// Any text, such as one from the clipboard, in the form in which `loadText` gives it.

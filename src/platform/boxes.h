@@ -40,6 +40,14 @@ public:
     /// OK/Abbrechen, 4 Yes/No, 6, 8, 9, 10 Einpassen/So lassen.
     virtual int ShowMBox(const QString &prompt, bool show, int buttons, const QString &title,
                          BoxStyle style) = 0;
+    /// The question box with OK and Abbrechen: true unless it was refused, at once if `show` is false.
+    bool agrees(const QString &question, const QString &title, BoxStyle style = BoxStyle::Confirm,
+                bool show = true)
+    {
+        constexpr int okAndCancel = 3;
+        constexpr int refused = 1;
+        return ShowMBox(question, show, okAndCancel, title, style) != refused;
+    }
     /// The notice box `frmMboxRetype`. Returns 0 if it was closed with Enter or a click, 1 with Esc.
     virtual int ShowInfoBox(const QString &prompt, BoxSign sign, const QString &title) = 0;
     /// The input box `IBox`: what was typed, or the empty string.

@@ -91,8 +91,8 @@ Ending BoardCommands::editTile(const Press &press)
 
 Ending BoardCommands::removeTile(const Press &press)
 {
-    if (!router_.ask(command::words(press.kind->filterIndex).removeQuestion,
-                     ground_.options.isOn(Setting::ConfirmBeforeErase), u"Entfernen"_s, press.kind->box))
+    if (!ground_.boxes.agrees(text(command::words(press.kind->filterIndex).removeQuestion), u"Entfernen"_s,
+                              press.kind->box, ground_.options.isOn(Setting::ConfirmBeforeErase)))
         return Ending::RecallOnly;
     store_.counters().add(press.kind->filterIndex, -1, true);
     rooms_.canvas.CanvasEraseWortel(press.point.x(), press.point.y(), press.kind->back);

@@ -29,8 +29,6 @@ using namespace Qt::StringLiterals;
 namespace {
 constexpr auto form = "frmMain";
 constexpr int helpCommand = 1001;
-constexpr int okAndCancel = 3;
-constexpr int refused = 1;
 } // namespace
 
 BoardKeys::BoardKeys(Ground &ground, const MainControls &controls, CommandRouter &router,
@@ -120,10 +118,9 @@ void BoardKeys::stopWork()
     step([&] {
         const bool asks =
             ground_.gate.work()->preparesWords() && ground_.options.isOn(Setting::ConfirmBeforeErase);
-        const int answer = ground_.boxes.ShowMBox(u"Es werden gerade noch einige Wörter vorbereitet...\n\n"
-                                                  "Willst du wirklich aufhören?"_s,
-                                                  asks, okAndCancel, u"Bestätigen"_s, BoxStyle::Confirm);
-        if (answer != refused)
+        if (ground_.boxes.agrees(u"Es werden gerade noch einige Wörter vorbereitet...\n\n"
+                                 "Willst du wirklich aufhören?"_s,
+                                 u"Bestätigen"_s, BoxStyle::Confirm, asks))
             ground_.gate.cancelWork();
     });
 }

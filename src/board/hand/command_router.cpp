@@ -129,15 +129,8 @@ bool CommandRouter::isAgreed(const Command &command)
         return true;
     const bool removal = command.asks == Asks::Removal;
     const bool show = command.asks == Asks::Always || ground_.options.isOn(Setting::ConfirmBeforeErase);
-    return ask(command.question, show, removal ? u"Entfernen"_s : u"Bestätigen"_s,
-               removal ? kindAt(command.argument).box : BoxStyle::Confirm);
-}
-
-bool CommandRouter::ask(const char16_t *question, bool show, const QString &title, BoxStyle style)
-{
-    constexpr int okAndCancel = 3;
-    constexpr int refused = 1;
-    return ground_.boxes.ShowMBox(text(question), show, okAndCancel, title, style) != refused;
+    return ground_.boxes.agrees(text(command.question), removal ? u"Entfernen"_s : u"Bestätigen"_s,
+                                removal ? kindAt(command.argument).box : BoxStyle::Confirm, show);
 }
 
 void CommandRouter::log(const Command &command, const char *procedure)

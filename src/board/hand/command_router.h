@@ -56,9 +56,6 @@ public:
     /// `itemIndex` is the menu item's index, which a line of the error log names.
     void run(command::From from, int id, const Press &press, int itemIndex = 0);
 
-    /// A question with OK and Abbrechen, which counts as agreed without being shown if `show` is false.
-    bool ask(const char16_t *question, bool show, const QString &title, BoxStyle style);
-
 private:
     bool hasWhatItNeeds(const command::Command &command);
     bool isAgreed(const command::Command &command);

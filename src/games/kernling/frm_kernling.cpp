@@ -13,6 +13,7 @@
 #include "platform/procedure.h"
 #include "platform/product.h"
 #include "platform/text.h"
+#include "widgets/window_style.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -78,23 +79,10 @@ void FrmKernling::openModally()
     const Gate::Passage open = ground_.gate.openBox();
     if (!open)
         return;
-    fitToScreen();
+    window_style::fitToScreen(*this, (screen()->availableSize() * 4 / 5).expandedTo(smallestWish));
     parts_->controls.RTF->setFocus();
     exec();
     parts_->game.stop();
-}
-
-void FrmKernling::fitToScreen()
-{
-    // The frame that a window manager draws round the window needs room too.
-    const QRect room = screen()->availableGeometry().adjusted(4, 26, -4, -4);
-    if (testAttribute(Qt::WA_Resized) && room.size().boundedTo(size()) == size())
-        return;
-    const QSize wished = (room.size() * 4 / 5).expandedTo(smallestWish).boundedTo(room.size());
-    resize(wished);
-    QRect place(QPoint(0, 0), wished);
-    place.moveCenter(room.center());
-    move(place.topLeft());
 }
 
 void FrmKernling::closeEvent(QCloseEvent *event)

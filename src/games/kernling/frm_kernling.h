@@ -79,7 +79,6 @@ private:
     void mnuSearch_Click();
     void mnuCheckWord_Click();
     void mnuPrintRTF_Click();
-    void fitToScreen();
 
     Ground &ground_;
     Hall hall_;

@@ -9,8 +9,8 @@
 #include "platform/options.h"
 #include "platform/procedure.h"
 #include "platform/product.h"
-#include "widgets/gradient.h"
 #include "widgets/guards.h"
+#include "widgets/window_style.h"
 
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -23,10 +23,7 @@ namespace {
 
 constexpr auto form = "frmKernlingOptions";
 constexpr auto ownRows = SettingsWindow::frmKernlingOptions;
-constexpr int okAndCancel = 3;
-constexpr int refused = 1;
 constexpr int wishedWidth = 460;
-constexpr int buttonWidth = 96;
 
 } // namespace
 
@@ -36,9 +33,7 @@ frmKernlingOptions::frmKernlingOptions(Ground &ground, QWidget *parent)
 {
     setObjectName(QLatin1String(form));
     setWindowTitle(u"Kernling - Optionen"_s);
-    QPalette colours = palette();
-    colours.setColor(QPalette::Window, optionsPaper);
-    setPalette(colours);
+    window_style::dress(*this);
     auto *whole = new QVBoxLayout(this);
     whole->setContentsMargins(12, 8, 12, 8);
     makeGroup("Frame2", u"Anzahl der Wörter"_s);
@@ -89,20 +84,12 @@ void frmKernlingOptions::addField(const SettingRow &row)
 
 void frmKernlingOptions::makeFoot()
 {
-    auto *line = new QHBoxLayout;
-    line->addStretch(1);
-    const auto add = [&](const QString &name, const QString &caption, auto slot) {
-        auto *button = new QPushButton(caption, this);
-        button->setObjectName(name);
-        button->setMinimumWidth(buttonWidth);
-        button->setAutoDefault(false);
-        connect(button, &QPushButton::clicked, this, slot);
-        line->addWidget(button);
-        return button;
-    };
-    add(u"cmdOK"_s, u"OK"_s, &frmKernlingOptions::cmdOK_Click)->setDefault(true);
-    add(u"cmdCancel"_s, u"Abbrechen"_s, &frmKernlingOptions::cmdCancel_Click);
-    static_cast<QVBoxLayout *>(layout())->addLayout(line);
+    QHBoxLayout *line = window_style::addFoot(*static_cast<QVBoxLayout *>(layout()));
+    QPushButton *ok = window_style::addButton(*line, u"OK"_s, "cmdOK");
+    ok->setDefault(true);
+    connect(ok, &QPushButton::clicked, this, &frmKernlingOptions::cmdOK_Click);
+    connect(window_style::addButton(*line, u"Abbrechen"_s, "cmdCancel"), &QPushButton::clicked, this,
+            &frmKernlingOptions::cmdCancel_Click);
 }
 
 bool frmKernlingOptions::edit()
@@ -127,8 +114,7 @@ void frmKernlingOptions::cmdOK_Click()
     step([&] {
         if (!ground_.options.IsChanged(ownRows))
             return;
-        confirmed = ground_.boxes.ShowMBox(u"Willst du die Änderungen bestätigen?"_s, true, okAndCancel,
-                                           u"Wortel - Bestätigen"_s, BoxStyle::Confirm) != refused;
+        confirmed = ground_.boxes.agrees(u"Willst du die Änderungen bestätigen?"_s, u"Wortel - Bestätigen"_s);
     });
     step([&] {
         if (!confirmed)

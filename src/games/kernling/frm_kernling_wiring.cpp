@@ -93,8 +93,7 @@ void FrmKernling::wireText()
         if (button == Qt::RightButton)
             play([this] { parts_->game.Command10_MouseDown(Qt::RightButton); })();
     });
-    for (QRadioButton *way : {c.OptManualHighlight, c.OptAutoHighlight})
-        connect(way, &QRadioButton::toggled, this, &FrmKernling::showWayOfMarking);
+    connect(c.OptManualHighlight, &QRadioButton::toggled, this, &FrmKernling::showWayOfMarking);
 
     connect(c.RTF, &KernlingText::marked, this, play([this] {
                 if (parts_->controls.OptAutoHighlight->isChecked())

@@ -83,7 +83,6 @@ void LocateGame::start()
     layOut(true);
     desk_.controls.Check5->setChecked(true);
     desk_.controls.OptAutoHighlight->setChecked(true);
-    desk_.controls.Label8->setText(u"0"_s);
     desk_.controls.rtfResponse->clear();
     desk_.controls.Text1->clear();
     desk_.controls.Image1->hide();
@@ -129,12 +128,10 @@ void LocateGame::LocateGameTimer_Tick()
         if (!popup->close())
             break;
     stop();
-    desk_.controls.Label3->show();
     desk_.controls.rtfResponse->show();
     KernlingText &text = *desk_.controls.RTF;
-    text.setLocked(false);
-    text.select(
-        {text.selection().start + text.selection().length, 0}); // a key would replace the last marking
+    // A key would replace the last marking.
+    text.select({text.selection().start + text.selection().length, 0});
     std::optional<int> wrong;
     if (desk_.ground.options.isOn(Setting::KernlingShowFalse))
         wrong = desk_.lists.UserFalseWortelList.count();

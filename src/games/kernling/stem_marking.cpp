@@ -30,14 +30,6 @@ constexpr int rightSound = 112;
 constexpr std::size_t runsAtOnce = 2000; ///< painted between two looks at the hand
 constexpr int halfBar = 1000;            ///< of the search; the other half is the painting
 
-/// Somebody may mark the whole text: no list and no answer shows more of it than this. The longest text of
-/// look-alike stems is shorter.
-QString shortened(const QString &text)
-{
-    constexpr qsizetype mostLetters = 500;
-    return text.size() <= mostLetters ? text : text.left(mostLetters) + QChar(0x2026);
-}
-
 void AppendColoured(QTextEdit &rtf, const QString &text, Colour colour)
 {
     QTextCharFormat format;
@@ -81,25 +73,36 @@ void StemMarking::HighLightSelection()
 /// Adds the verdict's rows to the result lists and shows their counts.
 void StemMarking::keep(const Verdict &verdict)
 {
-    if (verdict.foundRow)
+    if (verdict.foundRow) {
         desk_.lists.UserFoundWortelList.add(*verdict.foundRow);
-    if (verdict.falseRow)
-        desk_.lists.UserFalseWortelList.add(shortened(*verdict.falseRow));
-    const auto showCount = [](QLabel *label, const std::optional<int> &count) {
-        if (count)
-            label->setText(QString::number(*count));
-    };
-    showCount(desk_.controls.Label3, verdict.Label3);
-    showCount(desk_.controls.Label8, verdict.Label8);
-    showCount(desk_.controls.Label14, verdict.Label14);
+        showFound();
+    }
+    if (verdict.falseRow) {
+        desk_.lists.UserFalseWortelList.add(*verdict.falseRow);
+        showFalse();
+    }
 }
 
-void StemMarking::show(const Verdict &verdict)
+/// The count of right answers, which are the points as well.
+void StemMarking::showFound()
 {
+    const QString count = QString::number(desk_.lists.UserFoundWortelList.count());
+    desk_.controls.Label3->setText(count);
+    desk_.controls.Label8->setText(count);
+}
+
+void StemMarking::showFalse()
+{
+    desk_.controls.Label14->setText(QString::number(desk_.lists.UserFalseWortelList.count()));
+}
+
+void StemMarking::show(Verdict verdict)
+{
+    judge_.remind(verdict);
     QTextEdit &answer = *desk_.controls.rtfResponse;
     answer.clear();
     for (const kernling::VerdictPiece &piece : verdict.pieces)
-        AppendColoured(answer, shortened(piece.text), piece.colour);
+        AppendColoured(answer, piece.text, piece.colour);
     answer.moveCursor(QTextCursor::Start);
     answer.setAccessibleDescription(answer.toPlainText());
     desk_.controls.Text1->setText(verdict.Text1);
@@ -183,12 +186,11 @@ void StemMarking::cmdResetColors_Click() { desk_.controls.RTF->unpaintAll(); }
 void StemMarking::clearFound()
 {
     desk_.lists.UserFoundWortelList.clear();
-    desk_.controls.Label3->setText(u"0"_s);
-    desk_.controls.Label8->setText(u"0"_s);
+    showFound();
 }
 
 void StemMarking::clearFalse()
 {
     desk_.lists.UserFalseWortelList.clear();
-    desk_.controls.Label14->setText(u"0"_s);
+    showFalse();
 }

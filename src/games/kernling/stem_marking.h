@@ -39,7 +39,9 @@ private:
     kernling::Verdict paintHits(const Runs &runs, const QString &letters, Work &work);
     kernling::VerdictOptions options() const;
     void keep(const kernling::Verdict &verdict);
-    void show(const kernling::Verdict &verdict);
+    void show(kernling::Verdict verdict);
+    void showFound();
+    void showFalse();
 
     KernlingDesk &desk_;
     kernling::StemJudge judge_;

@@ -114,17 +114,16 @@ Verdict StemJudge::right(const QString &sel, const VerdictOptions &options) cons
     const bool known = lists_.ChkForDuplicates2(sel);
     if (options.KernlingShowNoDup == 0 || (options.KernlingShowNoDup == 1 && !known)) {
         verdict.foundRow = sel;
-        verdict.Label3 = lists_.UserFoundWortelList.count() + 1;
-        verdict.Label8 = verdict.Label3;
     }
     verdict.pieces = {{u"ist ein Wortstamm\n"_s, blue}};
     verdict.tone = options.KernlingUseSounds == 1 ? Verdict::Tone::Right : Verdict::Tone::None;
-    remind(verdict);
     return verdict;
 }
 
 void StemJudge::remind(Verdict &verdict) const
 {
+    if (verdict.kind != Verdict::Kind::Stem)
+        return;
     const QString capitals = UCase(verdict.sel);
     const auto *const row = std::find_if(reminders.begin(), reminders.end(),
                                          [&](const ReminderRow &one) { return one.stem == capitals; });
@@ -180,10 +179,8 @@ Verdict StemJudge::wrong(const QString &sel, const QString &marked, const Verdic
             verdict.pieces.push_back({u"\nist ein Wort im Wörterbuch"_s});
         }
     }
-    if (options.KernlingShowFalse == 1) {
+    if (options.KernlingShowFalse == 1)
         verdict.falseRow = shown(marked);
-        verdict.Label14 = lists_.UserFalseWortelList.count() + 1;
-    }
     return verdict;
 }
 

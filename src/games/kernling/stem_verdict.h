@@ -54,9 +54,6 @@ struct Verdict
     Tone tone = Tone::None;
     std::optional<QString> foundRow; ///< for `UserFoundWortelList`
     std::optional<QString> falseRow; ///< for `UserFalseWortelList`
-    std::optional<int> Label3;       ///< count of right answers, with `foundRow` listed
-    std::optional<int> Label8;       ///< points
-    std::optional<int> Label14;      ///< count of wrong answers, with `falseRow` listed
     QString complaint;               ///< a warning for the platform's box, or empty
 };
 
@@ -85,13 +82,14 @@ public:
     {}
 
     /// `HighLightSelection` for the colour 255. `marked` is the selected text as it stands; of a very long
-    /// one the verdict names the start. The one who shows the verdict adds its rows to the lists.
+    /// one the verdict names the start. Whoever takes the verdict adds its rows to the lists.
     Verdict judge(const QString &marked, const VerdictOptions &options) const;
+    /// Adds to the verdict over a stem what else the letters may be, for whoever shows it.
+    void remind(Verdict &verdict) const;
 
 private:
     Verdict right(const QString &sel, const VerdictOptions &options) const;
     Verdict wrong(const QString &sel, const QString &marked, const VerdictOptions &options) const;
-    void remind(Verdict &verdict) const;
 
     const KernlingLists &lists_;
     const WordTests &tests_;

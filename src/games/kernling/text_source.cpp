@@ -63,7 +63,7 @@ void TextSource::load(const QString &path)
                    u"Webseiten (*.html)."_s);
         return;
     }
-    LoadedText loaded;
+    PageText loaded;
     if (!readInto(loaded, path) || desk_.ground.gate.isClosing())
         return;
     if (!loaded.complaint.isEmpty())
@@ -82,7 +82,7 @@ void TextSource::load(const QString &path)
 }
 
 /// False if the file could not be read, or the reading was cancelled.
-bool TextSource::readInto(LoadedText &text, const QString &path)
+bool TextSource::readInto(PageText &text, const QString &path)
 {
     const qint64 size = QFileInfo(nativePath(path)).size();
     if (size > largestFile) {

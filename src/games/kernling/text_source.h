@@ -6,7 +6,7 @@
 
 class RuntimeError;
 struct KernlingDesk;
-struct LoadedText;
+struct PageText;
 
 /// The text's way into the window: a file that is chosen or dropped, and its division into single words.
 class TextSource
@@ -27,7 +27,7 @@ public:
     void Command4_Click();
 
 private:
-    bool readInto(LoadedText &text, const QString &path);
+    bool readInto(PageText &text, const QString &path);
     void complain(const QString &path, const RuntimeError &error, unsigned line);
     void takeStemsFor(const QString &path);
 

@@ -4,6 +4,7 @@
 
 #include "board/tiles/random_array.h"
 #include "games/kernling/stem_verdict.h"
+#include "generators/nonsense_tables.h"
 #include "platform/case_blind_index.h"
 #include "platform/rnd.h"
 #include "platform/text.h"
@@ -202,7 +203,7 @@ std::vector<int> randomRows(int count, int wanted, Rnd &rnd)
 bool suitsScrambles(const QString &listName)
 {
     const QString capitals = UCase(listName);
-    return capitals != "IG ODER LICH"_L1 && capitals != "UNG HEIT KEIT SCHAFT NIS TUM"_L1;
+    return capitals != "IG ODER LICH"_L1 && capitals != QStringView(nonsense::nounListName);
 }
 
 } // namespace kernling

@@ -30,8 +30,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto form = "FrmKernling";
-constexpr int okAndCancel = 3;
-constexpr int refused = 1;
 constexpr int mostWords = std::numeric_limits<qint16>::max();
 
 // The sources, as `OptFilltype` numbers them.
@@ -189,9 +187,7 @@ void WorkList::Command12_Click()
 
 void WorkList::Command15_Click()
 {
-    const int answer = desk_.ground.boxes.ShowMBox(u"Wortliste von Klotar löschen ?"_s, true, okAndCancel,
-                                                   u"Wortel - Bestätigen"_s, BoxStyle::Confirm);
-    if (answer != refused)
+    if (desk_.ground.boxes.agrees(u"Wortliste von Klotar löschen ?"_s, u"Wortel - Bestätigen"_s))
         desk_.mainLists.CorrectWordList.clear();
 }
 

@@ -52,10 +52,7 @@ void BestLists::ShowBestTimes(const QString &message, const MemoryKind &kind, in
 
 void BestLists::ResetMemoryMaster(const MemoryKind *kind)
 {
-    constexpr int okAndCancel = 3;
-    constexpr int refused = 1;
     Procedure step{ground_.log, "ResetMemoryMaster", "frmMemory"};
-    if (ground_.boxes.ShowMBox(u"Möchtest du Paarlon\nzurücksetzen ?"_s, true, okAndCancel, u"Bestätigen"_s,
-                               BoxStyle::Confirm) != refused)
+    if (ground_.boxes.agrees(u"Möchtest du Paarlon\nzurücksetzen ?"_s, u"Bestätigen"_s))
         step([&] { scores_.reset(kind); });
 }

@@ -35,7 +35,6 @@ public:
     /// Writes the first of the list into `Label1`.
     void DisplayLeader(const MemoryKind &kind);
     /// True if `MorphemeList` holds that text as a whole, case ignored. Never for the empty text.
-    bool AllreadyExists(const QString &text) const;
     /// True if the current stem list has entries for a game without twins. A missing file is told.
     bool EnoughWortelInFile();
 

@@ -49,11 +49,6 @@ QString frmMemory::fileOf(const MemoryKind &kind) const
                                     : lists_.SuffixFile;
 }
 
-bool frmMemory::AllreadyExists(const QString &text) const
-{
-    return !text.isEmpty() && MorphemeList_.contains(text);
-}
-
 bool frmMemory::EnoughWortelInFile()
 {
     Procedure step{ground_.log, "EnoughWortelInFile", form};
@@ -171,8 +166,8 @@ void frmMemory::DisplayLeader(const MemoryKind &kind)
     const TopTen list = best_.scores().topTen(kind);
     const TopTen::Record &leader = list.records().first();
     BestScore_ = leader.score;
-    const QString text =
-        u"MEMORY-\nMEISTER\n\n"_s + narrow(leader.name) + u'\n' + QString::number(leader.score) + u" Klicks"_s;
+    const QString text = u"MEMORY-\nMEISTER\n\n"_s + narrow(leader.name) + u'\n' +
+                         QString::number(leader.score) + u" Klicks"_s;
     controls_.Label1->setText(text);
     controls_.Label1->setAccessibleName(text.simplified());
     controls_.Label1->show();

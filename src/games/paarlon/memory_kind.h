@@ -11,7 +11,6 @@
 /// One row a kind of game. The rows stand in the order of the options `OptMorphemeType(0)` to `(2)`.
 struct MemoryKind
 {
-    const char16_t *word;     ///< "PREFIX", "WORTEL", "SUFFIX"
     const TileKind *tile;     ///< its colours are those of cards, window and side panel
     const char16_t *label;    ///< names the kind's list in settings and titles
     const char16_t *caption;  ///< of the window
@@ -24,9 +23,9 @@ struct MemoryKind
 
 // clang-format off
 inline constexpr std::array<MemoryKind, 3> memoryKinds{{
-    {u"PREFIX", &prefixKind, u"Präfixe", u"Präfix-Memory", u"Präfixe",    150, 2904, 2905},
-    {u"WORTEL", &wortelKind, u"Wortel",  u"Wortel-Memory", nullptr,       250, 2902, 2903},
-    {u"SUFFIX", &suffixKind, u"Suffixe", u"Suffix-Memory", u"Suffixe...", 350, 2906, 2907},
+    {&prefixKind, u"Präfixe", u"Präfix-Memory", u"Präfixe",    150, 2904, 2905},
+    {&wortelKind, u"Wortel",  u"Wortel-Memory", nullptr,       250, 2902, 2903},
+    {&suffixKind, u"Suffixe", u"Suffix-Memory", u"Suffixe...", 350, 2906, 2907},
 }};
 // clang-format on
 

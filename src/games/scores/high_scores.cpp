@@ -118,14 +118,9 @@ void HighScores::show(ScoredGame game, const ScoreList &list, double score, std:
 
 void HighScores::ResetScores(ScoredGame game)
 {
-    constexpr int okAndCancel = 3;
-    constexpr int refused = 1;
     Procedure step{ground_.log, "ResetScores", ""};
-    int answer = refused;
-    step([&] {
-        answer = ground_.boxes.ShowMBox(text(rowOf(game).question), true, okAndCancel, u"Bestätigen"_s,
-                                        BoxStyle::Confirm);
-    });
-    if (answer != refused)
+    bool agreed = false;
+    step([&] { agreed = ground_.boxes.agrees(text(rowOf(game).question), u"Bestätigen"_s); });
+    if (agreed)
         WriteScores(game, [](ScoreList &list) { list = ScoreList::initial(); });
 }

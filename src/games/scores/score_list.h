@@ -17,8 +17,7 @@ public:
     static constexpr int longestName = 40;
 
     /// What a name has to be to come back as it was written: one line of at most `longestName` letters
-    /// without
-    /// ":", which ends a name in the file. An empty one becomes "Sieger".
+    /// without ":", which ends a name in the file. An empty one becomes "Sieger".
     static QString nameFor(const QString &typed);
 
     /// "Wortel" on every place, with 10 points on the first and 1 on the last.
@@ -38,8 +37,6 @@ public:
     /// Names and scores by place, 1 to 10.
     QString name(int place) const { return Names_[index(place)]; }
     double score(int place) const { return Scores_[index(place)]; }
-
-    bool operator==(const ScoreList &) const = default;
 
 private:
     static std::size_t index(int place) { return static_cast<std::size_t>(place - 1); }

@@ -9,6 +9,7 @@
 #include "widgets/gradient.h"
 #include "widgets/press_button.h"
 #include "widgets/progress_bar.h"
+#include "widgets/window_style.h"
 
 #include <QBoxLayout>
 #include <QButtonGroup>
@@ -340,7 +341,7 @@ ChooserControls makeChooserControls(QWidget *form)
     ChooserControls c;
     Maker make(form);
     QPalette colours = form->palette();
-    colours.setColor(QPalette::Window, QColor(234, 243, 255));
+    colours.setColor(QPalette::Window, window_style::paper);
     form->setPalette(colours);
     form->setStyleSheet(windowStyle);
     auto *columns = tight<QHBoxLayout>(6);

@@ -16,6 +16,7 @@
 #include "widgets/click_label.h"
 #include "widgets/press_button.h"
 #include "widgets/progress_bar.h"
+#include "widgets/window_style.h"
 
 #include <QCheckBox>
 #include <QGuiApplication>
@@ -111,16 +112,8 @@ void frmChooseWortel::fillLists()
 
 QStringList frmChooseWortel::choose()
 {
-    fitToScreen();
+    window_style::fitToScreen(*this, wishedSize);
     return exec() == Accepted ? chosen_ : QStringList();
-}
-
-void frmChooseWortel::fitToScreen()
-{
-    // The frame that a window manager draws round the window needs room too.
-    const QRect room = screen()->availableGeometry().adjusted(8, 16, -8, -16);
-    resize(wishedSize.boundedTo(room.size()));
-    move(room.center() - rect().center());
 }
 
 /// Closing ends what runs. Words that were handed over stay so, whatever closes the window once more.

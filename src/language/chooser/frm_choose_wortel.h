@@ -63,7 +63,6 @@ private:
         };
     }
     void fillLists();
-    void fitToScreen();
     void showKind();
     void showCounts();
     void showFound();

@@ -83,12 +83,11 @@ word_columns::Rows word_columns::asWished(const QStringList &words, const Option
 
 void word_columns::writeList(const QString &path, const QStringList &words, const Options &options)
 {
-    write(path, words.isEmpty() ? QString() : words.join(lineEnd) + lineEnd);
-    const int count = numberOf(options, Setting::SaveNoColumns);
-    if (options.isOn(Setting::SaveCopyWithCol))
-        Columnize(path, path, count);
-    else if (options.isOn(Setting::SaveCopyWithColBl))
-        ColumnizeInBlocks(path, path, count, numberOf(options, Setting::SaveNoBlocks));
+    const bool inColumns = options.isOn(Setting::SaveCopyWithCol) || options.isOn(Setting::SaveCopyWithColBl);
+    if (inColumns)
+        write(path, padded(asWished(words, options)));
+    else
+        write(path, words.isEmpty() ? QString() : words.join(lineEnd) + lineEnd);
 }
 
 void Columnize(const QString &inFile, const QString &outFile, int columnCount)

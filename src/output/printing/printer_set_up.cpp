@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "output/printing/printer_set_up.h"
 
-#include "output/window_style.h"
+#include "widgets/window_style.h"
 
 #include <QComboBox>
 #include <QFormLayout>

@@ -7,7 +7,6 @@
 #include "output/web/web_page.h"
 #include "output/web/web_view.h"
 #include "output/web/web_wishes.h"
-#include "output/window_style.h"
 #include "platform/boxes.h"
 #include "platform/clock.h"
 #include "platform/file_dialogs.h"
@@ -19,6 +18,7 @@
 #include "platform/text.h"
 #include "widgets/file_drop.h"
 #include "widgets/guards.h"
+#include "widgets/window_style.h"
 
 #include <QDesktopServices>
 #include <QFileInfo>
@@ -97,7 +97,7 @@ void FrmSaveAsWeb::connectDrops()
 void FrmSaveAsWeb::edit()
 {
     if (const Gate::Passage open = ground_.gate.openBox()) {
-        fitToScreen();
+        window_style::fitToScreen(*this, wishedSize);
         exec();
     }
 }
@@ -108,14 +108,6 @@ void FrmSaveAsWeb::cmdClose_Click()
     if (!ground_.gate.isClosing())
         step([&] { web_wishes::save(ground_.store, *view_); });
     done(QDialog::Rejected);
-}
-
-void FrmSaveAsWeb::fitToScreen()
-{
-    // The frame that a window manager draws round the window needs room too.
-    const QRect room = screen()->availableGeometry().adjusted(8, 32, -8, -16);
-    resize(wishedSize.boundedTo(room.size()));
-    move(room.center() - rect().center());
 }
 
 // Checks ----------------------------------------------------------------------------------------------------

@@ -44,7 +44,6 @@ private:
     QString pagePath() const;
     WebPage wishes() const;
     void makePage();
-    void fitToScreen();
 
     Ground &ground_;
     WebView *view_;

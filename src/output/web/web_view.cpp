@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "output/web/web_view.h"
 
-#include "output/window_style.h"
 #include "persistence/settings/option_fields.h"
 #include "platform/text_masks.h"
+#include "widgets/window_style.h"
 
 #include <QFile>
 #include <QFormLayout>

@@ -16,10 +16,10 @@
 #include "platform/text.h"
 #include "widgets/file_drop.h"
 #include "widgets/guards.h"
+#include "widgets/window_style.h"
 
 #include <QCloseEvent>
 #include <QPushButton>
-#include <QScreen>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -75,7 +75,7 @@ void frmOptions::edit()
     step([&] { ground_.options.subSnapShot(); });
     step([&] {
         if (const Gate::Passage open = ground_.gate.openBox()) {
-            fitToScreen();
+            window_style::fitToScreen(*this, wishedSize);
             exec();
         }
     });
@@ -170,18 +170,6 @@ void frmOptions::Text2_OLEDragDrop(const QString &path)
     else
         ground_.boxes.plainBox(Boxes::Icon::Warning, product::name + u" - Fehler: Format"_s,
                                u"Hier passt nur eine Text-Datei (*.txt)."_s);
-}
-
-void frmOptions::fitToScreen()
-{
-    // The frame that a window manager draws round the window needs room too.
-    const QRect room = screen()->availableGeometry().adjusted(8, 16, -8, -16);
-    const bool fits = testAttribute(Qt::WA_Resized) && room.size().boundedTo(size()) == size();
-    if (!fits)
-        resize(wishedSize.boundedTo(room.size()));
-    // A place that is given anew each time counts with the frame or without it, and the window wanders.
-    if (!fits || !room.contains(geometry()))
-        move(room.center() - rect().center());
 }
 
 void frmOptions::closeEvent(QCloseEvent *event) { event->ignore(); }

@@ -45,7 +45,6 @@ private:
     void Command6_Click();
     void Text2_OLEDragDrop(const QString &path);
     void apply();
-    void fitToScreen();
 
     Ground &ground_;
     OptionsView *view_;

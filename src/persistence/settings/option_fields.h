@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/settings_table.h"
+#include "widgets/window_style.h"
 
 #include <QCheckBox>
 #include <QColor>
@@ -10,9 +11,6 @@
 
 class Options;
 class QLineEdit;
-
-/// The background of the options window, and of its text boxes while they have no focus.
-inline constexpr QColor optionsPaper{234, 243, 255};
 
 /// What a text box needs to take numbers only and to show that it has the focus: a mask that drops what is no
 /// number while it is typed, and four colours.
@@ -29,7 +27,7 @@ public:
     bool pAllowColorChange = true;
     QColor pBackColor_GotFocus;
     QColor pForeColor_GotFocus;
-    QColor pBackColor_Normal = optionsPaper;
+    QColor pBackColor_Normal = window_style::paper;
     QColor pForeColor_Normal;
 
 protected:

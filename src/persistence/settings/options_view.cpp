@@ -50,8 +50,6 @@ constexpr std::array<ButtonRow, 10> buttonRows{{
 }};
 
 const QString pageStyle = uR"(
-QGroupBox { font-weight: bold; border: 1px solid #9cc3f5; border-radius: 6px; margin-top: 7px; padding: 6px 8px 3px 8px; }
-QGroupBox::title { subcontrol-origin: margin; left: 10px; padding: 0 4px; color: #1a4f9c; }
 QToolButton { border: 1px solid transparent; border-radius: 6px; padding: 8px 10px; color: black; background: transparent; }
 QToolButton:hover { background: rgba(255, 255, 255, 110); }
 QToolButton:checked { background: white; border-color: #3d95ff; font-weight: bold; }
@@ -77,10 +75,10 @@ OptionsView::OptionsView(Options &options, QWidget *parent)
     , options_(options)
 {
     QPalette colours = palette();
-    colours.setColor(QPalette::Window, optionsPaper);
+    colours.setColor(QPalette::Window, window_style::paper);
     setPalette(colours);
     setAutoFillBackground(true);
-    setStyleSheet(pageStyle);
+    setStyleSheet(window_style::groupStyle() + pageStyle);
     auto *right = new QVBoxLayout;
     right->setSpacing(0);
     right->addWidget(makeBanner());

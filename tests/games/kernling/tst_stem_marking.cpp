@@ -169,17 +169,6 @@ private slots:
         QVERIFY(w.t.ok());
     }
 
-    void theWholeTextIsNoStem()
-    {
-        Workshop w;
-        w.t.options.setBox(Setting::KernlingShowFalse, 1);
-        w.write(u"Unsinn "_s.repeated(20000));
-        w.text().selectAll();
-        emit w.text().marked();
-        QVERIFY(w.answer().size() < 600 && w.answer().contains(u"steht nicht in der Wortstamm-Liste"_s));
-        QVERIFY(w.rows(w.c().UserFalseWortelList).first().size() < 510);
-    }
-
     void stemsAreCountedOnceOrEachTime_data()
     {
         columns<int, QString>("noDup", "count");

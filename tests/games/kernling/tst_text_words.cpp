@@ -91,19 +91,6 @@ private slots:
                  std::multiset(items.begin(), items.end()));
     }
 
-    void moves()
-    {
-        WordStore list;
-        list.addAll({u"a"_s, u"b"_s, u"c"_s});
-        QCOMPARE(list_move_up(list, 2), 1);
-        QCOMPARE(list_move_down(list, 0), 1);
-        QCOMPARE(list.rows().join(u' '), u"c a b"_s);
-        for (const int stays : {-1, 3})
-            QVERIFY(list_move_up(list, stays) == stays && list_move_down(list, stays) == stays);
-        QVERIFY(list_move_up(list, 0) == 0 && list_move_down(list, 2) == 2);
-        QCOMPARE(list.rows().join(u' '), u"c a b"_s);
-    }
-
     void randomRowsAreDifferent_data()
     {
         columns<int, int, int>("count", "wanted", "drawn");

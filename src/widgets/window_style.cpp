@@ -1,21 +1,21 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "output/window_style.h"
+#include "widgets/window_style.h"
 
 #include <QDialog>
 #include <QFormLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QColor paper{234, 243, 255};
 constexpr int buttonWidth = 96;
 
-const QString style = uR"(
+const QString groups = uR"(
 QGroupBox { font-weight: bold; border: 1px solid #9cc3f5; border-radius: 6px; margin-top: 7px; padding: 6px 8px 3px 8px; }
 QGroupBox::title { subcontrol-origin: margin; left: 10px; padding: 0 4px; color: #1a4f9c; }
 )"_s;
@@ -27,8 +27,23 @@ void window_style::dress(QDialog &window)
     QPalette colours = window.palette();
     colours.setColor(QPalette::Window, paper);
     window.setPalette(colours);
-    window.setStyleSheet(style);
+    window.setStyleSheet(groupStyle());
     window.setModal(true);
+}
+
+QString window_style::groupStyle() { return groups; }
+
+void window_style::fitToScreen(QWidget &window, QSize wished)
+{
+    // The frame that a window manager draws round the window needs room too.
+    const QRect room = window.screen()->availableGeometry().adjusted(8, 32, -8, -16);
+    const bool fits =
+        window.testAttribute(Qt::WA_Resized) && room.size().boundedTo(window.size()) == window.size();
+    if (!fits)
+        window.resize(wished.boundedTo(room.size()));
+    // A place that is given anew each time counts with the frame or without it, and the window wanders.
+    if (!fits || !room.contains(window.geometry()))
+        window.move(room.center() - window.rect().center());
 }
 
 void window_style::name(QWidget &control, const char *objectName, const QString &caption)
