@@ -49,6 +49,7 @@ inline constexpr char16_t noSmaller[]       = u"Kleiner geht es nicht";
 inline constexpr char16_t sizeAfterGame[]   = u"Die neue Größe gilt, sobald das Spiel zu Ende ist";
 inline constexpr char16_t sizeAfterRetype[] = u"Die neue Größe gilt, sobald das Abschreiben zu Ende ist";
 inline constexpr char16_t sizeAfterWork[]   = u"Die neue Größe gilt gleich, wenn das hier fertig ist";
+inline constexpr char16_t sizeNextStart[]   = u"Die neue Größe gilt ab dem nächsten Start: In Kernling steht noch ein Text";
 inline constexpr char16_t sizeAfterWindow[] = u"Die neue Größe gilt, sobald dieses Fenster geschlossen ist";
 
 // What has to end first

@@ -15,6 +15,8 @@
 #include "widgets/press_button.h"
 #include "widgets/store_list.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 
@@ -107,6 +109,9 @@ void putTools(const Continuation &kept, Rooms &r, frmMain &form)
         form.play().setCheckedVowels(kept.vowels);
     }
     r.vowelBoard.goOn(kept.listBeforeVowels);
+    r.printing.takeSetUp(kept.printer);
+    if (!kept.clipboard.isEmpty())
+        QGuiApplication::clipboard()->setText(kept.clipboard);
 }
 
 } // namespace
@@ -144,6 +149,9 @@ Continuation continuationOf(frmMain &form, int percent)
     kept.tipIsDue = r.tips.isTipDue();
     if (const HelpWindow *handbook = form.handbook(); handbook != nullptr && handbook->isVisible())
         kept.handbookPage = handbook->browser()->source();
+    kept.printer = r.printing.setUp();
+    if (QGuiApplication::clipboard()->ownsClipboard())
+        kept.clipboard = QGuiApplication::clipboard()->text();
     keepOptions(kept, ground.options);
     keepWindow(kept, form, percent);
     if (ground.log.enabled())

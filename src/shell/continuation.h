@@ -3,6 +3,7 @@
 #pragma once
 
 #include "board/tiles/affix_homes.h"
+#include "output/printing/printer_set_up.h"
 #include "persistence/undo_ring.h"
 #include "platform/play_state.h"
 #include "platform/settings_table.h"
@@ -45,6 +46,8 @@ struct Continuation
     std::array<bool, 3> morphemeListsOpen{}; ///< Wortel, prefix, suffix
     bool tipIsDue = false;
     QUrl handbookPage; ///< empty: not open
+    PrinterSetUp printer;
+    QString clipboard; ///< empty: it is not ours
 
     /// The settings as they are edited, which may not have been stored.
     std::array<QString, static_cast<std::size_t>(Setting::Count)> options;

@@ -126,6 +126,8 @@ void SizeChange::act()
             tellWait(); // its end comes back here
         else if (ground_.gate.hasWaiting())
             act(); // what came from outside would be lost
+        else if (const char16_t *sentence = hindrance_ ? hindrance_() : nullptr)
+            ground_.notes.tell(sentence);
         else
             emit due();
     });

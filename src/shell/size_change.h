@@ -6,6 +6,8 @@
 #include <QSize>
 #include <QTimer>
 
+#include <functional>
+
 class CommandRouter;
 class PlayState;
 class QKeyEvent;
@@ -26,6 +28,8 @@ public:
     /// 100 %.
     SizeChange(Ground &ground, const PlayState &play, int percent, QSize screen, QObject *parent = nullptr);
     void registerCommands(CommandRouter &router);
+    /// `sentence` says why the change has to wait for the next start, or gives nullptr.
+    void askBefore(std::function<const char16_t *()> sentence) { hindrance_ = std::move(sentence); }
 
     void larger();
     void smaller();
@@ -51,6 +55,7 @@ private:
 
     Ground &ground_;
     const PlayState &play_;
+    std::function<const char16_t *()> hindrance_;
     QTimer timer_;
     int percent_;
     QSize screen_;

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "games/kernling/kernling_text.h"
 #include "shell/continuation.h"
 #include "support/columns.h"
 #include "support/registry.h"
@@ -110,6 +111,19 @@ private slots:
         });
         TestHouse::settle();
         QCOMPARE(house.due.size(), 1);
+    }
+
+    /// Strg++ would take an hour of marking with it.
+    void aTextInKernlingIsNotLost()
+    {
+        House house;
+        house.r.kernling.Form_Load();
+        house.r.kernling.findChild<KernlingText *>()->setPlainText(u"Der Ball"_s);
+        house.strg(Qt::Key_Plus);
+        House::rest();
+        QCOMPARE(house.due.size(), 0);
+        QVERIFY(house.t.told.last().contains(u"Kernling"_s));
+        QCOMPARE(house.stored(), u"125"_s);
     }
 
     void optionsAndMenu()
