@@ -49,6 +49,7 @@ enum class Setting : int {
     GameSoundOnTimeOut,
     MoveableInFilter,
     ConfirmBeforeErase,
+    LongPressIsRight,
     FillAffix,
     OpenWLXWithStoredLex,
     UseCaseOnPseudo,

@@ -62,6 +62,7 @@ frmMain::frmMain(Ground &ground, const StartFacts &facts)
     , note_(new ShortNote(*controls_.picCanvas, *controls_.Picture1))
     , help_(ground.AppFolder, this)
     , size_(ground, play_, facts.SizePercent, facts.Screen)
+    , longPress_(ground)
 {
     setObjectName(u"frmMain"_s);
     setWindowTitle(product::name);

@@ -8,6 +8,7 @@
 #include "shell/handbook/help.h"
 #include "shell/size_change.h"
 #include "widgets/control_sheet.h"
+#include "widgets/long_press.h"
 #include "widgets/main_controls.h"
 #include "widgets/main_work_view.h"
 #include "widgets/short_note.h"
@@ -130,6 +131,7 @@ private:
     SizeChange size_;
     std::unique_ptr<Continuation> opensAgain_; ///< once the window is seen
     std::optional<Gate::Passage> left_;
+    LongPress longPress_;
     QString hiddenText_;
     bool cmdLineReady_ = false;
     bool activated_ = false;

@@ -16,18 +16,23 @@
 #include "widgets/alpha_panel.h"
 #include "widgets/click_label.h"
 #include "widgets/dropper.h"
+#include "widgets/long_press.h"
 #include "widgets/press_button.h"
 #include "widgets/store_list.h"
 
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QShortcut>
+
+#include <type_traits>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr auto nothing = [] {};
+using Nothing = std::decay_t<decltype(nothing)>;
 
 /// What a tool at rest says, by the index of its reason. A report goes by itself at once.
 constexpr const char16_t *restNotes[] = {note::wholeList,   note::afterDictionary, nullptr,
@@ -40,6 +45,8 @@ static_assert(std::size(restNotes) == static_cast<std::size_t>(Reason::Work) + 1
 /// Connects a tool's left and right press. A tool acts if the gate lets it in and no reason lies on it.
 template <typename Left, typename Right> void frmMain::onPress(PressButton *tool, Left left, Right right)
 {
+    if constexpr (!std::is_same_v<Right, Nothing>)
+        LongPress::offer(tool);
     connect(tool, &PressButton::mouseDown, this, [this, tool, left, right](Qt::MouseButton button) {
         const Gate::Passage passage = ground_.gate.enter(Gate::Way::Play);
         if (passage && sheet_.acts(tool))
@@ -78,6 +85,13 @@ void frmMain::wireBoard()
             if (button == Qt::RightButton)
                 ground_.notes.tell(note::leftPressOnly);
         });
+    // Beside the tool, so that the second press of a double click chooses nothing.
+    const auto openMenu = [this, &r, tool = controls_.CmdMenu] {
+        r.pointer.openMenu(tool->mapToGlobal(QPoint(tool->width(), 0)));
+    };
+    onPress(controls_.CmdMenu, openMenu, nothing);
+    connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, this,
+            throughGate(gate, Gate::Way::Play, openMenu));
     connect(controls_.Label4, &ClickLabel::clicked, &gate, &Gate::cancelWork);
     connect(controls_.Label2, &ClickLabel::clicked, this,
             throughGate(gate, Gate::Way::Play, [this] { showAbout(); }));
@@ -135,6 +149,7 @@ void frmMain::wireLists()
 void frmMain::wireModes()
 {
     Rooms &r = *rooms_;
+    LongPress::offer(controls_.Check4);
     connect(controls_.Check4, &PressButton::mouseDown, &r.retype, &RetypeMode::Check4_MouseDown);
     onPress(
         controls_.Check3, [&r] { r.game.Check3_MouseDown(Qt::LeftButton); },

@@ -20,6 +20,7 @@
 #include "shell/start_steps.h"
 #include "shell/termination.h"
 #include "widgets/resources.h"
+#include "widgets/roomy_style.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -28,7 +29,6 @@
 #include <QLibraryInfo>
 #include <QScreen>
 #include <QStandardPaths>
-#include <QStyleFactory>
 #include <QTimer>
 #include <QTranslator>
 
@@ -142,7 +142,7 @@ void dressApplication(QApplication &application)
     QCoreApplication::setApplicationName(product::name);
     QCoreApplication::setApplicationVersion(product::version());
     QGuiApplication::setDesktopFileName(u"wortel-meister"_s);
-    QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
+    QApplication::setStyle(new RoomyStyle);
     QFont font(u"Liberation Sans"_s);
     font.setPixelSize(11);
     QApplication::setFont(font);

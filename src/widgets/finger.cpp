@@ -9,6 +9,7 @@ bool finger::isBehind(const QMouseEvent &event)
 {
     return event.pointingDevice()->type() == QInputDevice::DeviceType::TouchScreen ||
            event.pointerType() == QPointingDevice::PointerType::Finger ||
+           event.pointerType() == QPointingDevice::PointerType::Pen ||
            event.source() == Qt::MouseEventSynthesizedByQt ||
            event.source() == Qt::MouseEventSynthesizedBySystem;
 }

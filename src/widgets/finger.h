@@ -4,13 +4,11 @@
 
 class QMouseEvent;
 
-/// What board and tools agree on about touch screens: a finger is the left button, and the right one if it
-/// rests.
+/// What board, tools and lists agree on about touch screens: a finger or a pen is the left button, and the
+/// right one if it rests (`LongPress`).
 namespace finger {
 
-inline constexpr int longPressTime = 600; ///< milliseconds
-
-/// True if the event was made from a touch.
+/// True if the event was made from a touch or by a pen.
 bool isBehind(const QMouseEvent &event);
 
 } // namespace finger

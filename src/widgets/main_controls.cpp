@@ -18,6 +18,7 @@
 #include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMargins>
 
 #include <algorithm>
 
@@ -35,6 +36,7 @@ constexpr int secondRow = 38;
 constexpr int rowHeight = 32;
 constexpr int statusRow = 73;
 constexpr int statusHeight = 14;
+constexpr QMargins cancelReach{4, 7, 4, 0}; // round the "X": a finger needs more than one sees
 
 using C = MainControls;
 
@@ -62,15 +64,16 @@ constexpr ControlRow bandRows[] = {
     {[](const C &c) -> QWidget * { return c.OptType[3]; }, "OptType(3)", 148, firstRow, 46, rowHeight, u"0",
      u"Präfix+Wortel+Suffix zeigen / Listen zeigen", nullptr},
     {CONTROL(Check1), 198, firstRow, 48, rowHeight, u"Alle", u"", nullptr},
-    {CONTROL(Text1), 4, secondRow, 34, rowHeight, u"", u"Anzahl Wortel", nullptr},
-    {CONTROL(Check2), 41, secondRow, 62, rowHeight, u"Wortel", u"Wortel einfügen / Wortel-Liste laden",
+    {CONTROL(Text1), 4, secondRow, 30, rowHeight, u"", u"Anzahl Wortel", nullptr},
+    {CONTROL(Check2), 36, secondRow, 54, rowHeight, u"Wortel", u"Wortel einfügen / Wortel-Liste laden",
      nullptr},
-    {[](const C &c) -> QWidget * { return c.Option1[0]; }, "Option1(0)", 106, secondRow, 33, rowHeight, u"",
+    {[](const C &c) -> QWidget * { return c.Option1[0]; }, "Option1(0)", 92, secondRow, 30, rowHeight, u"",
      u"Ziehmodus Wortkontrolle", ":/icons/drag-word-check.svg"},
-    {[](const C &c) -> QWidget * { return c.Option1[1]; }, "Option1(1)", 141, secondRow, 33, rowHeight, u"",
+    {[](const C &c) -> QWidget * { return c.Option1[1]; }, "Option1(1)", 123, secondRow, 30, rowHeight, u"",
      u"normaler Ziehmodus", ":/icons/drag-normal.svg"},
-    {CONTROL(Command6), 178, secondRow, 33, rowHeight, u"", u"Optionen", ":/icons/options.svg"},
-    {CONTROL(Command1), 213, secondRow, 33, rowHeight, u"", u"Hilfe für Wortel", ":/icons/help.svg"},
+    {CONTROL(Command6), 154, secondRow, 30, rowHeight, u"", u"Optionen", ":/icons/options.svg"},
+    {CONTROL(Command1), 185, secondRow, 30, rowHeight, u"", u"Hilfe für Wortel", ":/icons/help.svg"},
+    {CONTROL(CmdMenu), 216, secondRow, 30, rowHeight, u"", u"Menü", ":/icons/menu-button.svg"},
 
     {CONTROL(Dropper1), 2, firstRow, 114, rowHeight, u"", u"", nullptr},
     {CONTROL(Command2), 119, firstRow, 33, rowHeight, u"", u"Wortkontrolle / Wortsuche",
@@ -195,6 +198,7 @@ void makeTilePanel(C &c)
     c.Option1[1]->setChecked(true);
     c.Command6 = make<PressButton>(c.Picture2, "Command6");
     c.Command1 = make<PressButton>(c.Picture2, "Command1");
+    c.CmdMenu = make<PressButton>(c.Picture2, "CmdMenu");
 }
 
 void makeWordPanel(C &c)
@@ -231,10 +235,15 @@ void makeStatusLine(C &c)
     c.Label3 = makeLabel(c.Picture1, "Label3");
     c.GameProgress = make<GameProgressBar>(c.Picture1, "GameProgress");
     c.GameProgress->hide();
-    c.Label4 = make<ClickLabel>(c.Picture1, "Label4");
+    c.Label4 = make<ClickLabel>(c.Picture1, "Label4"); // in front of the panels: it reaches into one
     c.Label4->setAlignment(Qt::AlignCenter);
     c.Label4->setStyleSheet(
-        QStringLiteral("background: #c00000; color: white; font-weight: bold; border-radius: 4px"));
+        QStringLiteral("background: #c00000; color: white; font-weight: bold; border-radius: 4px; "
+                       "margin: %1px %2px %3px %4px")
+            .arg(cancelReach.top())
+            .arg(cancelReach.right())
+            .arg(cancelReach.bottom())
+            .arg(cancelReach.left()));
     c.Label4->hide();
     c.Label2 = make<ClickLabel>(c.form, "Label2");
     c.Label2->setText(QStringLiteral("NORDVEKT"));
@@ -326,6 +335,7 @@ void layOutMainControls(const MainControls &c, int width, int height)
     }
     for (const ControlRow &row : bandRows)
         row.get(c)->setGeometry(scaled(row.x), row.y, scaled(row.width), row.height);
+    c.Label4->setGeometry(c.Label4->geometry() + cancelReach);
     c.Label2->setGeometry(0, height - lowerEdgeHeight, 82, lowerEdgeHeight);
     c.Label2->raise();
 }

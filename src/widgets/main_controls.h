@@ -47,6 +47,7 @@ struct MainControls
     QLabel *Label3 = nullptr;
     PressButton *Command6 = nullptr;
     PressButton *Command1 = nullptr;
+    PressButton *CmdMenu = nullptr;
 
     Dropper *Dropper1 = nullptr;
     PressButton *Command2 = nullptr;

@@ -32,7 +32,7 @@ constexpr SheetRow restingTools[] = {
     {tool<&C::Label2>, SheetRow::Disabled},      {tool<&C::Dropper1>, SheetRow::Disabled},
     {tool<&C::Option2, 0>, SheetRow::Disabled},  {tool<&C::Option2, 1>, SheetRow::Disabled},
     {tool<&C::Option2, 2>, SheetRow::Disabled},  {tool<&C::ChkVokal, 0>, SheetRow::Disabled},
-    {tool<&C::ChkVokal, 1>, SheetRow::Disabled},
+    {tool<&C::ChkVokal, 1>, SheetRow::Disabled}, {tool<&C::CmdMenu>, SheetRow::Disabled},
 };
 /// The mode's own button, unless its words are prepared: then it cancels.
 constexpr SheetRow modeTool[] = {{tool<&C::Check4>, SheetRow::Disabled}};

@@ -4,6 +4,7 @@
 
 #include "platform/text.h"
 #include "widgets/colour.h"
+#include "widgets/long_press.h"
 
 #include <QEvent>
 #include <QFontMetrics>
@@ -34,6 +35,7 @@ MsgScroller::MsgScroller(QWidget *parent)
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAccessibleName(QStringLiteral("Laufschrift"));
+    LongPress::offer(this);
     tmrScroll_.setSingleShot(true);
     tmrScroll_.setTimerType(Qt::PreciseTimer);
     connect(&tmrScroll_, &QTimer::timeout, this, [this] { advance(clock_.elapsed()); });

@@ -3,13 +3,11 @@
 #include "widgets/press_button.h"
 
 #include "widgets/colour.h"
-#include "widgets/finger.h"
 
 #include <QLinearGradient>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
-#include <QTimer>
 
 #include <algorithm>
 #include <array>
@@ -39,14 +37,10 @@ struct PressButton::Look
 
 PressButton::PressButton(QWidget *parent)
     : QToolButton(parent)
-    , longPress_(new QTimer(this))
 {
     setFocusPolicy(Qt::NoFocus);
     setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     setAttribute(Qt::WA_Hover);
-    longPress_->setSingleShot(true);
-    longPress_->setInterval(finger::longPressTime);
-    connect(longPress_, &QTimer::timeout, this, &PressButton::onLongPress);
 }
 
 void PressButton::setFace(const QColor &back, const QColor &text)
@@ -169,31 +163,17 @@ void PressButton::paintContent(QPainter &painter, const Look &look) const
 
 void PressButton::mousePressEvent(QMouseEvent *event)
 {
-    longPressed_ = false;
-    pressModifiers_ = event->modifiers();
     if (event->button() == Qt::RightButton) {
         event->accept();
         emit mouseDown(Qt::RightButton, event->modifiers());
         return;
     }
-    if (event->button() == Qt::LeftButton && finger::isBehind(*event))
-        longPress_->start();
     QToolButton::mousePressEvent(event);
-}
-
-void PressButton::onLongPress()
-{
-    if (!isDown())
-        return; // the finger has slid off the button
-    longPressed_ = true;
-    setDown(false);
-    emit mouseDown(Qt::RightButton, pressModifiers_);
 }
 
 void PressButton::mouseReleaseEvent(QMouseEvent *event)
 {
-    longPress_->stop();
-    if (event->button() != Qt::LeftButton || longPressed_) {
+    if (event->button() != Qt::LeftButton) {
         event->accept();
         return;
     }

@@ -4,11 +4,9 @@
 
 #include <QToolButton>
 
-class QTimer;
-
 /// A tool of the lower band: a push, check or option button with an icon or a short text that tells left from
-/// right presses, because most tools do two things. A long press with a finger is the right button. It never
-/// takes the keyboard focus, so the keyboard stays with the board.
+/// right presses, because most tools do two things. It never takes the keyboard focus, so the keyboard stays
+/// with the board.
 class PressButton : public QToolButton
 {
     Q_OBJECT
@@ -37,11 +35,7 @@ private:
     Look look() const;
     void paintFace(QPainter &painter, const Look &look) const;
     void paintContent(QPainter &painter, const Look &look) const;
-    void onLongPress();
 
-    QTimer *longPress_;
-    bool longPressed_ = false;
-    Qt::KeyboardModifiers pressModifiers_;
     QColor back_;
     QColor text_;
 };

@@ -3,8 +3,10 @@
 #include "widgets/store_list.h"
 
 #include "platform/word_store.h"
+#include "widgets/long_press.h"
 
 #include <QAbstractListModel>
+#include <QMetaMethod>
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QTimer>
@@ -202,10 +204,20 @@ void StoreList::mousePressEvent(QMouseEvent *event)
 
 void StoreList::mouseReleaseEvent(QMouseEvent *event)
 {
+    if (LongPress::takesBack(*event)) {
+        setState(NoState); // the rows stay marked as they are
+        return;
+    }
     QListView::mouseReleaseEvent(event);
     const QModelIndex index = indexAt(event->position().toPoint());
     if (event->button() == Qt::LeftButton && index.isValid())
         emit rowClicked(index.row());
+}
+
+void StoreList::connectNotify(const QMetaMethod &signal)
+{
+    if (signal == QMetaMethod::fromSignal(&StoreList::rightPressed))
+        LongPress::offer(viewport());
 }
 
 void StoreList::keyPressEvent(QKeyEvent *event)

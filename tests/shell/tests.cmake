@@ -4,6 +4,7 @@ wortel_test(shell
     SOURCES
         handbook/tst_help.cpp
         tst_board_fit.cpp
+        tst_long_press.cpp
         tst_main_window.cpp
         tst_notes.cpp
         tst_one_work.cpp

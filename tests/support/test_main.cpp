@@ -4,9 +4,9 @@
 #include "support/watchful_application.h"
 
 #include "widgets/resources.h"
+#include "widgets/roomy_style.h"
 
 #include <QFont>
-#include <QStyleFactory>
 #include <QtTest>
 
 std::vector<testing::Entry> &testing::registry()
@@ -19,7 +19,7 @@ int main(int argc, char *argv[])
 {
     WatchfulApplication application(argc, argv);
     initResources();
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new RoomyStyle);
     QFont font(QStringLiteral("Liberation Sans"));
     font.setPixelSize(11);
     QApplication::setFont(font);

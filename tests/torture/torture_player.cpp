@@ -30,12 +30,12 @@
 #include "shell/start_steps.h"
 #include "widgets/picture_box.h"
 #include "widgets/resources.h"
+#include "widgets/roomy_style.h"
 
 #include <QApplication>
 #include <QFile>
 #include <QFont>
 #include <QMouseEvent>
-#include <QStyleFactory>
 
 #include <random>
 
@@ -269,7 +269,7 @@ int main(int argc, char *argv[])
     if (arguments.size() != 4)
         return 2;
     initResources();
-    QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
+    QApplication::setStyle(new RoomyStyle);
     QFont font(u"Liberation Sans"_s);
     font.setPixelSize(11);
     QApplication::setFont(font);

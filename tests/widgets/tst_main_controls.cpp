@@ -57,6 +57,23 @@ private slots:
         QVERIFY(!c.ChkVokal[0]->isChecked() && c.ChkVokal[1]->isChecked());
         QCOMPARE(lit(), u"3"_s);
     }
+
+    void aFingerHitsEveryTool()
+    {
+        QWidget form;
+        const MainControls c = makeMainControls(&form);
+        for (const int width : {632, 853, 1920}) {
+            layOutMainControls(c, width, 480);
+            for (const QWidget *panel : {c.Picture2, c.Picture3, c.Picture4}) {
+                QRegion taken;
+                for (const QWidget *tool : panel->findChildren<PressButton *>()) {
+                    QVERIFY(panel->rect().contains(tool->geometry()) && !taken.intersects(tool->geometry()));
+                    taken += tool->geometry();
+                }
+            }
+            QVERIFY(c.Label4->width() >= 24 && c.Label4->height() >= 24);
+        }
+    }
 };
 
 WORTEL_TEST(MainControlsTest)

@@ -1,11 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/registry.h"
-#include "widgets/finger.h"
 #include "widgets/press_button.h"
 
-#include <QPointingDevice>
-#include <QSignalSpy>
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
@@ -26,14 +23,6 @@ struct Bench
                              told << (which == Qt::LeftButton ? u"left"_s : u"right"_s) +
                                          (keys & Qt::ShiftModifier ? u"+shift"_s : QString());
                          });
-    }
-
-    void touch(QEvent::Type type)
-    {
-        const bool down = type == QEvent::MouseButtonPress;
-        QMouseEvent event(type, QPointF(20, 20), QPointF(20, 20), QPointF(20, 20), Qt::LeftButton,
-                          down ? Qt::LeftButton : Qt::NoButton, {}, Qt::MouseEventSynthesizedByQt);
-        QApplication::sendEvent(&button, &event);
     }
 
     QWidget window;
@@ -77,31 +66,6 @@ private slots:
         QTest::mouseRelease(&bench.button, Qt::RightButton);
         QCOMPARE(bench.told.size(), 1);
         QVERIFY(!bench.button.isChecked());
-    }
-
-    void aRestingFingerIsTheRightButton()
-    {
-        Bench bench(true);
-        bench.touch(QEvent::MouseButtonPress);
-        QTest::qWait(finger::longPressTime + 150);
-        QCOMPARE(bench.told, QStringList{u"right"_s});
-        bench.touch(QEvent::MouseButtonRelease);
-        QCOMPARE(bench.told.size(), 1);
-        QVERIFY(!bench.button.isChecked());
-        bench.touch(QEvent::MouseButtonPress); // the next tap is a plain one
-        bench.touch(QEvent::MouseButtonRelease);
-        QCOMPARE(bench.told.last(), u"left"_s);
-        QVERIFY(bench.button.isChecked());
-    }
-
-    void aSlowMouseClickStaysLeft()
-    {
-        Bench bench;
-        QTest::mousePress(&bench.button, Qt::LeftButton);
-        QTest::qWait(finger::longPressTime + 150);
-        QVERIFY(bench.told.isEmpty());
-        QTest::mouseRelease(&bench.button, Qt::LeftButton);
-        QCOMPARE(bench.told, QStringList{u"left"_s});
     }
 };
 

@@ -18,6 +18,7 @@
 #include "widgets/finger.h"
 #include "widgets/floating_tile.h"
 #include "widgets/gradient.h"
+#include "widgets/long_press.h"
 #include "widgets/main_controls.h"
 #include "widgets/picture_box.h"
 #include "widgets/press_button.h"
@@ -63,17 +64,11 @@ BoardPointer::BoardPointer(Ground &ground, const MainControls &controls, const R
     , rooms_(rooms)
     , store_(rooms.canvas.store())
     , drag_(controls)
-    , longPress_(this)
 {
-    longPress_.setSingleShot(true);
-    longPress_.setInterval(finger::longPressTime);
-    connect(&longPress_, &QTimer::timeout, this, &BoardPointer::onLongPress);
+    LongPress::offer(controls.picCanvas);
     connect(controls.picCanvas, &PictureBox::mouseDown, this, &BoardPointer::onMouseDown);
     connect(controls.picCanvas, &PictureBox::mouseMoved, this, &BoardPointer::onMouseMoved);
-    connect(controls.picCanvas, &PictureBox::mouseUp, this, [this](QMouseEvent *event) {
-        longPress_.stop();
-        picCanvas_MouseUp(event->button(), event->position().toPoint());
-    });
+    connect(controls.picCanvas, &PictureBox::mouseUp, this, &BoardPointer::onMouseUp);
     connect(&rooms.canvas, &Canvas::wordCheckDragBegins, this,
             [this] { drag_.begin(controls_.picCanvas->mapToGlobal(pressed_)); });
     connect(&ground.gate, &Gate::boxOpens, this, &BoardPointer::letGo);
@@ -84,29 +79,43 @@ BoardPointer::BoardPointer(Ground &ground, const MainControls &controls, const R
 
 void BoardPointer::onMouseDown(QMouseEvent *event)
 {
-    longPress_.stop();
-    const QPoint point = event->position().toPoint();
-    const bool waits = event->button() == Qt::LeftButton && finger::isBehind(*event);
-    if (waits)
-        longPress_.start();
-    picCanvas_MouseDown(event->button(), event->modifiers(), point);
+    const bool isLongPress = LongPress::isBehind(*event);
+    if (isLongPress && inserted_)
+        return; // the key and the press have done their work
+    inserted_ = false;
+    fingerRests_ = event->button() == Qt::LeftButton && finger::isBehind(*event);
+    picCanvas_MouseDown(event->button(), isLongPress ? Qt::NoModifier : event->modifiers(),
+                        event->position().toPoint());
 }
 
 void BoardPointer::onMouseMoved(QMouseEvent *event)
 {
     const QPoint point = event->position().toPoint();
-    if (longPress_.isActive()) {
-        if ((point - pressed_).manhattanLength() <= trembling)
-            return;
-        longPress_.stop();
-    }
+    if (fingerRests_ && (point - pressed_).manhattanLength() <= trembling)
+        return;
+    fingerRests_ = false;
     picCanvas_MouseMove(event->buttons(), point);
 }
 
-void BoardPointer::onLongPress()
+void BoardPointer::onMouseUp(QMouseEvent *event)
 {
+    fingerRests_ = false;
+    if (LongPress::takesBack(*event))
+        takePressBack();
+    else
+        picCanvas_MouseUp(event->button(), event->position().toPoint());
+}
+
+/// A tile that trembled under the hand lies where it lay, and nothing has moved.
+void BoardPointer::takePressBack()
+{
+    cWortel *tile = store_.current();
+    if (tile != nullptr && tileMoved_) {
+        tile->setXLeft(takenFrom_.x());
+        tile->setYTop(takenFrom_.y());
+    }
     tileMoved_ = false;
-    picCanvas_MouseDown(Qt::RightButton, {}, pressed_);
+    letGo();
 }
 
 // Pressing
@@ -132,8 +141,10 @@ void BoardPointer::leftPress(Qt::KeyboardModifiers shift, const QPoint &point)
 {
     const QPoint spot = rooms_.canvas.view().toBoard(point);
     tileMoved_ = rooms_.canvas.CanvasSelectWortel(spot.x(), spot.y());
-    if (tileMoved_)
+    if (tileMoved_) {
+        takenFrom_ = {store_.current()->xLeft(), store_.current()->yTop()};
         return;
+    }
     store_.setCurrent(nullptr);
     if (shift != Qt::NoModifier)
         insertByShift(shift, spot);
@@ -148,7 +159,7 @@ void BoardPointer::insertByShift(Qt::KeyboardModifiers shift, const QPoint &poin
         kind = wortel;
     else if (!shift.testFlag(Qt::AltModifier))
         return;
-    longPress_.stop();
+    inserted_ = true;
     rooms_.commands.insertAt(Press{point, store_.filter().selected(), nullptr, {}, {}}, kind);
     ground_.pump.yield();
 }
@@ -157,7 +168,7 @@ void BoardPointer::rightPress(Qt::KeyboardModifiers shift, const QPoint &point)
 {
     const Press press = rooms_.router.pressAt(rooms_.canvas.view().toBoard(point));
     if (shift == Qt::NoModifier) {
-        showMenu(press);
+        showMenu(press, controls_.picCanvas->mapToGlobal(point));
     } else if (shift == Qt::ShiftModifier) {
         ground_.log.WriteLog(QStringLiteral("Rightclick + shift: Duplicate object"));
         rooms_.commands.duplicateAt(press);
@@ -167,11 +178,20 @@ void BoardPointer::rightPress(Qt::KeyboardModifiers shift, const QPoint &point)
     }
 }
 
-void BoardPointer::showMenu(const Press &press)
+void BoardPointer::openMenu(const QPoint &corner)
+{
+    letGo();
+    Press press;
+    press.point =
+        rooms_.canvas.view().toBoard({store_.measures().ScaleWidth() / 2, store_.measures().BandTop() / 2});
+    press.filter = store_.filter().selected();
+    showMenu(press, corner);
+}
+
+void BoardPointer::showMenu(const Press &press, const QPoint &corner)
 {
     const MenuName name = menuOf(press.kind);
-    const int index = rooms_.popup.ShowPopupMenu(
-        name, controls_.picCanvas->mapToGlobal(rooms_.canvas.view().toCanvas(press.point)));
+    const int index = rooms_.popup.ShowPopupMenu(name, corner);
     if (index <= 0 || ground_.gate.isClosing())
         return;
     const int id = rooms_.popup.model().ItemKey(name, index);

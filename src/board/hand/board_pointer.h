@@ -7,7 +7,6 @@
 
 #include <QObject>
 #include <QPoint>
-#include <QTimer>
 
 class BoardCommands;
 class BoardNews;
@@ -21,8 +20,8 @@ struct MainControls;
 struct Press;
 
 /// What the pointer does on the board: it picks tiles up, moves and drops them, inserts, copies and removes
-/// with the shift keys, and opens the menus. A finger drags like the left button, and a long press is the
-/// right button.
+/// with the shift keys, and opens the menus. A finger drags like the left button, but not while it trembles
+/// on its place.
 class BoardPointer : public QObject
 {
     Q_OBJECT
@@ -51,6 +50,10 @@ public:
     void picCanvas_MouseMove(Qt::MouseButtons buttons, const QPoint &point);
     void picCanvas_MouseUp(Qt::MouseButton button, const QPoint &point);
 
+    /// The menu of the empty board, with its corner at that point of the screen. What it lays goes to the
+    /// middle of the board.
+    void openMenu(const QPoint &corner);
+
     /// Joins the held tile's text to the word in the field.
     void Dropper1_DragDrop();
     /// What follows a drop: the board is drawn anew and the filter comes back.
@@ -67,19 +70,22 @@ public:
 private:
     void onMouseDown(QMouseEvent *event);
     void onMouseMoved(QMouseEvent *event);
-    void onLongPress();
+    void onMouseUp(QMouseEvent *event);
 
+    void takePressBack();
     void leftPress(Qt::KeyboardModifiers shift, const QPoint &point);
     void rightPress(Qt::KeyboardModifiers shift, const QPoint &point);
     void insertByShift(Qt::KeyboardModifiers shift, const QPoint &point);
-    void showMenu(const Press &press);
+    void showMenu(const Press &press, const QPoint &corner);
 
     Ground &ground_;
     const MainControls &controls_;
     Rooms rooms_;
     TileStore &store_;
     TileDrag drag_;
-    QTimer longPress_;
     QPoint pressed_;
-    bool tileMoved_ = false; ///< the last press took a tile
+    QPoint takenFrom_;         ///< place of the tile that the last press took
+    bool tileMoved_ = false;   ///< the last press took a tile
+    bool fingerRests_ = false; ///< it is a finger's, and has not moved yet
+    bool inserted_ = false;    ///< the last press laid a new tile
 };

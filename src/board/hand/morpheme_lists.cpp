@@ -12,6 +12,7 @@
 #include "platform/sounds.h"
 #include "platform/word_store.h"
 #include "widgets/gradient.h"
+#include "widgets/long_press.h"
 #include "widgets/main_controls.h"
 #include "widgets/press_button.h"
 #include "widgets/store_list.h"
@@ -38,11 +39,13 @@ MorphemeLists::MorphemeLists(Ground &ground, const MainControls &controls, QObje
     , ground_(ground)
     , controls_(controls)
 {
-    for (std::size_t i = 0; i < controls.OptType.size(); ++i)
+    for (std::size_t i = 0; i < controls.OptType.size(); ++i) {
+        LongPress::offer(controls.OptType[i]);
         connect(controls.OptType[i], &PressButton::mouseDown, this,
                 throughGate(ground.gate, Gate::Way::Look, [this, i](Qt::MouseButton button, auto) {
                     OptType_MouseDown(static_cast<int>(i), button);
                 }));
+    }
 }
 
 StoreList *MorphemeLists::list(int index) const

@@ -7,6 +7,7 @@
 #include "games/scores/high_scores.h"
 #include "platform/files.h"
 #include "platform/ground.h"
+#include "widgets/long_press.h"
 #include "widgets/opening_press.h"
 
 #include <QShortcut>
@@ -89,6 +90,7 @@ void FrmKernling::wireText()
     onKeys(QKeySequence(Qt::CTRL | Qt::Key_Minus), zoom(-1));
 
     onClick(c.Command10, [&p] { p.game.Command10_MouseDown(Qt::LeftButton); });
+    LongPress::offer(c.Command10);
     connect(c.Command10, &PressButton::mouseDown, this, [this](Qt::MouseButton button) {
         if (button == Qt::RightButton)
             play([this] { parts_->game.Command10_MouseDown(Qt::RightButton); })();

@@ -3,9 +3,8 @@
 #include "games/kernling/kernling_text.h"
 
 #include "output/text_loading.h"
-#include "widgets/finger.h"
+#include "widgets/long_press.h"
 
-#include <QApplication>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QScrollBar>
@@ -98,9 +97,7 @@ KernlingText::KernlingText(QWidget *parent)
     setTabChangesFocus(true);
     setCursorWidth(caretWidth);
     setTextFont(QStringLiteral("Arial"));
-    longPress_.setSingleShot(true);
-    longPress_.setInterval(finger::longPressTime);
-    connect(&longPress_, &QTimer::timeout, this, [this] { emit rightPressed(pressedAt_); });
+    LongPress::offer(viewport());
     QPalette colours = palette(); // a marking is seen as well while a tool has the keyboard
     for (const auto role : {QPalette::Highlight, QPalette::HighlightedText})
         colours.setColor(QPalette::Inactive, role, colours.color(QPalette::Active, role));
@@ -255,29 +252,21 @@ void KernlingText::mousePressEvent(QMouseEvent *event)
         cursor.clearSelection();
         setTextCursor(cursor);
     }
-    if (event->button() == Qt::LeftButton && finger::isBehind(*event)) {
-        pressedAt_ = event->position().toPoint();
-        longPress_.start();
-    }
     QTextEdit::mousePressEvent(event);
     hideCaret();
 }
 
 void KernlingText::mouseMoveEvent(QMouseEvent *event)
 {
-    // A finger that marks does not rest.
-    if ((event->position().toPoint() - pressedAt_).manhattanLength() >= QApplication::startDragDistance())
-        longPress_.stop();
     QTextEdit::mouseMoveEvent(event);
     hideCaret();
 }
 
 void KernlingText::mouseReleaseEvent(QMouseEvent *event)
 {
-    longPress_.stop();
     QTextEdit::mouseReleaseEvent(event);
     hideCaret();
-    if (event->button() == Qt::LeftButton)
+    if (event->button() == Qt::LeftButton && !LongPress::takesBack(*event))
         emit marked();
 }
 

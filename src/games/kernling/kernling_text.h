@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QTextEdit>
-#include <QTimer>
 
 #include <functional>
 #include <vector>
@@ -93,7 +92,5 @@ private:
     int letterSize_ = 16; ///< pixels
     int zoom_ = 0;        ///< steps
     Run beforeShift_{0, 0};
-    QTimer longPress_;
-    QPoint pressedAt_;
     bool dropping_ = false;
 };

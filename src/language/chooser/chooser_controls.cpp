@@ -9,6 +9,7 @@
 #include "widgets/gradient.h"
 #include "widgets/press_button.h"
 #include "widgets/progress_bar.h"
+#include "widgets/roomy_style.h"
 #include "widgets/window_style.h"
 
 #include <QBoxLayout>
@@ -147,7 +148,7 @@ public:
     }
 
 private:
-    static constexpr int touchHeight = 22;
+    static constexpr int touchHeight = RoomyStyle::lowestRow;
     QWidget *form_;
 };
 
@@ -261,7 +262,7 @@ QLayout *makeSearch(Maker &make, ChooserControls &c)
     c.Label6 = make.label<ClickLabel>("Label6", u"✕"_s);
     c.Label6->setToolTip(u"Suche abbrechen"_s);
     c.Label6->setAccessibleName(u"Suche abbrechen"_s);
-    c.Label6->setMinimumWidth(24);
+    c.Label6->setMinimumSize(RoomyStyle::lowestRow, RoomyStyle::lowestRow);
     c.Label6->setAlignment(Qt::AlignCenter);
 
     auto *column = tight();
@@ -288,8 +289,10 @@ QLayout *makeFound(Maker &make, ChooserControls &c)
     c.ChkUseSuffixes = make.box("ChkUseSuffixes", u"Mit ausgewählten Suffixen");
     c.Check20 = make.button("Check20", u"Duplikate entfernen"_s);
     c.Check21 = make.button("Check21", u"Löschen"_s, u"Alle gefundenen Wörter aus der Liste entfernen"_s);
+    c.cmdSave = make.button("cmdSave", u"Speichern"_s, u"Alle gefundenen Wörter speichern (Strg+S)"_s);
     c.Label8 = make.label<ClickLabel>("Label8", u"Bitte warten..."_s);
     c.Label8->setToolTip(u"Klick: abbrechen"_s);
+    c.Label8->setMinimumHeight(RoomyStyle::lowestRow);
     QFont link = c.Label8->font();
     link.setUnderline(true);
     c.Label8->setFont(link);
@@ -312,7 +315,7 @@ QLayout *makeFound(Maker &make, ChooserControls &c)
     column->addLayout(lineOf({c.Check5, c.TxtNumWords}));
     column->addWidget(c.ChkUsePrefixes);
     column->addWidget(c.ChkUseSuffixes);
-    column->addLayout(lineOf({c.Check20, c.Check21}));
+    column->addLayout(lineOf({c.Check20, c.Check21, c.cmdSave}));
     return column;
 }
 

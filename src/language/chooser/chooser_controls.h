@@ -55,6 +55,7 @@ struct ChooserControls
     QCheckBox *ChkUsePrefixes = nullptr;
     QCheckBox *ChkUseSuffixes = nullptr;
     PressButton *Check20 = nullptr; ///< "Duplikate entfernen"
+    PressButton *cmdSave = nullptr; ///< "Speichern"
     PressButton *Check21 = nullptr; ///< "Löschen"
     ClickLabel *Label8 = nullptr;   ///< the wait text of a draw; cancels it
 

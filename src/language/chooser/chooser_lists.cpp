@@ -226,7 +226,7 @@ void frmChooseWortel::mnuSaveSelWords(const MarkList &shown)
     });
 }
 
-/// Ctrl+S: all words found, marked or not.
+/// All words found, marked or not.
 void frmChooseWortel::Save_Result()
 {
     Procedure step{ground_.log, "Save_Result", formName};

@@ -14,6 +14,7 @@
 #include "platform/text.h"
 #include "platform/word_lists.h"
 #include "widgets/click_label.h"
+#include "widgets/long_press.h"
 #include "widgets/press_button.h"
 #include "widgets/progress_bar.h"
 #include "widgets/window_style.h"
@@ -71,6 +72,7 @@ void frmChooseWortel::connectControls()
         connect(row.number, &QLineEdit::returnPressed, row.random, &QAbstractButton::click);
         connect(row.list, &MarkList::marksChanged, this, &frmChooseWortel::showCounts);
     }
+    LongPress::offer(c_.morphemes[Kind::Stem].add);
     connect(c_.morphemes[Kind::Stem].add, &PressButton::mouseDown, this, [this](Qt::MouseButton button) {
         if (button == Qt::RightButton)
             once([this] { loadStems(); })();
@@ -91,6 +93,7 @@ void frmChooseWortel::connectControls()
     connect(c_.Check2, &QAbstractButton::clicked, this, &QDialog::reject);
     connect(c_.Label6, &ClickLabel::clicked, this, &frmChooseWortel::Label6_Click);
     connect(c_.Label8, &ClickLabel::clicked, &ground_.gate, &Gate::cancelWork);
+    onClick(c_.cmdSave, [this] { Save_Result(); });
     connect(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, this,
             once([this] { Save_Result(); }));
     connect(new QShortcut(QKeySequence::Open, this), &QShortcut::activated, this,
@@ -211,7 +214,7 @@ void frmChooseWortel::rest(bool resting)
 {
     for (QWidget *control :
          std::initializer_list<QWidget *>{c_.List2, c_.Check1, c_.Check2, c_.Check3, c_.Check5, c_.Check20,
-                                          c_.TxtNumWords, c_.ChkUsePrefixes, c_.ChkUseSuffixes})
+                                          c_.cmdSave, c_.TxtNumWords, c_.ChkUsePrefixes, c_.ChkUseSuffixes})
         control->setEnabled(!resting);
     c_.List2->setUpdatesEnabled(!resting);
 }

@@ -3,21 +3,23 @@
 #include "language/chooser/mark_list.h"
 
 #include "widgets/finger.h"
+#include "widgets/long_press.h"
+#include "widgets/roomy_style.h"
 
 #include <QAbstractListModel>
 #include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QMetaMethod>
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QStyleHints>
-#include <QTimer>
 
 #include <algorithm>
 
 namespace {
 
-constexpr QSize rowSize{40, 20}; ///< high enough for a finger; rows are as wide as the list
+constexpr QSize rowSize{40, RoomyStyle::lowestRow}; ///< rows are as wide as the list
 
 } // namespace
 
@@ -63,7 +65,6 @@ private:
 MarkList::MarkList(QWidget *parent)
     : QListView(parent)
     , rows_(new Rows(this))
-    , longPress_(new QTimer(this))
 {
     setModel(rows_);
     setUniformItemSizes(true);
@@ -72,12 +73,6 @@ MarkList::MarkList(QWidget *parent)
     setVerticalScrollMode(ScrollPerPixel);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setTextElideMode(Qt::ElideRight);
-    longPress_->setSingleShot(true);
-    longPress_->setInterval(finger::longPressTime);
-    connect(longPress_, &QTimer::timeout, this, [this] {
-        tapCounts_ = false;
-        emit menuWanted(viewport()->mapToGlobal(touchedAt_));
-    });
     connect(rows_, &QAbstractItemModel::modelReset, this, &MarkList::marksChanged);
 }
 
@@ -127,6 +122,7 @@ void MarkList::mousePressEvent(QMouseEvent *event)
         event->accept();
         return;
     }
+    before_ = selectionModel()->selection();
     touched_ = tapCounts_ = finger::isBehind(*event);
     if (!touched_) {
         QListView::mousePressEvent(event);
@@ -134,7 +130,6 @@ void MarkList::mousePressEvent(QMouseEvent *event)
     }
     touchedAt_ = event->position().toPoint();
     scrolledAt_ = verticalScrollBar()->value();
-    longPress_->start();
 }
 
 void MarkList::mouseMoveEvent(QMouseEvent *event)
@@ -144,22 +139,25 @@ void MarkList::mouseMoveEvent(QMouseEvent *event)
         return;
     }
     const int way = event->position().toPoint().y() - touchedAt_.y();
-    if (std::abs(way) >= QGuiApplication::styleHints()->startDragDistance()) {
+    if (std::abs(way) >= QGuiApplication::styleHints()->startDragDistance())
         tapCounts_ = false;
-        longPress_->stop();
-    }
     if (!tapCounts_)
         verticalScrollBar()->setValue(scrolledAt_ - way);
 }
 
 void MarkList::mouseReleaseEvent(QMouseEvent *event)
 {
+    if (LongPress::takesBack(*event)) {
+        touched_ = false;
+        setState(NoState);
+        selectionModel()->select(before_, QItemSelectionModel::ClearAndSelect);
+        return;
+    }
     if (!touched_) {
         QListView::mouseReleaseEvent(event);
         return;
     }
     touched_ = false;
-    longPress_->stop();
     const QModelIndex row = indexAt(touchedAt_);
     if (tapCounts_ && row.isValid())
         selectionModel()->setCurrentIndex(row, QItemSelectionModel::Toggle);
@@ -172,6 +170,12 @@ void MarkList::keyPressEvent(QKeyEvent *event)
         emit copyWanted();
     else
         QListView::keyPressEvent(event);
+}
+
+void MarkList::connectNotify(const QMetaMethod &signal)
+{
+    if (signal == QMetaMethod::fromSignal(&MarkList::menuWanted))
+        LongPress::offer(viewport());
 }
 
 void MarkList::contextMenuEvent(QContextMenuEvent *event)

@@ -2,12 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QItemSelection>
 #include <QListView>
 #include <QStringList>
 
 #include <vector>
-
-class QTimer;
 
 /// A list in which any number of rows can be marked: by mouse and keys as lists of the desktop do it (with
 /// Shift a range, with Ctrl single rows, Ctrl+A all), with a finger by a tap on each, while a finger that is
@@ -45,6 +44,7 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void connectNotify(const QMetaMethod &signal) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     void selectionChanged(const QItemSelection &selected, const QItemSelection &deselected) override;
 
@@ -53,9 +53,9 @@ private:
     QStringList rowsMarked(bool wanted) const;
 
     Rows *rows_;
-    QTimer *longPress_;
     bool touched_ = false;   ///< a finger lies on the list
-    bool tapCounts_ = false; ///< and has neither been drawn nor rested
+    bool tapCounts_ = false; ///< and has not been drawn
+    QItemSelection before_;  ///< what was marked when the press came
     QPoint touchedAt_;       ///< pixels of the viewport
     int scrolledAt_ = 0;     ///< the scroll bar's value then
 };

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/registry.h"
 #include "support/test_hand.h"
-#include "widgets/finger.h"
+
+#include <QStyleHints>
 
 using namespace Qt::StringLiterals;
 
@@ -242,7 +243,7 @@ private slots:
         QTest::touchEvent(board, screen.get()).move(1, {114, 112}); // a trembling finger moves nothing
         QCOMPARE(hand.store->tiles().front()->xLeft(), 100);
         QTest::touchEvent(board, screen.get()).move(1, {200, 220});
-        QTest::qWait(finger::longPressTime + 100); // it has moved: it does not rest
+        QTest::qWait(QGuiApplication::styleHints()->mousePressAndHoldInterval() + 100); // it has moved: it does not rest
         QCOMPARE(hand.popup.shown, 0);
         QTest::touchEvent(board, screen.get()).release(1, {200, 220});
         QCOMPARE(hand.described(), QStringList{u"200,220 fahr"_s});
