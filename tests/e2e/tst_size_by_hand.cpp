@@ -13,7 +13,7 @@ namespace {
 /// The red tiles of the whole screen, which has only the board in this colour.
 bool showsWortels(Desktop &desktop, qsizetype count, int percent)
 {
-    const QSize tile = QSize(16, 20) * percent / 100;
+    const QSize tile = QSize(16, 22) * percent / 100;
     return desktop.waitForPicture([&](const QImage &picture) {
         const QRect board(0, 0, picture.width(), picture.height() * 3 / 4);
         const QVector<QRect> tiles = areasOfColour(picture.copy(board), colour::red, tile);
