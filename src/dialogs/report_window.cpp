@@ -203,9 +203,9 @@ void ReportWindow::slide(int seconds)
 
 void ReportWindow::drop()
 {
+    letGo();
     frame_->stop();
     AlertTimer_->stop();
-    letGo();
     hide();
 }
 

@@ -3,6 +3,7 @@
 #include "language/list_loader.h"
 
 #include "platform/boxes.h"
+#include "platform/fault_words.h"
 #include "platform/file_dialogs.h"
 #include "platform/files.h"
 #include "platform/ground.h"
@@ -52,9 +53,11 @@ QStringList readListOrTell(const Ground &ground, const QString &path, bool keepB
 {
     try {
         return readListFile(path, keepBlank);
-    } catch (const RuntimeError &) {
+    } catch (const RuntimeError &error) {
+        const bool isTooLarge = error.number() == RuntimeError::OutOfMemory;
         ground.boxes.plainBox(Boxes::Icon::Warning, product::faultTitle,
-                              u"Datei "_s + path + u" kann nicht gelesen werden"_s);
+                              u"Datei "_s + path + u" kann nicht gelesen werden"_s +
+                                  (isTooLarge ? u"\n\n"_s + faultWords(error) : QString()));
         throw;
     }
 }

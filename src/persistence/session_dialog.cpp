@@ -23,9 +23,10 @@ QString chooseToOpen(Ground &ground, const SessionDialog &dialog)
         .value(0);
 }
 
-QString chooseToSave(Ground &ground, const SessionDialog &dialog)
+QString chooseToSave(Ground &ground, const SessionDialog &dialog, const QString &open)
 {
-    return ground.fileDialogs.saveFile(dialog.title, startFolder(ground, dialog), dialog.filter, u".wlx"_s);
+    return ground.fileDialogs.saveFile(dialog.title, startFolder(ground, dialog), dialog.filter, u".wlx"_s,
+                                       {{}, open});
 }
 
 void rememberFolder(Ground &ground, const SessionDialog &dialog, const QString &path)

@@ -15,8 +15,9 @@ struct SessionDialog
     QString folderKey; ///< of the section "Path"
 };
 
-/// The chosen path in stored form, or the empty string. The folder is *not* remembered yet.
+/// The chosen path in stored form, or the empty string. The folder is *not* remembered yet. Saving over the
+/// session `open` needs no question.
 QString chooseToOpen(Ground &ground, const SessionDialog &dialog);
-QString chooseToSave(Ground &ground, const SessionDialog &dialog);
+QString chooseToSave(Ground &ground, const SessionDialog &dialog, const QString &open = {});
 /// Keeps the folder of `path`, without its trailing backslash, for the next time.
 void rememberFolder(Ground &ground, const SessionDialog &dialog, const QString &path);

@@ -58,5 +58,10 @@ QString session_file::lexiconInUse(const IniFile &file) { return file.read(u"Nam
 
 QString session_file::webExportName(const QString &path)
 {
-    return UCase(GetOnlyFileName(path)).remove(u".WLX"_s) + u".html"_s;
+    constexpr qsizetype longestName = 255; // bytes, as the file system counts them
+    const QString ending = u".html"_s;
+    QString name = UCase(GetOnlyFileName(path)).remove(u".WLX"_s);
+    while ((name + ending).toUtf8().size() > longestName)
+        name.chop(1);
+    return name + ending;
 }

@@ -33,7 +33,7 @@ void readTiles(const IniFile &file, const std::function<void(const Tile &)> &tak
 QString lexiconInUse(const IniFile &file);
 
 /// The name under which a session is put out as a web page: the file's name in capitals, ".WLX" taken out,
-/// ".html" added.
+/// ".html" added, and cut where it would be too long for a file.
 QString webExportName(const QString &path);
 
 } // namespace session_file

@@ -11,6 +11,7 @@
 #include "persistence/session_file.h"
 #include "platform/boxes.h"
 #include "platform/clock.h"
+#include "platform/fault_words.h"
 #include "platform/files.h"
 #include "platform/ground.h"
 #include "platform/ini_file.h"
@@ -34,6 +35,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto form = "frmMain";
+const QString invalidData = u"Die Datei enthält ungültige Daten."_s;
 const QString filter = u"Wortel-Sitzungen(*.wlx)|*.wlx"_s;
 
 QString lineHere(std::source_location where = std::source_location::current())
@@ -73,7 +75,7 @@ void Sessions::SaveObjects(const QString &path)
     QString target = path;
     if (target.isEmpty()) {
         const SessionDialog ask{u"Wortel - Sitzung speichern"_s, filter, u"SaveWLX"_s};
-        step([&] { target = chooseToSave(ground_, ask); });
+        step([&] { target = chooseToSave(ground_, ask, CurrentSessionFile_); });
         if (target.isEmpty())
             return;
         step([&] { rememberFolder(ground_, ask, target); });
@@ -87,14 +89,15 @@ void Sessions::SaveObjects(const QString &path)
 void Sessions::writeSession(const QString &path)
 {
     try {
-        IniFile file(path);
+        IniFile file(path, IniFile::Purpose::Writing);
         session_file::write(file, rooms_.canvas.store().tiles(), listBaseName(lists_.CurrentWortelFile));
         file.save();
     } catch (const RuntimeError &error) {
         ground_.boxes.plainBox(
             Boxes::Icon::Critical, product::faultTitle,
             u".WLX-Datei könnte nicht gespeichert werden.\n\n FrmTransform::SaveObjects (Line: "_s +
-                lineHere() + u") \n"_s + error.description());
+                lineHere() + u") \n"_s +
+                (error.number() == RuntimeError::OutOfMemory ? faultWords(error) : error.description()));
         throw;
     }
     makeCurrent(path);
@@ -123,16 +126,16 @@ void Sessions::RestoreObjects(const QString &path)
     if (path.isEmpty())
         step([&] { rememberFolder(ground_, ask, source); });
     const Hourglass hourglass;
+    const std::optional<IniFile> file = read(source);
+    if (!file)
+        return;
     step([&] { emit boardOpens(); });
     bool whole = false;
-    step([&] { whole = readSession(source); });
+    step([&] { whole = readSession(*file); });
     step([&] { rooms_.canvas.RecallFilter(TileFilter::all); });
     step([&] { path.isEmpty() ? rooms_.news.open() : rooms_.news.Commit(); });
     if (!whole) {
-        ground_.boxes.plainBox(
-            Boxes::Icon::Critical, product::faultTitle,
-            u"Die WXL-Sitzung konnte nicht eingelesen werden: "_s + source +
-                u"\n\nDie Datei enthält ungültige Daten.\n\nDas Laden wird abgebrochen..."_s);
+        refuse(source, invalidData);
         return;
     }
     step([&] { AddToRecentDocs(source, FileType::mimeType); });
@@ -141,16 +144,42 @@ void Sessions::RestoreObjects(const QString &path)
     ground_.notes.tell(note::loaded, nameWithoutEnding(source));
 }
 
+void Sessions::refuse(const QString &path, const QString &reason)
+{
+    ground_.boxes.plainBox(Boxes::Icon::Critical, product::faultTitle,
+                           u"Die WXL-Sitzung konnte nicht eingelesen werden: "_s + path + u"\n\n"_s + reason +
+                               u"\n\nDas Laden wird abgebrochen..."_s);
+}
+
+/// A missing file is an empty session. One that cannot be read is told, and leaves the board alone.
+std::optional<IniFile> Sessions::read(const QString &path)
+{
+    Procedure step{ground_.log, "RestoreObjects", form, Procedure::Silent};
+    std::optional<IniFile> file;
+    QString reason = invalidData;
+    step([&] {
+        try {
+            file.emplace(path);
+        } catch (const RuntimeError &error) {
+            if (error.number() == RuntimeError::OutOfMemory)
+                reason = faultWords(error);
+            throw;
+        }
+    });
+    if (!file)
+        refuse(path, reason);
+    return file;
+}
+
 /// The tiles that were read before a fault stay; then the session's stem list is left alone. True if there
 /// was none.
-bool Sessions::readSession(const QString &path)
+bool Sessions::readSession(const IniFile &file)
 {
     Procedure step{ground_.log, "RestoreObjects", form, Procedure::Silent};
     TileStore &store = rooms_.canvas.store();
     TileList tiles;
     QString lexicon;
     const bool whole = step([&] {
-        const IniFile file(path);
         session_file::readTiles(file, [&](const session_file::Tile &tile) {
             tiles.push_back(store.makeTile(tile.left, tile.top, tile.caption, tile.back, tile.text));
         });
@@ -169,10 +198,16 @@ void Sessions::loadLists(const QString &name)
     if (name.isEmpty())
         return;
     QString path = ground_.AppFolder + u"text\\"_s + name + u".txt"_s;
-    if (!IsTextFile(path)) {
+    const bool leadsElsewhere = name.contains(u'\\') || name.contains(u'/');
+    if (leadsElsewhere || !IsTextFile(path)) {
         ground_.boxes.plainBox(Boxes::Icon::Warning, u"Cannot open lexicon for this session"_s,
                                u"Datei "_s + path + u" fehlt\n\nSub: RestoreObjects. Line: "_s + lineHere());
         return;
+    }
+    try {
+        readListOrTell(ground_, path);
+    } catch (const RuntimeError &) {
+        return; // the lists that are there stay
     }
     lists_.LexiconList.clear();
     lists_.WortelList.clear();

@@ -5,9 +5,12 @@
 #include <QObject>
 #include <QString>
 
+#include <optional>
+
 class BoardNews;
 class Canvas;
 class CommandRouter;
+class IniFile;
 class ListLoader;
 struct Ground;
 struct MainControls;
@@ -53,7 +56,9 @@ signals:
 private:
     void writeSession(const QString &path);
     void tellSaved(const QString &path);
-    bool readSession(const QString &path);
+    std::optional<IniFile> read(const QString &path);
+    bool readSession(const IniFile &file);
+    void refuse(const QString &path, const QString &reason);
     void loadLists(const QString &name);
 
     Ground &ground_;

@@ -19,10 +19,16 @@ public:
     /// What was chosen: full paths, in the dialog's order. Empty if it was cancelled.
     virtual QStringList openFiles(const QString &title, const QString &folder, const QString &filter,
                                   bool multiple) = 0;
-    /// The full path, with `suffix` (".wlx") added if the name has none, or empty. Asks before a file is
-    /// replaced.
+    /// What a dialog for saving begins with, if anything.
+    struct SaveHints
+    {
+        QString name; ///< that is suggested
+        QString open; ///< the file that is being worked on; it is replaced without a question
+    };
+    /// The full path, with `suffix` (".wlx") added if the name has none, or empty. Asks before another file
+    /// is replaced.
     virtual QString saveFile(const QString &title, const QString &folder, const QString &filter,
-                             const QString &suffix, const QString &suggestedName = {}) = 0;
+                             const QString &suffix, const SaveHints &hints = {}) = 0;
     /// The chosen colour, or nothing.
     virtual std::optional<Colour> chooseColour(const QString &title, Colour present) = 0;
 };

@@ -12,6 +12,9 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <type_traits>
 
 using namespace Qt::StringLiterals;
@@ -70,6 +73,20 @@ QStringList entriesOf(const Unit *from, const Unit *end, bool keepBlank, Decode 
 
 [[noreturn]] void raise(int number) { throw RuntimeError::of(number); }
 
+int readError(int systemError)
+{
+    switch (systemError) {
+    case ENOENT:
+    case ENOTDIR:
+        return RuntimeError::FileNotFound;
+    case EACCES:
+    case EPERM:
+        return RuntimeError::PermissionDenied;
+    default:
+        return RuntimeError::PathAccess;
+    }
+}
+
 } // namespace
 
 QString nativePath(const QString &stored)
@@ -120,26 +137,38 @@ QString nameWithoutEnding(const QString &path)
 
 QString listBaseName(const QString &path) { return RTrimText(GetOnlyFileName(path), u".txt"_s); }
 
-QByteArray ReadWholeFile(const QString &path)
+QByteArray ReadWholeFile(const QString &path, qint64 limit)
 {
-    const QString native = nativePath(path);
-    const QFileInfo info(native);
-    if (!info.exists())
-        raise(RuntimeError::FileNotFound);
-    if (!info.isFile())
-        raise(75); // a folder has no bytes, and a pipe would let the reader wait
-    QFile file(native);
-    if (!file.open(QIODevice::ReadOnly))
-        raise(info.isReadable() ? 75 : RuntimeError::PermissionDenied);
-    const QByteArray bytes = file.readAll();
+    const QByteArray native = QFile::encodeName(nativePath(path));
+    const int handle = open(native.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    if (handle < 0)
+        raise(readError(errno));
+    QFile file;
+    file.open(handle, QIODevice::ReadOnly | QIODevice::Unbuffered, QFile::AutoCloseHandle);
+    struct stat facts
+    {};
+    if (fstat(handle, &facts) != 0 || !S_ISREG(facts.st_mode))
+        raise(RuntimeError::PathAccess); // a folder has no bytes, and a device may have no end
+    if (facts.st_size > limit)
+        raise(RuntimeError::OutOfMemory);
+    constexpr qint64 piece = 1 << 16;
+    QByteArray bytes = file.read(facts.st_size + 1); // one more tells whether it has grown meanwhile
+    while (bytes.size() > facts.st_size && bytes.size() <= limit) {
+        const QByteArray more = file.read(piece);
+        if (more.isEmpty())
+            break;
+        bytes += more;
+    }
     if (file.error() != QFileDevice::NoError)
-        raise(75);
+        raise(RuntimeError::PathAccess);
+    if (bytes.size() > limit)
+        raise(RuntimeError::OutOfMemory);
     return bytes;
 }
 
 QStringList readListFile(const QString &path, bool keepBlank)
 {
-    const QByteArray bytes = ReadWholeFile(path);
+    const QByteArray bytes = ReadWholeFile(path, largestLineFile);
     const TextEncoding encoding = encodingOf(bytes);
     if (encoding == TextEncoding::Windows1252) // each entry by itself, which spares a copy of the whole
         return entriesOf(bytes.begin(), bytes.end(), keepBlank, [](const char *from, qsizetype count) {

@@ -32,9 +32,9 @@ int openError(const QString &path)
     if (!folder.isDir())
         return RuntimeError::PathNotFound;
     if (info.isDir())
-        return 75;
+        return RuntimeError::PathAccess;
     return !folder.isWritable() || (info.exists() && !info.isWritable()) ? RuntimeError::PermissionDenied
-                                                                         : 75;
+                                                                         : RuntimeError::PathAccess;
 }
 
 int writeError(QFileDevice::FileError error)
@@ -45,7 +45,7 @@ int writeError(QFileDevice::FileError error)
     case QFileDevice::PermissionsError:
         return RuntimeError::PermissionDenied;
     default:
-        return 75;
+        return RuntimeError::PathAccess;
     }
 }
 
@@ -64,12 +64,19 @@ bool writeWhole(QFileDevice &file, const QByteArray &bytes)
 }
 
 /// For a file that may be written in a folder that may not: in place, and the old bytes put back if that
-/// fails.
+/// fails. Whatever lies there by now, neither a link nor a pipe is opened.
 void writeInPlace(const QString &path, const QByteArray &bytes)
 {
-    QFile file(path);
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadWrite | QIODevice::Unbuffered))
+    const int handle =
+        open(QFile::encodeName(path).constData(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    if (handle < 0)
         raise(openError(path));
+    QFile file;
+    file.open(handle, QIODevice::ReadWrite | QIODevice::Unbuffered, QFile::AutoCloseHandle);
+    struct stat facts
+    {};
+    if (fstat(handle, &facts) != 0 || !S_ISREG(facts.st_mode))
+        raise(RuntimeError::PathAccess);
     const QByteArray old = file.readAll();
     if (file.seek(0) && writeWhole(file, bytes) && file.resize(bytes.size()))
         return;
@@ -101,15 +108,16 @@ public:
     /// Flushes and renames. Returns 0 or the number of the error.
     int takePlaceOf(const QString &target)
     {
+        const QByteArray to = QFile::encodeName(target);
         struct stat old
         {};
-        const QByteArray to = QFile::encodeName(target);
-        if (stat(to.constData(), &old) != 0)
-            old.st_mode = 0666 & ~creationMask();
-        if (fchmod(handle(), old.st_mode & 07777) != 0 || fsync(handle()) != 0)
-            return errno == ENOSPC || errno == EDQUOT ? RuntimeError::DiskFull : 75;
+        const bool replaces = lstat(to.constData(), &old) == 0 && S_ISREG(old.st_mode);
+        const mode_t mode = replaces ? old.st_mode & 0777 : 0666 & ~creationMask();
+        if (fchmod(handle(), mode) != 0 || fsync(handle()) != 0)
+            return errno == ENOSPC || errno == EDQUOT ? RuntimeError::DiskFull : RuntimeError::PathAccess;
         if (std::rename(QFile::encodeName(fileName()).constData(), to.constData()) != 0)
-            return 75;
+            return errno == EPERM || errno == EACCES ? RuntimeError::PermissionDenied
+                                                     : RuntimeError::PathAccess;
         setAutoRemove(false);
         return 0;
     }
@@ -123,21 +131,35 @@ private:
     }
 };
 
-QString behindLinks(const QString &path)
+/// Where `path` leads by links that may be followed: a file, or nothing yet, or a foreign link.
+QString behindLinks(QString path)
 {
-    const QFileInfo info(path);
-    if (!info.isSymLink())
-        return path;
-    return info.exists() ? info.canonicalFilePath() : info.symLinkTarget();
+    constexpr int mostLinks = 40; // as the system
+    for (int links = 0; links < mostLinks; ++links) {
+        const QFileInfo info(path);
+        if (!info.isSymLink() || isForeignLink(path))
+            return path;
+        path = info.symLinkTarget();
+    }
+    raise(RuntimeError::PathAccess);
 }
 
 } // namespace
+
+bool isForeignLink(const QString &path)
+{
+    struct stat facts
+    {};
+    const QByteArray native = QFile::encodeName(nativePath(path));
+    return lstat(native.constData(), &facts) == 0 && S_ISLNK(facts.st_mode) && facts.st_uid != geteuid() &&
+           facts.st_uid != 0;
+}
 
 void writeFileAtomically(const QString &path, const QByteArray &bytes)
 {
     const QString target = behindLinks(nativePath(path));
     const QFileInfo old(target);
-    const bool mayReplace = !old.exists() || (old.isFile() && old.isWritable());
+    const bool mayReplace = old.isSymLink() || !old.exists() || (old.isFile() && old.isWritable());
     FreshFile fresh(old.absolutePath());
     if (!mayReplace || !fresh.openLocked()) {
         writeInPlace(target, bytes);
@@ -145,7 +167,10 @@ void writeFileAtomically(const QString &path, const QByteArray &bytes)
     }
     if (!writeWhole(fresh, bytes))
         raise(writeError(fresh.error()));
-    if (const int number = fresh.takePlaceOf(target))
+    const int number = fresh.takePlaceOf(target);
+    if (number == RuntimeError::PermissionDenied)
+        writeInPlace(target, bytes); // somebody else's file, where each may remove only his own
+    else if (number != 0)
         raise(number);
 }
 

@@ -81,10 +81,10 @@ QStringList GatedFileDialogs::openFiles(const QString &title, const QString &fol
 }
 
 QString GatedFileDialogs::saveFile(const QString &title, const QString &folder, const QString &filter,
-                                   const QString &suffix, const QString &suggestedName)
+                                   const QString &suffix, const SaveHints &hints)
 {
     return askThroughGate(gate_, QString(),
-                          [&] { return dialogs_.saveFile(title, folder, filter, suffix, suggestedName); });
+                          [&] { return dialogs_.saveFile(title, folder, filter, suffix, hints); });
 }
 
 std::optional<Colour> GatedFileDialogs::chooseColour(const QString &title, Colour present)

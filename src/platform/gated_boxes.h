@@ -46,7 +46,7 @@ public:
     QStringList openFiles(const QString &title, const QString &folder, const QString &filter,
                           bool multiple) override;
     QString saveFile(const QString &title, const QString &folder, const QString &filter,
-                     const QString &suffix, const QString &suggestedName) override;
+                     const QString &suffix, const SaveHints &hints) override;
     std::optional<Colour> chooseColour(const QString &title, Colour present) override;
 
 private:

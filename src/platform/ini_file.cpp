@@ -36,13 +36,13 @@ void endLastLine(std::vector<QByteArray> &lines)
 
 } // namespace
 
-IniFile::IniFile(const QString &path)
+IniFile::IniFile(const QString &path, Purpose purpose)
     : path_(path)
 {
     sections_.emplace_back();
-    if (!QFileInfo::exists(nativePath(path)))
+    if (!QFileInfo::exists(nativePath(path)) || (purpose == Purpose::Writing && isForeignLink(path)))
         return;
-    const QByteArray bytes = ReadWholeFile(path);
+    const QByteArray bytes = ReadWholeFile(path, largestLineFile);
     encoding_ = encodingOf(bytes);
     marked_ = bytes.startsWith(utf8Mark);
     if (encoding_ == TextEncoding::Utf16) {

@@ -22,9 +22,11 @@
 class IniFile
 {
 public:
-    /// Reads `path` once; a missing file is an empty one. Throws RuntimeError for a file that exists and
-    /// cannot be read.
-    explicit IniFile(const QString &path);
+    enum class Purpose { Reading, Writing };
+
+    /// Reads `path` once; a missing file is an empty one, and so is for writing what lies behind a foreign
+    /// link. Throws RuntimeError for a file that exists and cannot be read.
+    explicit IniFile(const QString &path, Purpose purpose = Purpose::Reading);
 
     /// The value, cut at `limit` characters, or `fallback` if section or key are missing.
     QString read(const QString &section, const QString &key, const QString &fallback = {},

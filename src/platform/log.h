@@ -20,6 +20,9 @@ public:
     /// Appends the trimmed `text` with " - " and the time. Returns at once while the log is off; errors of
     /// the writer are swallowed.
     void WriteLog(const QString &text);
+    /// The log at `path` (native) for writing behind its end, or -1. A link is not followed, of either kind,
+    /// and a pipe not waited for. Safe in a handler of fatal signals.
+    static int openForAppending(const char *path);
     /// Writes the last line: what still happens while the program goes is not logged.
     void end();
 

@@ -39,6 +39,7 @@ inline constexpr char16_t tipIsOpen[]       = u"Der Tipp ist schon zu sehen";
 inline constexpr char16_t noTileThere[]     = u"Hier liegt kein Baustein";
 inline constexpr char16_t leftPressOnly[]   = u"Diese Taste hat nur einen Linksklick";
 inline constexpr char16_t noRoom[]          = u"Auf dem Spielfeld ist kein Platz mehr";
+inline constexpr char16_t noVowelWord[]     = u"Kein Wort deiner Wörterliste hat diesen Vokal";
 inline constexpr char16_t noKnownWord[]     = u"Kein Wort deiner Wörterliste steht im Wörterbuch";
 
 // About the size of the program and of the board

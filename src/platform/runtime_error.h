@@ -23,6 +23,7 @@ public:
 
     static constexpr int InvalidCall = 5;
     static constexpr int Overflow = 6;
+    static constexpr int OutOfMemory = 7; ///< also of a file that is too large to be read
     static constexpr int SubscriptOutOfRange = 9;
     static constexpr int DivisionByZero = 11;
     static constexpr int TypeMismatch = 13;

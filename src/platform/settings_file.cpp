@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/settings_file.h"
 
+#include "platform/file_lock.h"
 #include "platform/files.h"
 #include "platform/runtime_error.h"
 #include "platform/text_encoding.h"
@@ -9,7 +10,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QLockFile>
 #include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int lockWaitMs = 500;
-constexpr qint64 largestFile = 16 << 20; ///< what is larger was never written by this program
+constexpr int lockStaleMs = 30'000;
 
 /// The text with "%XX" for "%", for control characters, for blanks at its ends and for what `alsoEscaped`
 /// names.
@@ -116,13 +116,14 @@ void SettingsFile::readFile() const
     garbage_ = false;
     if (!info.exists())
         return;
-    QFile file(file_);
-    if (!info.isFile() || info.size() > largestFile || !file.open(QIODevice::ReadOnly)) {
+    QByteArray bytes;
+    try {
+        bytes = ReadWholeFile(file_, largestLineFile);
+    } catch (const RuntimeError &) {
         garbage_ = true;
         return;
     }
     QString section;
-    QByteArray bytes = file.readAll();
     if (bytes.startsWith(utf8Mark)) // saved by an editor
         bytes.remove(0, utf8Mark.size());
     const QList<QByteArray> lines = bytes.split('\n');
@@ -149,9 +150,7 @@ void SettingsFile::readFile() const
 void SettingsFile::writeFile()
 {
     QDir().mkpath(QFileInfo(file_).path());
-    QLockFile lock(file_ + u".lock"_s);
-    lock.tryLock(
-        lockWaitMs); // without the lock two programs that save in the same instant may lose one value
+    const FileLock lock(file_, lockStaleMs, lockWaitMs); // else two that save at once may lose one value
     readFile();
     if (garbage_)
         keepGarbage();
@@ -173,6 +172,7 @@ void SettingsFile::keepGarbage()
 {
     const QString backup = file_ + u".bak"_s;
     QFile::remove(backup);
-    if (!QFile::copy(file_, backup) && !QFile::rename(file_, backup))
+    const bool isCopied = QFileInfo(file_).isFile() && QFile::copy(file_, backup); // a pipe has no copy
+    if (!isCopied && !QFile::rename(file_, backup))
         throw RuntimeError::of(RuntimeError::PermissionDenied);
 }

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 largestFile = 32 << 20;
+constexpr qint64 largestSound = 32 << 20; ///< bytes
 
 } // namespace
 
@@ -38,16 +38,13 @@ QUrl SoundPlayer::resourceOf(int id)
 
 bool SoundPlayer::playFile(const QString &path)
 {
-    const QString native = nativePath(path);
-    if (QFileInfo(native).size() > largestFile)
-        return false;
     try {
-        if (!isWave(ReadWholeFile(path)))
+        if (!isWave(ReadWholeFile(path, largestSound)))
             return false;
     } catch (const RuntimeError &) {
         return false;
     }
-    play(file_, QUrl::fromLocalFile(QFileInfo(native).absoluteFilePath()));
+    play(file_, QUrl::fromLocalFile(QFileInfo(nativePath(path)).absoluteFilePath()));
     return true;
 }
 

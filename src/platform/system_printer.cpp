@@ -12,6 +12,7 @@
 #include <QTemporaryDir>
 
 #include <algorithm>
+#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -96,7 +97,7 @@ public:
     QPagedPaintDevice &device() override { return printer_; }
     void send() override
     {
-        const QByteArray pages = ReadWholeFile(source());
+        const QByteArray pages = ReadWholeFile(source(), std::numeric_limits<qint64>::max());
         // The device is silent about a disk that fills up under it.
         if (!pages.trimmed().endsWith("%%EOF"))
             throw RuntimeError::of(RuntimeError::DiskFull);

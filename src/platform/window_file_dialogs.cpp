@@ -2,15 +2,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/window_file_dialogs.h"
 
+#include "platform/file_places.h"
 #include "platform/files.h"
 
+#include <QAbstractItemView>
+#include <QAction>
 #include <QApplication>
 #include <QColorDialog>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFileSystemModel>
+#include <QHeaderView>
+#include <QInputDialog>
+#include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QSplitter>
+#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 
@@ -32,21 +41,6 @@ QString startFolder(const QString &stored)
     return folder;
 }
 
-/// A dialog's common ways. The name filters are as patterns, which the label shows already.
-void prepare(QFileDialog &dialog, QFileDialog::AcceptMode mode, const QString &title, const QString &folder,
-             const QString &filter)
-{
-    dialog.setAcceptMode(mode); // first: it makes the buttons anew, and their words would be lost
-    dialog.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::HideNameFilterDetails);
-    dialog.setWindowTitle(title);
-    dialog.setDirectory(startFolder(folder));
-    dialog.setNameFilters(WindowFileDialogs::nameFilters(filter));
-    dialog.setLabelText(QFileDialog::LookIn, u"Suchen in:"_s);
-    dialog.setLabelText(QFileDialog::FileName, u"Dateiname:"_s);
-    dialog.setLabelText(QFileDialog::FileType, u"Dateityp:"_s);
-    dialog.setLabelText(QFileDialog::Reject, u"Abbrechen"_s);
-}
-
 bool mayReplace(QWidget *parent, const QString &title, const QString &path)
 {
     QMessageBox box(QMessageBox::Warning, title,
@@ -59,6 +53,118 @@ bool mayReplace(QWidget *parent, const QString &title, const QString &path)
     box.exec();
     return box.clickedButton() == replace;
 }
+
+/// What a path cannot be used for, as a sentence for the user, or nothing.
+QString troubleWith(const QString &path)
+{
+    constexpr qsizetype longestName = 255; // bytes
+    if (path.contains(u'\\'))
+        return u"Der Name der Datei und ihres Ordners darf keinen umgekehrten Schrägstrich (\\) enthalten."_s;
+    if (QFile::encodeName(QFileInfo(path).fileName()).size() > longestName)
+        return u"Der Name der Datei ist zu lang."_s;
+    return {};
+}
+
+/// The toolkit's dialog, in which nothing can be done but to choose: the common ways of all of them.
+class FileWindow : public QFileDialog
+{
+    static constexpr int placesWidth = 130; ///< pixels, for the longest of the usual names
+
+public:
+    FileWindow(AcceptMode mode, const QString &title, const QString &folder, const QString &filter,
+               const QString &programFolder)
+        : QFileDialog(QApplication::activeWindow())
+    {
+        setAcceptMode(mode); // first: it makes the buttons anew, and their words would be lost
+        setOptions(DontUseNativeDialog | HideNameFilterDetails | ReadOnly | DontConfirmOverwrite);
+        setWindowTitle(title);
+        setDirectory(startFolder(folder));
+        setNameFilters(WindowFileDialogs::nameFilters(filter));
+        setLabelText(LookIn, u"Suchen in:"_s);
+        setLabelText(FileName, u"Dateiname:"_s);
+        setLabelText(FileType, u"Dateityp:"_s);
+        setLabelText(Reject, u"Abbrechen"_s);
+        QList<QUrl> places;
+        for (const QString &place : filePlaces(programFolder))
+            places.append(QUrl::fromLocalFile(place));
+        setSidebarUrls(places);
+        if (auto *splitter = findChild<QSplitter *>(u"splitter"_s))
+            splitter->setSizes({placesWidth, width() - placesWidth});
+        if (auto *header = findChild<QHeaderView *>())
+            for (int column = 1; column < header->count(); ++column) // all but the name
+                header->setSectionResizeMode(column, QHeaderView::ResizeToContents);
+        const auto views = findChildren<QAbstractItemView *>();
+        for (QAbstractItemView *view : views)
+            view->setDragEnabled(false); // a file manager would take it for a move
+        offerNewFolder();
+    }
+
+    /// The file (native) that may be replaced without a question.
+    void setOpenFile(const QString &path) { open_ = path; }
+
+    void accept() override
+    {
+        const QStringList chosen = selectedFiles();
+        for (const QString &path : chosen)
+            if (const QString trouble = troubleWith(path); !trouble.isEmpty())
+                return tell(trouble);
+        const QString file = chosen.value(0);
+        if (acceptMode() == AcceptOpen || isFree(file) || mayReplace(this, windowTitle(), file))
+            return QFileDialog::accept();
+        // The mark in the list would count for more than the name that is typed next.
+        if (auto *list = findChild<QListView *>(u"listView"_s))
+            list->clearSelection();
+    }
+
+private:
+    /// True also for a folder, which is entered. The stored form goes to the file that has this name in any
+    /// case, so that is the one to ask about.
+    bool isFree(const QString &path) const
+    {
+        const QFileInfo old(nativePath(path));
+        return !old.exists() || old.isDir() || (!open_.isEmpty() && old == QFileInfo(open_));
+    }
+
+    void tell(const QString &trouble)
+    {
+        QMessageBox box(QMessageBox::Warning, windowTitle(), trouble, QMessageBox::Ok, this);
+        box.setTextFormat(Qt::PlainText);
+        box.exec();
+    }
+
+    /// The toolkit's own way needs a list in which files can be renamed.
+    void offerNewFolder()
+    {
+        auto *button = findChild<QToolButton *>(u"newFolderButton"_s);
+        auto *entry = findChild<QAction *>(u"qt_new_folder_action"_s);
+        auto *folders = findChild<QFileSystemModel *>();
+        if (button == nullptr || entry == nullptr || folders == nullptr)
+            return;
+        button->setVisible(acceptMode() == AcceptSave);
+        const auto enable = [button] { button->setEnabled(true); };
+        enable();
+        connect(folders, &QFileSystemModel::rootPathChanged, button, enable, Qt::QueuedConnection);
+        disconnect(button, nullptr, this, nullptr);
+        disconnect(entry, nullptr, this, nullptr);
+        connect(button, &QToolButton::clicked, this, &FileWindow::makeFolder);
+        connect(entry, &QAction::triggered, this, &FileWindow::makeFolder);
+    }
+
+    void makeFolder()
+    {
+        const QString name =
+            QInputDialog::getText(this, windowTitle(), u"Name des neuen Ordners:"_s).trimmed();
+        if (name.isEmpty())
+            return;
+        const QString folder = directory().filePath(name);
+        if (!troubleWith(folder).isEmpty() || name.contains(u'/') || !directory().mkdir(name))
+            tell(u"Der Ordner kann nicht angelegt werden."_s);
+        else
+            setDirectory(folder);
+    }
+
+    QString open_;
+};
 
 } // namespace
 
@@ -76,8 +182,7 @@ QStringList WindowFileDialogs::nameFilters(const QString &filter)
 QStringList WindowFileDialogs::openFiles(const QString &title, const QString &folder, const QString &filter,
                                          bool multiple)
 {
-    QFileDialog dialog(QApplication::activeWindow());
-    prepare(dialog, QFileDialog::AcceptOpen, title, folder, filter);
+    FileWindow dialog(QFileDialog::AcceptOpen, title, folder, filter, programFolder_);
     dialog.setFileMode(multiple ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile);
     dialog.setLabelText(QFileDialog::Accept, u"Öffnen"_s);
     if (dialog.exec() != QDialog::Accepted)
@@ -90,23 +195,17 @@ QStringList WindowFileDialogs::openFiles(const QString &title, const QString &fo
 }
 
 QString WindowFileDialogs::saveFile(const QString &title, const QString &folder, const QString &filter,
-                                    const QString &suffix, const QString &suggestedName)
+                                    const QString &suffix, const SaveHints &hints)
 {
-    QFileDialog dialog(QApplication::activeWindow());
-    prepare(dialog, QFileDialog::AcceptSave, title, folder, filter);
-    dialog.setOption(QFileDialog::DontConfirmOverwrite); // asked below, in German
+    FileWindow dialog(QFileDialog::AcceptSave, title, folder, filter, programFolder_);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setLabelText(QFileDialog::Accept, u"Speichern"_s);
     dialog.setDefaultSuffix(suffix.startsWith(u'.') ? suffix.mid(1) : suffix);
-    if (!suggestedName.isEmpty())
-        dialog.selectFile(suggestedName);
-    while (dialog.exec() == QDialog::Accepted) {
-        const QString file = dialog.selectedFiles().value(0);
-        // The stored form goes to the file that has this name in any case, so that is the one to ask about.
-        if (!QFileInfo::exists(nativePath(file)) || mayReplace(&dialog, title, file))
-            return storedPath(file);
-    }
-    return {};
+    if (!hints.name.isEmpty())
+        dialog.selectFile(hints.name);
+    if (!hints.open.isEmpty())
+        dialog.setOpenFile(nativePath(hints.open));
+    return dialog.exec() == QDialog::Accepted ? storedPath(dialog.selectedFiles().value(0)) : QString();
 }
 
 std::optional<Colour> WindowFileDialogs::chooseColour(const QString &title, Colour present)

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/crash_filter.h"
 
+#include "platform/log.h"
+
 #include <QByteArray>
 
 #include <array>
@@ -10,7 +12,6 @@
 #include <cstdio>
 #include <cstring>
 #include <ctime>
-#include <fcntl.h>
 #include <ucontext.h>
 #include <unistd.h>
 
@@ -155,7 +156,7 @@ bool isStackOverflow(int number, const siginfo_t &info, const void *context)
 void handle(int number, siginfo_t *info, void *context)
 {
     if (logPath[0] != '\0') {
-        const int file = open(logPath.data(), O_WRONLY | O_CREAT | O_APPEND, 0644);
+        const int file = Log::openForAppending(logPath.data());
         if (file >= 0) {
             char line[160];
             const std::uint32_t code = isStackOverflow(number, *info, context)

@@ -78,13 +78,6 @@ void frmMain::wireBoard()
                 if (button == Qt::LeftButton)
                     showHelp();
             }));
-    for (const PressButton *tool :
-         {controls_.Check1, controls_.Option1[0], controls_.Option1[1], controls_.Command6,
-          controls_.Command1, controls_.Option2[0], controls_.Option2[1], controls_.Option2[2]})
-        connect(tool, &PressButton::mouseDown, this, [this](Qt::MouseButton button) {
-            if (button == Qt::RightButton)
-                ground_.notes.tell(note::leftPressOnly);
-        });
     // Beside the tool, so that the second press of a double click chooses nothing.
     const auto openMenu = [this, &r, tool = controls_.CmdMenu] {
         r.pointer.openMenu(tool->mapToGlobal(QPoint(tool->width(), 0)));
@@ -92,6 +85,13 @@ void frmMain::wireBoard()
     onPress(controls_.CmdMenu, openMenu, nothing);
     connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, this,
             throughGate(gate, Gate::Way::Play, openMenu));
+    for (const PressButton *tool :
+         {controls_.Check1, controls_.Option1[0], controls_.Option1[1], controls_.Command6,
+          controls_.Command1, controls_.Option2[0], controls_.Option2[1], controls_.Option2[2]})
+        connect(tool, &PressButton::mouseDown, this, [this](Qt::MouseButton button) {
+            if (button == Qt::RightButton)
+                ground_.notes.tell(note::leftPressOnly);
+        });
     connect(controls_.Label4, &ClickLabel::clicked, &gate, &Gate::cancelWork);
     connect(controls_.Label2, &ClickLabel::clicked, this,
             throughGate(gate, Gate::Way::Play, [this] { showAbout(); }));
@@ -214,8 +214,7 @@ void frmMain::wireKeeping()
         size_.takeSetting();
         r.game.takeLevel();
         r.placement.takeTryLimit();
-        r.background.remove();
-        r.background.loadFromSetting();
+        r.background.takeSetting();
         r.strip.SetUpMsgScroller();
         r.undo.takeSetting();
     });

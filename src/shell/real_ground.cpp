@@ -5,7 +5,8 @@
 #include <QRandomGenerator>
 
 RealGround::RealGround(const QString &appFolder)
-    : rnd_(QRandomGenerator::system()->generate64())
+    : fileDialogs_(appFolder)
+    , rnd_(QRandomGenerator::system()->generate64())
     , options_(store_, appFolder, log_)
     , ground_{appFolder, log_,  gatedBoxes_, gatedDialogs_, printer_, rnd_,  sound_,
               clock_,    pump_, store_,      options_,      gate_,    notes_}

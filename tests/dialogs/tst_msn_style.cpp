@@ -86,25 +86,20 @@ private slots:
         Desk desk;
         desk.report(0);
         ReportWindow *window = desk.row(1);
-        const auto moveOver = [&](QWidget *part, Qt::MouseEventSource source) {
-            QMouseEvent event(QEvent::MouseMove, QPointF(5, 5), part->mapToGlobal(QPointF(5, 5)),
-                              QPointF(5, 5), Qt::NoButton, Qt::NoButton, Qt::NoModifier, source);
-            QApplication::sendEvent(part, &event);
+        const auto point = [&](Qt::MouseEventSource source) {
+            QMouseEvent event(QEvent::MouseMove, {5, 5}, {5, 5}, {5, 5}, {}, {}, {}, source);
+            QApplication::sendEvent(window->findChild<QLabel *>(u"Label2"_s), &event);
         };
-        QWidget *word = window->findChild<QLabel *>(u"Label2"_s);
-        moveOver(word, Qt::MouseEventNotSynthesized);
-        QTRY_VERIFY(desk.isUp(1));
-        QTest::qWait(400);
+        point(Qt::MouseEventNotSynthesized);
+        QTest::qWait(800);
         QVERIFY(desk.isUp(1));
         QEvent leave(QEvent::Leave);
         QApplication::sendEvent(window, &leave);
         QTRY_VERIFY(window->height() < window->fullHeight());
-        moveOver(word, Qt::MouseEventNotSynthesized); // it was sinking already
+        point(Qt::MouseEventNotSynthesized); // it was sinking already
         QTRY_VERIFY(desk.isUp(1));
-        QTest::qWait(200);
-        QVERIFY(desk.isUp(1));
         QTest::keyClick(&desk.form, Qt::Key_A);
-        moveOver(word, Qt::MouseEventSynthesizedByQt);
+        point(Qt::MouseEventSynthesizedByQt);
         QTRY_VERIFY(!window->isVisible());
         QCOMPARE(desk.trouble(), QString());
     }

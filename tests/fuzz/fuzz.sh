@@ -8,7 +8,7 @@ cd "$(dirname "$(realpath "$0")")/../.."
 . tools/setup/packages.sh
 seconds=${1:-60}
 targets=("${@:2}")
-[ ${#targets[@]} -gt 0 ] || targets=(backup ini link list page session settings text)
+[ ${#targets[@]} -gt 0 ] || targets=(backup ini link list page picture session settings text)
 install_missing "${build_packages[@]}" clang libclang-rt-14-dev
 build_preset fuzz
 [ -w /dev/shm ] && export TMPDIR=/dev/shm

@@ -16,6 +16,7 @@ void ini(const QByteArray &bytes);
 void link(const QByteArray &bytes);
 void list(const QByteArray &bytes);
 void page(const QByteArray &bytes);
+void picture(const QByteArray &bytes);
 void session(const QByteArray &bytes);
 void settings(const QByteArray &bytes);
 void text(const QByteArray &bytes);
@@ -26,12 +27,13 @@ struct Target
     void (*run)(const QByteArray &bytes);
 };
 
-inline constexpr std::array<Target, 8> targets{{
+inline constexpr std::array<Target, 9> targets{{
     {"backup", backup},
     {"ini", ini},
     {"link", link},
     {"list", list},
     {"page", page},
+    {"picture", picture},
     {"session", session},
     {"settings", settings},
     {"text", text},

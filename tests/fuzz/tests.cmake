@@ -7,6 +7,7 @@ wortel_test(fuzz
         fuzz_link.cpp
         fuzz_list.cpp
         fuzz_page.cpp
+        fuzz_picture.cpp
         fuzz_session.cpp
         fuzz_settings.cpp
         fuzz_text.cpp

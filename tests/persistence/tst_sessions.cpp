@@ -10,6 +10,8 @@
 #include <QLabel>
 #include <QtTest>
 
+#include <sys/stat.h>
+
 using namespace Qt::StringLiterals;
 
 class SessionsTest : public QObject
@@ -133,8 +135,13 @@ private slots:
         columns<QByteArray, bool, bool, bool>("name", "on", "loaded", "told");
         QTest::newRow("on") << QByteArray("[Name]\r\nLexiconInUse=Bäume\r\n") << true << true << false;
         QTest::newRow("off") << QByteArray("[Name]\r\nLexiconInUse=Bäume\r\n") << false << false << false;
+        QTest::newRow("list too large")
+            << QByteArray("[Name]\r\nLexiconInUse=riesig\r\n") << true << false << true;
         QTest::newRow("missing list")
             << QByteArray("[Name]\r\nLexiconInUse=fort\r\n") << true << false << true;
+        for (const char *elsewhere : {"..\\text\\Bäume", "../text/Bäume", ".\\Bäume"})
+            QTest::newRow(elsewhere) << "[Name]\r\nLexiconInUse=" + QByteArray(elsewhere) + "\r\n"
+                                     << true << false << true;
     }
     void stemListComesAlong()
     {
@@ -145,6 +152,7 @@ private slots:
         Rig rig;
         rig.t.writeFile(u"text\\Bäume.txt"_s, u"tann\r\nbirk\r\n"_s);
         rig.t.writeFile(u"facit\\Bäume.lex"_s, u"Birke\r\n"_s);
+        QFile::resize(nativePath(rig.t.writeFile(u"text\\riesig.txt"_s, {})), 1 << 30);
         rig.t.options.setBox(Setting::OpenWLXWithStoredLex, on ? 1 : 0);
         if (told)
             rig.t.boxes.willAnswer(Boxes::Answer::Ok);
@@ -152,12 +160,16 @@ private slots:
         rig.sessions.RestoreObjects(rig.path);
         QCOMPARE(rig.lists.WortelList.rows() == QStringList({u"tann"_s, u"birk"_s}), loaded);
         QCOMPARE(rig.lists.LexiconList.rows() == QStringList({u"Birke"_s}), loaded);
+        QVERIFY(!rig.lists.LexiconList.isEmpty() && !rig.lists.WortelList.isEmpty()); // the old stay
         QCOMPARE(rig.controls.Label3->text() + rig.controls.Label3->toolTip() == u"BäumeBäume"_s, loaded);
         QCOMPARE(rig.store->count(), 1);
         if (told) {
-            QCOMPARE(rig.t.boxes.asked.last().title, u"Cannot open lexicon for this session"_s);
-            QVERIFY(rig.lastBox().startsWith(u"Datei "_s + rig.t.AppFolder +
-                                             u"text\\fort.txt fehlt\n\nSub: RestoreObjects. Line: "_s));
+            const QString list = QString::fromUtf8(name.mid(21).trimmed());
+            const QString trouble = list == u"riesig"_s
+                                        ? u" kann nicht gelesen werden\n\nDie Datei ist zu groß."_s
+                                        : u" fehlt\n\nSub: RestoreObjects. Line: "_s;
+            QVERIFY(rig.lastBox().startsWith(u"Datei "_s + rig.t.AppFolder + u"text\\"_s + list + u".txt"_s +
+                                             trouble));
         }
         QVERIFY(rig.t.ok());
     }
@@ -178,6 +190,9 @@ private slots:
         rig.sessions.SaveObjects();
         QCOMPARE(rig.t.fileDialogs.asked.last().title, u"Wortel - Sitzung speichern"_s);
         QCOMPARE(rig.t.store.GetSetting(u"Path"_s, u"SaveWLX"_s, {}), rig.t.AppFolder.chopped(1));
+        rig.t.fileDialogs.willSave({});
+        rig.sessions.SaveObjects();
+        QCOMPARE(rig.t.fileDialogs.lastHints.open, rig.path); // replaced without a question
         QVERIFY(IsTextFile(rig.path));
         rig.sessions.RestoreObjects(rig.path);
         QCOMPARE(rig.t.store.GetSetting(u"Path"_s, u"RestoreWXL"_s, u"-"_s), u"-"_s);
@@ -189,23 +204,35 @@ private slots:
 
     void filesThatCannotBeRead_data()
     {
-        columns<bool, bool>("folder", "told");
-        QTest::newRow("a folder in its place") << true << true;
-        QTest::newRow("missing") << false << false;
+        columns<QString, QString>("what", "reason");
+        QTest::newRow("missing") << QString() << QString(); // an empty session, as ever
+        QTest::newRow("a folder in its place") << u"folder"_s << u"Die Datei enthält ungültige Daten."_s;
+        QTest::newRow("a pipe in its place") << u"pipe"_s << u"Die Datei enthält ungültige Daten."_s;
+        QTest::newRow("a gigabyte") << u"gigabyte"_s << u"Die Datei ist zu groß."_s;
     }
+    /// They leave the board and what can be undone as they are.
     void filesThatCannotBeRead()
     {
-        QFETCH(bool, folder);
-        QFETCH(bool, told);
+        QFETCH(QString, what);
+        QFETCH(QString, reason);
         Rig rig;
-        if (folder)
-            QVERIFY(QDir().mkpath(nativePath(rig.path)));
+        const QString native = nativePath(rig.path);
+        if (what == u"folder"_s)
+            QVERIFY(QDir().mkpath(native));
+        if (what == u"pipe"_s)
+            QCOMPARE(mkfifo(qPrintable(native), 0600), 0);
+        if (what == u"gigabyte"_s)
+            QVERIFY(rig.t.writeFile(u"a.wlx"_s, {}) == rig.path && QFile::resize(native, 1 << 30));
         rig.lay(wortel, 1, 1, u"a"_s);
-        if (told)
+        if (!reason.isEmpty())
             rig.t.boxes.willAnswer(Boxes::Answer::Ok);
+        QSignalSpy opens(&rig.sessions, &Sessions::boardOpens);
         rig.sessions.RestoreObjects(rig.path);
-        QVERIFY(rig.store->isEmpty());
-        QCOMPARE(rig.lastBox(), told ? rig.invalid() : QString());
+        QCOMPARE(rig.store->count(), reason.isEmpty() ? 0 : 1);
+        QCOMPARE(opens.size(), reason.isEmpty() ? 1 : 0);
+        QCOMPARE(rig.lastBox(), reason.isEmpty()
+                                    ? QString()
+                                    : rig.invalid().replace(u"Die Datei enthält ungültige Daten."_s, reason));
         QVERIFY(rig.t.ok());
     }
 

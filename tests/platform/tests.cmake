@@ -8,6 +8,7 @@ wortel_test(platform
         tst_ini_file.cpp
         tst_instance_link.cpp
         tst_options.cpp
+        tst_picture_file.cpp
         tst_procedure.cpp
         tst_program_size.cpp
         tst_settings_file.cpp

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/files.h"
+#include "platform/ini_file.h"
+#include "platform/log.h"
 #include "platform/text_encoding.h"
 #include "platform/windows1252.h"
 #include "support/columns.h"
@@ -12,6 +14,7 @@
 
 #include <QtTest>
 
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -98,6 +101,13 @@ private slots:
         QCOMPARE(errorOf([&] { ReadWholeFile(path(u"keine.txt"_s)); }), 53);
         QCOMPARE(errorOf([&] { ReadWholeFile(folder_.path()); }), 75);
         QCOMPARE(errorOf([&] { ReadWholeFile(u"/dev/zero"_s); }), 75);
+        mkfifo(qPrintable(path(u"Rohr"_s)), 0600);
+        QCOMPARE(errorOf([&] { ReadWholeFile(path(u"Rohr"_s)); }), 75);
+        QCOMPARE(errorOf([&] { writeFileAtomically(path(u"Rohr"_s), "x"); }), 75);
+        putBytes(path(u"riesig.txt"_s), "x");
+        QFile::resize(path(u"riesig.txt"_s), 1 << 30); // takes no room on the disk
+        QCOMPARE(errorOf([&] { ReadWholeFile(path(u"riesig.txt"_s)); }), 7);
+        QVERIFY(!ReadWholeFile(u"/proc/self/mounts"_s).isEmpty()); // it tells no size
         if (geteuid() == 0)
             return; // the superuser may read everything
         putBytes(path(u"geheim.txt"_s), "x");
@@ -125,6 +135,55 @@ private slots:
         QCOMPARE(bytesOf(target), QByteArray("linked"));
         QCOMPARE(errorOf([&] { writeFileAtomically(path(u"kein Ordner/a.txt"_s), "x"); }), 76);
         QCOMPARE(errorOf([&] { writeFileAtomically(folder_.path(), "x"); }), 75);
+    }
+
+    void namesOfAnyKind()
+    {
+        for (const QString &name : {QString(251, u'x') + u".wlx"_s, QString(125, u'ä') + u"x.wlx"_s,
+                                    u"a\nb.wlx"_s, u" \"b\" 'c' .wlx"_s, u"A\u0308pfel.wlx"_s})
+            for (const char *bytes : {"first", "second"}) {
+                writeFileAtomically(bytes[0] == 'f' ? path(name) : storedPath(path(name)), bytes);
+                QCOMPARE(bytesOf(path(name)), QByteArray(bytes));
+                QCOMPARE(ReadWholeFile(storedPath(path(name))), QByteArray(bytes));
+            }
+    }
+
+    /// Laid by somebody else in a folder where everybody may write, to make us write into a file of our own.
+    void foreignLinksAreNotFollowed()
+    {
+        if (geteuid() != 0)
+            QSKIP("only the superuser can lay a link for somebody else");
+        const QByteArray link = QFile::encodeName(path(u"fremd.wlx"_s));
+        const QByteArray own = QFile::encodeName(path(u"eigen.wlx"_s)); // leads over the foreign one
+        putBytes(path(u"eigen.txt"_s), "own bytes");
+        QCOMPARE(symlink(qPrintable(path(u"eigen.txt"_s)), link) + symlink(link, own), 0);
+        QVERIFY(!isForeignLink(path(u"fremd.wlx"_s)));
+        QCOMPARE(lchown(link, 65534, 65534), 0);
+        IniFile session(path(u"fremd.wlx"_s), IniFile::Purpose::Writing);
+        session.write(u"Name"_s, u"x"_s, u"y"_s);
+        writeFileAtomically(path(u"eigen.wlx"_s), "x");
+        QCOMPARE(bytesOf(path(u"fremd.wlx"_s)), QByteArray("x"));
+        QVERIFY(!QFileInfo(path(u"fremd.wlx"_s)).isSymLink());
+        session.save();
+        QCOMPARE(bytesOf(path(u"fremd.wlx"_s)), QByteArray("[Name]\r\nx=y\r\n")); // nothing is given away
+        QCOMPARE(bytesOf(path(u"eigen.txt"_s)), QByteArray("own bytes"));
+    }
+
+    void theLogFollowsNoLink()
+    {
+        const QByteArray target = QFile::encodeName(path(u"eigen.txt"_s));
+        const QByteArray file = QFile::encodeName(path(u"errors.log"_s));
+        putBytes(path(u"eigen.txt"_s), "own");
+        Log log;
+        log.enable(path(u"errors.log"_s));
+        for (const auto lay : {+[](const char *to, const char *at) { return symlink(to, at); },
+                               +[](const char *to, const char *at) { return ::link(to, at); },
+                               +[](const char *, const char *at) { return mkfifo(at, 0600); }}) {
+            QCOMPARE(lay(target, file), 0);
+            log.WriteLog(u"a"_s); // must not wait for a pipe's reader
+            QCOMPARE(bytesOf(path(u"eigen.txt"_s)), QByteArray("own"));
+            QCOMPARE(unlink(file), 0);
+        }
     }
 
     void whatAKilledWriterLeavesGoes()

@@ -48,15 +48,6 @@ private slots:
         QCOMPARE(program_size::onScreen(300, screen), most);
         QCOMPARE(program_size::onScreen(100, screen), 100);
         QCOMPARE(program_size::larger(most, screen), most);
-    }
-
-    void stepsMeetTheQuarters()
-    {
-        const QSize screen(3840, 2160);
-        QCOMPARE(program_size::larger(100, screen), 125);
-        QCOMPARE(program_size::larger(130, screen), 150);
-        QCOMPARE(program_size::larger(300, screen), 300);
-        QCOMPARE(program_size::smaller(300), 275);
         QCOMPARE(program_size::smaller(130), 125);
         QCOMPARE(program_size::smaller(100), 100);
     }

@@ -10,6 +10,9 @@
 #include <QLockFile>
 #include <QtTest>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 using namespace Qt::StringLiterals;
 
 class SettingsFileTest : public QObject
@@ -78,6 +81,21 @@ private slots:
         QTEST(SettingsFile(file_).GetSetting(u"Settings"_s, u"NumWortel"_s, u"20"_s), "numWortel");
         store.SaveSetting(u"Settings"_s, u"UseUndo"_s, u"1"_s);
         QCOMPARE(bytesOf(file_ + u".bak"_s), bytes);
+    }
+
+    void whatIsNoFileStopsNoSaving()
+    {
+        const QByteArray name = QFile::encodeName(file_);
+        for (const auto lay :
+             {+[](const char *at) { return mkdir(at, 0700); },
+              +[](const char *at) { return mkfifo(at, 0600); }, // nobody may wait for it, nor for the lock
+              +[](const char *at) { return mknod(at, S_IFREG | 0600, 0) + truncate(at, 1 << 30); }}) {
+            cleanup();
+            QVERIFY(QDir().mkpath(QFileInfo(file_).path()));
+            QCOMPARE(lay(name) + mkfifo(name + ".lock", 0600), 0);
+            SettingsFile(file_).SaveSetting(u"Settings"_s, u"a"_s, u"1"_s);
+            QCOMPARE(SettingsFile(file_).GetSetting(u"Settings"_s, u"a"_s, u"-"_s), u"1"_s);
+        }
     }
 
     void emptyAndMarkedFilesAreNoGarbage()

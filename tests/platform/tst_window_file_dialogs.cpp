@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/file_places.h"
 #include "platform/files.h"
 #include "platform/window_file_dialogs.h"
 #include "support/columns.h"
@@ -38,7 +39,7 @@ class WindowFileDialogsTest : public QObject
     Q_OBJECT
 
     QTemporaryDir folder_;
-    WindowFileDialogs real_;
+    WindowFileDialogs real_{storedPath(folder_.path()) + u'\\'};
     FileDialogs &dialogs_ = real_;
     const QString lists_ = u"Text Dateien (*.txt)|*.txt"_s;
 
@@ -91,7 +92,64 @@ private slots:
             enterNames(dialog, typed);
         });
         const QString stored = storedPath(folder_.path());
-        QCOMPARE(dialogs_.saveFile(u"x"_s, stored, lists_, u".txt"_s, u"Vorschlag"_s), stored + u'\\' + name);
+        QCOMPARE(dialogs_.saveFile(u"x"_s, stored, lists_, u".txt"_s, {u"Vorschlag"_s, {}}),
+                 stored + u'\\' + name);
+    }
+
+    void nothingCanBeRenamedOrDeleted()
+    {
+        const auto look = [&](QFileDialog &dialog) {
+            auto *list = dialog.findChild<QListView *>(u"listView"_s);
+            QTRY_VERIFY(list->model()->rowCount(list->rootIndex()) > 0);
+            list->setCurrentIndex(list->model()->index(0, 0, list->rootIndex()));
+            QVERIFY(!(list->currentIndex().flags() & Qt::ItemIsEditable) && !list->dragEnabled());
+            QTest::keyClick(list, Qt::Key_Delete);
+            for (const QString &name : {u"qt_rename_action"_s, u"qt_delete_action"_s})
+                QVERIFY(!dialog.findChild<QAction *>(name)->isEnabled());
+            QVERIFY(dialog.sidebarUrls().contains(QUrl::fromLocalFile(folder_.path())));
+        };
+        whenOpen(look);
+        dialogs_.saveFile(u"x"_s, storedPath(folder_.path()), lists_, u".txt"_s);
+        whenOpen(look);
+        dialogs_.openFiles(u"x"_s, storedPath(folder_.path()), lists_, false);
+        QCOMPARE(QDir(folder_.path()).entryList(QDir::Files).size(), 4);
+    }
+
+    void findsDrives()
+    {
+        QCOMPARE(drivesOf("/dev/sda1 / ext4 rw 0 0\nhalf\n/dev/sdb1 /media/anna/MEIN\\040STICK vfat rw 0 0\n"
+                          "//s/t /mnt/Tausch cifs rw 0 0\n"),
+                 QStringList({u"/media/anna/MEIN STICK"_s, u"/mnt/Tausch"_s}));
+    }
+
+    void tellsWhatCannotBeSaved_data()
+    {
+        columns<QString, QString>("typed", "told");
+        QTest::newRow("too long in umlauts") << QString(126, u'ü') << u"zu lang"_s;
+        QTest::newRow("backslash") << u"a\\b"_s << u"Schrägstrich"_s;
+        QTest::newRow("another file") << u"zAHL"_s << u"gibt es schon"_s; // of that name in another case
+        QTest::newRow("the open one") << u"ABEND"_s << QString();
+    }
+    void tellsWhatCannotBeSaved()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QString, told);
+        QString seen;
+        whenOpen([&](QFileDialog &dialog) {
+            QTimer::singleShot(100, [&seen] {
+                if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+                    seen = box->text();
+                    box->reject();
+                }
+            });
+            enterNames(dialog, typed);
+            QTest::qWait(150);
+        });
+        const QString stored = storedPath(folder_.path());
+        const QString saved =
+            dialogs_.saveFile(u"x"_s, stored, lists_, u".txt"_s, {{}, stored + u"\\Abend.txt"_s});
+        QVERIFY2(seen.contains(told) && seen.isEmpty() == told.isEmpty(), qPrintable(seen));
+        QCOMPARE(saved.isEmpty(), !told.isEmpty());
     }
 
     void asksBeforeAFileIsReplaced()
@@ -111,16 +169,13 @@ private slots:
         };
         whenOpen([&](QFileDialog &dialog) {
             answer(u"Abbrechen"_s);
-            QTimer::singleShot(400, [&] {
-                answer(u"Ersetzen"_s);
-                auto *again = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
-                QVERIFY(again);
-                enterNames(*again, u"abend"_s); // another case, the same file
-            });
             enterNames(dialog, u"Abend"_s);
+            QVERIFY(dialog.isVisible());
+            answer(u"Ersetzen"_s);
+            enterNames(dialog, u"Zahl"_s);
         });
         const QString stored = storedPath(folder_.path());
-        QCOMPARE(dialogs_.saveFile(u"x"_s, stored, lists_, u".txt"_s), stored + u"\\abend.txt"_s);
+        QCOMPARE(dialogs_.saveFile(u"x"_s, stored, lists_, u".txt"_s), stored + u"\\Zahl.txt"_s);
         QCOMPARE(asked.size(), 2);
         QCOMPARE(asked[0], u"Abend.txt gibt es schon.\nSoll die Datei ersetzt werden?"_s);
     }

@@ -71,15 +71,6 @@ private slots:
         QTEST(static_cast<int>(house.due.size()), "due");
     }
 
-    void thereAndBackChangesNothing()
-    {
-        House house;
-        house.strg(Qt::Key_Plus);
-        house.strg(Qt::Key_Minus);
-        House::rest();
-        QCOMPARE(house.due.size(), 0);
-    }
-
     void waits_data()
     {
         columns<Busy, QString>("busy", "sentence");

@@ -151,8 +151,9 @@ QStringList QueuedFileDialogs::openFiles(const QString &title, const QString &fo
 }
 
 QString QueuedFileDialogs::saveFile(const QString &title, const QString &folder, const QString &filter,
-                                    const QString &, const QString &)
+                                    const QString &, const SaveHints &hints)
 {
+    lastHints = hints;
     asked.append({u"saveFile"_s, title, filter, folder, 0});
     if (const std::optional<QString> given = saved_.take())
         return *given;

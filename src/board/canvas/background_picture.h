@@ -15,8 +15,11 @@ public:
     BackgroundPicture(Ground &ground, const MainControls &controls, Canvas &canvas);
 
     /// Loads the picture named by the setting `BackgroundPicture`. A file that is missing is skipped in
-    /// silence, an unreadable one is logged.
-    void loadFromSetting();
+    /// silence, an unreadable one is logged; what is wrong with it comes back.
+    QString loadFromSetting();
+    /// The setting has been changed: its picture replaces the present one, and the user is told what is wrong
+    /// with it.
+    void takeSetting();
     /// A dropped file (native path) replaces the picture; the setting stays. Tells the user what is wrong
     /// with a file that is no picture.
     void drop(const QString &nativePath);
@@ -30,6 +33,8 @@ public:
 
 private:
     void show(const QString &nativePath);
+    QString troubleWith(const QString &nativePath);
+    void tell(const QString &trouble);
 
     Ground &ground_;
     const MainControls &controls_;

@@ -7,9 +7,9 @@
 #include "games/kernling/kernling_text.h"
 #include "games/kernling/kernling_work_view.h"
 #include "games/kernling/text_words.h"
-#include "output/fault_words.h"
 #include "output/text_loading.h"
 #include "platform/boxes.h"
+#include "platform/fault_words.h"
 #include "platform/file_dialogs.h"
 #include "platform/files.h"
 #include "platform/ground.h"
@@ -35,7 +35,6 @@ const QString section = u"Path"_s;
 const QString folderKey = u"InternalOpenKernling"_s;
 const QString filter =
     u"Text Dateien (*.txt)|*.txt|Rich Text Dateien (*.rtf;)|*.rtf;|Wörterbücher (*.lex;)|*.lex|Webseiten (*.html;*.htm;)|*.html;*.htm;"_s;
-constexpr qint64 largestFile = 64LL * 1024 * 1024; ///< bytes; a text of that length fills the memory
 constexpr int wholeBar = 100;
 constexpr double longestWord = 100000; ///< letters
 

@@ -93,7 +93,7 @@ bool RetypeMode::prepare(const RetypeSource &source)
     }
     const bool any = controls_.Scroller->ListCount() > 0;
     if (!any && source.origin == RetypeSource::WordList)
-        ground_.notes.tell(note::noKnownWord);
+        ground_.notes.tell(source.vowels == Vowels::None ? note::noKnownWord : note::noVowelWord);
     return any;
 }
 

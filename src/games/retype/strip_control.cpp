@@ -75,15 +75,19 @@ void StripControl::takeLetters()
         controls_.Scroller->setFont(letters);
 }
 
-/// In the middle to both sides, otherwise from the strip's left edge to the board's right one. The word field
-/// in the band stays free.
+/// In the middle to both sides, otherwise from the strip's left edge to the board's right one; chance leaves
+/// it three quarters of the board. The word field in the band stays free.
 void StripControl::fitToBoard()
 {
     MsgScroller &strip = *controls_.Scroller;
     const int board = controls_.form->width();
-    const int left = ground_.options.isOn(Setting::ScrollerMiddlePos) ? 0 : strip.x();
+    const int usual = strip.sizeHint().width();
+    const int most = ground_.options.isOn(Setting::ScrollerMiddlePos) ? 0
+                     : ground_.options.isOn(Setting::ScrollerRndPos)  ? board / 4
+                                                                      : std::max(0, board - usual);
+    const int left = std::min(strip.x(), most);
     const int top = std::max(0, std::min(strip.y(), controls_.Picture1->y() - strip.height()));
-    strip.setGeometry(left, top, std::max(strip.sizeHint().width(), board - left), strip.height());
+    strip.setGeometry(left, top, std::max(usual, board - left), strip.height());
 }
 
 void StripControl::boardResized()

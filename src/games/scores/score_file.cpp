@@ -2,31 +2,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "games/scores/score_file.h"
 
+#include "platform/file_lock.h"
 #include "platform/files.h"
 #include "platform/runtime_error.h"
 
-#include <QLockFile>
-
 using namespace Qt::StringLiterals;
 
-/// Keeps other computers from writing meanwhile. In a folder where no lock can be laid, or behind one that
-/// hangs, it goes on without: then no write succeeds, or nobody else is writing.
-class ScoreFile::Locked
-{
-public:
-    explicit Locked(const QString &path)
-        : lock_(nativePath(path) + u".lock"_s)
-    {
-        lock_.setStaleLockTime(staleAfter);
-        lock_.tryLock(longestWait);
-    }
+namespace {
 
-private:
-    static constexpr int staleAfter = 5000;  ///< milliseconds; a write takes a few
-    static constexpr int longestWait = 1500; ///< milliseconds
+constexpr int staleAfter = 5000;  ///< milliseconds; a write takes a few
+constexpr int longestWait = 1500; ///< milliseconds
 
-    QLockFile lock_;
-};
+} // namespace
 
 ScoreList ScoreFile::readLocked() const
 {
@@ -47,7 +34,7 @@ ScoreList ScoreFile::readLocked() const
 
 ScoreList ScoreFile::read() const
 {
-    const Locked locked(path_);
+    const FileLock locked(nativePath(path_), staleAfter, longestWait);
     try {
         return readLocked();
     } catch (const RuntimeError &) {
@@ -57,7 +44,7 @@ ScoreList ScoreFile::read() const
 
 void ScoreFile::update(const std::function<void(ScoreList &)> &change) const
 {
-    const Locked locked(path_);
+    const FileLock locked(nativePath(path_), staleAfter, longestWait);
     ScoreList list = readLocked();
     change(list);
     writeFileAtomically(path_, list.bytes());

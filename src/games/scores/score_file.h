@@ -24,8 +24,6 @@ public:
     void update(const std::function<void(ScoreList &)> &change) const;
 
 private:
-    class Locked;
-
     /// Throws RuntimeError if there is a file that cannot be read.
     ScoreList readLocked() const;
 

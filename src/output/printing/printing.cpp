@@ -5,12 +5,12 @@
 #include "board/canvas/canvas.h"
 #include "board/hand/command_router.h"
 #include "output/columns/columns.h"
-#include "output/fault_words.h"
 #include "output/printing/page_fit.h"
 #include "output/printing/paper_surface.h"
 #include "output/printing/text_pages.h"
 #include "output/printing/word_pages.h"
 #include "platform/boxes.h"
+#include "platform/fault_words.h"
 #include "platform/file_dialogs.h"
 #include "platform/gate.h"
 #include "platform/ground.h"
@@ -99,7 +99,7 @@ bool Printing::askPdfFile(PrintJob &job)
     const QString folder = ground_.store.GetSetting(u"Path"_s, u"Export"_s, ground_.AppFolder);
     job.pdfFile =
         ground_.fileDialogs.saveFile(product::name + u" - Als PDF-Datei speichern"_s, folder,
-                                     u"PDF-Dateien (*.pdf)|*.pdf"_s, u".pdf"_s, job.title + u".pdf"_s);
+                                     u"PDF-Dateien (*.pdf)|*.pdf"_s, u".pdf"_s, {job.title + u".pdf"_s, {}});
     return !job.pdfFile.isEmpty();
 }
 

@@ -3,12 +3,12 @@
 #include "output/web/frm_save_as_web.h"
 
 #include "board/canvas/background_picture.h"
-#include "output/fault_words.h"
 #include "output/web/web_page.h"
 #include "output/web/web_view.h"
 #include "output/web/web_wishes.h"
 #include "platform/boxes.h"
 #include "platform/clock.h"
+#include "platform/fault_words.h"
 #include "platform/file_dialogs.h"
 #include "platform/files.h"
 #include "platform/gate.h"
@@ -274,9 +274,9 @@ void FrmSaveAsWeb::Command1_Click()
     step([&] {
         const QString present = pagePath();
         const QString folder = hasFolder(present) ? folderOf(present) : ground_.AppFolder;
-        chosen =
-            ground_.fileDialogs.saveFile(product::name + u" - Webseite öffnen"_s, folder,
-                                         u"Webpage(*.html)|*.html"_s, u".html"_s, GetOnlyFileName(present));
+        chosen = ground_.fileDialogs.saveFile(product::name + u" - Webseite öffnen"_s, folder,
+                                              u"Webpage(*.html)|*.html"_s, u".html"_s,
+                                              {GetOnlyFileName(present), {}});
     });
     if (!chosen.isEmpty())
         view_->txtoutfile->setText(chosen);

@@ -62,7 +62,7 @@ private:
 };
 
 SessionTexts::SessionTexts(const QString &path)
-    : bytes_(ReadWholeFile(path))
+    : bytes_(ReadWholeFile(path, largestLineFile))
     , encoding_(encodingOf(bytes_))
 {
     if (encoding_ == TextEncoding::Utf16) {

@@ -3,8 +3,8 @@
 #include "shell/handbook/compiled_help.h"
 
 #include "platform/files.h"
+#include "platform/runtime_error.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QStringList>
 
@@ -42,10 +42,12 @@ bool compiled_help::canBeShown(const QStringList &dataFolders)
     if (hasViewerOfItsOwn)
         return true;
     return std::any_of(dataFolders.begin(), dataFolders.end(), [](const QString &folder) {
-        QFile cache(folder + QStringLiteral("/applications/mimeinfo.cache"));
-        if (!cache.open(QIODevice::ReadOnly))
+        try {
+            const QByteArray cache = ReadWholeFile(folder + QStringLiteral("/applications/mimeinfo.cache"));
+            const QList<QByteArray> lines = cache.split('\n');
+            return std::any_of(lines.begin(), lines.end(), namesViewer);
+        } catch (const RuntimeError &) {
             return false;
-        const QList<QByteArray> lines = cache.readAll().split('\n');
-        return std::any_of(lines.begin(), lines.end(), namesViewer);
+        }
     });
 }

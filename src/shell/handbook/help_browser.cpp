@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/handbook/help_browser.h"
 
+#include "platform/files.h"
+#include "platform/picture_file.h"
+#include "platform/runtime_error.h"
 #include "shell/handbook/help_pages.h"
 
-#include <QFile>
 #include <QImage>
 #include <QUrl>
 
@@ -46,15 +48,14 @@ HelpBrowser::HelpBrowser(const HelpPages &pages, QWidget *parent)
 
 QVariant HelpBrowser::loadResource(int type, const QUrl &address)
 {
-    QFile file(pages_.fileOf(address));
-    if (file.fileName().isEmpty() || !file.open(QIODevice::ReadOnly))
+    const QString file = pages_.fileOf(address);
+    try {
+        if (type == QTextDocument::ImageResource)
+            return readPicture(file);
+        return QString::fromUtf8(ReadWholeFile(file));
+    } catch (const RuntimeError &) {
         return nothingFor(type);
-    const QByteArray bytes = file.readAll();
-    if (type == QTextDocument::ImageResource) {
-        const QImage picture = QImage::fromData(bytes);
-        return picture.isNull() ? nothingFor(type) : QVariant(picture);
     }
-    return QString::fromUtf8(bytes);
 }
 
 void HelpBrowser::doSetSource(const QUrl &address, QTextDocument::ResourceType type)

@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/handbook/help_pages.h"
 
+#include "platform/files.h"
+#include "platform/runtime_error.h"
+
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QUrl>
@@ -14,8 +16,11 @@ namespace {
 
 QString textOf(const QString &path)
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    try {
+        return QString::fromUtf8(ReadWholeFile(path));
+    } catch (const RuntimeError &) {
+        return {}; // a page that is gone has no headings
+    }
 }
 
 } // namespace

@@ -246,6 +246,12 @@ private slots:
             b.r.background.loadFromSetting();
             QCOMPARE(b.controls.picCanvas->picture().isNull(), name != u"DA.bmp"_s);
         }
+        b.t.options.setText(Setting::BackgroundPicture, b.t.AppFolder + u"kaputt.jpg"_s);
+        b.t.boxes.willAnswer(Boxes::Answer::Ok);
+        b.r.background.takeSetting(); // now it has been chosen by hand
+        b.settle();
+        QVERIFY(b.t.boxes.asked.last().text.contains(u"kein Bild"_s));
+        QVERIFY(b.controls.picCanvas->picture().isNull());
         QVERIFY(b.t.ok());
     }
 

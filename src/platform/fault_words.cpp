@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "output/fault_words.h"
+#include "platform/fault_words.h"
 
 #include "platform/runtime_error.h"
 
@@ -9,6 +9,8 @@ using namespace Qt::StringLiterals;
 QString faultWords(const RuntimeError &error)
 {
     switch (error.number()) {
+    case RuntimeError::OutOfMemory:
+        return u"Die Datei ist zu groß."_s;
     case RuntimeError::FileNotFound:
         return u"Die Datei gibt es nicht."_s;
     case RuntimeError::DiskFull:
