@@ -10,5 +10,6 @@ build_preset bench
 result=0
 QT_QPA_PLATFORM=offscreen build/bench/bin/wortel_bench "$@" || result=1
 [ $# -gt 0 ] || bench/start.sh build/bench/bin/wortel || result=1
+[ $# -gt 0 ] || bench/start_size.sh build/bench/bin/wortel || result=1
 [ $# -gt 0 ] || bench/game_at_rest.sh build/bench/bin/wortel || result=1
 exit $result

@@ -10,11 +10,13 @@ constexpr int tiles = 500;
 constexpr int moves = 100;
 
 /// A board of many tiles, the first of them at 10, 60.
-std::unique_ptr<TestHand> fullHand()
+std::unique_ptr<TestHand> fullHand(const QSize &window = {1920, 1080})
 {
-    auto hand = std::make_unique<TestHand>(1, QSize(1920, 1080));
+    auto hand = std::make_unique<TestHand>(1, window);
+    const int right = window.width() - 120;
+    const int bottom = window.height() - 280;
     for (int i = 0; i < tiles; ++i)
-        hand->lay(wortel, 10 + i * 61 % 1800, 60 + i * 37 % 800, QStringLiteral("fahr"));
+        hand->lay(wortel, 10 + i * 61 % right, 60 + i * 37 % bottom, QStringLiteral("fahr"));
     return hand;
 }
 
@@ -39,6 +41,31 @@ double clickToRedraw()
         [&] { hand->canvas->CanvasRedrawAll(); });
 }
 
+/// A drag over the largest screen, each move painted, to painting what each changed and nothing else.
+double largestDragToChangedRectangle()
+{
+    const auto hand = fullHand({3840, 2160});
+    hand->form.show();
+    hand->settle();
+    hand->press({15, 70});
+    const auto place = [](int step) { return QPoint(100 + 3 * step, 200 + 2 * step); };
+    const auto drag = [&] {
+        for (int i = 0; i < moves; ++i) {
+            hand->drag(place(i));
+            QCoreApplication::processEvents(); // paints it
+        }
+    };
+    const auto rectangles = [&] {
+        for (int i = 0; i < moves; ++i) {
+            const QSize held = hand->controls.BtnMove1->size();
+            hand->controls.picCanvas->repaint(QRect(place(i - 1), held).united(QRect(place(i), held)));
+        }
+    };
+    return bench::ratio(drag, rectangles);
+}
+
+const bench::Row largestRow{"pointer: a drag at 3840x2160 to painting what it changes", 1.5,
+                            largestDragToChangedRectangle};
 const bench::Row movesRow{"pointer: a move of a held tile to a full redraw of 500", 0.1, movesToRedraw};
 const bench::Row clickRow{"pointer: pick a tile up and let it go to a full redraw of 500", 1.5,
                           clickToRedraw};

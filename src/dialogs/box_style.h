@@ -57,9 +57,13 @@ struct ButtonsRow
 };
 
 inline constexpr std::array buttons{
-    ButtonsRow{0, u"OK", nullptr},         ButtonsRow{3, u"OK", u"Abbrechen"},
-    ButtonsRow{4, u"Yes", u"No"},          ButtonsRow{6, u"Exit", u"No way !"},
-    ButtonsRow{8, u"Save", u"Don't Save"}, ButtonsRow{9, u"Load", u"Don't Load"},
+    ButtonsRow{0, u"OK", nullptr},
+    ButtonsRow{3, u"OK", u"Abbrechen"},
+    ButtonsRow{4, u"Yes", u"No"},
+    ButtonsRow{6, u"Exit", u"No way !"},
+    ButtonsRow{8, u"Save", u"Don't Save"},
+    ButtonsRow{9, u"Load", u"Don't Load"},
+    ButtonsRow{10, u"Einpassen", u"So lassen"},
 };
 
 struct SignRow

@@ -131,6 +131,13 @@ std::optional<QString> ListLoader::loadAtStart()
     return std::nullopt;
 }
 
+void ListLoader::takeAsLoaded()
+{
+    loadedAtStart_ = true;
+    langVokalFile_ = vowelFile(Vowels::Long);
+    kurzVokalFile_ = vowelFile(Vowels::Short);
+}
+
 void ListLoader::FillWortelList(QString &path)
 {
     Procedure step{ground_.log, "FillWortelList", "frmMain"};

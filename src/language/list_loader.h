@@ -36,6 +36,9 @@ public:
     /// to end is returned.
     std::optional<QString> loadAtStart();
 
+    /// The lists were filled by somebody else, as this loader would have done at a start.
+    void takeAsLoaded();
+
     /// Appends the stem list `path` to `WortelList` and its dictionary to `LexiconList`. `path` comes back
     /// with `\text` replaced by
     /// `\facit`. A missing stem list changes nothing but `CurrentWortelFile` and says nothing.

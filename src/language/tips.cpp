@@ -191,6 +191,8 @@ bool Tips::IsSideWindowOpen()
     });
 }
 
+bool Tips::isTipDue() const { return TipTimer_->isActive(); }
+
 void Tips::startTipTimer()
 {
     if (ground_.options.isOn(Setting::UseLexTip))

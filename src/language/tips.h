@@ -40,6 +40,8 @@ public:
 
     /// Each starts its timer if its setting is on; the interval is read at that moment.
     void startTipTimer();
+    /// The tip after a start is still to come.
+    bool isTipDue() const;
     void startGameTipTimer();
     void startVokalTipTimer();
     /// The timers of the game and of the vowel game.

@@ -149,6 +149,7 @@ void Sessions::RestoreObjects(const QString &path)
     }
     step([&] { AddToRecentDocs(source, FileType::mimeType); });
     step([&] { makeCurrent(source); });
+    step([&] { emit restored(); });
     ground_.notes.tell(note::loaded, nameWithoutEnding(source));
 }
 

@@ -39,6 +39,7 @@ public:
     void SaveObjects(const QString &path = {});
     void RestoreObjects(const QString &path = {});
 
+    void makeCurrent(const QString &path);
     /// The session last opened or saved.
     QString CurrentSessionFile() const { return CurrentSessionFile_; }
     /// The name that its web page gets by default.
@@ -47,6 +48,8 @@ public:
 signals:
     /// The tiles of a session are about to take the board.
     void boardOpens();
+    /// The tiles of a session lie on the board, whole, and every box about it is closed.
+    void restored();
     /// A session has brought its own stem list.
     void listsChosen();
 
@@ -57,7 +60,6 @@ private:
     bool readSession(const IniFile &file);
     void refuse(const QString &path, const QString &reason);
     void loadLists(const QString &name);
-    void makeCurrent(const QString &path);
 
     Ground &ground_;
     const MainControls &controls_;

@@ -12,6 +12,23 @@ Snapshot copyOf(const TileList &tiles)
     return copies;
 }
 
+TileList tilesOf(const Snapshot &state, const TileStore &store)
+{
+    TileList tiles;
+    tiles.reserve(state.size());
+    for (const TileCopy &copy : state) {
+        auto tile = std::make_unique<cWortel>();
+        tile->txt = copy.text;
+        tile->BGColor = copy.back;
+        tile->TxtColor = copy.textColour;
+        tile->setXLeft(copy.left);
+        tile->setYTop(copy.top);
+        tile->setExtent(store.extentOf(copy.text));
+        tiles.push_back(std::move(tile));
+    }
+    return tiles;
+}
+
 void SnapshotRing::push(Snapshot state)
 {
     BufferPos_ = next(BufferPos_);

@@ -22,6 +22,8 @@ struct TileCopy
 using Snapshot = std::vector<TileCopy>;
 
 Snapshot copyOf(const TileList &tiles);
+/// The tiles of a snapshot, as wide as `store` makes them.
+TileList tilesOf(const Snapshot &state, const TileStore &store);
 
 /// The ring of six snapshots between which undo and redo move: five earlier states and the present one. It
 /// knows slots, not boards. It does not guard its ends; a stray step moves round the ring.

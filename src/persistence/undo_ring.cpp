@@ -52,6 +52,13 @@ void UndoRing::setSteps(bool canUndo, bool canRedo)
     emit changed();
 }
 
+void UndoRing::takeSteps(const Steps &steps)
+{
+    wasOn_ = isOn();
+    ring_ = steps.ring;
+    setSteps(steps.canUndo, steps.canRedo);
+}
+
 void UndoRing::SetCollBuffer()
 {
     if (!isOn())
@@ -117,21 +124,7 @@ void UndoRing::putBack(const Snapshot &state)
 {
     Procedure step{ground_.log, "putBack", form, Procedure::Silent};
     TileStore &store = canvas_.store();
-    step([&] {
-        TileList tiles;
-        tiles.reserve(state.size());
-        for (const TileCopy &copy : state) {
-            auto tile = std::make_unique<cWortel>();
-            tile->txt = copy.text;
-            tile->BGColor = copy.back;
-            tile->TxtColor = copy.textColour;
-            tile->setXLeft(copy.left);
-            tile->setYTop(copy.top);
-            tile->setExtent(store.extentOf(copy.text));
-            tiles.push_back(std::move(tile));
-        }
-        store.replaceAll(std::move(tiles));
-    });
+    step([&] { store.replaceAll(tilesOf(state, store)); });
     step([&] { store.recount(); });
     step([&] { canvas_.repaint(); });
     step([&] { ground_.pump.yield(); });

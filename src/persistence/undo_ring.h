@@ -22,6 +22,16 @@ public:
     /// The menu's entries and the keys; each acts only if there is a step.
     void registerCommands(CommandRouter &router);
 
+    /// What undo knows, to be handed to the ring of another window.
+    struct Steps
+    {
+        SnapshotRing ring;
+        bool canUndo = false;
+        bool canRedo = false;
+    };
+    Steps steps() const { return {ring_, CanUndo_, CanRedo_}; }
+    void takeSteps(const Steps &steps);
+
     bool CanUndo() const { return CanUndo_; }
     bool CanRedo() const { return CanRedo_; }
 

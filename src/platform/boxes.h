@@ -37,7 +37,7 @@ public:
 
     /// The question box `MBox`. Returns the index of the pressed button, 0 for the first, 1 for the second; 0
     /// at once if `show` is false. Callers treat anything but 1 as go on. `buttons` is a code: 0 OK, 3
-    /// OK/Abbrechen, 4 Yes/No, 6, 8, 9.
+    /// OK/Abbrechen, 4 Yes/No, 6, 8, 9, 10 Einpassen/So lassen.
     virtual int ShowMBox(const QString &prompt, bool show, int buttons, const QString &title,
                          BoxStyle style) = 0;
     /// The question box with OK and Abbrechen: true unless it was refused, at once if `show` is false.

@@ -72,6 +72,8 @@ public:
     /// True from the first request on: nothing is begun, shown, written or committed any more.
     bool isClosing() const { return closing_; }
     bool isFree() const { return depth_ == 0; }
+    /// Something that came from outside is still to be done.
+    bool hasWaiting() const { return !waiting_.empty(); }
 
 signals:
     /// A box, a menu or another window is about to take the hand.

@@ -98,23 +98,34 @@ bool InstanceLink::becomeFirst()
     }
     first_ = true;
     listening_ = local_socket::listenAt(address_);
-    if (listening_ >= 0) {
-        notifier_ = new QSocketNotifier(listening_, QSocketNotifier::Read, this);
-        connect(notifier_, &QSocketNotifier::activated, this, &InstanceLink::accept);
-    }
+    goOn();
     return true;
+}
+
+// Who connects meanwhile waits in the socket's own queue.
+void InstanceLink::rest()
+{
+    delete std::exchange(notifier_, nullptr);
+    const QList<QLocalSocket *> peers = received_.keys();
+    for (QLocalSocket *peer : peers)
+        finish(peer);
+}
+
+void InstanceLink::goOn()
+{
+    if (listening_ < 0)
+        return;
+    notifier_ = new QSocketNotifier(listening_, QSocketNotifier::Read, this);
+    connect(notifier_, &QSocketNotifier::activated, this, &InstanceLink::accept);
 }
 
 void InstanceLink::stopListening()
 {
     if (listening_ < 0)
         return;
-    delete std::exchange(notifier_, nullptr);
+    rest();
     close(std::exchange(listening_, -1));
     QFile::remove(address_);
-    const QList<QLocalSocket *> peers = received_.keys();
-    for (QLocalSocket *peer : peers)
-        finish(peer);
 }
 
 std::optional<QStringList> InstanceLink::takeNext()

@@ -59,6 +59,10 @@ public:
 
     /// The program ends: nothing is taken any more. Who hands over then waits until this process is gone.
     void stopListening();
+    /// The program's event loop ends, and another begins: who hands over between `rest` and `goOn` just waits
+    /// a little longer.
+    void rest();
+    void goOn();
 
 signals:
     /// A later start has handed over its arguments.

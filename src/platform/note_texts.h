@@ -42,6 +42,17 @@ inline constexpr char16_t noRoom[]          = u"Auf dem Spielfeld ist kein Platz
 inline constexpr char16_t noVowelWord[]     = u"Kein Wort deiner Wörterliste hat diesen Vokal";
 inline constexpr char16_t noKnownWord[]     = u"Kein Wort deiner Wörterliste steht im Wörterbuch";
 
+// About the size of the program and of the board
+inline constexpr char16_t allSeen[]         = u"Alle Bausteine sind schon zu sehen";
+inline constexpr char16_t sizeIs[]          = u"Größe: %1";
+inline constexpr char16_t noLarger[]        = u"Größer geht es auf diesem Bildschirm nicht";
+inline constexpr char16_t noSmaller[]       = u"Kleiner geht es nicht";
+inline constexpr char16_t sizeAfterGame[]   = u"Die neue Größe gilt, sobald das Spiel zu Ende ist";
+inline constexpr char16_t sizeAfterRetype[] = u"Die neue Größe gilt, sobald das Abschreiben zu Ende ist";
+inline constexpr char16_t sizeAfterWork[]   = u"Die neue Größe gilt gleich, wenn das hier fertig ist";
+inline constexpr char16_t sizeNextStart[]   = u"Die neue Größe gilt ab dem nächsten Start: In Kernling steht noch ein Text";
+inline constexpr char16_t sizeAfterWindow[] = u"Die neue Größe gilt, sobald dieses Fenster geschlossen ist";
+
 // What has to end first
 inline constexpr char16_t afterBuilding[]   = u"Jetzt baust du Wörter auf dem Spielfeld. Schreiben kommt danach";
 inline constexpr char16_t afterDictionary[] = u"Schließe zuerst das Wörterbuch";

@@ -3,6 +3,7 @@
 #include "platform/options.h"
 
 #include "platform/procedure.h"
+#include "platform/program_size.h"
 #include "platform/runtime_error.h"
 #include "platform/settings_store.h"
 #include "platform/text.h"
@@ -39,6 +40,8 @@ QString masked(SettingType type, const QString &text)
         return Integer_Pos(text);
     case SettingType::SignedInteger:
         return Integer_All(text);
+    case SettingType::Size:
+        return program_size::storedText(program_size::wishOf(text));
     default:
         return text;
     }
@@ -109,6 +112,13 @@ void Options::reset(Setting id)
     const SettingRow &row = settingRow(id);
     change(id, fallback(row));
     store_.SaveSetting(QLatin1String(row.section), QLatin1String(row.key), toStore(row));
+}
+
+void Options::keepText(Setting id, const QString &text)
+{
+    setText(id, text);
+    const SettingRow &row = settingRow(id);
+    store_.SaveSetting(QLatin1String(row.section), QLatin1String(row.key), value(id));
 }
 
 void Options::GetSettings(SettingsWindow window)

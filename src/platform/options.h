@@ -40,6 +40,8 @@ public:
     void setOption(Setting id);
     /// The same, written to the store at once: chosen outside of the options window.
     void keepOption(Setting id);
+    /// A text, written to the store at once as well.
+    void keepText(Setting id, const QString &value);
 
     // What an options window does goes for its own rows of the table.
 

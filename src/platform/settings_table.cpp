@@ -86,6 +86,7 @@ constexpr std::array<SettingRow, static_cast<std::size_t>(Setting::Count)> table
     {S::KernlingShowFalse, "KernlingShowFalse", T::Box, u"0", nullptr, "Check2", "Frame1", S::KernlingShowFalse, u"Falsche Buchstabenauswahl auch anzeigen", nullptr, "Settings", ofKernling},
     {S::KernlingUseSounds, "KernlingUseSounds", T::Box, u"1", nullptr, "Check5", "Frame1", S::KernlingUseSounds, u"Töne", nullptr, "Settings", ofKernling},
     {S::KernlingShowTooltip, "KernlingShowTooltip", T::Box, u"1", nullptr, "Check7", "Frame1", S::KernlingShowTooltip, u"Info-Fahne zeigen", nullptr, "Settings", ofKernling},
+    {S::ProgramSize, "ProgramSize", T::Size, u"automatisch", u"automatisch", "cboSize", "FrameView", S::ProgramSize, u"Größe", u"Größe von Schrift, Bausteinen und Fenstern (Strg++ und Strg+-)"},
 }};
 // clang-format on
 

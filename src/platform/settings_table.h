@@ -80,13 +80,15 @@ enum class Setting : int {
     KernlingShowFalse,
     KernlingUseSounds,
     KernlingShowTooltip,
+    ProgramSize,
     Count
 };
 
 /// Who edits a setting: the options window of the program, or that of a game.
 enum class SettingsWindow { frmOptions, frmKernlingOptions };
 
-enum class SettingType { Integer, SignedInteger, AnyNumber, Path, Box, Option };
+/// A size is a text of `program_size`, chosen from its list.
+enum class SettingType { Integer, SignedInteger, AnyNumber, Path, Box, Option, Size };
 
 /// One row a setting: how it is stored, what it is at first, what a blank field becomes, and which control
 /// edits it, with its place on the pages of the options window. A new setting is a new row and needs nothing

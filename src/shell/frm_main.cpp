@@ -16,6 +16,7 @@
 #include "platform/system_info.h"
 #include "platform/text.h"
 #include "shell/command_line.h"
+#include "shell/continuation.h"
 #include "shell/crash_filter.h"
 #include "shell/rooms.h"
 #include "widgets/click_label.h"
@@ -60,6 +61,7 @@ frmMain::frmMain(Ground &ground, const StartFacts &facts)
     , status_(controls_.GameProgress)
     , note_(new ShortNote(*controls_.picCanvas, *controls_.Picture1))
     , help_(ground.AppFolder, ground.gate, this)
+    , size_(ground, play_, facts.SizePercent, facts.Screen)
     , longPress_(ground)
 {
     setObjectName(u"frmMain"_s);
@@ -78,7 +80,7 @@ frmMain::frmMain(Ground &ground, const StartFacts &facts)
 
 frmMain::~frmMain() { ground_.gate.setView(nullptr); }
 
-bool frmMain::Form_Load()
+void frmMain::loadForm()
 {
     Procedure step{ground_.log, "Form_Load", "frmMain"};
     cmdLineReady_ = false;
@@ -95,7 +97,12 @@ bool frmMain::Form_Load()
     step([&] { rooms_->background.loadFromSetting(); });
 
     step([&] { rooms_->strip.SetUpMsgScroller(); });
+}
 
+bool frmMain::Form_Load()
+{
+    loadForm();
+    Procedure step{ground_.log, "Form_Load", "frmMain", Procedure::Silent};
     // A number past 16 bits leaves the usual count, so that there is a board in any case.
     Int16 count = usualCount;
     step([&] { count = CLng(std::abs(Val(controls_.Text1->text()))); });
@@ -108,6 +115,27 @@ bool frmMain::Form_Load()
     if (!facts_.Complaint.isEmpty())
         tellLater(facts_.Complaint);
     return true;
+}
+
+void frmMain::goOn(const Continuation &kept)
+{
+    loadForm();
+    Procedure step{ground_.log, "Form_Load", "frmMain", Procedure::Silent};
+    step([&] { goOnWith(kept, *this); });
+    step([&] { emit menusStale(); });
+    cmdLineReady_ = true;
+    activated_ = true;
+    opensAgain_ = std::make_unique<Continuation>(kept);
+}
+
+void frmMain::leave()
+{
+    Procedure step{ground_.log, "leave", "frmMain"};
+    ended_ = true;
+    left_.emplace(ground_.gate.stay());
+    step([&] { rooms_->tips.stopTimers(); });
+    step([&] { rooms_->game.stopTimers(); });
+    step([&] { crash_filter::remove(); });
 }
 
 /// Colours, focus and accessible names that hold for the whole run.
@@ -127,6 +155,7 @@ void frmMain::makeReady()
 void frmMain::resizeEvent(QResizeEvent *)
 {
     layOutMainControls(controls_, width(), height());
+    rooms_->fit.resized();
     rooms_->canvas.repaint();
     rooms_->tips.recompose();
     rooms_->strip.boardResized();
@@ -149,6 +178,10 @@ void frmMain::Form_Activate()
     Procedure step{ground_.log, "Form_Activate", "frmMain"};
     step([&] { rooms_->canvas.repaint(); });
     step([&] { ground_.pump.yield(); });
+    if (const std::unique_ptr<Continuation> kept = std::exchange(opensAgain_, nullptr)) {
+        step([&] { rooms_->fit.fit(); });
+        step([&] { openAgain(*kept, *this); });
+    }
     if (std::exchange(activated_, true))
         return;
     if (ground_.options.isOn(Setting::ShowWelcomeMsg))
@@ -158,6 +191,16 @@ void frmMain::Form_Activate()
     for (const auto &tell : std::exchange(onceActivated_, {}))
         step(tell);
     step([&] { tellLeftOut(); });
+    if (boardOpened_)
+        step([&] { rooms_->fit.offer(); });
+}
+
+/// A board was opened. One that came before the window has its size is looked at when it is seen.
+void frmMain::offerToFit()
+{
+    boardOpened_ = true;
+    if (activated_)
+        ground_.gate.whenFree([this] { rooms_->fit.offer(); });
 }
 
 /// Only now somebody sees the board on which some tiles found no room.

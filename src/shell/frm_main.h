@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/gate.h"
 #include "platform/play_state.h"
 #include "platform/word_lists.h"
 #include "shell/handbook/help.h"
+#include "shell/size_change.h"
 #include "widgets/control_sheet.h"
 #include "widgets/long_press.h"
 #include "widgets/main_controls.h"
@@ -18,9 +20,11 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class PressButton;
+struct Continuation;
 struct Ground;
 struct Rooms;
 
@@ -32,6 +36,8 @@ struct StartFacts
     bool RecoverOnStart = false;
     bool CanStore = true;
     QString Complaint{}; ///< what the user has to be told once the window stands, or nothing
+    int SizePercent = 100;   ///< the size that the program runs at
+    QSize Screen{1366, 768}; ///< the primary one, in pixels as they are at 100 %
 };
 
 /// The main window and hub: it makes the controls, makes the rooms, wires them, and forwards events. What a
@@ -52,6 +58,11 @@ public:
     /// Reads the settings and fills the first board. False if the program has to end: a word file is missing,
     /// and the user has been told.
     bool Form_Load();
+    /// The same for a window that takes the place of another: it shows what that has shown.
+    void goOn(const Continuation &kept);
+    /// Ends the window so that another can take its place: no goodbye, and the backup stays. From now on
+    /// nobody is let in.
+    void leave();
     /// What a second start has handed over, the window's `HiddenText`: once nothing else is under way, each
     /// session that it names is opened.
     void HiddenText_Change(const QStringList &arguments);
@@ -65,6 +76,10 @@ public:
     PlayState &play() { return play_; }
     WordLists &lists() { return lists_; }
     ControlSheet &sheet() { return sheet_; }
+    Ground &ground() { return ground_; }
+    SizeChange &sizeChange() { return size_; }
+    /// The handbook's window while it is open.
+    HelpWindow *handbook() const { return help_.window(); }
 
     // What menus and tools of the window itself do.
     void showOptions();
@@ -74,6 +89,8 @@ public:
 
 signals:
     void unloaded();
+    /// The window is to be made anew at another size; nothing stands in the way.
+    void sizeChangeDue();
     /// Something that the menus' states hang on has changed.
     void menusStale();
 
@@ -101,7 +118,9 @@ private:
     void UpdateCaption();
     void tellNotOpened(const QStringList &missing, const QStringList &switches);
     void tellLater(const QString &text);
+    void loadForm();
     void loadKept();
+    void offerToFit();
     void wire();
     void wireBoard();
     void wireWords();
@@ -122,6 +141,9 @@ private:
     ShortNote *note_;
     std::unique_ptr<Rooms> rooms_;
     Help help_;
+    SizeChange size_;
+    std::unique_ptr<Continuation> opensAgain_; ///< once the window is seen
+    std::optional<Gate::Passage> left_;
     LongPress longPress_;
     QStringList hiddenText_;
     QTimer boxCloser_;
@@ -130,5 +152,6 @@ private:
     bool activated_ = false;
     bool firstBoardReplaced_ = false;
     bool activationWaits_ = false;
+    bool boardOpened_ = false; ///< before the window was seen
     bool ended_ = false;
 };

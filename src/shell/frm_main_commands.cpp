@@ -43,6 +43,8 @@ void frmMain::wireCommands()
     r.router.onMenu(1001, [this] { showHelp(); });
     r.router.onMenu(1003, [this] { showAbout(); });
     r.router.onMenu(1906, [this] { close(); });
+    r.router.onMenu(1513, [&r] { r.fit.toggle(); });
+    size_.registerCommands(r.router);
 }
 
 void frmMain::saveAsWeb()

@@ -239,7 +239,16 @@ void frmMain::wireKeeping()
          {&BoardNews::committed, &BoardNews::moved, &BoardNews::opened, &BoardNews::stepped})
         connect(&r.news, news, &r.backup, &Backup::saveIfWanted);
 
+    connect(&r.news, &BoardNews::opened, this, &frmMain::offerToFit);
+    connect(&r.sessions, &Sessions::restored, this, &frmMain::offerToFit);
+    for (const auto news : {&BoardNews::committed, &BoardNews::moved, &BoardNews::stepped})
+        connect(&r.news, news, this, [&r] { r.fit.follow(); });
+    size_.askBefore(
+        [&r]() -> const char16_t * { return r.kernling.keepsText() ? note::sizeNextStart : nullptr; });
+    connect(&size_, &SizeChange::due, this, &frmMain::sizeChangeDue);
+
     connect(&ground_.options, &Options::applied, this, [this, &r] {
+        size_.takeSetting();
         r.game.takeLevel();
         r.placement.takeTryLimit();
         r.background.takeSetting();

@@ -4,6 +4,7 @@
 
 #include "board/canvas/arrangement.h"
 #include "board/canvas/background_picture.h"
+#include "board/canvas/board_fit.h"
 #include "board/canvas/bulk_tiles.h"
 #include "board/canvas/canvas.h"
 #include "board/canvas/opt_types.h"
@@ -77,6 +78,7 @@ struct Rooms
     CanvasSurface surface;
     TileStore store;
     Canvas canvas;
+    BoardFit fit;
     MorphemeLists morphemeLists;
     BackgroundPicture background;
     Placement placement;

@@ -7,13 +7,16 @@
 #include "platform/files.h"
 #include "platform/instance_link.h"
 #include "platform/product.h"
+#include "platform/program_size.h"
 #include "platform/settings_file.h"
 #include "shell/about_window.h"
 #include "shell/application_folder.h"
 #include "shell/argument_handler.h"
 #include "shell/command_line.h"
+#include "shell/continuation.h"
 #include "shell/frm_main.h"
 #include "shell/hand_over.h"
+#include "shell/program_scale.h"
 #include "shell/real_ground.h"
 #include "shell/splash.h"
 #include "shell/start_steps.h"
@@ -46,41 +49,73 @@ QString findAppFolder()
     return application_folder::find(program, installed, user);
 }
 
-/// Splash, main window, and the event loop until the window is closed. The waits keep the splash readable.
-int StartApplication(QApplication &application, RealGround &real, InstanceLink &link, const StartFacts &facts)
+/// What one round of the program leaves to the next: nothing, if it was the last.
+using Kept = std::unique_ptr<Continuation>;
+
+std::unique_ptr<frmSplash> showSplash(Ground &ground)
 {
-    Ground &ground = real.ground();
     auto splash = std::make_unique<frmSplash>(ground.clock);
     splash->showWithShadow();
     ground.pump.yield();
-
     ground.clock.wait(300);
-    frmMain form(ground, facts);
-    real.boxes().setMainWindow(&form);
-    if (!form.Form_Load())
-        return 1;
-    hand_over::receive(link, ground, form);
+    return splash;
+}
+
+/// The waits keep it readable.
+void endSplash(std::unique_ptr<frmSplash> splash, Ground &ground)
+{
     ground.clock.wait(300);
     ground.pump.yield();
-
     splash->leaveTop();
     ground.clock.wait(500);
     splash.reset();
     ground.pump.yield();
+}
 
-    showMainWindow(form, ground.options);
+/// The main window and the event loop until the window is closed, or is to be made anew: then `kept` has what
+/// goes on. A window that takes the place of another comes without the splash.
+int StartApplication(QApplication &application, RealGround &real, InstanceLink &link, const StartFacts &facts,
+                     Kept &kept)
+{
+    Ground &ground = real.ground();
+    std::unique_ptr<frmSplash> splash = kept == nullptr ? showSplash(ground) : nullptr;
+    frmMain form(ground, facts);
+    real.boxes().setMainWindow(&form);
+    if (kept != nullptr)
+        form.goOn(*kept);
+    else if (!form.Form_Load())
+        return 1;
+    hand_over::receive(link, ground, form);
+    if (splash != nullptr)
+        endSplash(std::move(splash), ground);
+
+    if (kept == nullptr || kept->maximised) {
+        showMainWindow(form, ground.options);
+    } else {
+        form.setGeometry(QRect(kept->geometry.topLeft() * 100 / facts.SizePercent,
+                               kept->geometry.size() * 100 / facts.SizePercent));
+        form.show();
+    }
     QGuiApplication::restoreOverrideCursor();
     // Behind the first board, because a folder of a network may take its time.
-    QTimer::singleShot(0, &form, [&ground] {
-        start_steps::removeLeftOvers(ground,
-                                     {QFileInfo(SettingsFile::defaultFile()).path(),
-                                      QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)});
-    });
+    if (kept == nullptr)
+        QTimer::singleShot(0, &form, [&ground] {
+            start_steps::removeLeftOvers(
+                ground, {QFileInfo(SettingsFile::defaultFile()).path(),
+                         QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)});
+        });
+    kept.reset();
 
     Termination termination;
     QObject::connect(&termination, &Termination::requested, &link, &InstanceLink::forgetAll);
     QObject::connect(&termination, &Termination::requested, &form, &QWidget::close);
     QObject::connect(&form, &frmMain::unloaded, &application, &QCoreApplication::quit);
+    QObject::connect(&form, &frmMain::sizeChangeDue, &application, [&] {
+        link.rest();
+        kept = std::make_unique<Continuation>(continuationOf(form, facts.SizePercent));
+        form.leave();
+        QCoreApplication::quit();
+    });
     return application.exec();
 }
 
@@ -109,24 +144,49 @@ void checkStorage(const Ground &ground, StartFacts &facts)
     facts.Complaint = storage::complaint(state);
 }
 
-/// From the switches to the end of the main window. Returns the process's exit code.
-int run(QApplication &application, InstanceLink &link)
+/// The steps before the first window.
+start_steps::Next begin(Ground &ground, InstanceLink &link, StartFacts &facts)
 {
+    using enum start_steps::Next;
+    facts.CommandLine = command_line::read(QCoreApplication::arguments().mid(1));
+    if (goThroughArguments(ground, link, facts.CommandLine) == End ||
+        start_steps::askForRecovery(ground, facts.RecoverOnStart) == End)
+        return End;
+    if (ground.options.stored(Setting::HideTaskbar) == u"1")
+        ShowTaskBar(false);
+    return GoOn;
+}
+
+/// One life of the application object: the whole program, or from one change of its size to the next. Returns
+/// the process's exit code.
+int runRound(QApplication &application, const ProgramScale &scale, InstanceLink &link, Kept &kept)
+{
+    initResources();
+    installAccessibleTools(); // they go with the application object
+    dressApplication(application);
     RealGround real(findAppFolder());
     Ground &ground = real.ground();
     StartFacts facts;
-    facts.CommandLine = command_line::read(QCoreApplication::arguments().mid(1));
-    if (goThroughArguments(ground, link, facts.CommandLine) == start_steps::Next::End)
-        return 0;
-    if (start_steps::askForRecovery(ground, facts.RecoverOnStart) == start_steps::Next::End)
+    facts.SizePercent = scale.percent();
+    facts.Screen = scale.screen();
+    if (kept == nullptr && begin(ground, link, facts) == start_steps::Next::End)
         return 0;
     checkStorage(ground, facts);
-    if (ground.options.stored(Setting::HideTaskbar) == u"1")
-        ShowTaskBar(false);
+    if (kept != nullptr) {
+        facts.Complaint.clear(); // it has been told
+        if (!kept->logFile.isEmpty())
+            ground.log.enable(kept->logFile);
+    }
     if (const QScreen *screen = QGuiApplication::primaryScreen())
         facts.ScreenResolutionCode =
             affix_rows::GetScreenResolution(screen->size().width(), screen->size().height());
-    return StartApplication(application, real, link, facts);
+    return StartApplication(application, real, link, facts, kept);
+}
+
+/// What the settings say, before there is an application object.
+int storedSize()
+{
+    return program_size::wishOf(SettingsFile().GetSetting(u"Settings"_s, u"ProgramSize"_s, {}));
 }
 
 } // namespace
@@ -158,12 +218,19 @@ void dressApplication(QApplication &application)
 
 int startWortel(int argc, char *argv[])
 {
-    QApplication application(argc, argv);
-    initResources();
-    installAccessibleTools();
-    dressApplication(application);
-    auto link = std::make_unique<InstanceLink>(); // the first start listens from here on
-    const int exitCode = run(application, *link);
-    hand_over::passOn(std::move(link));
+    ProgramScale scale;
+    std::unique_ptr<InstanceLink> link;
+    Kept kept;
+    int exitCode = 0;
+    do {
+        const std::unique_ptr<QApplication> application = scale.makeApplication(argc, argv, storedSize());
+        if (link == nullptr)
+            link = std::make_unique<InstanceLink>(); // the first start listens from here on
+        else
+            link->goOn();
+        exitCode = runRound(*application, scale, *link, kept);
+        if (kept == nullptr)
+            hand_over::passOn(std::move(link));
+    } while (kept != nullptr);
     return exitCode;
 }

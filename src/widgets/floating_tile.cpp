@@ -27,6 +27,12 @@ void FloatingTile::setTile(const QString &caption, const QColor &back, const QCo
     update();
 }
 
+void FloatingTile::setScale(double scale)
+{
+    scale_ = scale;
+    update();
+}
+
 void FloatingTile::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
@@ -36,5 +42,6 @@ void FloatingTile::paintEvent(QPaintEvent *)
     QStaticText laid(caption_);
     laid.setTextFormat(Qt::PlainText);
     painter.setPen(text_);
+    painter.scale(scale_, scale_);
     painter.drawStaticText(textPlace, laid);
 }

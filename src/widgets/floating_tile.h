@@ -12,6 +12,9 @@ class FloatingTile : public QWidget
 public:
     explicit FloatingTile(QWidget *parent = nullptr);
     void setTile(const QString &caption, const QColor &back, const QColor &text);
+    /// How large the letters are, 1 as on the plain board.
+    void setScale(double scale);
+    double scale() const { return scale_; }
     QString Caption() const { return caption_; }
     QColor backColour() const { return back_; }
     QColor textColour() const { return text_; }
@@ -23,4 +26,5 @@ private:
     QString caption_;
     QColor back_;
     QColor text_;
+    double scale_ = 1;
 };

@@ -42,6 +42,7 @@ int pixelsOfMenuTitle(const QImage &picture)
 Desktop::Desktop(QSize size)
 {
     makePortableCopy();
+    setSetting(u"ProgramSize"_s, u"100"_s); // places are told in pixels
     display_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     display_.start(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-screen"_s, u"0"_s,
                                u"%1x%2x24"_s.arg(size.width()).arg(size.height()), u"-nolisten"_s, u"tcp"_s});

@@ -12,6 +12,7 @@ wortel_test(e2e SLOW TIMEOUT 600
         tst_interrupted.cpp
         tst_kept_boards.cpp
         tst_keys_alone.cpp
+        tst_size_by_hand.cpp
         tst_stems_by_hand.cpp
         tst_memory_by_hand.cpp
         tst_words_by_hand.cpp

@@ -10,6 +10,7 @@ wortel_test(platform
         tst_options.cpp
         tst_picture_file.cpp
         tst_procedure.cpp
+        tst_program_size.cpp
         tst_settings_file.cpp
         tst_system_info.cpp
         tst_text.cpp

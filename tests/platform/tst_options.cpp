@@ -40,7 +40,7 @@ private slots:
             u"HorizSpaceOnLineUp=100/100 VertSpaceOnLineUp=100/100 KernlingNumRandomWords=20/20 "
             u"KernlingNumPseudoWords=20/20 KernlingNumScrambleWords=20/20 KernlingNumLetterMixWords=20/20 "
             u"KernlingGameTime=40/40 KernlingShowLists=0/ KernlingShowNoDup=1/ KernlingShowFalse=0/ "
-            u"KernlingUseSounds=1/ KernlingShowTooltip=1/"_s.split(u' ');
+            u"KernlingUseSounds=1/ KernlingShowTooltip=1/ ProgramSize=automatisch/automatisch"_s.split(u' ');
         TestGround t;
         t.options.GetSettings();
         QVERIFY(!t.options.IsChanged());

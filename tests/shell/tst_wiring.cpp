@@ -8,8 +8,8 @@
 
 #include <QMenu>
 #include <QSignalSpy>
-#include <QTimer>
 #include <QTextDocument>
+#include <QTimer>
 #include <QtTest>
 
 using namespace Qt::StringLiterals;

@@ -80,6 +80,12 @@ void Canvas::drawStore(bool everyKind)
     emit drawn();
 }
 
+void Canvas::setView(const BoardView &view)
+{
+    surface_.setView(view);
+    repaint();
+}
+
 void Canvas::CanvasRedrawAll()
 {
     Procedure step{ground_.log, "CanvasRedrawAll", form};
@@ -238,8 +244,10 @@ void Canvas::showHeld(const cWortel &tile)
     FloatingTile &held = *controls_.BtnMove1;
     const QString shown = tileText(tile.txt);
     held.setTile(shown + u' ', toQColor(tile.BGColor), toQColor(tile.TxtColor));
-    held.setGeometry(tile.xLeft(), tile.yTop(),
-                     store_.measures().textWidth(shown + QString(heldBlanks, u' ')), heldHeight);
+    held.setScale(view().scale);
+    const int width = store_.measures().textWidth(shown + QString(heldBlanks, u' '));
+    held.setGeometry(QRect(view().toCanvas({tile.xLeft(), tile.yTop()}),
+                           QSize(view().length(width), view().length(heldHeight))));
     held.raise();
     held.show();
 }

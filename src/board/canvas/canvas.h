@@ -30,6 +30,10 @@ public:
     TileStore &store() const { return store_; }
     CanvasSurface &surface() const { return surface_; }
 
+    /// How the board is seen. Setting it draws the board anew.
+    const BoardView &view() const { return surface_.view(); }
+    void setView(const BoardView &view);
+
     void CanvasRedrawAll();
     /// Draws only the tiles of the selected kind; nothing while "Alle" is selected.
     void CanvasFilterAndDraw();

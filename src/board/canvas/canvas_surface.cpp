@@ -69,8 +69,14 @@ void CanvasSurface::paint(const Step &step)
         painter.fillRect(box, toQColor(step.colour));
         break;
     case Step::Outline: {
-        // Four filled lines stay sharp at any device pixel ratio.
         const QColor colour = toQColor(step.colour);
+        if (!view_.isPlain()) {
+            painter.setPen(QPen(colour, 0)); // as thin as a line can be, however small the view is
+            painter.setBrush(Qt::NoBrush);
+            painter.drawRect(box.adjusted(0, 0, -1, -1));
+            break;
+        }
+        // Four filled lines stay sharp at any device pixel ratio.
         painter.fillRect(box.left(), box.top(), box.width(), 1, colour);
         painter.fillRect(box.left(), box.bottom(), box.width(), 1, colour);
         painter.fillRect(box.left(), box.top() + 1, 1, box.height() - 2, colour);
@@ -103,6 +109,8 @@ void CanvasSurface::open()
 {
     painter_.emplace(&box_.image());
     painter_->setFont(font_);
+    if (!view_.isPlain())
+        painter_->setTransform(view_.transform());
 }
 
 void CanvasSurface::close() { painter_.reset(); }

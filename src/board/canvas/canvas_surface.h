@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "board/canvas/board_view.h"
 #include "board/canvas/text_cache.h"
 #include "board/tiles/tile.h"
 
@@ -27,6 +28,10 @@ public:
     void outlineBox(int left, int top, int right, int bottom, Colour colour) override;
     void printText(int x, int y, const QString &text, Colour colour) override;
     void clear() override;
+
+    /// Where tiles are drawn on the canvas. Takes effect with the next clearing and drawing.
+    const BoardView &view() const { return view_; }
+    void setView(const BoardView &view) { view_ = view; }
 
     /// Suspends or resumes repainting. Not counted: one resume ends any number of suspends.
     void LockWindow(bool locked);
@@ -62,6 +67,7 @@ private:
     const QStaticText &laidOut(const QString &text);
 
     PictureBox &box_;
+    BoardView view_;
     QFont font_;
     std::optional<QPainter> painter_;
     int batches_ = 0;

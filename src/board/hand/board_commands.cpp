@@ -80,7 +80,7 @@ bool BoardCommands::lies(const Press &press)
 Ending BoardCommands::editTile(const Press &press)
 {
     const command::KindWords &words = command::words(press.kind->filterIndex);
-    const QPoint corner = controls_.picCanvas->mapToGlobal(press.point);
+    const QPoint corner = controls_.picCanvas->mapToGlobal(rooms_.canvas.view().toCanvas(press.point));
     const QString typed = ground_.boxes.ShowIBox(text(words.prompt), press.kind->box, press.text,
                                                  text(words.editTitle), corner.x(), corner.y());
     if (typed.isEmpty())
@@ -142,14 +142,14 @@ Ending BoardCommands::insert(const Command &command, const Press &press)
         return Ending::None;
     }
     const command::KindWords &words = command::words(command.argument);
-    const QPoint corner = controls_.picCanvas->mapToGlobal(press.point);
+    const QPoint corner = controls_.picCanvas->mapToGlobal(rooms_.canvas.view().toCanvas(press.point));
     const QString typed = ground_.boxes.ShowIBox(text(words.prompt), kind.box, {}, text(words.insertTitle),
                                                  corner.x(), corner.y());
     if (typed.isEmpty())
         return Ending::RecallOnly;
-    const places::Place place =
-        places::onBoard({press.point.x() + insertOffset, press.point.y() + insertOffset}, store_.measures(),
-                        store_.extentOf(typed));
+    places::Place place{press.point.x() + insertOffset, press.point.y() + insertOffset};
+    if (rooms_.canvas.view().isPlain()) // a smaller view has room beyond the window
+        place = places::onBoard(place, store_.measures(), store_.extentOf(typed));
     store_.CanvasDrawWortel(place.x, place.y, typed, kind.back, kind.text);
     store_.counters().add(kind.filterIndex, 1);
     return Ending::Whole;

@@ -140,7 +140,8 @@ void BoardPointer::picCanvas_MouseDown(Qt::MouseButton button, Qt::KeyboardModif
 
 void BoardPointer::leftPress(Qt::KeyboardModifiers shift, const QPoint &point)
 {
-    tileMoved_ = rooms_.canvas.CanvasSelectWortel(point.x(), point.y());
+    const QPoint spot = rooms_.canvas.view().toBoard(point);
+    tileMoved_ = rooms_.canvas.CanvasSelectWortel(spot.x(), spot.y());
     rooms_.focus.choose(tileMoved_ ? store_.current() : nullptr);
     if (tileMoved_) {
         takenFrom_ = {store_.current()->xLeft(), store_.current()->yTop()};
@@ -148,7 +149,7 @@ void BoardPointer::leftPress(Qt::KeyboardModifiers shift, const QPoint &point)
     }
     store_.setCurrent(nullptr);
     if (shift != Qt::NoModifier)
-        insertByShift(shift, point);
+        insertByShift(shift, spot);
 }
 
 void BoardPointer::insertByShift(Qt::KeyboardModifiers shift, const QPoint &point)
@@ -167,9 +168,9 @@ void BoardPointer::insertByShift(Qt::KeyboardModifiers shift, const QPoint &poin
 
 void BoardPointer::rightPress(Qt::KeyboardModifiers shift, const QPoint &point)
 {
-    const Press press = rooms_.router.pressAt(point);
+    const Press press = rooms_.router.pressAt(rooms_.canvas.view().toBoard(point));
     if (shift == Qt::NoModifier) {
-        showMenu(press, controls_.picCanvas->mapToGlobal(press.point));
+        showMenu(press, controls_.picCanvas->mapToGlobal(point));
     } else if (shift == Qt::ShiftModifier) {
         ground_.log.WriteLog(QStringLiteral("Rightclick + shift: Duplicate object"));
         rooms_.commands.duplicateAt(press);
@@ -183,7 +184,8 @@ void BoardPointer::openMenu(const QPoint &corner)
 {
     letGo();
     Press press;
-    press.point = {store_.measures().ScaleWidth() / 2, store_.measures().BandTop() / 2};
+    press.point =
+        rooms_.canvas.view().toBoard({store_.measures().ScaleWidth() / 2, store_.measures().BandTop() / 2});
     press.filter = store_.filter().selected();
     showMenu(press, corner);
 }
@@ -227,8 +229,9 @@ void BoardPointer::picCanvas_MouseMove(Qt::MouseButtons buttons, const QPoint &p
     if (ground_.options.isOn(Setting::MoveableInFilter) && !store_.filter().shows(tile->BGColor))
         return;
     held.move(x, y);
-    tile->setXLeft(held.x());
-    tile->setYTop(held.y());
+    const QPoint place = rooms_.canvas.view().toBoard(held.pos());
+    tile->setXLeft(place.x());
+    tile->setYTop(place.y());
 }
 
 // Letting go

@@ -46,7 +46,8 @@ public:
     /// Listens to `picCanvas` from now on.
     BoardPointer(Ground &ground, const MainControls &controls, const Rooms &rooms);
 
-    // The handlers of the board; points are pixels of `picCanvas`. Each passes the gate.
+    // The handlers of the board; points are pixels of `picCanvas`, which the view
+    // of the board may show smaller than it is. Each passes the gate.
     void picCanvas_MouseDown(Qt::MouseButton button, Qt::KeyboardModifiers shift, const QPoint &point);
     void picCanvas_MouseMove(Qt::MouseButtons buttons, const QPoint &point);
     void picCanvas_MouseUp(Qt::MouseButton button, const QPoint &point);

@@ -70,6 +70,12 @@ void MorphemeLists::placeOpen()
     }
 }
 
+void MorphemeLists::show(int index)
+{
+    list(index)->show();
+    placeOpen();
+}
+
 void MorphemeLists::playOpened()
 {
     if (playSound(ground_, SoundId::ListOpened))

@@ -23,6 +23,8 @@ public:
     void ToggleAllMorphemeLists();
     void hideAll();
     bool isAnyOpen() const;
+    /// The list of `index` (0 to 2) lies over the board, as if it had been open all the time.
+    void show(int index);
     /// A filter was chosen: a note if the board has nothing that it shows.
     void tellIfNone(int index);
 

@@ -18,6 +18,7 @@ void TileDrag::begin(const QPoint &pointer)
     cancel();
     const FloatingTile &held = *controls_.BtnMove1;
     copy_->setTile(held.Caption(), held.backColour(), held.textColour());
+    copy_->setScale(held.scale());
     copy_->resize(held.size());
     grip_ = held.mapFromGlobal(pointer);
     active_ = true;

@@ -73,6 +73,8 @@ void FrmKernling::Form_Load()
     parts_->desk.showTitle({});
 }
 
+bool FrmKernling::keepsText() const { return parts_ && !parts_->controls.RTF->isEmpty(); }
+
 void FrmKernling::openModally()
 {
     Form_Load();

@@ -42,6 +42,8 @@ public:
 
     /// Shows the window modally. Returns when it is closed.
     void openModally();
+    /// The window, open or closed, holds a text that would go with it.
+    bool keepsText() const;
     /// Makes the window ready without showing it.
     void Form_Load();
     const KernlingControls &controls() const;

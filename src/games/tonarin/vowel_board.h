@@ -47,6 +47,10 @@ public:
     void RestoreAfterVokal();
     /// Another board is opened: boxes off, lists back, the tiles are left to whoever opens it.
     void makeRoom();
+    /// The stem list that comes back afterwards, stored form; empty if there is no such board.
+    QString usedBefore() const { return usedBefore_; }
+    /// The board lies already: it was made before the window was.
+    void goOn(const QString &usedBefore) { usedBefore_ = usedBefore; }
     /// Says the vowel of a stem of the table, by the setting of the sounds.
     void PlayTheVokal(const QString &Word);
 

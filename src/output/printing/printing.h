@@ -38,6 +38,8 @@ public:
     /// "Drucker Einstellungen". They hold until the program ends.
     /// False if the window was left with its old choice.
     bool setUpPrinter();
+    const PrinterSetUp &setUp() const { return setUp_; }
+    void takeSetUp(const PrinterSetUp &setUp) { setUp_ = setUp; }
 
 private:
     using Painting = std::function<void(QPainter &, QPagedPaintDevice &)>;

@@ -3,8 +3,10 @@
 #include "persistence/settings/option_fields.h"
 
 #include "platform/options.h"
+#include "platform/program_size.h"
 #include "platform/text_masks.h"
 
+#include <QComboBox>
 #include <QEvent>
 #include <QLineEdit>
 #include <QPainter>
@@ -99,6 +101,27 @@ QRadioButton *makeOption(const SettingRow &row, Options &options, QWidget *paren
             showValue();
     });
     return button;
+}
+
+QComboBox *makeSizeField(const SettingRow &row, Options &options, QWidget *parent)
+{
+    using namespace program_size;
+    auto *box = new QComboBox(parent);
+    box->addItem(textOf(automatic));
+    for (int size = smallest; size <= largest; size += step)
+        box->addItem(textOf(size));
+    const auto showValue = [box, &options, id = row.id] {
+        const QSignalBlocker quiet(box);
+        box->setCurrentIndex(box->findText(textOf(wishOf(options.text(id)))));
+    };
+    showValue();
+    QObject::connect(box, &QComboBox::currentTextChanged, &options,
+                     [&options, id = row.id](const QString &text) { options.setText(id, text); });
+    QObject::connect(&options, &Options::edited, box, [showValue, own = row.id](Setting id) {
+        if (id == own)
+            showValue();
+    });
+    return box;
 }
 
 } // namespace
@@ -222,6 +245,8 @@ QWidget *makeOptionField(const SettingRow &row, Options &options, QWidget *paren
         field = makeBox(row, options, parent);
     else if (row.type == SettingType::Option)
         field = makeOption(row, options, parent);
+    else if (row.type == SettingType::Size)
+        field = makeSizeField(row, options, parent);
     else
         field = makeTextField(row, options, parent);
     field->setObjectName(QLatin1String(row.control));

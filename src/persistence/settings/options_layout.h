@@ -34,12 +34,13 @@ struct FrameRow
     int column;
 };
 
-inline constexpr std::array<FrameRow, 11> frames{{
+inline constexpr std::array<FrameRow, 12> frames{{
     {u"FrameGeneral", u"FrameWortel", u"Allgemein", 0},
     {u"FrameBoard", u"FrameWortel", u"Spielfeld", 0},
     {u"Frame4", u"FrameWortel", u"Dateien", 1},
     {u"Frame1", u"FrameWortel", u"Anordnen", 1},
     {u"FramePrint", u"FrameWortel", u"Drucken", 1},
+    {u"FrameView", u"FrameWortel", u"Anzeige", 1},
     {u"FrameSave", u"FrameWörterliste", u"Beim Speichern und Drucken", 0},
     {u"Frame3", u"FrameSpielen", u"Klotar", 0},
     {u"FrameLevel", u"Frame3", u"Schwierigkeitsstufe", 0},

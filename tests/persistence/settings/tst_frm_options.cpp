@@ -9,6 +9,7 @@
 #include "support/test_ground.h"
 
 #include <QLabel>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QPushButton>
@@ -73,6 +74,11 @@ private slots:
             QCOMPARE(t.options.text(id), typed);
             t.options.setText(id, u"7"_s);
             QCOMPARE(text->text(), u"7"_s);
+        } else if (auto *sizes = qobject_cast<QComboBox *>(edit)) {
+            QTest::keyClick(sizes, Qt::Key_End);
+            QCOMPARE(t.options.text(id), u"300"_s);
+            t.options.setText(id, u"150"_s);
+            QCOMPARE(sizes->currentText(), u"150 %"_s);
         } else if (row.type == SettingType::Box) {
             const bool before = t.options.isOn(id);
             QTest::mouseClick(edit, Qt::LeftButton);
