@@ -55,7 +55,7 @@ constexpr std::array<SettingRow, static_cast<std::size_t>(Setting::Count)> table
     {S::GameSoundOnTimeOut, "GameSoundOnTimeOut", T::Box, u"1", nullptr, "ChkSoundOnTimeOut", "Frame3", S::GameSoundOnTimeOut, u"Ton, wenn Spielzeit abgelaufen", nullptr},
     {S::MoveableInFilter, "MoveableInFilter", T::Box, u"1", nullptr, "ChkMoveable", "FrameGeneral", S::MoveableInFilter, u"Morphem bleibt verschiebbar auch bei aktivierter Präfix-, Wortel- oder Suffix-Taste", nullptr},
     {S::ConfirmBeforeErase, "ConfirmBeforeErase", T::Box, u"1", nullptr, "ChkConfErase", "FrameGeneral", S::ConfirmBeforeErase, u"Entfernen bestätigen", nullptr},
-    {S::LongPressIsRight, "LongPressIsRight", T::Box, u"0", nullptr, "ChkLongPress", "FrameGeneral", S::LongPressIsRight, u"Langes Drücken = Rechtsklick", u"Auch für die Maus und Tafeln, die sich wie eine Maus melden"},
+    {S::LongPressIsRight, "LongPressIsRight", T::Box, u"0", nullptr, "ChkLongPress", "FrameTouch", S::LongPressIsRight, u"Langes Drücken = Rechtsklick", u"Auch für die Maus und Tafeln, die sich wie eine Maus melden"},
     {S::FillAffix, "FillAffix", T::Box, u"1", nullptr, "ChkAffixFill", "FrameBoard", S::FillAffix, u"Affix-Kopien auffüllen", nullptr},
     {S::OpenWLXWithStoredLex, "OpenWLXWithStoredLex", T::Box, u"1", nullptr, "chkOpenWithLex", "Frame4", S::OpenWLXWithStoredLex, u"Beim Laden einer Sitzung automatisch das zugehörige Wörterbuch laden", nullptr},
     {S::UseCaseOnPseudo, "UseCaseOnPseudo", T::Box, u"1", nullptr, "ChkUseCaseOnPseudo", "FrameAbschreiben", S::UseCaseOnPseudo, u"Unsinnswörter abschreiben: Groß- und Kleinschreibung kontrollieren", nullptr},

@@ -241,7 +241,7 @@ void frmMain::wireKeeping()
 
     connect(&r.news, &BoardNews::opened, this, &frmMain::offerToFit);
     connect(&r.sessions, &Sessions::restored, this, &frmMain::offerToFit);
-    for (const auto news : {&BoardNews::committed, &BoardNews::moved, &BoardNews::stepped})
+    for (const auto news : {&BoardNews::committed, &BoardNews::stepped})
         connect(&r.news, news, this, [&r] { r.fit.follow(); });
     size_.askBefore(
         [&r]() -> const char16_t * { return r.kernling.keepsText() ? note::sizeNextStart : nullptr; });

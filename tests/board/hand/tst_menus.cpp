@@ -112,7 +112,7 @@ private slots:
     void everyRow()
     {
         const QStringList pictures = QDir(WORTEL_SOURCE_DIR u"/resources/icons/menu"_s).entryList();
-        for (const auto &[name, commands] : {std::pair{MenuName::MainMenu, 94},
+        for (const auto &[name, commands] : {std::pair{MenuName::MainMenu, 98},
                                              {MenuName::PrefixMenu, 12},
                                              {MenuName::WortelMenu, 12},
                                              {MenuName::SuffixMenu, 11}}) {

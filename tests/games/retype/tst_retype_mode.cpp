@@ -297,7 +297,7 @@ private slots:
         QTest::newRow("nonsense") << u"nonsense"_s << u"Text1"_s << 0 << true;
         QTest::newRow("went on") << u"words"_s << u"lblprefix"_s << 1 << false;
         QTest::newRow("by the option") << u"without"_s << u"lblprefix"_s << -1 << true;
-        QTest::newRow("nothing is prepared") << u"running"_s << u"picCanvas"_s << -1 << false;
+        QTest::newRow("nothing is prepared") << u"running"_s << u"picCanvas"_s << -1 << true;
     }
     void escapeAsks()
     {

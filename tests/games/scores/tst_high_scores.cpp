@@ -229,8 +229,8 @@ private slots:
         s.t.boxes.willEnterName(u"Ada"_s);
         s.t.boxes.whileOpen = [&](const Question &) { s.t.gate.requestClose(); };
         s.scores.CheckForHighScore(ScoredGame::Klotar, 38, 9);
-        QCOMPARE(s.bytes(), freshFile);
-        QCOMPARE(s.t.boxes.asked.size(), 1);
+        QVERIFY(s.bytes().startsWith("Sieger:38\r\nWortel:10\r\n"));
+        QCOMPARE(s.t.boxes.asked.size(), 1); // and no list is shown
     }
 };
 
