@@ -114,7 +114,8 @@ int StartApplication(QApplication &application, RealGround &real, InstanceLink &
         link.rest();
         kept = std::make_unique<Continuation>(continuationOf(form, facts.SizePercent));
         form.leave();
-        QCoreApplication::quit();
+        termination.handOn();
+        QCoreApplication::exit(); // `quit` would close the window first, and with it the link
     });
     return application.exec();
 }

@@ -8,6 +8,7 @@
 #include <csignal>
 #include <sys/socket.h>
 #include <unistd.h>
+#include <utility>
 
 namespace {
 
@@ -27,7 +28,7 @@ void handle(int)
 Termination::Termination(QObject *parent)
     : QObject(parent)
 {
-    if (socketpair(AF_UNIX, SOCK_STREAM, 0, ends.data()) != 0)
+    if (ends[0] < 0 && socketpair(AF_UNIX, SOCK_STREAM, 0, ends.data()) != 0)
         return;
     notifier_ = new QSocketNotifier(ends[1], QSocketNotifier::Read, this);
     connect(notifier_, &QSocketNotifier::activated, this, [this] {
@@ -41,9 +42,11 @@ Termination::Termination(QObject *parent)
 
 Termination::~Termination()
 {
+    if (isHandedOn_)
+        return;
     for (const int number : politeSignals)
         std::signal(number, SIG_DFL);
-    for (const int end : ends)
+    for (int &end : ends)
         if (end >= 0)
-            close(end);
+            close(std::exchange(end, -1));
 }

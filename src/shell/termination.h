@@ -16,9 +16,13 @@ public:
     explicit Termination(QObject *parent = nullptr);
     ~Termination() override;
 
+    /// Another one follows this one in the process: what is asked for between the two comes to that one.
+    void handOn() { isHandedOn_ = true; }
+
 signals:
     void requested();
 
 private:
     QSocketNotifier *notifier_ = nullptr;
+    bool isHandedOn_ = false;
 };
