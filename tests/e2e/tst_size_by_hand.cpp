@@ -43,6 +43,7 @@ private slots:
         const QPoint tile = tilesOn(desktop.screenshot(), desktop.boardArea(), colour::red).value(0).center();
         desktop.hold(u"shift"_s, [&] { desktop.click(tile, 3); });
         QVERIFY(showsWortels(desktop, 7, 100));
+        Desktop::pause(3500); // the note of the session is gone
         const QImage before = desktop.screenshot();
 
         desktop.key(u"ctrl+plus"_s);

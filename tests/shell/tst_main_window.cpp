@@ -89,17 +89,19 @@ private slots:
 
     void aMissingChosenListGivesWayToTheUsualOne_data()
     {
-        columns<bool, bool>("listThere", "agrees");
-        QTest::newRow("list gone") << false << true;
-        QTest::newRow("dictionary gone") << true << true;
-        QTest::newRow("refused") << false << false;
+        columns<bool, bool, bool>("listThere", "agrees", "isNamed");
+        QTest::newRow("list gone") << false << true << true;
+        QTest::newRow("dictionary gone") << true << true << true;
+        QTest::newRow("refused") << false << false << true;
+        QTest::newRow("blank") << false << true << false;
     }
     void aMissingChosenListGivesWayToTheUsualOne()
     {
         QFETCH(bool, listThere);
         QFETCH(bool, agrees);
+        QFETCH(bool, isNamed);
         Start house;
-        const QString list = house.t.AppFolder + u"text\\Tiere.txt"_s;
+        const QString list = isNamed ? house.t.AppFolder + u"text\\Tiere.txt"_s : QString();
         house.t.store.SaveSetting(u"Settings"_s, u"WortelFile"_s, list);
         if (listThere)
             house.t.writeFile(u"text\\Tiere.txt"_s, u"Igel\r\n"_s);
