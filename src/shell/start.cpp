@@ -115,7 +115,7 @@ int StartApplication(QApplication &application, RealGround &real, InstanceLink &
         kept = std::make_unique<Continuation>(continuationOf(form, facts.SizePercent));
         form.leave();
         termination.handOn();
-        QCoreApplication::exit(); // `quit` would close the window first, and with it the link
+        QCoreApplication::exit(); // a quit would close the window, and the link with it
     });
     return application.exec();
 }
