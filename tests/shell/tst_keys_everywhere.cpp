@@ -155,6 +155,46 @@ private slots:
         }
     }
 
+    /// The word's own steps first; after a drop or a check there are none, and held keys stop there.
+    void undoLeavesTheWordField_data()
+    {
+        columns<QString, QString, int>("letters", "keys", "tiles");
+        QTest::newRow("nothing typed") << QString() << u"Ctrl+Z"_s << 1;
+        QTest::newRow("and on again") << QString() << u"Ctrl+Z Ctrl+Y"_s << 2;
+        QTest::newRow("a letter typed") << u"x"_s << u"Ctrl+Z"_s << 2;
+        QTest::newRow("that is gone") << u"x"_s << u"Ctrl+Z Ctrl+Z"_s << 1;
+        QTest::newRow("held down") << u"x"_s << u"*Ctrl+Z"_s << 2;
+    }
+    void undoLeavesTheWordField()
+    {
+        QFETCH(QString, letters);
+        QFETCH(QString, keys);
+        QFETCH(int, tiles);
+        KeyedHouse house;
+        house.t.store.SaveSetting(u"Settings"_s, u"UseUndo"_s, u"1"_s);
+        house.r.undo.ClearCollBuffer();
+        house.lay(wortel, 300, 200, u"bau"_s);
+        house.r.news.Commit();
+        house.c.Dropper1->takeFocus();
+        if (!letters.isEmpty())
+            house.letter(letters);
+        house.keys(keys);
+        QCOMPARE(house.r.store.count(), tiles);
+        QCOMPARE(house.c.Dropper1->Caption(), QString());
+    }
+
+    /// What was copied is no word that is lost.
+    void escGivesTheCopiedWordsBack()
+    {
+        KeyedHouse house;
+        const QStringList words = house.lists.CorrectWordList.rows();
+        house.tool(house.c.Check4);
+        house.r.retype.wordCopied(u"haus"_s);
+        QCOMPARE(house.lists.CorrectWordList.count(), static_cast<int>(words.size()) - 1);
+        house.keys(u"Escape"_s);
+        QCOMPARE(house.lists.CorrectWordList.rows(), words);
+    }
+
     void listsByKeys()
     {
         KeyedHouse house;

@@ -30,6 +30,8 @@ using namespace Qt::StringLiterals;
 namespace {
 constexpr auto form = "frmMain";
 constexpr int helpCommand = 1001;
+constexpr int undoKey = 26; ///< Ctrl+Z
+constexpr int redoKey = 25; ///< Ctrl+Y
 } // namespace
 
 BoardKeys::BoardKeys(Ground &ground, const MainControls &controls, const TileKeys::Rooms &rooms)
@@ -54,7 +56,8 @@ bool BoardKeys::eventFilter(QObject *watched, QEvent *event)
         return false;
     case QEvent::InputMethod:
         return goesToForm(watched) && letters_.isFree(controls_.form->window()->focusWidget()) &&
-               letters_.type(static_cast<QInputMethodEvent *>(event)->commitString());
+               letters_.type(static_cast<QInputMethodEvent *>(event)->commitString()) ==
+                   JustType::Fate::Taken;
     case QEvent::MouseButtonPress:
         if (const auto *widget = qobject_cast<QWidget *>(watched))
             pressed(widget);
@@ -112,7 +115,7 @@ bool BoardKeys::handle(const QKeyEvent &event)
     const bool alt = shift.testFlag(Qt::AltModifier);
     const int key = event.key();
     if (ctrl && !alt && key >= Qt::Key_A && key <= Qt::Key_Z)
-        return Form_KeyPress(key - Qt::Key_A + 1);
+        return Form_KeyPress(key - Qt::Key_A + 1, event.isAutoRepeat());
     // A key that is held would close one thing after the other.
     const bool heldDown = event.isAutoRepeat() && (key == Qt::Key_Escape || key == Qt::Key_F6);
     if (heldDown || Form_KeyDown(key))
@@ -122,8 +125,12 @@ bool BoardKeys::handle(const QKeyEvent &event)
     if (key == Qt::Key_Down && goesDownToList())
         return true;
     // The right Alt key comes as both on some keyboards, and gives letters.
-    return ctrl == alt && letters_.isFree(controls_.form->window()->focusWidget()) &&
-           letters_.type(event.text());
+    if (ctrl != alt || !letters_.isFree(controls_.form->window()->focusWidget()))
+        return false;
+    const JustType::Fate fate = letters_.type(event.text());
+    if (fate == JustType::Fate::NoField && !event.isAutoRepeat())
+        emit nowhereToType();
+    return fate == JustType::Fate::Taken;
 }
 
 /// From the search box to what was found: the list stands below it.
@@ -152,10 +159,21 @@ bool BoardKeys::isTyping() const
     return button != nullptr && button->isCheckable();
 }
 
-bool BoardKeys::Form_KeyPress(int code)
+/// The word field keeps the keyboard after a drop and after a tool's press. Where it has no step of its own
+/// to go back or on, the key is meant for the board; held down, it stops between the two.
+bool BoardKeys::isLeftByField(int code, bool held) const
+{
+    const auto *field = qobject_cast<const QLineEdit *>(controls_.Dropper1->focusProxy());
+    if (held || field == nullptr || !field->hasFocus())
+        return false;
+    return (code == undoKey && !field->isUndoAvailable()) || (code == redoKey && !field->isRedoAvailable());
+}
+
+bool BoardKeys::Form_KeyPress(int code, bool held)
 {
     const command::Command *row = command::find(From::Key, code);
-    if (row == nullptr || (isTyping() && (row->flags & command::WhileTyping) == 0))
+    if (row == nullptr ||
+        (isTyping() && (row->flags & command::WhileTyping) == 0 && !isLeftByField(code, held)))
         return false;
     const auto way = (row->flags & command::Looks) != 0 ? Gate::Way::Look : Gate::Way::Play;
     if (const Gate::Passage passage = ground_.gate.enter(way)) {

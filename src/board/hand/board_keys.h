@@ -20,14 +20,17 @@ public:
     /// Listens to the application's keys and presses from now on.
     BoardKeys(Ground &ground, const MainControls &controls, const TileKeys::Rooms &rooms);
 
-    /// A control character, 1 for Ctrl+A to 26. Returns true if it was a key of the board.
-    bool Form_KeyPress(int code);
+    /// A control character, 1 for Ctrl+A to 26; `held` down, it repeats itself. Returns true if it was a key
+    /// of the board.
+    bool Form_KeyPress(int code, bool held = false);
     /// F1, F6 and Esc, by `Qt::Key`.
     bool Form_KeyDown(int key);
 
 signals:
     /// Esc, with nothing in the hand and no work running: what lies on top is to be closed.
     void escapes();
+    /// A letter was typed that no field takes at present.
+    void nowhereToType();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -36,6 +39,7 @@ private:
     bool goesToForm(const QObject *watched) const;
     bool handle(const QKeyEvent &event);
     bool isTyping() const;
+    bool isLeftByField(int code, bool held) const;
     bool isOnBoard() const;
     bool goesDownToList();
     void changeSides();
