@@ -163,18 +163,29 @@ bool BoardKeys::isTyping() const
 /// to go back or on, the key is meant for the board; held down, it stops between the two.
 bool BoardKeys::isLeftByField(int code, bool held) const
 {
-    const auto *field = qobject_cast<const QLineEdit *>(controls_.Dropper1->focusProxy());
-    if (held || field == nullptr || !field->hasFocus())
+    const QLineEdit *field = activeWordField();
+    if (held || field == nullptr)
         return false;
     return (code == undoKey && !field->isUndoAvailable()) || (code == redoKey && !field->isRedoAvailable());
+}
+
+QLineEdit *BoardKeys::activeWordField() const
+{
+    auto *field = qobject_cast<QLineEdit *>(controls_.Dropper1->focusProxy());
+    return field != nullptr && field->hasFocus() ? field : nullptr;
 }
 
 bool BoardKeys::Form_KeyPress(int code, bool held)
 {
     const command::Command *row = command::find(From::Key, code);
-    if (row == nullptr ||
-        (isTyping() && (row->flags & command::WhileTyping) == 0 && !isLeftByField(code, held)))
+    if (row == nullptr)
         return false;
+    if (isTyping() && (row->flags & command::WhileTyping) == 0 && !isLeftByField(code, held)) {
+        QLineEdit *field = code == redoKey ? activeWordField() : nullptr;
+        if (field != nullptr)
+            field->redo(); // a text box does not know this key on every system
+        return field != nullptr;
+    }
     const auto way = (row->flags & command::Looks) != 0 ? Gate::Way::Look : Gate::Way::Play;
     if (const Gate::Passage passage = ground_.gate.enter(way)) {
         rooms_.pointer.letGo();

@@ -8,6 +8,7 @@
 #include <QObject>
 
 class QKeyEvent;
+class QLineEdit;
 
 /// The keys of the main window. The window sees them before its controls do, so this room looks at every key
 /// that goes to the window, and takes those that are its own: the commands, those of the chosen tile, and
@@ -40,6 +41,7 @@ private:
     bool handle(const QKeyEvent &event);
     bool isTyping() const;
     bool isLeftByField(int code, bool held) const;
+    QLineEdit *activeWordField() const;
     bool isOnBoard() const;
     bool goesDownToList();
     void changeSides();
