@@ -66,6 +66,8 @@ const Typing typings[] = {
     {"composed", ACT(h.composed(u"é"_s)), u"é||lblprefix"},
     {"number", ACT(h.c.Text1->setText({}), h.c.Text1->setFocus(), h.letter(u"7"_s)), u"||Text1"},
     {"list", ACT(h.r.morphemeLists.ToggleAllMorphemeLists(), h.c.WortelList->setFocus(), h.letter(u"x"_s)), u"||WortelList"},
+    {"list in a hand", ACT(h.r.morphemeLists.ToggleAllMorphemeLists(), QTest::mouseClick(h.c.WortelList->viewport(), Qt::LeftButton, {}, {5, 5}), h.keys(u"Shift"_s), h.letter(u"X"_s)), u"X||lblprefix"},
+    {"list in a hand, then by keys", ACT(h.r.morphemeLists.ToggleAllMorphemeLists(), QTest::mouseClick(h.c.WortelList->viewport(), Qt::LeftButton, {}, {5, 5}), h.keys(u"Down"_s), h.letter(u"x"_s)), u"||WortelList"},
     {"dictionary", ACT(h.r.dictionary.toggle(), h.c.picCanvas->setFocus(), h.letter(u"x"_s)), u"|x|Text2"},
     {"found in the dictionary", ACT(h.r.dictionary.toggle(), h.keys(u"Down"_s)), u"||LexiconList"},
     {"retyping", ACT(h.tool(h.c.Check4), h.c.picCanvas->setFocus(), h.letter(u"x"_s)), u"x||lblprefix"},
@@ -184,18 +186,6 @@ private slots:
         house.keys(keys);
         QCOMPARE(house.r.store.count(), tiles);
         QCOMPARE(house.c.Dropper1->Caption(), word);
-    }
-
-    /// What was copied is no word that is lost.
-    void escGivesTheCopiedWordsBack()
-    {
-        KeyedHouse house;
-        const QStringList words = house.lists.CorrectWordList.rows();
-        house.tool(house.c.Check4);
-        house.r.retype.wordCopied(u"haus"_s);
-        QCOMPARE(house.lists.CorrectWordList.count(), static_cast<int>(words.size()) - 1);
-        house.keys(u"Escape"_s);
-        QCOMPARE(house.lists.CorrectWordList.rows(), words);
     }
 
     void listsByKeys()

@@ -83,6 +83,7 @@ void BoardKeys::pressed(const QWidget *widget)
     if (!controls_.form->isAncestorOf(widget))
         return;
     keyWasLast_ = false;
+    listInHand_ = qobject_cast<const StoreList *>(widget->parentWidget()); // the rows lie on a child of it
     rooms_.focus.setByKeys(false);
     const QWidget *focus = controls_.form->window()->focusWidget();
     if (focus != nullptr && focus != widget && focus != controls_.picCanvas && letters_.isFree(focus))
@@ -125,7 +126,11 @@ bool BoardKeys::handle(const QKeyEvent &event)
     if (key == Qt::Key_Down && goesDownToList())
         return true;
     // The right Alt key comes as both on some keyboards, and gives letters.
-    if (ctrl != alt || !letters_.isFree(controls_.form->window()->focusWidget()))
+    if (key >= Qt::Key_Home && key <= Qt::Key_PageDown)
+        listInHand_ = nullptr; // now the rows are gone through by keys, and letters look for one
+    const QWidget *focus = controls_.form->window()->focusWidget();
+    const bool isInHand = focus != nullptr && focus == listInHand_;
+    if (ctrl != alt || !(isInHand || letters_.isFree(focus)))
         return false;
     const JustType::Fate fate = letters_.type(event.text());
     if (fate == JustType::Fate::NoField && !event.isAutoRepeat())

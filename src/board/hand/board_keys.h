@@ -54,5 +54,6 @@ private:
     TileKeys::Rooms rooms_;
     TileKeys tileKeys_;
     JustType letters_;
-    bool keyWasLast_ = false; ///< and no press of a pointer
+    bool keyWasLast_ = false;             ///< and no press of a pointer
+    const QWidget *listInHand_ = nullptr; ///< the list that a pointer has pressed last; only compared
 };
