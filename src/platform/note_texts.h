@@ -15,6 +15,7 @@ inline constexpr char16_t oneWordCopied[]   = u"1 Wort kopiert";
 inline constexpr char16_t wordsCopied[]     = u"%1 Wörter kopiert";
 inline constexpr char16_t wordAdded[]       = u"In deiner Wörterliste: %1";
 inline constexpr char16_t listCleared[]     = u"Deine Wörterliste ist jetzt leer";
+inline constexpr char16_t copiedWordsBack[] = u"Alle Wörter sind wieder in deiner Liste";
 inline constexpr char16_t boardRecovered[]  = u"Dein Spielfeld ist wieder da";
 
 // What was missing
@@ -52,6 +53,9 @@ inline constexpr char16_t sizeAfterRetype[] = u"Die neue Größe gilt, sobald da
 inline constexpr char16_t sizeAfterWork[]   = u"Die neue Größe gilt gleich, wenn das hier fertig ist";
 inline constexpr char16_t sizeNextStart[]   = u"Die neue Größe gilt ab dem nächsten Start: In Kernling steht noch ein Text";
 inline constexpr char16_t sizeAfterWindow[] = u"Die neue Größe gilt, sobald dieses Fenster geschlossen ist";
+
+// Where Esc closes nothing
+inline constexpr char16_t kernlingStays[]   = u"Kernling bleibt offen. Alt+F4 schließt das Fenster";
 
 // What has to end first
 inline constexpr char16_t afterBuilding[]   = u"Jetzt baust du Wörter auf dem Spielfeld. Schreiben kommt danach";

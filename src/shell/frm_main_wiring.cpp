@@ -130,6 +130,7 @@ void frmMain::wireBoard()
             throughGate(gate, Gate::Way::Play, [this] { showAbout(); }));
 
     connect(&r.keys, &BoardKeys::escapes, this, &frmMain::closeOnTop);
+    connect(&r.keys, &BoardKeys::nowhereToType, this, [this] { tellWhyAtRest(controls_.Dropper1); });
     boxCloser_.setInterval(boxCloserMs);
     connect(&gate, &Gate::closeRequested, this, &frmMain::closeBoxes);
     connect(&gate, &Gate::closeRequested, &boxCloser_, qOverload<>(&QTimer::start));
@@ -303,7 +304,7 @@ void frmMain::closeOnTop()
     else if (r.morphemeLists.isAnyOpen())
         r.morphemeLists.hideAll();
     else if (play_.RetypeActive())
-        r.retype.endRun();
+        r.retype.breakOff();
     else if (!controls_.picCanvas->hasFocus())
         controls_.picCanvas->setFocus(Qt::TabFocusReason);
     else

@@ -59,6 +59,21 @@ std::optional<QRect> rowAbove(const QRect &row, const QList<QRect> &taken, int t
     return above.top() > top && above != row ? std::optional(above) : std::nullopt;
 }
 
+struct Spot
+{
+    QRect row;
+    Span free;
+};
+
+/// The lowest row, from `row` upwards, in which `width` pixels are free.
+std::optional<Spot> spotFor(const QRect &row, const QList<QRect> &taken, int width)
+{
+    for (std::optional<QRect> at = row; at; at = rowAbove(*at, taken, 0))
+        if (const Span free = widestFree(*at, taken); free.width() >= width)
+            return Spot{*at, free};
+    return {};
+}
+
 /// The places, in `window`, of the boxes and menus that stand open over it.
 QList<QRect> openOver(const QWidget &window)
 {
@@ -160,15 +175,10 @@ void ShortNote::place()
     const int floor = band_ != nullptr ? band_->y() : parentWidget()->height();
     const QRect onBand(gap, floor - gap - height, parentWidget()->width() - 2 * gap, height);
     const QList<QRect> taken = covered();
-    QRect row = onBand;
-    Span free = widestFree(row, taken);
-    while (free.width() < std::min(wanted, narrowest)) {
-        const std::optional<QRect> above = rowAbove(row, taken, 0);
-        row = above.value_or(onBand);
-        free = above ? widestFree(row, taken) : Span{onBand.left(), onBand.right() + 1};
-        if (!above)
-            break;
-    }
+    std::optional<Spot> spot = spotFor(onBand, taken, wanted);
+    if (!spot) // better cut off than over what is used
+        spot = spotFor(onBand, taken, std::min(wanted, narrowest));
+    const auto [row, free] = spot.value_or(Spot{onBand, {onBand.left(), onBand.right() + 1}});
     const int width = std::min(wanted, free.width());
     const int middle = (parentWidget()->width() - width) / 2;
     setGeometry(std::clamp(middle, free.left, free.right - width), row.top(), width, height);

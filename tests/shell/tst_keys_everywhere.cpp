@@ -66,10 +66,13 @@ const Typing typings[] = {
     {"composed", ACT(h.composed(u"é"_s)), u"é||lblprefix"},
     {"number", ACT(h.c.Text1->setText({}), h.c.Text1->setFocus(), h.letter(u"7"_s)), u"||Text1"},
     {"list", ACT(h.r.morphemeLists.ToggleAllMorphemeLists(), h.c.WortelList->setFocus(), h.letter(u"x"_s)), u"||WortelList"},
+    {"list in a hand", ACT(h.r.morphemeLists.ToggleAllMorphemeLists(), QTest::mouseClick(h.c.WortelList->viewport(), Qt::LeftButton, {}, {5, 5}), h.keys(u"Shift"_s), h.letter(u"X"_s)), u"X||lblprefix"},
+    {"list in a hand, then by keys", ACT(h.r.morphemeLists.ToggleAllMorphemeLists(), QTest::mouseClick(h.c.WortelList->viewport(), Qt::LeftButton, {}, {5, 5}), h.keys(u"Down"_s), h.letter(u"x"_s)), u"||WortelList"},
     {"dictionary", ACT(h.r.dictionary.toggle(), h.c.picCanvas->setFocus(), h.letter(u"x"_s)), u"|x|Text2"},
     {"found in the dictionary", ACT(h.r.dictionary.toggle(), h.keys(u"Down"_s)), u"||LexiconList"},
     {"retyping", ACT(h.tool(h.c.Check4), h.c.picCanvas->setFocus(), h.letter(u"x"_s)), u"x||lblprefix"},
     {"building", ACT(h.tool(h.c.Check3), h.letter(u"x"_s)), u"||picCanvas"},
+    {"a word left from before the game", ACT(h.c.Dropper1->setCaption(u"qz"_s), h.tool(h.c.Option2[2]), h.tool(h.c.Check3), h.letter(u"x"_s)), u"x||lblprefix"},
     {"in a work", ACT(h.work.emplace(h.t.ground, WorkPlan{}), h.letter(u"x"_s), h.letter(u"y"_s), h.work.reset(), h.settle()), u"xy||lblprefix"},
     {"a tile dropped", ACT(h.c.Option1[0]->setChecked(true), h.press({210, 110}), h.release(h.c.picCanvas->mapFromGlobal(h.c.Dropper1->mapToGlobal(QPoint(9, 9))))), u"halt||lblprefix"},
     {"tool pressed by hand", ACT(h.c.Command6->setFocus(), h.tool(h.c.OptType[1])), u"||picCanvas"},
@@ -153,6 +156,36 @@ private slots:
             QVERIFY(house.state() != before);
             QVERIFY(house.t.ok());
         }
+    }
+
+    /// The word's own steps first; after a drop or a check there are none, and held keys stop there.
+    void undoLeavesTheWordField_data()
+    {
+        columns<QString, QString, int, QString>("letters", "keys", "tiles", "word");
+        QTest::newRow("nothing typed") << QString() << u"Ctrl+Z"_s << 1 << QString();
+        QTest::newRow("and on again") << QString() << u"Ctrl+Z Ctrl+Y"_s << 2 << QString();
+        QTest::newRow("a letter typed") << u"x"_s << u"Ctrl+Z"_s << 2 << QString();
+        QTest::newRow("written again") << u"x"_s << u"Ctrl+Z Ctrl+Y"_s << 2 << u"x"_s;
+        QTest::newRow("that is gone") << u"x"_s << u"Ctrl+Z Ctrl+Z"_s << 1 << QString();
+        QTest::newRow("held down") << u"x"_s << u"*Ctrl+Z"_s << 2 << QString();
+    }
+    void undoLeavesTheWordField()
+    {
+        QFETCH(QString, letters);
+        QFETCH(QString, keys);
+        QFETCH(int, tiles);
+        QFETCH(QString, word);
+        KeyedHouse house;
+        house.t.store.SaveSetting(u"Settings"_s, u"UseUndo"_s, u"1"_s);
+        house.r.undo.ClearCollBuffer();
+        house.lay(wortel, 300, 200, u"bau"_s);
+        house.r.news.Commit();
+        house.c.Dropper1->takeFocus();
+        if (!letters.isEmpty())
+            house.letter(letters);
+        house.keys(keys);
+        QCOMPARE(house.r.store.count(), tiles);
+        QCOMPARE(house.c.Dropper1->Caption(), word);
     }
 
     void listsByKeys()

@@ -74,6 +74,8 @@ private slots:
         say("undo is off", [](TestHouse &h) { h.t.store.SaveSetting(u"Settings"_s, u"UseUndo"_s, u"0"_s); h.run(From::MainMenu, 2802); }, u"Rückgängig ist in den Optionen ausgeschaltet"_s);
         say("word list", [](TestHouse &h) { h.tool(h.controls.Command4); }, noWords);
         say("retyping it", [](TestHouse &h) { h.tool(h.controls.Check4); }, noWords);
+        say("copying broken off", [](TestHouse &h) { retype(h); h.r.retype.wordCopied(u"Haus"_s); h.t.told.clear(); QTest::keyClick(h.form.focusWidget(), Qt::Key_Escape); QCOMPARE(h.lists.CorrectWordList.count(), 2); }, u"Alle Wörter sind wieder in deiner Liste"_s);
+        say("letters while words are built", [](TestHouse &h) { playGame(h); h.t.told.clear(); h.controls.picCanvas->setFocus(); QTest::keyClick(h.controls.picCanvas, 'x'); }, u"Jetzt baust du Wörter auf dem Spielfeld. Schreiben kommt danach"_s);
         say("retyping unknown words", [](TestHouse &h) { h.lists.CorrectWordList.add(u"Quark"_s); h.tool(h.controls.Check4); }, u"Kein Wort deiner Wörterliste steht im Wörterbuch"_s);
         say("removing no word", [](TestHouse &h) { h.lists.CorrectWordList.add(u"Haus"_s); entry(h, "mnuDeleteWord"); }, unmarked);
         say("keeping no word", [](TestHouse &h) { entry(h, "mnuAddToRetypeList"); }, unmarked);

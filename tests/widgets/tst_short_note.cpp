@@ -33,17 +33,19 @@ private slots:
     // clang-format off
     void makesRoom_data()
     {
-        columns<QList<QRect>, bool>("open", "onBand"); // what lies over the board; whether the note keeps its row
-        QTest::newRow("a list in the middle") << QList<QRect>{{300, 160, 190, 260}} << true;
-        QTest::newRow("three lists at the left") << QList<QRect>{{0, 120, 66, 300}, {66, 120, 84, 300}, {150, 120, 66, 300}} << true;
-        QTest::newRow("the strip across") << QList<QRect>{{0, 378, 800, 42}} << false;
-        QTest::newRow("strip and report") << QList<QRect>{{0, 378, 800, 42}, {31, 300, 350, 140}} << false;
-        QTest::newRow("the tip over all of it") << QList<QRect>{{0, 0, 800, 420}} << true;
+        columns<QList<QRect>, bool, int>("open", "onBand", "texts"); // what lies over the board; whether the note keeps its row; how long it is
+        QTest::newRow("a list in the middle") << QList<QRect>{{300, 160, 190, 260}} << true << 1;
+        QTest::newRow("a list in the middle, a long note") << QList<QRect>{{300, 160, 190, 260}} << false << 2;
+        QTest::newRow("three lists at the left") << QList<QRect>{{0, 120, 66, 300}, {66, 120, 84, 300}, {150, 120, 66, 300}} << true << 1;
+        QTest::newRow("the strip across") << QList<QRect>{{0, 378, 800, 42}} << false << 1;
+        QTest::newRow("strip and report") << QList<QRect>{{0, 378, 800, 42}, {31, 300, 350, 140}} << false << 1;
+        QTest::newRow("the tip over all of it") << QList<QRect>{{0, 0, 800, 420}} << true << 1;
     }
     // clang-format on
     void makesRoom()
     {
         QFETCH(QList<QRect>, open);
+        QFETCH(int, texts);
         Window window;
         std::vector<std::unique_ptr<QWidget>> others;
         for (const QRect &rect : open) {
@@ -51,8 +53,10 @@ private slots:
             others.back()->setGeometry(rect);
         }
         window.show();
-        window.note.tell(u"Deine Wörterliste ist noch leer"_s);
+        const QString text = u"Deine Wörterliste ist leer "_s.repeated(texts).trimmed();
+        window.note.tell(text);
         const QRect place = window.note.geometry();
+        QVERIFY(place.width() > window.note.fontMetrics().horizontalAdvance(text));
         QVERIFY(QRect(0, 0, 800, 420).contains(place));
         QTEST(place.bottom() > 405, "onBand");
         for (const QRect &rect : open)

@@ -30,6 +30,8 @@ using namespace Qt::StringLiterals;
 namespace {
 constexpr auto form = "frmMain";
 constexpr int helpCommand = 1001;
+constexpr int undoKey = 26; ///< Ctrl+Z
+constexpr int redoKey = 25; ///< Ctrl+Y
 } // namespace
 
 BoardKeys::BoardKeys(Ground &ground, const MainControls &controls, const TileKeys::Rooms &rooms)
@@ -54,7 +56,8 @@ bool BoardKeys::eventFilter(QObject *watched, QEvent *event)
         return false;
     case QEvent::InputMethod:
         return goesToForm(watched) && letters_.isFree(controls_.form->window()->focusWidget()) &&
-               letters_.type(static_cast<QInputMethodEvent *>(event)->commitString());
+               letters_.type(static_cast<QInputMethodEvent *>(event)->commitString()) ==
+                   JustType::Fate::Taken;
     case QEvent::MouseButtonPress:
         if (const auto *widget = qobject_cast<QWidget *>(watched))
             pressed(widget);
@@ -80,6 +83,7 @@ void BoardKeys::pressed(const QWidget *widget)
     if (!controls_.form->isAncestorOf(widget))
         return;
     keyWasLast_ = false;
+    listInHand_ = qobject_cast<const StoreList *>(widget->parentWidget()); // the rows lie on a child of it
     rooms_.focus.setByKeys(false);
     const QWidget *focus = controls_.form->window()->focusWidget();
     if (focus != nullptr && focus != widget && focus != controls_.picCanvas && letters_.isFree(focus))
@@ -112,7 +116,7 @@ bool BoardKeys::handle(const QKeyEvent &event)
     const bool alt = shift.testFlag(Qt::AltModifier);
     const int key = event.key();
     if (ctrl && !alt && key >= Qt::Key_A && key <= Qt::Key_Z)
-        return Form_KeyPress(key - Qt::Key_A + 1);
+        return Form_KeyPress(key - Qt::Key_A + 1, event.isAutoRepeat());
     // A key that is held would close one thing after the other.
     const bool heldDown = event.isAutoRepeat() && (key == Qt::Key_Escape || key == Qt::Key_F6);
     if (heldDown || Form_KeyDown(key))
@@ -122,8 +126,16 @@ bool BoardKeys::handle(const QKeyEvent &event)
     if (key == Qt::Key_Down && goesDownToList())
         return true;
     // The right Alt key comes as both on some keyboards, and gives letters.
-    return ctrl == alt && letters_.isFree(controls_.form->window()->focusWidget()) &&
-           letters_.type(event.text());
+    if (key >= Qt::Key_Home && key <= Qt::Key_PageDown)
+        listInHand_ = nullptr; // now the rows are gone through by keys, and letters look for one
+    const QWidget *focus = controls_.form->window()->focusWidget();
+    const bool isInHand = focus != nullptr && focus == listInHand_;
+    if (ctrl != alt || !(isInHand || letters_.isFree(focus)))
+        return false;
+    const JustType::Fate fate = letters_.type(event.text());
+    if (fate == JustType::Fate::NoField && !event.isAutoRepeat())
+        emit nowhereToType();
+    return fate == JustType::Fate::Taken;
 }
 
 /// From the search box to what was found: the list stands below it.
@@ -152,11 +164,33 @@ bool BoardKeys::isTyping() const
     return button != nullptr && button->isCheckable();
 }
 
-bool BoardKeys::Form_KeyPress(int code)
+/// The word field keeps the keyboard after a drop and after a tool's press. Where it has no step of its own
+/// to go back or on, the key is meant for the board; held down, it stops between the two.
+bool BoardKeys::isLeftByField(int code, bool held) const
+{
+    const QLineEdit *field = activeWordField();
+    if (held || field == nullptr)
+        return false;
+    return (code == undoKey && !field->isUndoAvailable()) || (code == redoKey && !field->isRedoAvailable());
+}
+
+QLineEdit *BoardKeys::activeWordField() const
+{
+    auto *field = qobject_cast<QLineEdit *>(controls_.Dropper1->focusProxy());
+    return field != nullptr && field->hasFocus() ? field : nullptr;
+}
+
+bool BoardKeys::Form_KeyPress(int code, bool held)
 {
     const command::Command *row = command::find(From::Key, code);
-    if (row == nullptr || (isTyping() && (row->flags & command::WhileTyping) == 0))
+    if (row == nullptr)
         return false;
+    if (isTyping() && (row->flags & command::WhileTyping) == 0 && !isLeftByField(code, held)) {
+        QLineEdit *field = code == redoKey ? activeWordField() : nullptr;
+        if (field != nullptr)
+            field->redo(); // a text box does not know this key on every system
+        return field != nullptr;
+    }
     const auto way = (row->flags & command::Looks) != 0 ? Gate::Way::Look : Gate::Way::Play;
     if (const Gate::Passage passage = ground_.gate.enter(way)) {
         rooms_.pointer.letGo();

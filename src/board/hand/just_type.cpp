@@ -41,20 +41,20 @@ QWidget *JustType::field() const
     return word.isVisible() && word.isEnabled() ? word.focusProxy() : nullptr;
 }
 
-bool JustType::type(const QString &letters)
+JustType::Fate JustType::type(const QString &letters)
 {
     // Only what can be seen: a blank presses what has the keyboard.
     const bool written =
         std::all_of(letters.begin(), letters.end(), [](QChar c) { return c.isPrint() || c.isSurrogate(); });
     if (letters.isEmpty() || !written || letters == u" ")
-        return false;
+        return Fate::NoLetters;
     if (field() != nullptr)
         write(letters);
     else if (!ground_.gate.isFree())
         ground_.gate.whenFree([this, letters] { write(letters); });
     else
-        return false;
-    return true;
+        return Fate::NoField;
+    return Fate::Taken;
 }
 
 void JustType::write(const QString &letters)

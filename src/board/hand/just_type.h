@@ -20,8 +20,13 @@ public:
     /// True if letters are of no use to the control that has the keyboard: nullptr, the window, the board, a
     /// tool.
     bool isFree(const QWidget *focus) const;
-    /// Letters as a keyboard or an input method gives them. True if they were taken.
-    bool type(const QString &letters);
+    enum class Fate {
+        NoLetters, ///< a blank, a control character
+        NoField,   ///< the word field rests
+        Taken,
+    };
+    /// Letters as a keyboard or an input method gives them.
+    Fate type(const QString &letters);
     /// Gives the keyboard to the field that takes letters, if there is one.
     void takeFocus();
 

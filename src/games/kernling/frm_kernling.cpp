@@ -9,6 +9,8 @@
 #include "language/word_tests.h"
 #include "platform/boxes.h"
 #include "platform/ground.h"
+#include "platform/note_texts.h"
+#include "platform/notes.h"
 #include "platform/options.h"
 #include "platform/procedure.h"
 #include "platform/product.h"
@@ -102,7 +104,11 @@ void FrmKernling::closeEvent(QCloseEvent *event)
 void FrmKernling::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Escape) {
-        ground_.gate.cancelWork(); // and the window stays: the text in it is the work of an hour
+        // And the window stays: the text in it is the work of an hour.
+        if (ground_.gate.work() != nullptr)
+            ground_.gate.cancelWork();
+        else if (!event->isAutoRepeat())
+            ground_.notes.tell(note::kernlingStays);
         event->accept();
         return;
     }

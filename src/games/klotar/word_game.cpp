@@ -248,8 +248,10 @@ void WordGame::enter(const GameStage &stage)
     timer.setTimerMode(MinuteTimer::TimerMode::Minutes);
     timer.setMinuteInterval(1);
     timer.setEnabled(true);
-    if (builds)
+    if (builds) {
         controls_.picCanvas->setFocus();
-    else
-        step([&] { controls_.Dropper1->takeFocus(); });
+        return;
+    }
+    step([&] { controls_.Dropper1->takeFocus(); });
+    controls_.Dropper1->selectAll(); // what still stands there is no part of the first word
 }

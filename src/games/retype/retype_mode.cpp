@@ -9,6 +9,7 @@
 #include "generators/word_maker.h"
 #include "language/dictionary_panel.h"
 #include "language/word_check.h"
+#include "language/word_tests.h"
 #include "platform/boxes.h"
 #include "platform/files.h"
 #include "platform/gate.h"
@@ -28,6 +29,8 @@
 #include "widgets/store_list.h"
 
 #include <QScopedValueRollback>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -196,6 +199,7 @@ void RetypeMode::StartTheRetyping(WordSource words)
         const QScopedValueRollback preparing(state_, State::Preparing);
         stopWanted_ = false;
         KeptWords_.clear();
+        copied_.clear();
         play_.startRetyping(words);
         rooms_.dictionary.close();
         controls_.CorrectWordList->hide();
@@ -219,6 +223,22 @@ void RetypeMode::endRun()
 {
     if (play_.RetypeActive() && state_ == State::Rest)
         leave();
+}
+
+void RetypeMode::breakOff()
+{
+    if (!play_.RetypeActive() || state_ != State::Rest)
+        return;
+    leave();
+    bool any = false;
+    for (const QString &word : std::exchange(copied_, {})) {
+        if (!running_->isOfPlayer() || rooms_.tests.ChkForDuplicates(word))
+            continue;
+        lists_.CorrectWordList.add(word);
+        any = true;
+    }
+    if (any)
+        ground_.notes.tell(note::copiedWordsBack);
 }
 
 void RetypeMode::wordsEdited(const QStringList &words, bool fillEmptyStrip)

@@ -77,6 +77,8 @@ public:
     void retypeAfterGame() { leftPress(WordSource::UserWords); }
     /// Other lists were chosen: a run ends.
     void endRun();
+    /// Esc: a run ends, and what was copied of a player's own words is in the word list again.
+    void breakOff();
 
     /// Lets the chooser open, unless one group of vowels is practised, which only knows stems.
     void openChooser();
@@ -105,7 +107,7 @@ private:
     WordStore &wordsOf(const RetypeSource &source) const;
     bool belongs(const QString &word, const RetypeSource &source) const;
     QString inStrip(const QString &word, const RetypeSource &source) const;
-    void removeWord(const QString &word, WordStore &words) const;
+    void removeWord(const QString &word, WordStore &words);
     void eraseTile(const QString &word);
     void finish(const RetypeSource &source);
 
@@ -116,6 +118,7 @@ private:
     Rooms rooms_;
     const RetypeSource *running_; ///< the source of the last start
     QStringList KeptWords_;
+    QStringList copied_; ///< what has left the running list, as it stood there
     State state_ = State::Rest;
     bool stopWanted_ = false; ///< the button was pressed while words were prepared
 };

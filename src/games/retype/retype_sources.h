@@ -23,6 +23,9 @@ struct RetypeSource
     const char16_t *left;    ///< behind the count of the words that are left
     const char16_t *praised; ///< what was copied
     BoxSign sign;
+
+    /// Words that the player has collected or chosen; the others are made anew for each run.
+    constexpr bool isOfPlayer() const { return origin == WordList && vowels == Vowels::None; }
 };
 
 // Only the long vowels are kept, of the two vowel modes: required.

@@ -197,13 +197,15 @@ void RetypeMode::FillScroller(const QString &Word)
 
 /// The index goes on past a removal and the loop's end stays, so of two equal neighbours the second stays:
 /// required.
-void RetypeMode::removeWord(const QString &word, WordStore &words) const
+void RetypeMode::removeWord(const QString &word, WordStore &words)
 {
     const QString capitals = UCase(word);
     const int count = words.count();
     for (int row = 0; row < count; ++row) {
-        if (UCase(words.at(row)) == capitals)
-            words.removeAt(row);
+        if (UCase(words.at(row)) != capitals)
+            continue;
+        copied_.append(words.at(row));
+        words.removeAt(row);
     }
 }
 
