@@ -7,30 +7,45 @@
 #include <QString>
 
 #include <algorithm>
+#include <malloc.h>
 #include <vector>
+
+#ifdef __SANITIZE_ADDRESS__
+#include <sanitizer/allocator_interface.h>
+#endif
 
 /// What this process holds at one moment.
 struct SoakSample
 {
-    qint64 memoryKb = 0; ///< resident
+    qint64 memoryKb = 0; ///< allocated and not freed: what is resident grows with the allocator's own ways
     qint64 files = 0;    ///< open ones
     qint64 threads = 0;
 
     static SoakSample now()
     {
         SoakSample sample;
+        sample.memoryKb = allocated() / 1024;
         QFile status(QStringLiteral("/proc/self/status"));
         if (status.open(QIODevice::ReadOnly))
             for (const QByteArray &line : status.readAll().split('\n')) {
                 const QList<QByteArray> words = line.simplified().split(' ');
-                if (words.first() == "VmRSS:")
-                    sample.memoryKb = words.at(1).toLongLong();
-                else if (words.first() == "Threads:")
+                if (words.first() == "Threads:")
                     sample.threads = words.at(1).toLongLong();
             }
         const auto all = QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot;
         sample.files = QDir(QStringLiteral("/proc/self/fd")).entryList(all).size();
         return sample;
+    }
+
+private:
+    static qint64 allocated()
+    {
+#ifdef __SANITIZE_ADDRESS__
+        return static_cast<qint64>(__sanitizer_get_current_allocated_bytes());
+#else
+        const struct mallinfo2 heap = mallinfo2();
+        return static_cast<qint64>(heap.uordblks + heap.hblkhd);
+#endif
     }
 };
 
