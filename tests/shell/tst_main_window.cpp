@@ -89,17 +89,20 @@ private slots:
 
     void aMissingChosenListGivesWayToTheUsualOne_data()
     {
-        columns<bool, bool>("listThere", "agrees");
-        QTest::newRow("list gone") << false << true;
-        QTest::newRow("dictionary gone") << true << true;
-        QTest::newRow("refused") << false << false;
+        // list: with "%" for the folder
+        columns<QString, bool, bool>("list", "listThere", "agrees");
+        QTest::newRow("list gone") << u"%text\\Tiere.txt"_s << false << true;
+        QTest::newRow("dictionary gone") << u"%text\\Tiere.txt"_s << true << true;
+        QTest::newRow("refused") << u"%text\\Tiere.txt"_s << false << false;
+        QTest::newRow("no name") << QString() << false << true;
     }
     void aMissingChosenListGivesWayToTheUsualOne()
     {
         QFETCH(bool, listThere);
         QFETCH(bool, agrees);
         Start house;
-        const QString list = house.t.AppFolder + u"text\\Tiere.txt"_s;
+        QFETCH(QString, list);
+        list.replace(u'%', house.t.AppFolder);
         house.t.store.SaveSetting(u"Settings"_s, u"WortelFile"_s, list);
         if (listThere)
             house.t.writeFile(u"text\\Tiere.txt"_s, u"Igel\r\n"_s);
