@@ -5,6 +5,7 @@
 #include "widgets/announce.h"
 #include "widgets/colour.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QPainter>
 
@@ -56,6 +57,20 @@ std::optional<QRect> rowAbove(const QRect &row, const QList<QRect> &taken, int t
     QRect above = row;
     above.moveBottom(foot - 1);
     return above.top() > top && above != row ? std::optional(above) : std::nullopt;
+}
+
+/// The places, in `window`, of the boxes and menus that stand open over it.
+QList<QRect> openOver(const QWidget &window)
+{
+    QList<QRect> places;
+    for (const QWidget *other : QApplication::topLevelWidgets()) {
+        if (other == window.window() || other->isHidden() ||
+            (!other->isModal() && other->windowType() != Qt::Popup))
+            continue;
+        const QRect frame = other->frameGeometry();
+        places << QRect(window.mapFromGlobal(frame.topLeft()), frame.size());
+    }
+    return places;
 }
 
 } // namespace
@@ -124,9 +139,9 @@ bool ShortNote::eventFilter(QObject *watched, QEvent *event)
 /// that covers the whole of it.
 QList<QRect> ShortNote::covered() const
 {
-    QList<QRect> taken;
     if (board_ == nullptr)
-        return taken;
+        return {};
+    QList<QRect> taken = openOver(*parentWidget());
     for (const QObject *child : parentWidget()->children()) {
         const auto *widget = qobject_cast<const QWidget *>(child);
         if (widget == nullptr || widget == board_ || widget == band_ || widget->isHidden() ||

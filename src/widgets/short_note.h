@@ -7,8 +7,8 @@
 #include <QWidget>
 
 /// One line over the foot of a window that goes by itself. It takes no press and no focus. In the main window
-/// it stands on the lower band and looks for a place where it covers nothing but the board: beside open lists
-/// and reports, or above them. What is too long for that place is elided.
+/// it stands on the lower band and looks for a place where it covers nothing but the board: beside open
+/// lists, reports, boxes and menus, or above them. What is too long for that place is elided.
 class ShortNote : public QWidget
 {
     Q_OBJECT

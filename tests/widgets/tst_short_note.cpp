@@ -61,6 +61,20 @@ private slots:
         QVERIFY(open.size() > 1 || window.note.geometry().center().x() == 399);
     }
 
+    /// A box of its own window that stands over the band does not hide it.
+    void makesRoomForABox()
+    {
+        Window window;
+        window.show();
+        QWidget box(&window, Qt::Dialog | Qt::FramelessWindowHint);
+        box.setWindowModality(Qt::ApplicationModal);
+        box.setGeometry(QRect(window.mapToGlobal(QPoint(250, 250)), QSize(300, 200)));
+        box.show();
+        window.note.tell(u"Die neue Größe gilt, sobald dieses Fenster geschlossen ist"_s);
+        const QRect place = window.note.geometry();
+        QVERIFY(!place.intersects({250, 250, 300, 200}) && place.width() > 400);
+    }
+
     /// Told before the window is seen, it still has its time; then it is in nobody's way.
     void comesAndGoes()
     {

@@ -7,6 +7,7 @@
 #include "platform/gated_boxes.h"
 #include "platform/ground.h"
 #include "platform/log.h"
+#include "platform/notes.h"
 #include "platform/options.h"
 #include "platform/sound.h"
 #include "platform/system_clock.h"
@@ -49,8 +50,8 @@ struct Stage::Run
 {
     Run(const QString &appFolder, Rnd &rnd, SettingsStore &store)
         : options(store, appFolder, log)
-        , ground{appFolder, log,   gatedBoxes, gatedDialogs, printer, rnd,
-                 sound,     clock, pump,       store,        options, gate}
+        , ground{appFolder, log,  gatedBoxes, gatedDialogs, printer, rnd,  sound,
+                 clock,     pump, store,      options,      gate,    notes}
         , form(ground, StartFacts{})
     {
         boxes.setMainWindow(&form);
@@ -67,6 +68,7 @@ struct Stage::Run
     SystemClock clock{gate};
     LoopPump pump{gate};
     Options options;
+    Notes notes;
     Ground ground;
     frmMain form;
 };

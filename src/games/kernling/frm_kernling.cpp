@@ -73,7 +73,7 @@ void FrmKernling::Form_Load()
     parts_->desk.showTitle({});
 }
 
-bool FrmKernling::keepsText() const { return parts_ && !parts_->controls.RTF->isEmpty(); }
+bool FrmKernling::keepsText() const { return parts_ && !parts_->controls.RTF->text().trimmed().isEmpty(); }
 
 void FrmKernling::openModally()
 {
