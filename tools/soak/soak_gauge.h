@@ -11,7 +11,7 @@
 #include <vector>
 
 #ifdef __SANITIZE_ADDRESS__
-#include <sanitizer/allocator_interface.h>
+extern "C" size_t __sanitizer_get_current_allocated_bytes(); // the compiler brings no header for it
 #endif
 
 /// What this process holds at one moment.
