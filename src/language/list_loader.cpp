@@ -96,12 +96,12 @@ QString ListLoader::dictionaryOf(const QString &path)
     return RTrimText(facitPath(path), u".txt"_s) + u".lex"_s;
 }
 
-QString ListLoader::missingOf(const QString &path)
+std::optional<QString> ListLoader::missingOf(const QString &path)
 {
     if (!IsTextFile(path))
         return path;
     const QString dictionary = dictionaryOf(path);
-    return IsTextFile(dictionary) ? QString() : dictionary;
+    return IsTextFile(dictionary) ? std::nullopt : std::optional(dictionary);
 }
 
 std::optional<QString> ListLoader::loadAtStart()

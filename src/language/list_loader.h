@@ -65,8 +65,8 @@ public:
     /// The dictionary that goes with a stem list: `facitPath` without a trailing ".txt" (any case), with
     /// ".lex".
     static QString dictionaryOf(const QString &path);
-    /// The stem list `path` or its dictionary, whichever is missing; empty if both are there.
-    static QString missingOf(const QString &path);
+    /// The stem list `path` or its dictionary, whichever is missing; nothing if both are there.
+    static std::optional<QString> missingOf(const QString &path);
 
 signals:
     /// The pointer is to be the hourglass (True), or what it was before. Always in pairs, which may be

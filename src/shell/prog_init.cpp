@@ -69,9 +69,8 @@ bool ProgInit::offersUsualList(const QString &missing)
 {
     Procedure step{ground_.log, "ProgInit", "frmMain", Procedure::Silent};
     const QString usual = ground_.options.fallback(Setting::WortelFile);
-    const QString &chosen = lists_.CurrentWortelFile;
-    const bool isGone = chosen.isEmpty() || !ListLoader::missingOf(chosen).isEmpty();
-    if (!isGone || !ListLoader::missingOf(usual).isEmpty()) {
+    const bool isGone = ListLoader::missingOf(lists_.CurrentWortelFile).has_value();
+    if (!isGone || ListLoader::missingOf(usual)) {
         ground_.boxes.plainBox(Boxes::Icon::Critical, product::faultTitle, missing);
         return false;
     }

@@ -7,6 +7,8 @@
 #include <QStorageInfo>
 #include <QTemporaryFile>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -45,10 +47,10 @@ storage::State stateOfOne(const QString &folder)
 
 storage::State storage::stateOf(const QStringList &folders)
 {
+    State worst = State::Writable;
     for (const QString &folder : folders)
-        if (const State state = stateOfOne(folder); state != State::Writable)
-            return state;
-    return State::Writable;
+        worst = std::max(worst, stateOfOne(folder));
+    return worst;
 }
 
 QString storage::complaint(State state)

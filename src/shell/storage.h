@@ -11,12 +11,13 @@ namespace storage {
 
 enum class State : std::uint8_t {
     Writable,
-    Full,     ///< no room is left
-    Protected ///< the folder cannot be made, or not be written to
+    Protected, ///< the folder cannot be made, or not be written to
+    Full       ///< no room is left
 };
 
-/// Tries it in each folder (native paths), which is made where it is missing; nothing stays behind. The
-/// first that fails says why.
+/// Tries it in each folder (native paths), which is made where it is missing; nothing stays behind. A full
+/// one counts for more than a protected one: beside a full home an installed copy runs from its installed
+/// data.
 State stateOf(const QStringList &folders);
 
 /// What the user is told once, in German; empty if all is well.

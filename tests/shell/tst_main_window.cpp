@@ -89,19 +89,20 @@ private slots:
 
     void aMissingChosenListGivesWayToTheUsualOne_data()
     {
-        columns<bool, bool, bool>("listThere", "agrees", "isNamed");
-        QTest::newRow("list gone") << false << true << true;
-        QTest::newRow("dictionary gone") << true << true << true;
-        QTest::newRow("refused") << false << false << true;
-        QTest::newRow("blank") << false << true << false;
+        // list: with "%" for the folder
+        columns<QString, bool, bool>("list", "listThere", "agrees");
+        QTest::newRow("list gone") << u"%text\\Tiere.txt"_s << false << true;
+        QTest::newRow("dictionary gone") << u"%text\\Tiere.txt"_s << true << true;
+        QTest::newRow("refused") << u"%text\\Tiere.txt"_s << false << false;
+        QTest::newRow("no name") << QString() << false << true;
     }
     void aMissingChosenListGivesWayToTheUsualOne()
     {
         QFETCH(bool, listThere);
         QFETCH(bool, agrees);
-        QFETCH(bool, isNamed);
         Start house;
-        const QString list = isNamed ? house.t.AppFolder + u"text\\Tiere.txt"_s : QString();
+        QFETCH(QString, list);
+        list.replace(u'%', house.t.AppFolder);
         house.t.store.SaveSetting(u"Settings"_s, u"WortelFile"_s, list);
         if (listThere)
             house.t.writeFile(u"text\\Tiere.txt"_s, u"Igel\r\n"_s);

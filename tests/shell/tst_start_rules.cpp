@@ -123,7 +123,7 @@ private slots:
         QVERIFY(QDir(fresh).isEmpty(QDir::Files | QDir::Hidden));
         QCOMPARE(storage::stateOf({fresh, place.filePath(u"datei/x"_s)}), storage::State::Protected);
         const FileSizeLimit limit(1000);
-        QCOMPARE(storage::stateOf({fresh}), storage::State::Full);
+        QCOMPARE(storage::stateOf({place.filePath(u"datei/x"_s), fresh}), storage::State::Full);
     }
 
     void knowsTheScreens_data()

@@ -57,6 +57,8 @@ bool TileFilter::shows(Colour back) const
 
 QString tileText(const QString &text)
 {
+    if (text.size() > longestTileText)
+        return tileText(text.left(longestTileText));
     const auto isControl = [](QChar character) {
         return character.unicode() < 0x20 || character == QChar::LineSeparator ||
                character == QChar::ParagraphSeparator;

@@ -66,8 +66,12 @@ public:
     virtual int BandTop() const = 0;
 };
 
+/// Characters of a text that a tile shows: wider than any screen. A file without line ends is one text of
+/// millions, which would take a minute to be measured.
+inline constexpr qsizetype longestTileText = 10000;
+
 /// The text as a tile shows and measures it: one line, so that line ends, tabs and other control characters
-/// are blanks.
+/// are blanks, and no longer than `longestTileText`.
 QString tileText(const QString &text);
 
 /// The tiles on the board and the small queries and edits that all board commands are made of. Nothing here

@@ -154,17 +154,17 @@ void frmOptions::takeList(const QString &path)
 /// True as well for a blank field, which gets the usual list. Tells what is missing.
 bool frmOptions::listIsWhole(const QString &path)
 {
-    const QString missing = Trim(path).isEmpty() ? QString() : ListLoader::missingOf(path);
-    if (missing.isEmpty())
+    const auto missing = Trim(path).isEmpty() ? std::nullopt : ListLoader::missingOf(path);
+    if (!missing)
         return true;
     const QString fault =
-        missing == path
+        *missing == path
             ? u"Diese Wortel-Liste gibt es nicht:\n\n%1\n\nWähle eine andere, oder leere das Feld: Dann "
               u"nimmt "
               "Wortel-Meister seine eigene."_s
             : u"Zu dieser Wortel-Liste gehört ein Wörterbuch, und das fehlt:\n\n%1\n\nOhne Wörterbuch kann "
               "Wortel-Meister nicht mit ihr starten."_s;
-    ground_.boxes.plainBox(Boxes::Icon::Warning, product::name, fault.arg(missing));
+    ground_.boxes.plainBox(Boxes::Icon::Warning, product::name, fault.arg(*missing));
     return false;
 }
 

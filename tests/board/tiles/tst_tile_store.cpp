@@ -31,7 +31,8 @@ private slots:
         for (const auto &[text, measured] : {std::pair{u"Haus"_s, u"Haus"_s},
                                              {QString(), QString()},
                                              {u"a\r\nb\tc"_s, u"a  b c"_s},
-                                             {QString(10000, u'm'), QString(10000, u'm')}}) {
+                                             {QString(10000, u'm'), QString(10000, u'm')},
+                                             {QString(10001, u'm'), QString(10000, u'm')}}) {
             b.lay(wortel, 10, 100, text);
             QCOMPARE(b.texts().last(), text);
             QCOMPARE(b.store->tiles().back()->Extent(), metrics.horizontalAdvance(measured) + 10);
