@@ -11,6 +11,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 
 #include <algorithm>
@@ -18,6 +19,25 @@
 #include <utility>
 
 namespace {
+
+/// While somebody is asked there is no hourglass, and then the window that was in front has the keyboard
+/// again: no window manager may be there to give it back, or the box belonged to another window.
+class Asking
+{
+public:
+    Asking() = default;
+    ~Asking()
+    {
+        if (front_ != nullptr && front_->isVisible() && !front_->isActiveWindow())
+            front_->activateWindow();
+    }
+    Asking(const Asking &) = delete;
+    Asking &operator=(const Asking &) = delete;
+
+private:
+    PlainPointer pointer_;
+    QPointer<QWidget> front_ = QApplication::activeWindow();
+};
 
 QString titleOr(const QString &title) { return title.isEmpty() ? product::name : title; }
 
@@ -123,7 +143,7 @@ QWidget *RealBoxes::owner() const
 
 Boxes::Answer RealBoxes::plainBox(Icon icon, const QString &title, const QString &text, Buttons buttons)
 {
-    const PlainPointer pointer;
+    const Asking asking;
     QWidget *const parent = owner();
     QMessageBox box(parent);
     if (parent == nullptr) // at the start: the splash would cover it
@@ -147,8 +167,6 @@ Boxes::Answer RealBoxes::plainBox(Icon icon, const QString &title, const QString
     box.setEscapeButton(last);
     box.setDefaultButton(standard);
     box.exec();
-    if (parent != nullptr)
-        parent->window()->activateWindow(); // nobody else does it where there is no window manager
     const QAbstractButton *pressed = box.clickedButton();
     for (const PlainButton *row = first; row != end; ++row) {
         if (pressed != nullptr && pressed->text() == QStringView(row->caption))
@@ -161,44 +179,44 @@ int RealBoxes::ShowMBox(const QString &prompt, bool show, int buttons, const QSt
 {
     if (!show)
         return 0;
-    const PlainPointer pointer;
+    const Asking asking;
     return MBox(prompt, buttons, titleOr(title), style, owner()).ask();
 }
 
 int RealBoxes::ShowInfoBox(const QString &prompt, BoxSign sign, const QString &title)
 {
-    const PlainPointer pointer;
+    const Asking asking;
     return frmMboxRetype(prompt, sign, titleOr(title), owner()).ask();
 }
 
 QString RealBoxes::ShowIBox(const QString &prompt, BoxStyle kind, const QString &defaultText,
                             const QString &title, int left, int top)
 {
-    const PlainPointer pointer;
+    const Asking asking;
     return IBox(prompt, kind, defaultText, titleOr(title), owner()).askText(cornerOf(left, top));
 }
 
 QString RealBoxes::ShowWordBox(const QString &prompt, BoxStyle, const QString &defaultText,
                                const QString &title, int left, int top)
 {
-    const PlainPointer pointer;
+    const Asking asking;
     return frmChgCorrectWords(prompt, defaultText, titleOr(title), owner()).askText(cornerOf(left, top));
 }
 
 QString RealBoxes::ShowEnterName(const QString &title)
 {
-    const PlainPointer pointer;
+    const Asking asking;
     return frmEnterName(title, owner()).askName();
 }
 
 void RealBoxes::ShowHighScores(const HighScoreSheet &sheet)
 {
-    const PlainPointer pointer;
+    const Asking asking;
     frmHighScore(sheet, owner()).exec();
 }
 
 void RealBoxes::ShowBestTimes(const HighScoreSheet &sheet)
 {
-    const PlainPointer pointer;
+    const Asking asking;
     frmBestTimes(sheet, owner()).exec();
 }

@@ -14,6 +14,8 @@
 #include "platform/report_popup.h"
 #include "platform/text.h"
 #include "platform/word_lists.h"
+#include "widgets/accessible_tools.h"
+#include "widgets/announce.h"
 #include "widgets/dropper.h"
 #include "widgets/main_controls.h"
 #include "widgets/press_button.h"
@@ -29,6 +31,13 @@ using namespace Qt::StringLiterals;
 namespace {
 
 QString quoted(const QString &word) { return u'"' + word + u'"'; }
+
+/// What the eye is not told of a vowel: only a sound, or the word's own voice, says it.
+QString vowelOf(const QString &word, Vowels vowels)
+{
+    return quoted(word) +
+           (vowels == Vowels::Short ? u" hat einen kurzen Vokal."_s : u" hat einen langen Vokal."_s);
+}
 
 /// Which letters of `"word"`, in quotation marks, teach how large it is written: the capitals of the
 /// dictionary's spelling, or if it has none, what was written as one. None if the two do not differ.
@@ -173,7 +182,9 @@ void WordCheck::checkNonsense(const QString &word)
 
 void WordCheck::checkVowel(const QString &word, Vowels group)
 {
+    const Vowels other = group == Vowels::Short ? Vowels::Long : Vowels::Short;
     if (tests_.InKurzLangVokalList(word, group)) {
+        announce(*controls_.form, u"Richtig ! "_s + vowelOf(word, group));
         // The short branch speaks without this test, since the field is never empty there.
         if (group == Vowels::Short || !controls_.Dropper1->Caption().isEmpty())
             emit vowelWordFound(word);
@@ -185,7 +196,8 @@ void WordCheck::checkVowel(const QString &word, Vowels group)
         clearEntry();
         return;
     }
-    if (tests_.InKurzLangVokalList(word, group == Vowels::Short ? Vowels::Long : Vowels::Short)) {
+    if (tests_.InKurzLangVokalList(word, other)) {
+        announce(*controls_.form, u"Falsch ! "_s + vowelOf(word, other));
         playSound(ground_, SoundId::WrongVowels);
     } else {
         ground_.boxes.ShowInfoBox(u"Bitte schreibe einen Wortstamm"_s, BoxSign::Write,
@@ -207,6 +219,7 @@ void WordCheck::collectForGame(const QString &word)
         return;
     lists_.GameCollectedList.add(word);
     controls_.Label1->setText(QString::number(lists_.GameCollectedList.count()));
+    announce(*controls_.form, spokenCount(*controls_.Label1));
     emit gameWordCollected(word);
 }
 

@@ -114,7 +114,7 @@ int StartApplication(QApplication &application, RealGround &real, InstanceLink &
         link.rest();
         kept = std::make_unique<Continuation>(continuationOf(form, facts.SizePercent));
         form.leave();
-        QCoreApplication::quit();
+        QCoreApplication::exit(); // a quit would close the window, and the link with it
     });
     return application.exec();
 }

@@ -26,6 +26,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr auto spokenCaption = "spokenCaption"; ///< a label's property
+
 /// A press and a release in the middle of the widget, where a hand could reach it: not behind a box.
 void pressAsHand(QWidget &widget, Qt::MouseButton button)
 {
@@ -88,7 +90,7 @@ public:
     QString localizedActionDescription(const QString &action) const override
     {
         const TwoPresses presses(widget()->toolTip());
-        return action == pressAction()      ? presses.left
+        return action == pressAction()      ? text(QAccessible::Name)
                : action == showMenuAction() ? presses.right
                                             : QAccessibleWidget::localizedActionDescription(action);
     }
@@ -209,6 +211,21 @@ public:
     }
 };
 
+/// A label that shows a mere number.
+class AccessibleCount : public QAccessibleWidget
+{
+public:
+    explicit AccessibleCount(QWidget *widget)
+        : QAccessibleWidget(widget, QAccessible::StaticText)
+    {}
+
+    QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Name ? spokenCount(static_cast<const QLabel &>(*widget()))
+                                         : QAccessibleWidget::text(kind);
+    }
+};
+
 template <typename Interface> QAccessibleInterface *make(QWidget &widget) { return new Interface(&widget); }
 template <QAccessible::Role role> QAccessibleInterface *makeTool(QWidget &widget)
 {
@@ -224,6 +241,12 @@ struct Kind
     const char16_t *className;
     QAccessibleInterface *(*make)(QWidget &widget);
 };
+
+/// Qt speaks for the labels that show words.
+QAccessibleInterface *makeLabel(QWidget &widget)
+{
+    return widget.property(spokenCaption).isValid() ? new AccessibleCount(&widget) : nullptr;
+}
 
 /// A window that is no dialog. Any other widget speaks as Qt lets it.
 QAccessibleInterface *makeWindow(QWidget &widget)
@@ -241,6 +264,7 @@ constexpr Kind kinds[] = {
     {u"Dropper", makePlain<QAccessible::Grouping>},
     {u"GradientPanel", makePlain<QAccessible::Grouping>},
     {u"PictureBox", [](QWidget &widget) { return static_cast<PictureBox &>(widget).makeAccessible(); }},
+    {u"QLabel", makeLabel},
     {u"QWidget", makeWindow},
 };
 
@@ -256,5 +280,12 @@ QAccessibleInterface *interfaceOf(const QString &className, QObject *object)
 }
 
 } // namespace
+
+void speakAs(QLabel &label, const QString &pattern) { label.setProperty(spokenCaption, pattern); }
+
+QString spokenCount(const QLabel &label)
+{
+    return label.text().isEmpty() ? QString() : label.property(spokenCaption).toString().arg(label.text());
+}
 
 void installAccessibleTools() { QAccessible::installFactory(interfaceOf); }

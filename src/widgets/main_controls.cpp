@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "widgets/main_controls.h"
 
+#include "widgets/accessible_tools.h"
 #include "widgets/alpha_panel.h"
 #include "widgets/announce.h"
 #include "widgets/click_label.h"
@@ -232,6 +233,7 @@ void makeGamePanel(C &c)
     c.Label1 = makeLabel(c.Picture3, "Label1");
     c.Label1->setAlignment(Qt::AlignCenter);
     c.Label1->hide();
+    speakAs(*c.Label1, QStringLiteral("Gesammelte Wörter: %1"));
     c.Image1 = make<ClickLabel>(c.Picture3, "Image1");
     c.Check4 = make<PressButton>(c.Picture3, "Check4");
     for (std::size_t kind = 0; kind < c.ChkVokal.size(); ++kind)

@@ -36,7 +36,7 @@ QString window_style::groupStyle() { return groups; }
 void window_style::fitToScreen(QWidget &window, QSize wished)
 {
     // The frame that a window manager draws round the window needs room too.
-    const QRect room = window.screen()->availableGeometry().adjusted(8, 32, -8, -16);
+    const QRect room = window.screen()->availableGeometry().adjusted(8, 16, -8, -16);
     const bool fits =
         window.testAttribute(Qt::WA_Resized) && room.size().boundedTo(window.size()) == window.size();
     if (!fits)

@@ -6,15 +6,11 @@ wortel_test(e2e SLOW TIMEOUT 600
         known_board.cpp
         tst_blind_child.cpp
         tst_board_by_hand.cpp
-        tst_chosen_words.cpp
         tst_first_board.cpp
-        tst_games_by_hand.cpp
         tst_interrupted.cpp
         tst_kept_boards.cpp
         tst_keys_alone.cpp
         tst_size_by_hand.cpp
-        tst_stems_by_hand.cpp
-        tst_memory_by_hand.cpp
         tst_words_by_hand.cpp
 )
 # The screen reader's end of the accessibility bus.

@@ -11,6 +11,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int noteStays = 3500; ///< milliseconds, until no short note lies over the board
+
 bool showsWortels(Desktop &desktop, qsizetype count)
 {
     const QRect board = desktop.boardArea();
@@ -46,6 +48,7 @@ private slots:
         desktop.drag(firstWortel(desktop), desktop.boardArea().center());
         copyFirstWortel(desktop);
         QVERIFY(showsWortels(desktop, 7));
+        Desktop::pause(noteStays);
         const QImage saved = desktop.boardPicture();
 
         // From the menu's end: quit, close, help, options, action, session; in it: load, save as.
@@ -64,6 +67,7 @@ private slots:
                               desktop.programFolder() + u"/stunde.wlx"_s));
         desktop.start({u"stunde.wlx"_s});
         QVERIFY(showsWortels(desktop, 7));
+        Desktop::pause(noteStays);
         desktop.keepPicture(u"session-restored"_s);
         QVERIFY(desktop.boardPicture() == saved);
 
@@ -85,6 +89,7 @@ private slots:
         copyFirstWortel(desktop);
         QVERIFY(showsWortels(desktop, 7));
         desktop.drag(firstWortel(desktop), desktop.boardArea().center());
+        Desktop::pause(noteStays);
         const QImage lost = desktop.boardPicture();
         QVERIFY(QFile::exists(backup));
         desktop.kill();
@@ -98,6 +103,7 @@ private slots:
         QVERIFY(desktop.waitForNoWindow(question));
         QVERIFY(!desktop.waitForWindow(mainWindow).isEmpty());
         QVERIFY(showsWortels(desktop, 7));
+        Desktop::pause(noteStays);
         desktop.keepPicture(u"board-recovered"_s);
         QVERIFY(desktop.boardPicture() == lost);
         QVERIFY(desktop.close());

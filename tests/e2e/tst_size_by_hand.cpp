@@ -10,6 +10,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int noteStays = 3500; ///< milliseconds, until no short note lies over the board
+
 /// The red tiles of the whole screen, which has only the board in this colour.
 bool showsWortels(Desktop &desktop, qsizetype count, int percent)
 {
@@ -43,6 +45,7 @@ private slots:
         const QPoint tile = tilesOn(desktop.screenshot(), desktop.boardArea(), colour::red).value(0).center();
         desktop.hold(u"shift"_s, [&] { desktop.click(tile, 3); });
         QVERIFY(showsWortels(desktop, 7, 100));
+        Desktop::pause(noteStays);
         const QImage before = desktop.screenshot();
 
         desktop.key(u"ctrl+plus"_s);
@@ -65,7 +68,7 @@ private slots:
 
         desktop.key(u"ctrl+minus ctrl+minus"_s);
         QVERIFY(showsWortels(desktop, 7, 100));
-        Desktop::pause(3500); // the note is gone
+        Desktop::pause(noteStays);
         QVERIFY(desktop.screenshot().copy(desktop.boardArea()) == before.copy(desktop.boardArea()));
         QVERIFY(desktop.close());
     }

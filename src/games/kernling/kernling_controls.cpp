@@ -7,6 +7,7 @@
 #include "games/kernling/word_list_box.h"
 #include "persistence/settings/option_fields.h"
 #include "platform/text_masks.h"
+#include "widgets/accessible_tools.h"
 #include "widgets/click_label.h"
 #include "widgets/gradient.h"
 #include "widgets/key_order.h"
@@ -306,7 +307,7 @@ QLayout *makeStemColumn(C &c, QWidget *group)
     c.Image1->hide();
     c.Label13 = makeLabel(group, "Label13", u"Punkte:"_s);
     c.Label8 = makeLabel(group, "Label8", u"0"_s);
-    c.Label8->setAccessibleName(u"Punkte"_s);
+    speakAs(*c.Label8, u"Punkte: %1"_s);
     c.Label13->hide();
     c.Label8->hide();
     auto *column = new QVBoxLayout;

@@ -226,6 +226,7 @@ void frmMemory::finishGame()
         message += u"\n\nDU HAST EINEN NEUEN REKORD AUFGESTELLT !!"_s;
         step([&] { best_.scores().saveRecord(clicks); });
         step([&] { best_.GetBestTimes(*kind_, clicks, message); });
+        activateWindow(); // behind its boxes the main window may have the keyboard
         BestScore_ = clicks;
         controls_.txtScores[4]->setText(QString::number(clicks));
     }

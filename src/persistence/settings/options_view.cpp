@@ -184,6 +184,7 @@ QWidget *OptionsView::makePage(const QString &name)
     auto *area = new QScrollArea(this);
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus); // it has no name that a reader could say, and its fields scroll it
     area->setWidget(page);
     // The paper of the window shows through.
     page->setAutoFillBackground(false);
