@@ -32,7 +32,7 @@ int main(int argc, char *argv[])
     }
     for (const auto scene :
          {scenes::boardAndBand, scenes::wordOfTiles, scenes::menus, scenes::wordsAndLists, scenes::retyping,
-          scenes::tip, scenes::options, scenes::stemGame, scenes::webPage, scenes::cards})
+          scenes::tip, scenes::options, scenes::chooser, scenes::stemGame, scenes::webPage, scenes::cards})
         scene(stage);
     return 0;
 }

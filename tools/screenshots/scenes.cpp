@@ -8,6 +8,8 @@
 #include "games/kernling/kernling_text.h"
 #include "games/paarlon/frm_memory.h"
 #include "games/paarlon/memory_card.h"
+#include "language/chooser/frm_choose_wortel.h"
+#include "language/chooser/mark_list.h"
 #include "shell/frm_main.h"
 #include "shell/rooms.h"
 #include "widgets/alpha_panel.h"
@@ -209,6 +211,32 @@ void scenes::options(Stage &stage)
                       Stage::play(300);
                       stage.keep(u"optionen"_s, *dialog, pageWidth);
                       dialog->findChild<QPushButton *>(u"cmdCancel"_s)->click();
+                  });
+    stage.close();
+}
+
+/// Words of two stems are found, and ten of them are drawn.
+void scenes::chooser(Stage &stage)
+{
+    stage.open(window);
+    Stage::during([&] { stage.form().rooms().wordChooser.open(); },
+                  [&] {
+                      auto *dialog = qobject_cast<frmChooseWortel *>(QApplication::activeModalWidget());
+                      if (dialog == nullptr)
+                          qFatal("The word chooser has not opened.");
+                      dialog->resize(837, 430);
+                      const ChooserControls &c = dialog->controls();
+                      MarkList *stems = c.morphemes[ChooserControls::Stem].list;
+                      std::vector<bool> marks(static_cast<std::size_t>(stems->rows().size()));
+                      marks.at(2) = marks.at(4) = true;
+                      stems->mark(marks);
+                      Stage::play(300);
+                      c.Check4->click();
+                      Stage::play(3000);
+                      c.Check5->click();
+                      Stage::play(1000);
+                      stage.keep(u"auswahl"_s, *dialog, pageWidth);
+                      dialog->close();
                   });
     stage.close();
 }

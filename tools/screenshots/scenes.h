@@ -16,6 +16,7 @@ void wordsAndLists(Stage &stage);
 void retyping(Stage &stage);
 void tip(Stage &stage);
 void options(Stage &stage);
+void chooser(Stage &stage);
 void stemGame(Stage &stage);
 void webPage(Stage &stage);
 void cards(Stage &stage);
