@@ -46,6 +46,7 @@ ReportWindow *frmMsnStyle::windowOf(int slot)
         window->setObjectName(QStringLiteral("frmMsnStyle(%1)").arg(slot));
         connect(window, &ReportWindow::sunk, this, [this, slot] { leave(slot); });
         connect(window, &ReportWindow::closePressed, this, [this, slot] { leave(slot); });
+        connect(window, &ReportWindow::overstays, this, [this] { wakeTools(); });
     }
     return window;
 }
@@ -81,8 +82,13 @@ void frmMsnStyle::leave(int slot)
     windowOf(slot)->drop();
     if (slot_ == slot)
         slot_ = 0;
+    wakeTools();
+    emit closed();
+}
+
+void frmMsnStyle::wakeTools()
+{
     restButtons(false);
     if (!controls_.Scroller->isHidden())
         controls_.Scroller->setEnabled(true);
-    emit closed();
 }

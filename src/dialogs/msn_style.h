@@ -42,6 +42,7 @@ private:
     ReportWindow *windowOf(int slot);
     void restButtons(bool resting);
     void leave(int slot);
+    void wakeTools();
 
     Ground &ground_;
     MainControls &controls_;

@@ -137,8 +137,7 @@ ReportWindow::ReportWindow(QWidget *parent)
     connect(frame_, &QTimer::timeout, this, [this] { isOver_ && !held_ ? sink() : grow(); });
     connect(AlertTimer_, &QTimer::timeout, this, [this] {
         isOver_ = true;
-        if (!held_)
-            frame_->start();
+        held_ ? emit overstays() : frame_->start();
     });
     setMouseTracking(true);
     for (QWidget *part : findChildren<QWidget *>())
@@ -254,6 +253,8 @@ void ReportWindow::hold()
     held_ = true;
     qApp->installEventFilter(this);
     frame_->start(); // one that was sinking comes up again
+    if (isOver_)
+        emit overstays();
 }
 
 void ReportWindow::letGo()

@@ -66,6 +66,8 @@ public:
 
 signals:
     void sunk();
+    /// Its time is over, and a pointer that rests on it keeps it up.
+    void overstays();
     void closePressed();
 
 protected:

@@ -93,6 +93,7 @@ private slots:
         point(Qt::MouseEventNotSynthesized);
         QTest::qWait(800);
         QVERIFY(desk.isUp(1));
+        QVERIFY2(!desk.tools().contains(u'-'), "the tools wait for its time only");
         QEvent leave(QEvent::Leave);
         QApplication::sendEvent(window, &leave);
         QTRY_VERIFY(window->height() < window->fullHeight());
