@@ -39,8 +39,8 @@ struct Words
 struct LiveGround : TestGround
 {
     LoopPump livePump{gate};
-    Ground live{AppFolder, log,   gatedBoxes, gatedDialogs, printer, rnd,
-                sound,     clock, livePump,   store,        options, gate};
+    Ground live{AppFolder, log,      gatedBoxes, gatedDialogs, printer, rnd,  sound,
+                clock,     livePump, store,      options,      gate,    notes};
 };
 
 int search(const Words &words, LiveGround &t)

@@ -55,10 +55,11 @@ double largestDragToChangedRectangle()
             QCoreApplication::processEvents(); // paints it
         }
     };
-    const auto rectangles = [&] {
+    const auto rectangles = [&] { // with the tile in them, which is a part of the picture
+        const QSize held = hand->controls.BtnMove1->size();
         for (int i = 0; i < moves; ++i) {
-            const QSize held = hand->controls.BtnMove1->size();
             hand->controls.picCanvas->repaint(QRect(place(i - 1), held).united(QRect(place(i), held)));
+            hand->controls.BtnMove1->repaint();
         }
     };
     return bench::ratio(drag, rectangles);

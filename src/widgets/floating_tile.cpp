@@ -3,7 +3,6 @@
 #include "widgets/floating_tile.h"
 
 #include <QPainter>
-#include <QStaticText>
 
 namespace {
 constexpr QPoint textPlace{2, 5}; ///< from the corner of a tile to that of its text
@@ -17,11 +16,13 @@ FloatingTile::FloatingTile(QWidget *parent)
     QFont bold = font();
     bold.setBold(true);
     setFont(bold);
+    laid_.setTextFormat(Qt::PlainText);
 }
 
 void FloatingTile::setTile(const QString &caption, const QColor &back, const QColor &text)
 {
     caption_ = caption;
+    laid_.setText(caption);
     back_ = back;
     text_ = text;
     update();
@@ -39,9 +40,7 @@ void FloatingTile::paintEvent(QPaintEvent *)
     painter.fillRect(rect(), Qt::white);
     painter.fillRect(rect().adjusted(1, 1, -1, -1), back_);
     // Laid out and placed as on the board, so that the letters stand still when the tile is picked up.
-    QStaticText laid(caption_);
-    laid.setTextFormat(Qt::PlainText);
     painter.setPen(text_);
     painter.scale(scale_, scale_);
-    painter.drawStaticText(textPlace, laid);
+    painter.drawStaticText(textPlace, laid_);
 }

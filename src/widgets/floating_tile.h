@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QStaticText>
 #include <QWidget>
 
 /// The floating copy of a held tile, `BtnMove1`: it stands over the board and lets pointer events through.
@@ -24,6 +25,7 @@ protected:
 
 private:
     QString caption_;
+    QStaticText laid_;
     QColor back_;
     QColor text_;
     double scale_ = 1;
