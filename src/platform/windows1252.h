@@ -4,7 +4,7 @@
 
 #include <QByteArray>
 #include <QByteArrayView>
-#include <QString>
+#include <QStringList>
 
 #include <optional>
 
