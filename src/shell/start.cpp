@@ -187,7 +187,9 @@ int runRound(QApplication &application, const ProgramScale &scale, InstanceLink 
 /// What the settings say, before there is an application object.
 int storedSize()
 {
-    return program_size::wishOf(SettingsFile().GetSetting(u"Settings"_s, u"ProgramSize"_s, {}));
+    const SettingRow &row = settingRow(Setting::ProgramSize);
+    return program_size::wishOf(
+        SettingsFile().GetSetting(QLatin1String(row.section), QLatin1String(row.key), {}));
 }
 
 } // namespace

@@ -58,7 +58,7 @@ private slots:
         rig.lay(prefix, 1, 2, u"ver"_s);
         rig.lay(wortel, 30, 40, QString(70000, u'a'));
         rig.lay(suffix, -5, 32767, u"ung\t\"x\""_s);
-        rig.lay({0x123456, 0, u"", u"", 'X', 0, BoxStyle::Plain}, 3, 3,
+        rig.lay({0x123456, 0, u"", u"", u"", 'X', 0, BoxStyle::Plain}, 3, 3,
                 u"fremd"_s); // of a colour that no kind has
         const QStringList before = rig.described();
         rig.backup.SaveMyObjects(rig.path);

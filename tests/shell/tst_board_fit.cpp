@@ -6,6 +6,7 @@
 #include "widgets/colour.h"
 #include "widgets/gradient.h"
 
+#include <QAccessible>
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
@@ -99,6 +100,26 @@ private slots:
         QCOMPARE(house.menu.lastName, MenuName::WortelMenu);
         QVERIFY((house.menu.lastPosition - house.controls.picCanvas->mapToGlobal(QPoint(205, 155)))
                     .manhattanLength() <= 2);
+    }
+
+    void keysAndReadersMeetWhatTheySee()
+    {
+        House house;
+        house.open(0);
+        house.form.show();
+        house.form.activateWindow();
+        house.controls.picCanvas->setFocus();
+        TestHouse::settle();
+        const cWortel &far = *house.r.store.tiles().front();
+        house.r.focus.choose(&far);
+        house.r.focus.setByKeys(true);
+        const QPoint before(far.xLeft(), far.yTop());
+        const QPoint seen = house.controls.picCanvas->mapToGlobal(house.seenAt(before));
+        QAccessibleInterface *board = QAccessible::queryAccessibleInterface(house.controls.picCanvas);
+        QCOMPARE(board->child(0)->rect().topLeft(), seen);
+        QCOMPARE(board->childAt(seen.x() + 4, seen.y() + 4), board->child(0));
+        QTest::keyClick(house.controls.picCanvas, Qt::Key_Left, Qt::ControlModifier);
+        QCOMPARE(QPoint(far.xLeft(), far.yTop()), before - QPoint(10, 0));
     }
 
     void aNewTileLiesUnderThePointer()

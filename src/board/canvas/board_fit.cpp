@@ -18,11 +18,6 @@ namespace {
 constexpr int fitAndStay = 10; ///< the code of the buttons "Einpassen" and "So lassen"
 constexpr int toFit = 0;
 
-QRect areaOf(const cWortel &tile)
-{
-    return {QPoint(tile.xLeft(), tile.yTop()), QPoint(tile.right(), tile.bottom())};
-}
-
 } // namespace
 
 BoardFit::BoardFit(Ground &ground, Canvas &canvas)
@@ -43,7 +38,7 @@ QRect BoardFit::allTiles() const
     QRect all;
     for (const auto &tile : canvas_.store().tiles())
         if (tile->Extent() > 0)
-            all = all.united(areaOf(*tile));
+            all = all.united(tile->box());
     return all;
 }
 
@@ -51,7 +46,7 @@ bool BoardFit::isWanted() const
 {
     const TileList &tiles = canvas_.store().tiles();
     return std::any_of(tiles.begin(), tiles.end(), [seen = room()](const auto &tile) {
-        return tile->Extent() > 0 && !seen.contains(areaOf(*tile).center());
+        return tile->Extent() > 0 && !seen.contains(tile->box().center());
     });
 }
 

@@ -38,6 +38,10 @@ struct BoardView
     bool isPlain() const { return scale == 1 && origin.isNull(); }
     int length(int onBoard) const { return static_cast<int>(std::lround(onBoard * scale)); }
     QPoint toCanvas(QPoint onBoard) const { return (QPointF(onBoard - origin) * scale).toPoint(); }
+    QRect toCanvas(const QRect &onBoard) const
+    {
+        return {toCanvas(onBoard.topLeft()), QSize(length(onBoard.width()), length(onBoard.height()))};
+    }
     QPoint toBoard(QPoint onCanvas) const { return origin + (QPointF(onCanvas) / scale).toPoint(); }
     QTransform transform() const
     {

@@ -14,11 +14,6 @@
 
 namespace {
 
-QRect boxOf(const cWortel &tile)
-{
-    return {QPoint(tile.xLeft(), tile.yTop()), QPoint(tile.right(), tile.bottom())};
-}
-
 /// The free pixels between two stretches, 0 if they overlap.
 int gap(int from, int to, int otherFrom, int otherTo)
 {
@@ -50,6 +45,7 @@ bool comesBefore(const cWortel *one, const cWortel *other)
 
 BoardFocus::BoardFocus(const MainControls &controls, Canvas &canvas)
     : controls_(controls)
+    , canvas_(canvas)
     , store_(canvas.store())
 {
     connect(&canvas, &Canvas::drawn, this, &BoardFocus::findAgain);
@@ -115,15 +111,6 @@ void BoardFocus::findAgain()
 
 // Going about --------------------------------------------------------------------------------------
 
-std::vector<const cWortel *> BoardFocus::shown() const
-{
-    std::vector<const cWortel *> tiles;
-    for (const auto &tile : store_.tiles())
-        if (store_.filter().shows(tile->BGColor))
-            tiles.push_back(tile.get());
-    return tiles;
-}
-
 bool BoardFocus::go(Go where)
 {
     const bool inOrderOfReading =
@@ -141,8 +128,8 @@ const cWortel *BoardFocus::nearest(Go where) const
     const QRect from = frame();
     const cWortel *best = nullptr;
     int shortest = std::numeric_limits<int>::max();
-    for (const cWortel *tile : shown())
-        if (const std::optional<int> step = stepTo(from, boxOf(*tile), where); step && *step < shortest) {
+    for (const cWortel *tile : store_.shown())
+        if (const std::optional<int> step = stepTo(from, tile->box(), where); step && *step < shortest) {
             shortest = *step;
             best = tile;
         }
@@ -152,7 +139,7 @@ const cWortel *BoardFocus::nearest(Go where) const
 /// Reaches tiles that lie exactly on each other, too.
 const cWortel *BoardFocus::inOrder(Go where) const
 {
-    std::vector<const cWortel *> tiles = shown();
+    std::vector<const cWortel *> tiles = store_.shown();
     if (tiles.empty())
         return nullptr;
     std::stable_sort(tiles.begin(), tiles.end(), comesBefore);
@@ -171,7 +158,7 @@ bool BoardFocus::chooseNearest()
     const auto far = [this](const cWortel *tile) {
         return (QPoint(tile->xLeft(), tile->yTop()) - mark_.place).manhattanLength();
     };
-    const std::vector<const cWortel *> tiles = shown();
+    const std::vector<const cWortel *> tiles = store_.shown();
     const auto found = std::min_element(tiles.begin(), tiles.end(), [&](const auto *one, const auto *other) {
         return far(one) < far(other);
     });
@@ -184,7 +171,7 @@ bool BoardFocus::chooseNearest()
 QRect BoardFocus::frame() const
 {
     const cWortel *tile = chosen();
-    return tile == nullptr ? QRect() : boxOf(*tile);
+    return tile == nullptr ? QRect() : tile->box();
 }
 
 Press BoardFocus::press() const
@@ -205,7 +192,10 @@ void BoardFocus::setByKeys(bool byKeys)
 
 bool BoardFocus::isSeen() const { return byKeys_ && controls_.picCanvas->hasFocus() && chosen() != nullptr; }
 
-void BoardFocus::showFrame() { controls_.picCanvas->setFrame(isSeen() ? frame() : QRect()); }
+void BoardFocus::showFrame()
+{
+    controls_.picCanvas->setFrame(isSeen() ? canvas_.view().toCanvas(frame()) : QRect());
+}
 
 bool BoardFocus::eventFilter(QObject *watched, QEvent *event)
 {

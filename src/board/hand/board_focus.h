@@ -76,9 +76,9 @@ private:
     void showFrame();
     const cWortel *nearest(Go where) const;
     const cWortel *inOrder(Go where) const;
-    std::vector<const cWortel *> shown() const;
 
     const MainControls &controls_;
+    const Canvas &canvas_;
     const TileStore &store_;
     const cWortel *tile_ = nullptr; ///< looked into only after it was found in the store
     Mark mark_;                     ///< of the chosen tile, or of the last one

@@ -29,9 +29,6 @@ constexpr int allLists = 3;
 /// Pixels from a filter button's left edge to that of its list.
 constexpr std::array<int, 3> listShift{-11, -20, 8};
 
-/// In the order of the filters' indexes.
-constexpr std::array<const char16_t *, 3> listNames{u"Wortel", u"Präfix", u"Suffix"};
-
 } // namespace
 
 MorphemeLists::MorphemeLists(Ground &ground, const MainControls &controls, QObject *parent)
@@ -99,8 +96,7 @@ void MorphemeLists::OptType_MouseDown(int index, Qt::MouseButton button)
             if (list(index)->isHidden())
                 return;
             if (list(index)->store()->isEmpty())
-                ground_.notes.tell(note::listEmpty,
-                                   QString::fromUtf16(listNames.at(static_cast<std::size_t>(index))));
+                ground_.notes.tell(note::listEmpty, QString::fromUtf16(kindAt(index).name));
             playOpened();
         });
     }

@@ -51,8 +51,11 @@ bool opensMenu(const QKeyEvent &event)
            (event.key() == Qt::Key_F10 && event.modifiers().testFlag(Qt::ShiftModifier));
 }
 
-/// A coordinate moved by `by`, but not beyond `last` in the way it goes; a tile that lies beyond comes back.
-int moved(int from, int by, int last) { return by == 0 ? from : std::clamp(from + by, 0, std::max(0, last)); }
+/// A coordinate moved by `by`, within what is seen; a tile that lies beyond comes back.
+int moved(int from, int by, int first, int last)
+{
+    return by == 0 ? from : std::clamp(from + by, first, std::max(first, last));
+}
 
 } // namespace
 
@@ -128,9 +131,11 @@ void TileKeys::move(QPoint by)
     rooms_.pointer.letGo();
     cWortel &tile = *rooms_.canvas.store().tiles()[static_cast<std::size_t>(index)];
     const QPoint before(tile.xLeft(), tile.yTop());
-    const QPoint last = rooms_.pointer.farthest();
-    tile.setXLeft(moved(before.x(), by.x(), last.x()));
-    tile.setYTop(moved(before.y(), by.y(), last.y()));
+    const BoardView &view = rooms_.canvas.view();
+    const QPoint first = view.toBoard({0, 0});
+    const QPoint last = view.toBoard(rooms_.pointer.farthest());
+    tile.setXLeft(moved(before.x(), by.x(), first.x(), last.x()));
+    tile.setYTop(moved(before.y(), by.y(), first.y(), last.y()));
     if (QPoint(tile.xLeft(), tile.yTop()) == before)
         return;
     moved_ = true;
@@ -159,8 +164,8 @@ void TileKeys::checkWord()
 void TileKeys::openMenu()
 {
     const Press press = rooms_.focus.press();
-    const QRect tile = rooms_.focus.frame();
     if (press.kind != nullptr) {
+        const QRect tile = rooms_.canvas.view().toCanvas(rooms_.focus.frame());
         rooms_.pointer.showMenu(press, controls_.picCanvas->mapToGlobal(tile.bottomLeft()));
         return;
     }

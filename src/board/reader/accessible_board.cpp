@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "board/reader/accessible_board.h"
 
+#include "board/canvas/board_view.h"
 #include "board/reader/accessible_tile.h"
 #include "board/reader/board_reader.h"
 #include "widgets/picture_box.h"
@@ -46,7 +47,7 @@ int AccessibleBoard::indexOfChild(const QAccessibleInterface *child) const
 /// Of tiles that overlap, the one that a press would take.
 QAccessibleInterface *AccessibleBoard::childAt(int x, int y) const
 {
-    const QPoint point = reader_.board().mapFromGlobal(QPoint(x, y));
+    const QPoint point = reader_.view().toBoard(reader_.board().mapFromGlobal(QPoint(x, y)));
     for (const cWortel *tile : reader_.shown())
         if (tile->Inside(point.x(), point.y()))
             return reader_.interfaceOf(tile);

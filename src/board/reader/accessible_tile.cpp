@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "board/reader/accessible_tile.h"
 
+#include "board/canvas/board_view.h"
 #include "board/reader/board_reader.h"
 #include "board/reader/spoken_tile.h"
 #include "widgets/picture_box.h"
@@ -27,7 +28,7 @@ QString AccessibleTile::text(QAccessible::Text kind) const
     case QAccessible::Name:
         return spoken_tile::name(*tile_);
     case QAccessible::Description:
-        return spoken_tile::place(*tile_, reader_.board().size());
+        return spoken_tile::place(reader_.view().toCanvas(tile_->box()), reader_.board().size());
     default:
         return {};
     }
@@ -37,8 +38,8 @@ QRect AccessibleTile::rect() const
 {
     if (present() == nullptr)
         return {};
-    return {reader_.board().mapToGlobal(QPoint(tile_->xLeft(), tile_->yTop())),
-            QSize(tile_->Extent(), cWortel::height)};
+    const QRect box = reader_.view().toCanvas(tile_->box());
+    return {reader_.board().mapToGlobal(box.topLeft()), box.size()};
 }
 
 QAccessible::State AccessibleTile::state() const

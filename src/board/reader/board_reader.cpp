@@ -34,6 +34,7 @@ void tell(QAccessibleInterface *about, QAccessible::Event type)
 
 BoardReader::BoardReader(const MainControls &controls, Canvas &canvas, BoardFocus &focus)
     : controls_(controls)
+    , canvas_(canvas)
     , store_(canvas.store())
     , focus_(focus)
 {
@@ -58,14 +59,7 @@ PictureBox &BoardReader::board() const { return *controls_.picCanvas; }
 
 // The tree -----------------------------------------------------------------------------------------
 
-std::vector<const cWortel *> BoardReader::shown() const
-{
-    std::vector<const cWortel *> tiles;
-    for (const auto &tile : store_.tiles())
-        if (store_.filter().shows(tile->BGColor))
-            tiles.push_back(tile.get());
-    return tiles;
-}
+const BoardView &BoardReader::view() const { return canvas_.view(); }
 
 bool BoardReader::has(const cWortel *tile) const
 {
@@ -193,7 +187,8 @@ void BoardReader::tellDropped()
     changed.selected = true;
     QAccessibleStateChangeEvent event(interfaceOf(tile), changed);
     QAccessible::updateAccessibility(&event);
-    announce(board(), u"Abgelegt: %1, %2"_s.arg(heldName_, spoken_tile::place(*tile, board().size())));
+    announce(board(), u"Abgelegt: %1, %2"_s.arg(
+                          heldName_, spoken_tile::place(view().toCanvas(tile->box()), board().size())));
 }
 
 void BoardReader::tellFocus()

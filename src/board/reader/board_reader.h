@@ -12,6 +12,7 @@
 class BoardFocus;
 class Canvas;
 class PictureBox;
+struct BoardView;
 struct MainControls;
 
 /// Tells a screen reader of the board: every tile that the filter shows is a child of it, in the store's
@@ -27,8 +28,10 @@ public:
     ~BoardReader() override;
 
     PictureBox &board() const;
+    /// How the board is seen.
+    const BoardView &view() const;
     /// The tiles that the filter shows.
-    std::vector<const cWortel *> shown() const;
+    std::vector<const cWortel *> shown() const { return store_.shown(); }
     /// What speaks for one of the store's tiles.
     QAccessibleInterface *interfaceOf(const cWortel *tile);
     /// True if the store has that tile and the filter shows it.
@@ -69,6 +72,7 @@ private:
     void onWord(const QString &word);
 
     const MainControls &controls_;
+    const Canvas &canvas_;
     TileStore &store_;
     BoardFocus &focus_;
     std::unordered_map<const cWortel *, Known> known_;

@@ -11,7 +11,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr std::array kinds{u"Wortel", u"Präfix", u"Suffix"}; // by `filterIndex`
 constexpr std::array<std::array<const char16_t *, 3>, 3> ninths{{
     {u"oben links", u"oben in der Mitte", u"oben rechts"},
     {u"links in der Mitte", u"in der Mitte", u"rechts in der Mitte"},
@@ -30,13 +29,12 @@ QString spoken_tile::name(const cWortel &tile)
     const QString text = tileText(tile.txt).trimmed();
     const TileKind *kind = kindOfColour(tile.BGColor);
     return (text.isEmpty() ? u"leer"_s : text) + u", "_s +
-           (kind == nullptr ? u"Baustein"_s
-                            : QString::fromUtf16(kinds.at(static_cast<std::size_t>(kind->filterIndex))));
+           (kind == nullptr ? u"Baustein"_s : QString::fromUtf16(kind->name));
 }
 
-QString spoken_tile::place(const cWortel &tile, const QSize &board)
+QString spoken_tile::place(const QRect &box, const QSize &picture)
 {
-    const int x = (tile.xLeft() + tile.right()) / 2;
-    const int y = (tile.yTop() + tile.bottom()) / 2;
-    return QString::fromUtf16(ninths.at(third(y, board.height())).at(third(x, board.width())));
+    const QPoint middle = box.center();
+    return QString::fromUtf16(
+        ninths.at(third(middle.y(), picture.height())).at(third(middle.x(), picture.width())));
 }

@@ -11,7 +11,7 @@ namespace spoken_tile {
 
 /// Its text and kind: "ver, Präfix".
 QString name(const cWortel &tile);
-/// Where on a board of that size (pixels) its middle lies, by ninths: "oben links", "in der Mitte".
-QString place(const cWortel &tile, const QSize &board);
+/// Where in a picture of that size (pixels) the middle of its box lies, by ninths: "oben links".
+QString place(const QRect &box, const QSize &picture);
 
 } // namespace spoken_tile

@@ -4,6 +4,8 @@
 
 #include "board/tiles/tile_kind.h"
 
+#include <QRect>
+
 /// What a tile needs of a drawing surface: it draws itself with these four calls. The board's canvas is one;
 /// a test or a printer can be another.
 class TileSurface
@@ -38,6 +40,8 @@ public:
     void setExtent(int extent);
     int right() const { return right_; }
     int bottom() const { return bottom_; }
+    /// All that it covers, both edges inside.
+    QRect box() const { return {QPoint(xLeft_, yTop_), QPoint(right_, bottom_)}; }
 
     QString txt;
     bool Selected = false; ///< held by the pointer; then it is drawn with no outline

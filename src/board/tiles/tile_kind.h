@@ -15,6 +15,7 @@ struct TileKind
 {
     Colour back;
     Colour text;
+    const char16_t *name;        ///< "Wortel", "Präfix", "Suffix": of one tile, or of its list
     const char16_t *plural;      ///< "Wortele", "Präfixe", "Suffixe": what is told
     const char16_t *sessionWord; ///< "Prefix", "Wortel", "Suffix": session files
     char backupLetter;           ///< 'P', 'M', 'S': the backup file
@@ -23,9 +24,9 @@ struct TileKind
 };
 
 inline constexpr std::array<TileKind, 3> tileKinds{{
-    {colours::wortelBack, colours::wortelText, u"Wortele", u"Wortel", 'M', 0, BoxStyle::Wortel},
-    {colours::prefixBack, colours::prefixText, u"Präfixe", u"Prefix", 'P', 1, BoxStyle::Prefix},
-    {colours::suffixBack, colours::suffixText, u"Suffixe", u"Suffix", 'S', 2, BoxStyle::Suffix},
+    {colours::wortelBack, colours::wortelText, u"Wortel", u"Wortele", u"Wortel", 'M', 0, BoxStyle::Wortel},
+    {colours::prefixBack, colours::prefixText, u"Präfix", u"Präfixe", u"Prefix", 'P', 1, BoxStyle::Prefix},
+    {colours::suffixBack, colours::suffixText, u"Suffix", u"Suffixe", u"Suffix", 'S', 2, BoxStyle::Suffix},
 }};
 
 /// The kind of a back colour, or nullptr for a colour that no kind has.

@@ -134,6 +134,15 @@ void TileStore::forget(const cWortel *tile)
         current_ = nullptr;
 }
 
+std::vector<const cWortel *> TileStore::shown() const
+{
+    std::vector<const cWortel *> found;
+    for (const auto &tile : tiles_)
+        if (filter_.shows(tile->BGColor))
+            found.push_back(tile.get());
+    return found;
+}
+
 int TileStore::indexAt(int x, int y) const
 {
     const auto found =

@@ -102,6 +102,8 @@ public:
     TileList copies() const;
     /// Removes one tile. Throws RuntimeError 9 for an index that is not there.
     void removeAt(int index);
+    /// The tiles that the filter shows, in store order.
+    std::vector<const cWortel *> shown() const;
     /// Index of the first tile with `Inside(x, y)`, or -1.
     int indexAt(int x, int y) const;
 
