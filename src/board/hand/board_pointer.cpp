@@ -206,9 +206,11 @@ void BoardPointer::showMenu(const Press &press, const QPoint &corner)
 QPoint BoardPointer::farthest() const
 {
     const BoardMeasures &window = store_.measures();
+    const BoardView &view = rooms_.canvas.view(); // tiles are as small as all else, and so is what they need
     // Under the band a tile could never be taken again, so it ends above it, however high the band is.
-    return {window.ScaleWidth() - rightMargin,
-            std::min(window.ScaleHeight() - lowerMargin, window.BandTop() - Canvas::heldHeight)};
+    return {window.ScaleWidth() - view.length(rightMargin),
+            std::min(window.ScaleHeight() - view.length(lowerMargin),
+                     window.BandTop() - view.length(Canvas::heldHeight))};
 }
 
 void BoardPointer::picCanvas_MouseMove(Qt::MouseButtons buttons, const QPoint &point)
