@@ -105,7 +105,8 @@ public:
         return true;
     }
 
-    /// Flushes and renames. Returns 0 or the number of the error.
+    /// Flushes, as far as the file system (a share of a network, say) can, and renames. Returns 0 or the
+    /// number of the error.
     int takePlaceOf(const QString &target)
     {
         const QByteArray to = QFile::encodeName(target);
@@ -113,7 +114,8 @@ public:
         {};
         const bool replaces = lstat(to.constData(), &old) == 0 && S_ISREG(old.st_mode);
         const mode_t mode = replaces ? old.st_mode & 0777 : 0666 & ~creationMask();
-        if (fchmod(handle(), mode) != 0 || fsync(handle()) != 0)
+        (void)fchmod(handle(), mode); // where modes cannot be set, a private file is better than none
+        if (fsync(handle()) != 0 && errno != EINVAL && errno != ENOSYS && errno != EOPNOTSUPP)
             return errno == ENOSPC || errno == EDQUOT ? RuntimeError::DiskFull : RuntimeError::PathAccess;
         if (std::rename(QFile::encodeName(fileName()).constData(), to.constData()) != 0)
             return errno == EPERM || errno == EACCES ? RuntimeError::PermissionDenied

@@ -116,6 +116,9 @@ ShortNote::ShortNote(QWidget *window, const QWidget *board, const QWidget *band)
         text_.clear();
         hide();
     });
+    for (const QWidget *part : {board, band})
+        if (part != nullptr)
+            connect(part, &QObject::destroyed, this, &QWidget::hide); // the window goes, piece by piece
     hide();
 }
 

@@ -126,7 +126,7 @@ private slots:
         columns<QByteArray>("manifest");
         QTest::newRow("none") << none;
         QTest::newRow("empty") << QByteArray();
-        QTest::newRow("rubbish") << QByteArray("\0\xff\n\n  \n- text\n", 16);
+        QTest::newRow("rubbish") << QByteArray("\0\xff\n\n  \n- text\n", 14);
         QTest::newRow("no sums") << QByteArray("1.0.0 abc\n../x text/Ä ODER E.txt\n");
     }
     void aFolderWithoutManifest()

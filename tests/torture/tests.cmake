@@ -2,6 +2,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 wortel_test(torture SLOW TIMEOUT 600
     SOURCES
+        ../../tools/soak/soak_callers.cpp
         ../../tools/soak/soak_ground.cpp
         ../../tools/soak/soak_hand.cpp
         tst_soak.cpp

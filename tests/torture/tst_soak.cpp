@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/frm_main.h"
+#include "shell/hand_over.h"
 #include "soak/soak_gauge.h"
 #include "soak/soak_hand.h"
 #include "support/registry.h"
@@ -94,6 +95,7 @@ private:
         ground.boxes.setMainWindow(&form);
         if (!form.Form_Load())
             return u"it does not start"_s;
+        hand_over::receive(ground.link, ground.ground, form);
         form.show();
         SoakHand hand(form, ground, seed, trail);
         const QString fault = hand.play(100 + static_cast<int>(seed * 7919 % 500));

@@ -7,6 +7,7 @@
 #include "platform/gate.h"
 #include "platform/gated_boxes.h"
 #include "platform/ground.h"
+#include "platform/instance_link.h"
 #include "platform/log.h"
 #include "platform/notes.h"
 #include "platform/options.h"
@@ -14,6 +15,7 @@
 #include "platform/settings_file.h"
 #include "platform/system_clock.h"
 #include "platform/system_printer.h"
+#include "soak/soak_callers.h"
 #include "support/watchful_application.h"
 #include "torture/quick_seams.h"
 
@@ -102,4 +104,6 @@ struct SoakGround
     GatedFileDialogs gatedDialogs{dialogs, gate};
     Ground ground{AppFolder, log,  gatedBoxes, gatedDialogs, printer, rnd,  sound,
                   clock,     pump, store,      options,      gate,    notes};
+    InstanceLink link{folder.filePath(QStringLiteral("link"))};
+    SoakCallers callers{folder.filePath(QStringLiteral("link"))};
 };

@@ -170,8 +170,9 @@ void SoakHand::rest()
         else
             sendKey(front(), how == 1 ? Qt::Key_Return : Qt::Key_Escape, Qt::NoModifier, {});
     } else if (++calm_ >= calmSteps) {
-        const QString trouble =
-            TestHouse::troubleOf(form_.rooms(), form_.controls(), form_.play(), ground_.gate);
+        QString trouble = TestHouse::troubleOf(form_.rooms(), form_.controls(), form_.play(), ground_.gate);
+        if (!ground_.callers.look() || ground_.link.waiting() > 0)
+            trouble += u"a later start's sessions were not taken"_s;
         if (!trouble.isEmpty() && !since_.hasExpired(reportStands)) {
             calm_ = 0;
             return;
@@ -352,13 +353,22 @@ void SoakHand::resizeWindow()
 void SoakHand::secondStart()
 {
     const QStringList files = ground_.dialogs.files();
-    QString text = files.at(below(static_cast<int>(files.size())));
+    QStringList arguments{files.at(below(static_cast<int>(files.size())))};
     if (oneIn(4))
-        text += u' ' + files.at(below(static_cast<int>(files.size())));
+        arguments << files.at(below(static_cast<int>(files.size())));
     else if (oneIn(4))
-        text = oneIn(2) ? u"/L"_s : u"quatsch /x"_s;
-    note(u"second start: "_s + text);
-    form_.HiddenText_Change(text);
+        arguments = oneIn(2) ? QStringList{u"/L"_s} : QStringList{u"quatsch"_s, u"/x"_s};
+    if (oneIn(2))
+        arguments.replaceInStrings(u"\\"_s, u"/"_s); // as a file manager gives them
+    note(u"second start: "_s + arguments.join(u' '));
+    if (oneIn(6)) {
+        QByteArray rubbish(below(200), '\0');
+        for (char &byte : rubbish)
+            byte = static_cast<char>(below(oneIn(2) ? 256 : 2));
+        ground_.callers.babble(rubbish, oneIn(2));
+    } else if (!ground_.callers.call(arguments)) {
+        note(u"cannot be reached"_s); // too many wait already; a real one tries again
+    }
 }
 
 void SoakHand::dropFile()
