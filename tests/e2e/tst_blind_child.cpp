@@ -154,6 +154,7 @@ ReaderBus::Node ReaderBus::findBelow(const Node &node, const QString &name)
         child.path = path.path();
         found = findBelow(child, name);
     }
+    children.endArray();
     return found;
 }
 

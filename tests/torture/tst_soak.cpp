@@ -7,6 +7,7 @@
 #include "support/registry.h"
 
 #include <QElapsedTimer>
+#include <QPixmapCache>
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
@@ -73,6 +74,7 @@ private slots:
             if (!fault.isEmpty())
                 qWarning().noquote() << lastOf(trail);
             QVERIFY2(fault.isEmpty(), qPrintable(u"seed %1, "_s.arg(seed) + fault));
+            QPixmapCache::clear(); // the style keeps pictures of every size it has drawn, up to ten megabytes
             const SoakSample sample = SoakSample::now();
             gauge.add(sample);
             curve.write(u"%1,%2,%3,%4,%5,%6\n"_s.arg(time.elapsed() / 1000)
