@@ -6,7 +6,6 @@
 #include "platform/gate.h"
 #include "widgets/opening_press.h"
 
-#include <QIcon>
 #include <QMenu>
 
 #include <algorithm>
@@ -15,13 +14,6 @@ namespace {
 
 constexpr int fullRow = 30; ///< comfortable for a finger
 constexpr int lowestRow = 24;
-
-QIcon menuIcon(int number)
-{
-    if (number < 0)
-        return {};
-    return QIcon(QStringLiteral(":/icons/menu/%1.svg").arg(number, 2, 10, QLatin1Char('0')));
-}
 
 /// A menu takes "&" for the mark of a mnemonic; list names may hold one.
 QString menuText(const MenuItem &item)
@@ -73,13 +65,13 @@ void PopupMenu::fill(QMenu &menu, MenuName name, const std::vector<MenuItem> &it
             menu.addSeparator();
             break;
         case MenuItem::Kind::Heading:
-            menu.addSection(menuIcon(item.icon), item.caption);
+            menu.addSection(icon(item.icon), item.caption);
             break;
         case MenuItem::Kind::Submenu:
             addSubmenu(menu, name, item);
             break;
         case MenuItem::Kind::Command: {
-            QAction *action = menu.addAction(menuIcon(item.icon), menuText(item));
+            QAction *action = menu.addAction(icon(item.icon), menuText(item));
             action->setEnabled(item.enabled);
             action->setCheckable(item.checked);
             action->setChecked(item.checked);
@@ -90,9 +82,19 @@ void PopupMenu::fill(QMenu &menu, MenuName name, const std::vector<MenuItem> &it
     }
 }
 
+QIcon PopupMenu::icon(int number)
+{
+    if (number < 0)
+        return {};
+    QIcon &icon = icons_[number];
+    if (icon.isNull())
+        icon = QIcon(QStringLiteral(":/icons/menu/%1.svg").arg(number, 2, 10, QLatin1Char('0')));
+    return icon;
+}
+
 void PopupMenu::addSubmenu(QMenu &menu, MenuName name, const MenuItem &item)
 {
-    QMenu *submenu = menu.addMenu(menuIcon(item.icon), menuText(item));
+    QMenu *submenu = menu.addMenu(icon(item.icon), menuText(item));
     submenu->setStyle(style_.get());
     submenu->setFont(menu.font());
     submenu->menuAction()->setEnabled(item.enabled);

@@ -4,6 +4,9 @@
 
 #include "board/hand/menu_model.h"
 
+#include <QHash>
+#include <QIcon>
+
 #include <functional>
 #include <memory>
 
@@ -38,10 +41,12 @@ private:
     void fill(QMenu &menu, MenuName name, const std::vector<MenuItem> &items);
     void addSubmenu(QMenu &menu, MenuName name, const MenuItem &item);
     void fitRows(const QPoint &position, std::size_t rows);
+    QIcon icon(int number);
 
     Gate &gate_;
     MenuModel &model_;
     QWidget *owner_;
     Chooser chooser_;
     std::unique_ptr<MenuStyle> style_;
+    QHash<int, QIcon> icons_; ///< one of each for all menus, which is drawn but once
 };
