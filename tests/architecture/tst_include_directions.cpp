@@ -1,13 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "support/registry.h"
-
-#include <QDirIterator>
-#include <QFile>
-#include <QHash>
-#include <QRegularExpression>
-#include <QSet>
-#include <QtTest>
+#include "support/test_class.h"
 
 #include <functional>
 

@@ -5,11 +5,9 @@
 #include "platform/files.h"
 #include "platform/text_encoding.h"
 #include "support/file_bytes.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 
 #include <optional>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

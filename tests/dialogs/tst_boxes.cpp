@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "dialogs/message_box.h"
 #include "dialogs/real_boxes.h"
-#include "support/columns.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "widgets/picture_box.h"
 #include "widgets/press_button.h"
 
@@ -14,13 +13,9 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QTimer>
 #include <QWindow>
-#include <QtTest>
 
 #include <functional>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -1,19 +1,14 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "dialogs/report_window.h"
-#include "support/columns.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "support/test_house.h"
 #include "widgets/gradient.h"
 
 #include <QLabel>
-#include <QTimer>
 #include <QToolButton>
-#include <QtTest>
 
 #include <limits>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

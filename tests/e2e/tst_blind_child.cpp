@@ -2,17 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "e2e/desktop.h"
 #include "e2e/known_board.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 
 #include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusMessage>
-#include <QProcess>
-#include <QtTest>
 
 #include <memory>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

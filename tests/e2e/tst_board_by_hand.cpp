@@ -2,13 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "e2e/desktop.h"
 #include "e2e/known_board.h"
-#include "support/registry.h"
-
-#include <QtTest>
+#include "support/test_class.h"
 
 #include <memory>
-
-using namespace Qt::StringLiterals;
 
 /// The board in a child's hand: dragging, menus and keys, on one run of the program. The slots follow each
 /// other as a child would play; each finds the tiles by their colour, wherever the slot before left them.

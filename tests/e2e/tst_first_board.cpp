@@ -3,13 +3,8 @@
 #include "e2e/desktop.h"
 #include "e2e/known_board.h"
 #include "persistence/settings/frm_options.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "support/test_ground.h"
-
-#include <QFile>
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
 
 /// The program as a new user meets it: from the command to the board.
 class FirstBoardTest : public QObject

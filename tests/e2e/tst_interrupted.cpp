@@ -3,14 +3,9 @@
 #include "e2e/desktop.h"
 #include "e2e/known_board.h"
 #include "persistence/backup_file.h"
-#include "support/registry.h"
-
-#include <QFile>
-#include <QtTest>
+#include "support/test_class.h"
 
 #include <csignal>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -2,12 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "e2e/desktop.h"
 #include "e2e/known_board.h"
-#include "support/registry.h"
-
-#include <QFile>
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
+#include "support/test_class.h"
 
 namespace {
 

@@ -2,11 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "e2e/desktop.h"
 #include "e2e/known_board.h"
-#include "support/registry.h"
-
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
+#include "support/test_class.h"
 
 /// The program played with keys alone, the pointer untouched.
 class KeysAloneTest : public QObject

@@ -2,14 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "e2e/desktop.h"
 #include "e2e/known_board.h"
-#include "support/registry.h"
-
-#include <QFile>
-#include <QtTest>
+#include "support/test_class.h"
 
 #include <memory>
-
-using namespace Qt::StringLiterals;
 
 /// Words by real keys: checked, collected, saved, and copied from the running strip until the praise, on one
 /// run of the program.

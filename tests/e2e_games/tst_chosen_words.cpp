@@ -6,13 +6,8 @@
 #include "language/chooser/mark_list.h"
 #include "language/list_loader.h"
 #include "platform/word_lists.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "support/test_ground.h"
-
-#include <QFile>
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
 
 /// A teacher picks stems in the word chooser, on the smallest screen, and a child copies the words found from
 /// the running strip until the praise.

@@ -2,14 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "e2e/desktop.h"
 #include "e2e/known_board.h"
-#include "support/registry.h"
-
-#include <QFile>
-#include <QtTest>
+#include "support/test_class.h"
 
 #include <memory>
-
-using namespace Qt::StringLiterals;
 
 /// The vowels and the word game by real pointer and keys: a board of stems, then a game of one real minute to
 /// the list of the best, which is there again after a restart.

@@ -4,11 +4,7 @@
 #include "e2e/known_board.h"
 #include "games/paarlon/memory_card.h"
 #include "games/paarlon/memory_controls.h"
-#include "support/registry.h"
-
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
+#include "support/test_class.h"
 
 namespace {
 

@@ -4,15 +4,10 @@
 #include "e2e/known_board.h"
 #include "games/kernling/kernling_controls.h"
 #include "games/kernling/kernling_text.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "widgets/press_button.h"
 
-#include <QFile>
-#include <QtTest>
-
 #include <memory>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

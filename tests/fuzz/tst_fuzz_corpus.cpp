@@ -1,12 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fuzz/targets.h"
-#include "support/registry.h"
-
-#include <QDir>
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
+#include "support/test_class.h"
 
 /// Everything that the fuzzer has been given or has found, in every run of the tests.
 class FuzzCorpusTest : public QObject

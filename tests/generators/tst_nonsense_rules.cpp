@@ -6,13 +6,8 @@
 #include "platform/text.h"
 #include "platform/word_lists.h"
 #include "support/plain_board.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "support/test_ground.h"
-
-#include <QSet>
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
 
 /// The spelling rules of the nonsense words, one by one and in their order.
 class NonsenseRulesTest : public QObject

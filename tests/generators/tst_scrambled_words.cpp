@@ -2,17 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "generators/scrambled_words.h"
 #include "platform/text.h"
-#include "support/columns.h"
-#include "support/registry.h"
 #include "support/test_board.h"
-
-#include <QRegularExpression>
-#include <QSignalSpy>
-#include <QtTest>
+#include "support/test_class.h"
 
 #include <set>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

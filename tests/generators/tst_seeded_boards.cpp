@@ -7,15 +7,9 @@
 #include "platform/files.h"
 #include "platform/text.h"
 #include "platform/word_lists.h"
-#include "support/columns.h"
 #include "support/plain_board.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "support/test_ground.h"
-
-#include <QDir>
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
 
 /// What must hold of every generated word, over boards dealt from the shipped lists with fixed seeds.
 class SeededBoardsTest : public QObject

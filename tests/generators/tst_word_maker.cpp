@@ -1,14 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "support/columns.h"
-#include "support/registry.h"
 #include "support/test_board.h"
+#include "support/test_class.h"
 #include "support/tool_states.h"
-
-#include <QSignalSpy>
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
 
 /// The runs of the generators in the window: progress, cancel, and what they leave behind.
 class WordMakerTest : public QObject

@@ -5,14 +5,10 @@
 #include "langdata/maker.h"
 #include "langdata/segmenter.h"
 #include "langdata/textfiles.h"
-#include "support/columns.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 
 #include <QDir>
 #include <QHash>
-#include <QTest>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -3,8 +3,7 @@
 #include "language/chooser_window.h"
 #include "platform/files.h"
 #include "platform/work.h"
-#include "support/columns.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "support/test_house.h"
 
 #include <QTimer>

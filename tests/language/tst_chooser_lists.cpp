@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "language/chooser_window.h"
 #include "platform/files.h"
-#include "support/columns.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 
 #include <QClipboard>
 #include <QScrollBar>

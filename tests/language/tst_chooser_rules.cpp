@@ -3,13 +3,8 @@
 #include "language/chooser/chooser_rules.h"
 #include "language/chooser/random_draw.h"
 #include "platform/work.h"
-#include "support/columns.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "support/test_ground.h"
-
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
 
 /// What the word chooser asks of words, and how it draws.
 class ChooserRulesTest : public QObject

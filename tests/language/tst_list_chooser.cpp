@@ -1,12 +1,10 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "language/word_window.h"
-#include "support/columns.h"
-#include "support/registry.h"
 #include "support/test_board.h"
+#include "support/test_class.h"
 
 #include <QLabel>
-#include <QtTest>
 
 /// Choosing lists by hand, and tiles laid from a list.
 class ListChooserTest : public QObject

@@ -2,16 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "language/list_loader.h"
 #include "platform/word_lists.h"
-#include "support/columns.h"
 #include "support/file_bytes.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "support/test_ground.h"
-
-#include <QFile>
-#include <QSignalSpy>
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
 
 /// The files of a start and what is made of them.
 class ListLoaderTest : public QObject

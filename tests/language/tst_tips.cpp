@@ -1,15 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "support/columns.h"
-#include "support/registry.h"
 #include "support/test_board.h"
+#include "support/test_class.h"
 #include "widgets/alpha_panel.h"
 #include "widgets/gradient.h"
-
-#include <QTimer>
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -1,15 +1,12 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "language/word_window.h"
-#include "support/columns.h"
-#include "support/registry.h"
 #include "support/test_board.h"
+#include "support/test_class.h"
 #include "widgets/accessible_tools.h"
 #include "widgets/control_sheet.h"
 
 #include <QLabel>
-#include <QSignalSpy>
-#include <QtTest>
 
 /// The check of the entered word in all its branches.
 class WordCheckTest : public QObject

@@ -2,13 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "language/word_window.h"
 #include "platform/files.h"
-#include "support/columns.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QSignalSpy>
-#include <QtTest>
 
 /// The dictionary and the word list as they open over the board.
 class WordPanelsTest : public QObject

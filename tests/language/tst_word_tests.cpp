@@ -2,13 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "language/word_tests.h"
 #include "platform/word_lists.h"
-#include "support/columns.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "support/test_ground.h"
-
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
 
 /// The questions asked of the word stores.
 class WordTestsTest : public QObject

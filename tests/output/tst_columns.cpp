@@ -2,13 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "output/columns/columns.h"
 #include "platform/files.h"
-#include "support/columns.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "support/test_ground.h"
-
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
 
 /// Word lists as text files, in their three layouts.
 class ColumnsTest : public QObject

@@ -3,17 +3,12 @@
 #include "output/web/colour_swatch.h"
 #include "output/web/frm_save_as_web.h"
 #include "platform/files.h"
-#include "support/columns.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "support/test_house.h"
 
 #include <QDesktopServices>
 #include <QDropEvent>
-#include <QMimeData>
 #include <QPlainTextEdit>
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -2,14 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "output/html_entities.h"
 #include "output/html_to_text.h"
-#include "support/columns.h"
-#include "support/registry.h"
-
-#include <QtTest>
+#include "support/test_class.h"
 
 #include <new>
-
-using namespace Qt::StringLiterals;
 
 /// Web pages, rule by rule.
 class HtmlToTextTest : public QObject

@@ -2,11 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "output/pdf.h"
 #include "output/printing/page_fit.h"
-#include "support/columns.h"
 #include "support/error_of.h"
 #include "support/file_size_limit.h"
-#include "support/registry.h"
 #include "support/test_board.h"
+#include "support/test_class.h"
 #include "widgets/gradient.h"
 
 #include <QComboBox>
@@ -15,9 +14,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTextDocument>
-#include <QtTest>
 
-using namespace Qt::StringLiterals;
 using command::From;
 
 namespace {

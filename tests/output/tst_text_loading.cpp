@@ -4,14 +4,9 @@
 #include "output/rich_text.h"
 #include "output/text_loading.h"
 #include "platform/runtime_error.h"
-#include "support/columns.h"
 #include "support/error_of.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "support/test_ground.h"
-
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
 
 /// What a file of words becomes, whatever stands in it.
 class TextLoadingTest : public QObject

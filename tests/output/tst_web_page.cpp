@@ -3,16 +3,9 @@
 #include "output/web/html_wrapper.h"
 #include "output/web/web_page.h"
 #include "platform/files.h"
-#include "support/columns.h"
-#include "support/registry.h"
-
-#include <QLocale>
-#include <QTemporaryDir>
-#include <QtTest>
+#include "support/test_class.h"
 
 #include <algorithm>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

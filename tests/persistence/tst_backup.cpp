@@ -3,14 +3,9 @@
 #include "persistence/backup.h"
 #include "persistence/backup_file.h"
 #include "platform/files.h"
-#include "support/columns.h"
 #include "support/file_size_limit.h"
-#include "support/registry.h"
 #include "support/test_board.h"
-
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
+#include "support/test_class.h"
 
 class BackupTest : public QObject
 {

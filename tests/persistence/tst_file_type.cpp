@@ -2,18 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "persistence/file_type.h"
 #include "platform/log.h"
-#include "support/columns.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "widgets/resources.h"
-
-#include <QDirIterator>
-#include <QMimeDatabase>
-#include <QProcess>
-#include <QStandardPaths>
-#include <QTemporaryDir>
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
 
 class FileTypeTest : public QObject
 {

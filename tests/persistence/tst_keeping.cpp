@@ -2,15 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "persistence/backup_file.h"
 #include "platform/files.h"
-#include "support/columns.h"
-#include "support/registry.h"
 #include "support/test_board.h"
+#include "support/test_class.h"
 
 #include <QPushButton>
-#include <QTimer>
-#include <QtTest>
 
-using namespace Qt::StringLiterals;
 using command::From;
 
 namespace {

@@ -1,18 +1,13 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/files.h"
-#include "support/columns.h"
 #include "support/file_size_limit.h"
-#include "support/registry.h"
 #include "support/test_board.h"
+#include "support/test_class.h"
 
-#include <QFile>
 #include <QLabel>
-#include <QtTest>
 
 #include <sys/stat.h>
-
-using namespace Qt::StringLiterals;
 
 class SessionsTest : public QObject
 {

@@ -1,13 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "persistence/undo_ring.h"
-#include "support/columns.h"
-#include "support/registry.h"
 #include "support/test_board.h"
-
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
+#include "support/test_class.h"
 
 class UndoRingTest : public QObject
 {

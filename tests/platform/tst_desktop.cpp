@@ -5,13 +5,8 @@
 #include "platform/gate.h"
 #include "platform/sound_player.h"
 #include "platform/system_clock.h"
-#include "support/columns.h"
 #include "support/file_bytes.h"
-#include "support/registry.h"
-
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
+#include "support/test_class.h"
 
 namespace {
 

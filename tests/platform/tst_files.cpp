@@ -5,20 +5,15 @@
 #include "platform/log.h"
 #include "platform/text_encoding.h"
 #include "platform/windows1252.h"
-#include "support/columns.h"
 #include "support/error_of.h"
 #include "support/file_bytes.h"
 #include "support/file_size_limit.h"
-#include "support/registry.h"
 #include "support/stop_at_rename.h"
-
-#include <QtTest>
+#include "support/test_class.h"
 
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
-
-using namespace Qt::StringLiterals;
 
 class FilesTest : public QObject
 {

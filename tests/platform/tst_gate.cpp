@@ -1,13 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/work.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "support/test_ground.h"
-
-#include <QSignalSpy>
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -1,14 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/ini_file.h"
-#include "support/columns.h"
 #include "support/error_of.h"
 #include "support/file_bytes.h"
-#include "support/registry.h"
-
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
+#include "support/test_class.h"
 
 class IniFileTest : public QObject
 {

@@ -3,11 +3,9 @@
 #include "platform/files.h"
 #include "platform/instance_link.h"
 #include "platform/local_socket.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 
 #include <QLocalSocket>
-#include <QSignalSpy>
-#include <QtTest>
 
 #include <atomic>
 #include <sys/socket.h>
@@ -16,8 +14,6 @@
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
-
-using namespace Qt::StringLiterals;
 
 class InstanceLinkTest : public QObject
 {

@@ -3,14 +3,8 @@
 #include "platform/options.h"
 #include "platform/runtime_error.h"
 #include "platform/text_masks.h"
-#include "support/columns.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "support/test_ground.h"
-
-#include <QSignalSpy>
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
 
 class OptionsTest : public QObject
 {

@@ -2,13 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/picture_file.h"
 #include "platform/runtime_error.h"
-#include "support/columns.h"
 #include "support/file_bytes.h"
-#include "support/registry.h"
-
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
+#include "support/test_class.h"
 
 namespace {
 

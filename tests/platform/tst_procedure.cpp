@@ -3,14 +3,9 @@
 #include "platform/files.h"
 #include "platform/log.h"
 #include "platform/procedure.h"
-#include "support/columns.h"
-#include "support/registry.h"
-
-#include <QtTest>
+#include "support/test_class.h"
 
 #include <new>
-
-using namespace Qt::StringLiterals;
 
 class ProcedureTest : public QObject
 {

@@ -1,12 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/program_size.h"
-#include "support/columns.h"
-#include "support/registry.h"
-
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
+#include "support/test_class.h"
 
 /// What a stored size stands for, and what a screen makes of it.
 class ProgramSizeTest : public QObject

@@ -1,19 +1,13 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/settings_file.h"
-#include "support/columns.h"
 #include "support/error_of.h"
 #include "support/file_bytes.h"
 #include "support/file_size_limit.h"
-#include "support/registry.h"
-
-#include <QLockFile>
-#include <QtTest>
+#include "support/test_class.h"
 
 #include <sys/stat.h>
 #include <unistd.h>
-
-using namespace Qt::StringLiterals;
 
 class SettingsFileTest : public QObject
 {

@@ -3,12 +3,7 @@
 #include "platform/files.h"
 #include "platform/log.h"
 #include "platform/system_info.h"
-#include "support/columns.h"
-#include "support/registry.h"
-
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
+#include "support/test_class.h"
 
 class SystemInfoTest : public QObject
 {

@@ -3,15 +3,10 @@
 #include "platform/rnd.h"
 #include "platform/text.h"
 #include "platform/windows1252.h"
-#include "support/columns.h"
 #include "support/error_of.h"
-#include "support/registry.h"
-
-#include <QtTest>
+#include "support/test_class.h"
 
 #include <limits>
-
-using namespace Qt::StringLiterals;
 
 class TextTest : public QObject
 {

@@ -3,13 +3,9 @@
 #include "platform/file_places.h"
 #include "platform/files.h"
 #include "platform/window_file_dialogs.h"
-#include "support/columns.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 
-#include <QtTest>
 #include <QtWidgets>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -3,14 +3,8 @@
 #include "platform/rnd.h"
 #include "platform/text.h"
 #include "platform/word_store.h"
-#include "support/columns.h"
 #include "support/error_of.h"
-#include "support/registry.h"
-
-#include <QSignalSpy>
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
+#include "support/test_class.h"
 
 namespace {
 

@@ -1,18 +1,10 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "support/registry.h"
+#include "support/test_class.h"
 
-#include <QDirIterator>
-#include <QFile>
 #include <QImage>
-#include <QMap>
 #include <QPainter>
-#include <QSet>
 #include <QSvgRenderer>
-#include <QXmlStreamReader>
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

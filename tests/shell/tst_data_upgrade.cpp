@@ -1,17 +1,11 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/data_upgrade.h"
-#include "support/columns.h"
 #include "support/file_bytes.h"
 #include "support/file_size_limit.h"
-#include "support/registry.h"
-
-#include <QTemporaryDir>
-#include <QtTest>
+#include "support/test_class.h"
 
 #include <sys/wait.h>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

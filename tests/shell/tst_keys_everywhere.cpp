@@ -1,14 +1,11 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "support/columns.h"
 #include "support/keyed_hand.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "support/tool_states.h"
 #include "widgets/alpha_panel.h"
 
 #include <array>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -3,14 +3,11 @@
 #include "language/chooser/frm_choose_wortel.h"
 #include "language/chooser/mark_list.h"
 #include "platform/work.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "support/test_house.h"
 
 #include <QPointingDevice>
 #include <QStyleHints>
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -2,18 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "persistence/backup_file.h"
 #include "platform/files.h"
-#include "support/columns.h"
-#include "support/registry.h"
 #include "support/test_board.h"
+#include "support/test_class.h"
 #include "version.h"
 #include "widgets/gradient.h"
-
-#include <QDir>
-#include <QSignalSpy>
-#include <QTimer>
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -1,14 +1,10 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "support/columns.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "support/test_house.h"
 #include "widgets/gradient.h"
 #include "widgets/short_note.h"
 
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
 using command::From;
 
 namespace {

@@ -3,18 +3,15 @@
 #include "board/hand/commands.h"
 #include "platform/files.h"
 #include "platform/work.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "support/test_house.h"
 
 #include <QAction>
 #include <QDragEnterEvent>
 #include <QDropEvent>
-#include <QMimeData>
-#include <QtTest>
 
 #include <algorithm>
 
-using namespace Qt::StringLiterals;
 using command::From;
 
 namespace {

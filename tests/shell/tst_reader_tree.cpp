@@ -5,14 +5,12 @@
 #include "dialogs/input_box.h"
 #include "dialogs/message_box.h"
 #include "platform/boxes.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "support/test_house.h"
 
 #include <QDialog>
-#include <QtTest>
 
 using command::From;
-using namespace Qt::StringLiterals;
 
 namespace {
 

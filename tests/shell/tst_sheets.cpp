@@ -1,14 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "support/columns.h"
-#include "support/registry.h"
 #include "support/reports.h"
 #include "support/test_board.h"
+#include "support/test_class.h"
 #include "support/tool_states.h"
-
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -2,14 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "games/kernling/kernling_text.h"
 #include "shell/continuation.h"
-#include "support/columns.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "support/test_house.h"
-
-#include <QSignalSpy>
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -7,19 +7,12 @@
 #include "shell/command_line.h"
 #include "shell/crash_filter.h"
 #include "shell/storage.h"
-#include "support/columns.h"
 #include "support/file_size_limit.h"
-#include "support/registry.h"
-
-#include <QDir>
-#include <QTemporaryDir>
-#include <QtTest>
+#include "support/test_class.h"
 
 #include <csignal>
 #include <sys/wait.h>
 #include <unistd.h>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -5,16 +5,13 @@
 #include "shell/splash.h"
 #include "shell/start.h"
 #include "shell/start_steps.h"
-#include "support/columns.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "support/test_ground.h"
 
 #include <QApplication>
 #include <QDialog>
 #include <QLabel>
-#include <QtTest>
 
-using namespace Qt::StringLiterals;
 using start_steps::Next;
 
 /// What the start asks and tells before any window exists.

@@ -1,18 +1,13 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/files.h"
-#include "support/columns.h"
-#include "support/registry.h"
 #include "support/reports.h"
 #include "support/test_board.h"
+#include "support/test_class.h"
 
 #include <QMenu>
-#include <QSignalSpy>
 #include <QTextDocument>
-#include <QTimer>
-#include <QtTest>
 
-using namespace Qt::StringLiterals;
 using command::From;
 
 namespace {

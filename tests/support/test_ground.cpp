@@ -7,8 +7,6 @@
 #include "platform/text_encoding.h"
 #include "support/watchful_application.h"
 
-#include <QDir>
-#include <QFileInfo>
 #include <QtTest>
 
 using namespace Qt::StringLiterals;

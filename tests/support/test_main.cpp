@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "support/watchful_application.h"
 
 #include "widgets/accessible_tools.h"
@@ -8,7 +8,6 @@
 #include "widgets/roomy_style.h"
 
 #include <QFont>
-#include <QtTest>
 
 std::vector<testing::Entry> &testing::registry()
 {

@@ -4,13 +4,9 @@
 #include "shell/hand_over.h"
 #include "soak/soak_gauge.h"
 #include "soak/soak_hand.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 
-#include <QElapsedTimer>
 #include <QPixmapCache>
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

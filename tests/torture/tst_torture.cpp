@@ -1,20 +1,11 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/settings_file.h"
-#include "support/registry.h"
-
-#include <QDir>
-#include <QElapsedTimer>
-#include <QProcess>
-#include <QTemporaryDir>
-#include <QThread>
-#include <QtTest>
+#include "support/test_class.h"
 
 #include <future>
 #include <optional>
 #include <random>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -1,13 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "widgets/click_label.h"
 #include "widgets/main_controls.h"
 #include "widgets/press_button.h"
-
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
 
 class MainControlsTest : public QObject
 {

@@ -1,13 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "support/columns.h"
 #include "support/error_of.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "widgets/scroller_strip.h"
-
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

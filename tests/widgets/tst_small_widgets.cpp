@@ -1,17 +1,12 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "support/columns.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "widgets/alpha_panel.h"
 #include "widgets/dropper.h"
 #include "widgets/picture_box.h"
 
 #include <QLineEdit>
 #include <QPainter>
-#include <QSignalSpy>
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
 
 class SmallWidgetsTest : public QObject
 {

@@ -1,15 +1,12 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/files.h"
-#include "support/columns.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "support/test_hand.h"
 #include "widgets/colour.h"
 #include "widgets/gradient.h"
 
 #include <QMimeData>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -1,10 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "support/columns.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "support/test_hand.h"
 
-using namespace Qt::StringLiterals;
 using command::From;
 using command::Needs;
 

@@ -2,21 +2,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "board/hand/popup_menu.h"
 #include "platform/play_state.h"
-#include "support/columns.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "support/test_ground.h"
 
-#include <QFile>
 #include <QMenu>
-#include <QPointer>
 #include <QPointingDevice>
 #include <QScreen>
 #include <QWindow>
-#include <QtTest>
 
 #include <functional>
 
-using namespace Qt::StringLiterals;
 using Kind = MenuItem::Kind;
 
 namespace {

@@ -1,12 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "board/hand/morpheme_lists.h"
-#include "support/columns.h"
-#include "support/registry.h"
 #include "support/test_board.h"
+#include "support/test_class.h"
 #include "widgets/store_list.h"
-
-#include <QtTest>
 
 class MorphemeListsTest : public QObject
 {

@@ -1,11 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "support/test_hand.h"
 
 #include <QStyleHints>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -243,7 +241,8 @@ private slots:
         QTest::touchEvent(board, screen.get()).move(1, {114, 112}); // a trembling finger moves nothing
         QCOMPARE(hand.store->tiles().front()->xLeft(), 100);
         QTest::touchEvent(board, screen.get()).move(1, {200, 220});
-        QTest::qWait(QGuiApplication::styleHints()->mousePressAndHoldInterval() + 100); // it has moved: it does not rest
+        QTest::qWait(QGuiApplication::styleHints()->mousePressAndHoldInterval() +
+                     100); // it has moved: it does not rest
         QCOMPARE(hand.popup.shown, 0);
         QTest::touchEvent(board, screen.get()).release(1, {200, 220});
         QCOMPARE(hand.described(), QStringList{u"200,220 fahr"_s});

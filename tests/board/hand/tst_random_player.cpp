@@ -4,15 +4,13 @@
 #include "persistence/backup.h"
 #include "platform/files.h"
 #include "platform/minute_timer.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "support/test_hand.h"
 
 #include <QDialog>
 
 #include <algorithm>
 #include <random>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

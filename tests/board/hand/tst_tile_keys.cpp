@@ -1,10 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "support/columns.h"
 #include "support/keyed_hand.h"
-#include "support/registry.h"
-
-using namespace Qt::StringLiterals;
+#include "support/test_class.h"
 
 namespace {
 

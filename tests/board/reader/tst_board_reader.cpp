@@ -1,11 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "support/test_house.h"
-
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -3,11 +3,7 @@
 #include "board/tiles/places.h"
 #include "board/tiles/tile_sort.h"
 #include "platform/rnd.h"
-#include "support/registry.h"
-
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
+#include "support/test_class.h"
 
 namespace {
 

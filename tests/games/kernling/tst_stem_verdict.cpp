@@ -4,13 +4,9 @@
 #include "games/kernling/stem_verdict.h"
 #include "language/word_tests.h"
 #include "platform/word_lists.h"
-#include "support/columns.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "support/test_ground.h"
 
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
 using namespace kernling;
 
 Q_DECLARE_METATYPE(kernling::VerdictOptions)
@@ -153,8 +149,8 @@ private slots:
         desk.lists.UserFoundWortelList.add(u"wirk"_s);
         const Verdict verdict = desk.judge.judge(marked, options);
         const char *const tones[] = {"-", "112", "beep"};
-        QTEST(QLatin1String(tones[static_cast<int>(verdict.tone)]) + u' ' + verdict.foundRow.value_or(u"-"_s) +
-                  u' ' + verdict.falseRow.value_or(u"-"_s),
+        QTEST(QLatin1String(tones[static_cast<int>(verdict.tone)]) + u' ' +
+                  verdict.foundRow.value_or(u"-"_s) + u' ' + verdict.falseRow.value_or(u"-"_s),
               "outcome");
     }
 

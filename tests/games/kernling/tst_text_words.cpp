@@ -3,14 +3,10 @@
 #include "games/kernling/text_words.h"
 #include "platform/rnd.h"
 #include "platform/word_store.h"
-#include "support/columns.h"
-#include "support/registry.h"
-
-#include <QtTest>
+#include "support/test_class.h"
 
 #include <set>
 
-using namespace Qt::StringLiterals;
 using namespace kernling;
 
 /// The words of a text and the moves of the work list.

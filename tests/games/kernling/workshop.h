@@ -7,9 +7,8 @@
 #include "games/kernling/kernling_controls.h"
 #include "games/kernling/kernling_text.h"
 #include "games/kernling/word_list_box.h"
-#include "support/columns.h"
-#include "support/registry.h"
 #include "support/test_board.h"
+#include "support/test_class.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -18,9 +17,6 @@
 #include <QLineEdit>
 #include <QMimeData>
 #include <QRadioButton>
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
 
 /// The house with the stem game's window open, and a hand at its controls. Its stems are "halt", "renn" and
 /// "wirk".

@@ -3,14 +3,9 @@
 #include "games/klotar/game_desk.h"
 #include "games/klotar/game_words.h"
 #include "platform/files.h"
-#include "support/columns.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "support/tool_states.h"
 #include "widgets/gradient.h"
-
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -3,16 +3,13 @@
 #include "games/paarlon/bouncing_ball.h"
 #include "games/paarlon/memory_rules.h"
 #include "platform/word_store.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "support/test_ground.h"
-
-#include <QtTest>
 
 #include <algorithm>
 #include <array>
 #include <numeric>
 
-using namespace Qt::StringLiterals;
 using Turn = MemoryRules::Turn;
 
 namespace {

@@ -2,17 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "games/paarlon/frm_memory.h"
 #include "games/paarlon/memory_card.h"
-#include "support/columns.h"
-#include "support/registry.h"
 #include "support/test_board.h"
+#include "support/test_class.h"
 
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QSignalSpy>
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

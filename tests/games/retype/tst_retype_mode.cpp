@@ -1,11 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "games/retype/retype_desk.h"
-#include "support/columns.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "widgets/gradient.h"
-
-#include <QtTest>
 
 namespace {
 

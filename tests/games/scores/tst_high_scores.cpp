@@ -3,14 +3,8 @@
 #include "games/scores/high_scores.h"
 
 #include "platform/files.h"
-#include "support/columns.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "support/test_ground.h"
-
-#include <QDir>
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

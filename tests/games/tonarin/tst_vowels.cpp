@@ -4,16 +4,10 @@
 #include "games/tonarin/vowel_stems.h"
 #include "platform/files.h"
 #include "platform/text.h"
-#include "support/columns.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "support/test_house.h"
 
-#include <QDir>
 #include <QPushButton>
-#include <QSet>
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

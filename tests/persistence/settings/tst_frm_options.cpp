@@ -4,19 +4,13 @@
 #include "persistence/settings/option_fields.h"
 #include "persistence/settings/options_layout.h"
 #include "platform/options.h"
-#include "support/columns.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 #include "support/test_ground.h"
 
-#include <QLabel>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
-#include <QMimeData>
 #include <QPushButton>
-#include <QSignalSpy>
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
 
 class FrmOptionsTest : public QObject
 {

@@ -10,25 +10,17 @@
 #include "shell/handbook/help_browser.h"
 #include "shell/handbook/help_pages.h"
 #include "shell/handbook/help_window.h"
-#include "support/registry.h"
+#include "support/test_class.h"
 
 #include <QApplication>
 #include <QDesktopServices>
-#include <QDir>
-#include <QFile>
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPdfWriter>
-#include <QRegularExpression>
-#include <QTemporaryDir>
 #include <QTextDocument>
 #include <QToolButton>
 #include <QTreeWidget>
-#include <QUrl>
-#include <QtTest>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
