@@ -191,6 +191,12 @@ TestGround::TestGround(quint64 seed)
     QObject::connect(&notes, &Notes::told, &notes, [this](const QString &note) { told.append(note); });
 }
 
+TestGround::~TestGround()
+{
+    if (QTest::currentTestFunction() != nullptr && !ok() && !mayLeaveAnswers && !QTest::currentTestFailed())
+        QTest::qFail("an answer was left that nobody asked for", __FILE__, __LINE__);
+}
+
 bool TestGround::ok() const
 {
     return boxes.unexpected == 0 && fileDialogs.unexpected == 0 && boxes.allTaken() && fileDialogs.allTaken();

@@ -226,11 +226,13 @@ private:
 };
 
 /// A whole ground for one test: an empty program folder that goes with the test, a fixed seed, and seams that
-/// answer from queues. A question that the test did not expect fails it. Say `QVERIFY(t.ok())` at the end to
-/// learn of answers nobody asked for.
+/// answer from queues. A question that the test did not expect fails it, and so does an answer that nobody
+/// has asked for when the ground goes.
 struct TestGround
 {
     explicit TestGround(quint64 seed = 1);
+    ~TestGround();
+    Q_DISABLE_COPY_MOVE(TestGround)
 
     QTemporaryDir folder;
     QString AppFolder; ///< stored form
@@ -251,6 +253,8 @@ struct TestGround
     GatedFileDialogs gatedDialogs{fileDialogs, gate};
     Ground ground;
 
+    /// True where the test answers whatever may come.
+    bool mayLeaveAnswers = false;
     /// No question was unexpected and no answer is left.
     bool ok() const;
     /// Writes a file below the program's folder (`name` in stored form), with its folders, in Windows-1252,

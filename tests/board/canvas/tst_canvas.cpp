@@ -223,7 +223,6 @@ private slots:
         b.settle();
         QCOMPARE(drop.dropAction(), Qt::CopyAction);
         QCOMPARE(drop.isAccepted(), !complaint.contains(u"Format"_s));
-        QVERIFY(b.t.ok());
         const bool shown = complaint.isEmpty();
         QVERIFY(shown || b.t.boxes.asked.first().text.contains(complaint));
         const QImage picture = b.controls.picCanvas->picture();
@@ -249,7 +248,6 @@ private slots:
         b.settle();
         QVERIFY(b.t.boxes.asked.last().text.contains(u"kein Bild"_s));
         QVERIFY(b.controls.picCanvas->picture().isNull());
-        QVERIFY(b.t.ok());
     }
 
 private:

@@ -68,7 +68,6 @@ private slots:
             TestHand hand;
             hand.t.boxes.willBeRead();
             hand.run(command.from, command.id);
-            QVERIFY(hand.t.ok());
             const Question &told = hand.t.boxes.asked.first();
             QCOMPARE(told.text, QString::fromUtf16(command.missing));
             QCOMPARE(told.style + told.title, u"INFOWortel-Meister"_s);
@@ -116,7 +115,6 @@ private slots:
         else if (!answer.isEmpty())
             hand.t.boxes.willType(answer);
         hand.run(from, id, point);
-        QVERIFY(hand.t.ok());
         QTEST(hand.counters().mid(0, 3).join(u','), "counters");
         QCOMPARE(hand.t.sound.resources, sound == 0 ? QList<int>() : QList<int>{sound});
     }
@@ -162,7 +160,6 @@ private slots:
             hand.run(From::MainMenu, 223);
             QCOMPARE(hand.optTypes->value(0), 3 + added);
             hand.run(From::MainMenu, 213);
-            QVERIFY(hand.t.ok());
             QCOMPARE(hand.commits, told.isEmpty() ? 3 : 0);
             if (told.isEmpty())
                 continue;
@@ -182,7 +179,6 @@ private slots:
         hand.t.boxes.willCloseScores();
         hand.optTypes->select(1);
         hand.run(From::MainMenu, 2900);
-        QVERIFY(hand.t.ok());
         QCOMPARE(hand.optTypes->selected(), 3);
     }
 
@@ -204,7 +200,6 @@ private slots:
                 hand.t.boxes.willPress(0);
             hand.run(id == 204 ? From::MainMenu : From::TileMenu, id, {115, 115});
             QCOMPARE(hand.texts().join(u' '), left);
-            QVERIFY(hand.t.ok());
             QCOMPARE(hand.trouble(), QString());
         }
     }

@@ -42,7 +42,6 @@ private slots:
         w.t.boxes.willBeRead();
         w.press(w.c().*button);
         QCOMPARE(w.lastBox(), u"Wortel-Meister|"_s + told);
-        QVERIFY(w.t.ok());
     }
 
     void sources_data()
@@ -95,7 +94,6 @@ private slots:
         QVERIFY(!w.controls.ChkVokal[0]->isChecked());
         QVERIFY(w.c().FillProgress->isHidden() && w.c().Label9->isHidden());
         QCOMPARE(w.trouble(), QString());
-        QVERIFY(w.t.ok());
     }
 
     void numbersThatGoNowhere()
@@ -112,7 +110,6 @@ private slots:
             w.t.boxes.willBeRead();
             w.press(w.c().Command10);
             QVERIFY(w.lastBox().contains(u"1 bis 86400 Sekunden"_s));
-            QVERIFY(w.t.ok());
         }
     }
 
@@ -127,7 +124,6 @@ private slots:
         w.t.boxes.willBeRead();
         w.press(w.c().Command3);
         QCOMPARE(w.words().size(), 32767);
-        QVERIFY(w.t.ok());
     }
 
     void wordsMoveIntoTheText()
@@ -172,7 +168,6 @@ private slots:
             QCOMPARE(w.lastBox(), u"Wortel - Bestätigen|Wortliste von Klotar löschen ?"_s);
             QCOMPARE(w.lists.CorrectWordList.isEmpty(), answer == 0);
         }
-        QVERIFY(w.t.ok());
     }
 
     void aWorkKeepsEverythingElseOut_data()
@@ -223,7 +218,6 @@ private slots:
         QVERIFY(!w.paint().contains(u'r') && w.words().isEmpty() && w.answer().isEmpty());
         QVERIFY(!w.text().isLocked() && w.c().Command11->isEnabled() && w.c().Label9->isHidden());
         QCOMPARE(w.trouble(), QString());
-        QVERIFY(w.t.ok());
     }
 
     void wordsAreLookedUp()
@@ -242,7 +236,6 @@ private slots:
             QCOMPARE(w.lastBox(), told);
             QCOMPARE(w.t.boxes.asked.last().style, sign);
         }
-        QVERIFY(w.t.ok());
     }
 
     void optionsAreConfirmed_data()
@@ -280,7 +273,6 @@ private slots:
         QCOMPARE(w.text().toolTip().isEmpty(), answer == 0);
         QCOMPARE(w.c().List1->toolTip().isEmpty(), answer == 0);
         QCOMPARE(w.c().UserFoundWortelList->isHidden(), answer != 0);
-        QVERIFY(w.t.ok());
     }
 
     void theStemListOpens()
@@ -343,7 +335,6 @@ private slots:
         const QString scores = w.t.AppFolder + u"ScoresKernling.lst"_s;
         QVERIFY(!IsTextFile(scores) || !ReadWholeFile(scores).contains("Ada"));
         QCOMPARE(w.t.store.GetSetting(u"Settings"_s, u"KernlingGameTime"_s, u"none"_s), u"none"_s);
-        QVERIFY(w.t.ok());
     }
 
     void theMenuOpensTheWindow()

@@ -166,7 +166,6 @@ private slots:
         w.t.boxes.willBeRead();
         search->trigger();
         QCOMPARE(w.lastBox().section(u'|', 1), u"Von diesen Wortstämmen steht keiner als Wort im Text"_s);
-        QVERIFY(w.t.ok());
     }
 
     void stemsAreCountedOnceOrEachTime_data()
@@ -195,7 +194,6 @@ private slots:
         w.t.boxes.willBeRead();
         w.press(w.c().Command8);
         QCOMPARE(w.lastBox(), u"Wortel-Meister|quatsch ist kein Wortstamm"_s);
-        QVERIFY(w.t.ok());
     }
 };
 
