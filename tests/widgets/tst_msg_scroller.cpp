@@ -14,23 +14,12 @@ void fill(MsgScroller &strip, const QStringList &words = {u"Haus"_s, u"Maus"_s})
         strip.AddItem(word, word);
 }
 
-QPoint middleOf(const ScrollerStrip::HotSpot &spot) { return {(spot.left + spot.right) / 2, 10}; }
-
 /// Moves the pointer without the cursor of the platform, which knows no widgets that overlap.
 void movePointer(MsgScroller &strip, const QPoint &position, Qt::MouseButtons buttons = Qt::NoButton)
 {
     QMouseEvent event(QEvent::MouseMove, position, strip.mapToGlobal(QPointF(position)), Qt::NoButton,
                       buttons, Qt::NoModifier);
     QCoreApplication::sendEvent(&strip, &event);
-}
-
-bool hasInk(const QImage &image, const QRect &area, const QColor &colour)
-{
-    for (int y = area.top(); y <= area.bottom(); ++y)
-        for (int x = area.left(); x <= area.right(); ++x)
-            if (image.pixelColor(x, y) == colour)
-                return true;
-    return false;
 }
 
 } // namespace
@@ -201,56 +190,6 @@ private slots:
         QVERIFY(strip.isTimerOn());
     }
 
-    void hotSpotsAreTold()
-    {
-        MsgScroller strip;
-        fill(strip);
-        strip.setAllowPan(false);
-        strip.setScroll(true);
-        strip.show();
-        while (strip.Offset() < 0)
-            strip.tick();
-        QSignalSpy moved(&strip, &MsgScroller::HotSpotMove);
-        QSignalSpy clicked(&strip, &MsgScroller::HotSpotClick);
-        const ScrollerStrip::HotSpot first = strip.strip().hotSpots().at(0);
-        const ScrollerStrip::HotSpot second = strip.strip().hotSpots().at(1);
-        const QPoint gap{(first.right + second.left) / 2, 10};
-
-        movePointer(strip, middleOf(second));
-        QCOMPARE(strip.CurrentHotSpot(), 2);
-        movePointer(strip, gap);
-        QCOMPARE(strip.CurrentHotSpot(), -1);
-        QCOMPARE(moved.size(), 2);
-        QCOMPARE(moved.at(1).at(0).toInt(), -1);
-
-        QTest::mouseClick(&strip, Qt::LeftButton, {}, gap);
-        QCOMPARE(clicked.size(), 0);
-        QTest::mouseClick(&strip, Qt::LeftButton, {}, middleOf(second));
-        QCOMPARE(clicked.size(), 1);
-        QCOMPARE(clicked.at(0).at(0).toInt(), 2);
-        QCOMPARE(strip.List(2), u"Maus"_s);
-    }
-
-    void colours()
-    {
-        MsgScroller strip;
-        QFont large = strip.font();
-        large.setPixelSize(24);
-        strip.setFont(large);
-        strip.setBackColor(Qt::yellow);
-        strip.setForeColor(Qt::black);
-        fill(strip, {u"IIII"_s, u"HHHH"_s});
-        strip.setItemColor(2, 0xFF0000);
-        strip.Refresh();
-        const QImage image = strip.grab().toImage();
-        const ScrollerStrip::HotSpot first = strip.strip().hotSpots().at(0);
-        const ScrollerStrip::HotSpot second = strip.strip().hotSpots().at(1);
-        QVERIFY(hasInk(image, {first.left, 2, first.right - first.left, 26}, Qt::black));
-        QVERIFY(hasInk(image, {second.left, 2, second.right - second.left, 26}, Qt::blue));
-        QVERIFY(!hasInk(image, {second.left, 2, second.right - second.left, 26}, Qt::black));
-        QCOMPARE(image.pixelColor(5, 3), QColor(Qt::yellow));
-        QCOMPARE(image.pixelColor(290, 15), QColor(Qt::white));
-    }
 };
 
 WORTEL_TEST(MsgScrollerTest)

@@ -92,29 +92,6 @@ private slots:
         QCOMPARE(strip.FindKey(u"eins"_s), 4);
     }
 
-    void decides_data()
-    {
-        columns<bool, bool, int, bool>("force", "automatic", "width", "runs");
-        QTest::newRow("neither") << false << false << 10 << false;
-        QTest::newRow("forced") << true << false << 1000 << true;
-        QTest::newRow("fits") << false << true << 80 << false;
-        QTest::newRow("does not fit") << false << true << 79 << true;
-    }
-    void decides()
-    {
-        QFETCH(bool, force);
-        QFETCH(bool, automatic);
-        QFETCH(int, width);
-        ScrollerStrip strip = stripOf({u"abc"_s, u"xyz"_s});
-        QCOMPARE(strip.StripWidth(), 80);
-        strip.setOffset(17);
-        QTEST(strip.decide(force, automatic, width), "runs");
-        QFETCH(bool, runs);
-        QCOMPARE(strip.Offset(), runs ? 17 : ScrollerStrip::restOffset);
-        strip.Clear();
-        QVERIFY(!strip.decide(force, automatic, width));
-    }
-
     void drawsTheRing_data()
     {
         columns<int, int, QStringList>("offset", "inRange", "expected");
