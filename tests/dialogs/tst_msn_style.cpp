@@ -22,10 +22,10 @@ struct Desk : TestHouse
         form.show();
     }
 
-    void report(int seconds, const QString &word = u"\"Haus\""_s, bool boldWord = true, bool smiley = true)
+    void report(int seconds, const QString &word = u"\"Haus\""_s)
     {
         popup->Display(u"Richtig !"_s, u"Das gesuchte Wort \n"_s, word, u"ist richtig."_s, seconds,
-                       SoundId::WordRight, boldWord, smiley);
+                       SoundId::WordRight, true, true);
     }
     ReportWindow *row(int slot) const
     {
@@ -119,35 +119,6 @@ private slots:
             return;
         QTRY_VERIFY(desk.alert(1)->isActive());
         QVERIFY(desk.isUp(1));
-    }
-
-    void saysWhatItWasGiven_data()
-    {
-        columns<bool, bool, int>("bold", "smiley", "left"); // pixels from the edge to the lines
-        QTest::newRow("smiley") << true << true << 92;
-        QTest::newRow("no smiley") << true << false << 14;
-        QTest::newRow("plain word") << false << true << 92;
-    }
-    void saysWhatItWasGiven()
-    {
-        QFETCH(bool, bold);
-        QFETCH(bool, smiley);
-        QFETCH(int, left);
-        Desk desk;
-        desk.report(60, u"\"Haus\""_s, bold, smiley);
-        const auto line = [&](const char *name) {
-            return desk.row(1)->findChild<QLabel *>(QLatin1String(name));
-        };
-        QTRY_VERIFY(desk.isUp(1));
-        QCOMPARE(line("Label1")->text(), u"Richtig !"_s);
-        QCOMPARE(line("lblAlert")->text(), u"Das gesuchte Wort"_s);
-        QCOMPARE(line("Label2")->text(), u"\"Haus\""_s);
-        QCOMPARE(line("Label3")->text(), u"ist richtig."_s);
-        QCOMPARE(line("Label2")->font().bold(), bold);
-        QCOMPARE(line("ImgSmiley")->isVisible(), smiley);
-        QCOMPARE(line("Label1")->x(), 14);
-        for (const char *name : {"lblAlert", "Label2", "Label3"})
-            QCOMPARE(line(name)->x(), left);
     }
 
     void aRunningGameKeepsItsButtonsAndSilenceItsPeace()
