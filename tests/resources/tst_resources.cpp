@@ -62,17 +62,6 @@ private slots:
         QVERIFY(!aliases_.isEmpty());
     }
 
-    void everyMenuIndexHasItsPicture()
-    {
-        constexpr int indexes[] = {0,  1,  2,  3,  4,  5,  6,  7,  8,  9,  10, 11, 12, 13, 14, 15, 16, 17,
-                                   19, 20, 21, 22, 24, 25, 26, 27, 28, 29, 30, 32, 33, 34, 35, 51, 52, 56};
-        for (const int index : indexes) {
-            const QString digits = u"%1"_s.arg(index, 2, 10, '0'_L1);
-            const QString file = aliases_.value(u"icons/menu/"_s + digits + u".svg"_s);
-            QVERIFY2(file.startsWith(u"icons/menu/"_s + digits + u'-'), qPrintable(digits));
-        }
-    }
-
     void listAndFolderAgree()
     {
         QSet<QString> listed;
@@ -109,16 +98,6 @@ private slots:
             QVERIFY2(!seen.contains(small), qPrintable(file + u" looks like another picture at 16 pixels"_s));
             seen.append(small);
         }
-    }
-
-    void everyVowelHasItsSounds()
-    {
-        for (const QChar vowel : u"aeiouäöü"_s)
-            for (const QChar length : u"kl"_s) {
-                const QFileInfo sound(sourceFolder() + u"/data/sounds kurz lang/"_s + length + vowel +
-                                      u".wav"_s);
-                QVERIFY2(sound.size() > 1000, qPrintable(sound.fileName()));
-            }
     }
 
 private:

@@ -118,6 +118,7 @@ private slots:
         h.settle();
         h.t.options.setBox(Setting::ConfirmBeforeErase, 0);
         h.t.boxes.willType(u"be"_s);
+        h.t.mayLeaveAnswers = true;
         int paints = 0;
         int flashes = 0;
         const PaintWatch watch(h.controls.picCanvas, [&] {

@@ -50,6 +50,7 @@ std::unique_ptr<TestHand> twentyTiles(const QSize &size = {800, 600})
     hand->t.options.setBox(Setting::FillAffix, 0);
     hand->t.pump.waiting = true;
     hand->t.boxes.willPress(0);
+    hand->t.mayLeaveAnswers = true;
     return hand;
 }
 
@@ -234,8 +235,6 @@ private slots:
         b.arrangement->LineUpWorteles(false, false);
         QCOMPARE(b.store->count(), 20);
     }
-
-private:
 };
 
 WORTEL_TEST(PlacementTest)

@@ -106,11 +106,8 @@ class MenusTest : public QObject
 private slots:
     void everyRow()
     {
-        const QStringList pictures = QDir(WORTEL_SOURCE_DIR u"/resources/icons/menu"_s).entryList();
-        for (const auto &[name, commands] : {std::pair{MenuName::MainMenu, 98},
-                                             {MenuName::PrefixMenu, 12},
-                                             {MenuName::WortelMenu, 12},
-                                             {MenuName::SuffixMenu, 11}}) {
+        for (const MenuName name :
+             {MenuName::MainMenu, MenuName::PrefixMenu, MenuName::WortelMenu, MenuName::SuffixMenu}) {
             std::vector<const MenuItem *> all;
             const MenuTree tree = buildMenu(name, Facts().now);
             flatten(tree, all);
@@ -121,12 +118,11 @@ private slots:
                 QVERIFY2(item->caption.isEmpty() == (item->kind == Kind::Separator),
                          qPrintable(item->caption));
                 QVERIFY(!item->hint.contains(u'%'));
-                const QString start = u"%1-"_s.arg(item->icon, 2, 10, QLatin1Char('0'));
-                QVERIFY2(item->icon < 0 || pictures.join(u'/').contains(start), qPrintable(start));
+                const QString icon = u":/icons/menu/%1.svg"_s.arg(item->icon, 2, 10, QLatin1Char('0'));
+                QVERIFY2(item->icon < 0 || QFile::exists(icon), qPrintable(icon));
                 if (item->kind == Kind::Command)
                     ids.insert(item->id);
             }
-            QCOMPARE(ids.size(), commands);
             QVERIFY(ids.contains(0)); // the item that closes the menu
         }
     }

@@ -100,6 +100,7 @@ private:
         ++houses;
         hand_ = std::make_unique<TestHand>(random_(), windowSize);
         TestGround &t = hand_->t;
+        t.mayLeaveAnswers = true;
         t.store.SaveSetting(u"Settings"_s, u"UseBackup"_s, below(3) == 0 ? u"1"_s : u"0"_s);
         hand_->placement->setTryLimit(400);
         for (QTimer *timer : hand_->pointer.findChildren<QTimer *>())
