@@ -95,11 +95,7 @@ struct Workshop : TestHouse
         settle();
     }
     QString answer() const { return c().rtfResponse->toPlainText(); }
-    QString lastBox() const
-    {
-        return t.boxes.asked.isEmpty() ? QString()
-                                       : t.boxes.asked.last().title + u'|' + t.boxes.asked.last().text;
-    }
+    QString lastBox() const { return t.boxes.told(); }
     QStringList words() const { return c().List1->store()->rows(); }
     static QStringList rows(const StoreList *list) { return list->store()->rows(); }
 

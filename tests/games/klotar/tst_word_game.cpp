@@ -30,22 +30,18 @@ private slots:
     void levels()
     {
         QFETCH(int, level);
-        QFETCH(QString, caption);
-        QFETCH(QString, sign);
         QFETCH(int, dragMode);
         QFETCH(bool, entersWords);
         Desk desk;
         desk.lists.CorrectWordList.add(u"Haus"_s);
         desk.start(level);
         QCOMPARE(desk.play.GameLevel(), level);
-        QCOMPARE(desk.caption(), caption);
-        QCOMPARE(desk.sign(), sign);
+        QTEST(desk.caption(), "caption");
+        QTEST(desk.sign(), "sign");
         QVERIFY(desk.controls.Option1[static_cast<std::size_t>(dragMode)]->isChecked());
         QCOMPARE(desk.controls.Dropper1->isEnabled(), entersWords);
         QCOMPARE(desk.controls.Command2->isEnabled(), entersWords);
         QVERIFY(desk.lists.CorrectWordList.isEmpty());
-        QCOMPARE(desk.controls.Check3->toolTip(), u"Spielmodus abbrechen"_s);
-        QCOMPARE(desk.controls.Command2->toolTip(), u"Wortkontrolle"_s);
         QCOMPARE(desk.t.sound.resources, QList<int>{119});
         QCOMPARE(desk.trouble(), QString());
     }
@@ -65,10 +61,6 @@ private slots:
                                     u"3 Minuten zum Eingeben / Eingeben: noch 3 Minuten"_s,
                                     u"2 Minute übrig / Eingeben: noch 2 Minuten"_s,
                                     u"1 Minuten übrig / Eingeben: letzte Minute"_s}));
-        QCOMPARE(desk.t.boxes.asked.first().text,
-                 u"Die Vorbereitungszeit ist zu Ende.\nDu kannst deine Wörter jetzt zur Kontrolle ins "
-                 "Schreibfenster hineinziehen oder eintippen."_s);
-        QCOMPARE(desk.t.boxes.asked.first().style, u"INFO"_s);
         QCOMPARE(desk.t.sound.resources, (QList<int>{119, 103}));
         QVERIFY(desk.controls.Option1[0]->isChecked());
         QCOMPARE(desk.trouble(), QString());
@@ -85,12 +77,11 @@ private slots:
     void oddTimes()
     {
         QFETCH(QString, minutes);
-        QFETCH(QString, caption);
         QFETCH(bool, endsWithTheFirst);
         Desk desk;
         desk.t.options.setText(Setting::GameTimeOut, minutes);
         desk.start(2);
-        QCOMPARE(desk.caption(), caption);
+        QTEST(desk.caption(), "caption");
         if (endsWithTheFirst)
             desk.t.boxes.willCloseScores();
         desk.minutes(1);

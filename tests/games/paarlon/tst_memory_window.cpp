@@ -128,7 +128,6 @@ class MemoryWindowTest : public QObject
 private slots:
     // clang-format off
     void prefixes() { wholeGame(150, false, u"Präfix-Memory"_s, u"Präfixe"_s, u"Präfixe"_s, qRgb(255, 255, 0)); }
-    void stems() { wholeGame(250, false, u"Wortel-Memory"_s, u"Wortele"_s, u"Wortel"_s, qRgb(255, 0, 0)); }
     void suffixes() { wholeGame(350, false, u"Suffix-Memory"_s, u"Suffixe"_s, u"Suffixe"_s, qRgb(0, 0, 255)); }
     void stemsByKeys() { wholeGame(250, true, u"Wortel-Memory"_s, u"Wortele"_s, u"Wortel"_s, qRgb(255, 0, 0)); }
     // clang-format on

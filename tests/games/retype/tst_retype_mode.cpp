@@ -103,7 +103,6 @@ private slots:
     {
         QFETCH(QString, way);
         QFETCH(QStringList, strip);
-        QFETCH(bool, red);
         Desk desk;
         desk.start(way);
         QCOMPARE(desk.shown(), strip.isEmpty() ? desk.lists.PseudoWordList.rows() : strip);
@@ -114,7 +113,7 @@ private slots:
                 desk.controls.Scroller->tick();
             return shows(desk.controls.Scroller, 0xFFFF0000) && shows(desk.controls.Dropper1, 0xFFFF0000);
         };
-        QCOMPARE(redLetters(), red);
+        QTEST(redLetters(), "red");
         desk.type(desk.shown().first());
         QTEST(desk.caption(), "left");
         desk.left();
@@ -273,6 +272,7 @@ private slots:
             desk.controls.CorrectWordList->setListIndex(0);
             desk.t.boxes.willTypeWord(u"belaufen"_s);
             desk.t.boxes.willPress(0);
+            desk.t.mayLeaveAnswers = true; // each entry asks for one at most
             desk.form.findChild<QAction *>(entry)->trigger();
             QCOMPARE(desk.shown(), nonsense || strip.isEmpty() ? before : strip);
             QCOMPARE(desk.play.RetypeActive(), nonsense || !strip.isEmpty());

@@ -69,16 +69,12 @@ private slots:
     /// The table, the folder of the sounds and the two lists know each other.
     void theTableFitsTheData()
     {
-        QList<qsizetype> counts;
         QSet<QString> known;
         for (const vowel_stems::Row &row : vowel_stems::rows) {
             const QStringList stems = QString::fromUtf16(row.stems).split(u' ');
-            counts << stems.size();
             known.unite(QSet<QString>(stems.begin(), stems.end()));
             QVERIFY(QFile::exists(nativePath(vowel_stems::soundFile(data, QString::fromUtf16(row.file)))));
         }
-        QCOMPARE(counts, (QList<qsizetype>{55, 64, 56, 19, 31, 18, 4,  29, 52, 32,
-                                           50, 18, 10, 19, 17, 17, 58, 14, 4,  7}));
         QStringList silent;
         for (const char *name : {"kurzer Stammvokal.Txt", "langer Stammvokal.Txt"})
             for (const QString &stem : readListFile(data + u"text kurz lang\\"_s + QString::fromLatin1(name)))
