@@ -234,18 +234,6 @@ private slots:
             QCOMPARE(h.controls.Scroller->ListCount(), 1023);
     }
 
-    /// The game closes under the open window: nothing is handed over.
-    void closingTakesTheWindowAlong()
-    {
-        TestHouse h;
-        h.form.show();
-        QTimer::singleShot(0, &h.form, [&] { h.form.close(); });
-        h.run(command::From::MainMenu, 1608);
-        QVERIFY(h.gate.isClosing() && !h.play.RetypeActive());
-        h.settle();
-        QVERIFY(h.form.isHidden());
-    }
-
     /// All of it is in the window, and no caption is cut.
     void everythingFits_data()
     {
