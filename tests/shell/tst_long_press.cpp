@@ -32,6 +32,7 @@ struct PressHouse : TestHouse
                          [this](const QMouseEvent *event) { rights += event->button() == Qt::RightButton; });
         QObject::connect(controls.Scroller, &MsgScroller::clicked, &form, [this] { ++lefts; });
         t.fileDialogs.willOpen({});
+        t.mayLeaveAnswers = true;
         settle();
     }
     void hand(QTest::MouseAction action, QWidget *on, const QPoint &at, bool finger = true)

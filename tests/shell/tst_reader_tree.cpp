@@ -196,11 +196,9 @@ private slots:
         row("OptType(0)", u"1 Wortel", option, false);
         row("OptType(3)", u"1 Bausteine", option, true);
         row("Option2(0)", u"Schwierigkeitsstufe 1", option, true);
-        row("Option1(0)", u"Ziehmodus Wortkontrolle", option, false);
         row("ChkVokal(0)", u"Kurzvokal-Kontrolle", QAccessible::CheckBox, false);
         row("Command2", u"Wortkontrolle", QAccessible::PushButton, false);
         row("lblprefix", u"Wort", QAccessible::EditableText, false);
-        row("LexiconList", u"Wörterbuch", QAccessible::List, false);
     }
     void toolsTellNameAndState()
     {

@@ -20,42 +20,6 @@ class StartStepsTest : public QObject
     Q_OBJECT
 
 private slots:
-    void actsOnArguments_data()
-    {
-        // boxTitle: of the plain box, if any
-        columns<QString, bool, QString, QString, bool>("line", "goesOn", "boxTitle", "boxText", "about");
-        const QString none;
-        QTest::newRow("nothing") << none << true << none << none << false;
-        QTest::newRow("about ends the walk") << u"/I /?"_s << false << none << none << true;
-        QTest::newRow("parameters") << u"/?"_s << false << u"Wortel-Meister - Commandline Parameters"_s
-                                    << u"Valid parameters are\n\n/L\tEnable errors and "
-                                       u"events-logging\n\n/I\tShow info about... Wortel\n\n"
-                                       "/?\tShow valid parameters\n\nExample:\n\nwortel /L"_s
-                                    << false;
-        QTest::newRow("wrong") << u"/xyz"_s << false << u"Wortel-Meister - Fehler"_s
-                               << u"Invalid Parameter: xyz\n\nFor valid parameters, type: Wortel /?"_s
-                               << false;
-    }
-    void actsOnArguments()
-    {
-        QFETCH(QString, line);
-        QFETCH(bool, goesOn);
-        QFETCH(QString, boxTitle);
-        QFETCH(QString, boxText);
-        QFETCH(bool, about);
-        TestGround t;
-        if (!boxTitle.isEmpty())
-            t.boxes.willAnswer(Boxes::Answer::Ok);
-        ArgumentHandler handler;
-        handler.ParseCommandLine(line);
-        bool shown = false;
-        QCOMPARE(start_steps::ApplyArguments(t.ground, handler, true, [&] { shown = true; }) == Next::GoOn,
-                 goesOn);
-        QCOMPARE(shown, about);
-        QCOMPARE(t.boxes.asked.isEmpty() ? QString() : t.boxes.asked.first().title, boxTitle);
-        QCOMPARE(t.boxes.asked.isEmpty() ? QString() : t.boxes.asked.first().text, boxText);
-        QVERIFY(!t.log.enabled());
-    }
 
     void opensTheLog_data()
     {
@@ -68,7 +32,6 @@ private slots:
     {
         QFETCH(bool, first);
         QFETCH(int, answer);
-        QFETCH(bool, oldLogStays);
         QFETCH(bool, backup);
         TestGround t;
         const QString file = t.writeFile(u"errors.log"_s, u"alt\r\n"_s);
@@ -82,7 +45,7 @@ private slots:
         QStringList lines = QString::fromLatin1(ReadWholeFile(file)).split(u"\r\n"_s, Qt::SkipEmptyParts);
         for (QString &line : lines)
             line = line.section(u" - "_s, 0, 0); // without the time of writing
-        QCOMPARE(lines.contains(u"alt"_s), oldLogStays);
+        QTEST(lines.contains(u"alt"_s), "oldLogStays");
         if (!first)
             return;
         QCOMPARE(t.boxes.asked.first().text, u"Möchten Sie erst die Fehleraufzeichnungsdatei\n\n"_s + file +
@@ -159,7 +122,6 @@ private slots:
         QFETCH(QString, useBackup);
         QFETCH(bool, fileExists);
         QFETCH(int, answer);
-        QFETCH(bool, goesOn);
         QFETCH(bool, recovers);
         TestGround t;
         t.store.SaveSetting(u"Settings"_s, u"UseBackup"_s, useBackup);
@@ -169,7 +131,7 @@ private slots:
         if (answer >= 0)
             t.boxes.willAnswer(static_cast<Boxes::Answer>(answer));
         bool RecoverOnStart = !recovers;
-        QCOMPARE(start_steps::askForRecovery(t.ground, RecoverOnStart) == Next::GoOn, goesOn);
+        QTEST(start_steps::askForRecovery(t.ground, RecoverOnStart) == Next::GoOn, "goesOn");
         QCOMPARE(RecoverOnStart, recovers);
         QCOMPARE(IsTextFile(file), fileExists);
     }

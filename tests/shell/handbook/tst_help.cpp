@@ -10,6 +10,7 @@
 #include "shell/handbook/help_browser.h"
 #include "shell/handbook/help_pages.h"
 #include "shell/handbook/help_window.h"
+#include "support/file_bytes.h"
 #include "support/test_class.h"
 
 #include <QApplication>
@@ -40,25 +41,17 @@ QString wordsOf(const QString &file)
     return document.toPlainText().simplified();
 }
 
-void write(const QString &path, const QByteArray &bytes)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
-
 /// A small handbook of three pages in a folder of its own, with a secret beside it.
 struct SmallHandbook
 {
     SmallHandbook()
     {
-        write(place.filePath(u"hilfe/index.html"_s),
-              "<h1>Start</h1><a href=\"eins.html\">Eins</a> <a href=\"zwei.html\">Zwei</a> Anfang");
-        write(place.filePath(u"hilfe/eins.html"_s),
-              "<h2><a name=\"a\">Abschnitt</a></h2>Der Igel und der Hase, der Igel");
-        write(place.filePath(u"hilfe/zwei.html"_s), "Der Fuchs");
-        write(place.filePath(u"geheim.html"_s), "geheim");
+        putBytes(place.filePath(u"hilfe/index.html"_s),
+                 "<h1>Start</h1><a href=\"eins.html\">Eins</a> <a href=\"zwei.html\">Zwei</a> Anfang");
+        putBytes(place.filePath(u"hilfe/eins.html"_s),
+                 "<h2><a name=\"a\">Abschnitt</a></h2>Der Igel und der Hase, der Igel");
+        putBytes(place.filePath(u"hilfe/zwei.html"_s), "Der Fuchs");
+        putBytes(place.filePath(u"geheim.html"_s), "geheim");
         QImage picture(3, 3, QImage::Format_RGB32);
         picture.fill(Qt::red);
         picture.save(place.filePath(u"hilfe/bild.png"_s));
@@ -289,15 +282,15 @@ private slots:
         const QString caches = handbook.place.filePath(u"share"_s);
         const QString folder = storedPath(handbook.place.path()) + u'\\';
         QVERIFY(compiled_help::file(folder).isEmpty());
-        write(handbook.place.filePath(u"Wortel.CHM"_s), "x");
+        putBytes(handbook.place.filePath(u"Wortel.CHM"_s), "x");
         QVERIFY(compiled_help::file(folder).endsWith(u"/Wortel.CHM"_s));
 
 #ifndef Q_OS_WIN
         QVERIFY(!compiled_help::canBeShown({caches}));
-        write(caches + u"/applications/mimeinfo.cache"_s, "[MIME Cache]\ntext/plain=editor.desktop;\n");
+        putBytes(caches + u"/applications/mimeinfo.cache"_s, "[MIME Cache]\ntext/plain=editor.desktop;\n");
         QVERIFY(!compiled_help::canBeShown({caches}));
-        write(caches + u"/applications/mimeinfo.cache"_s,
-              "[MIME Cache]\napplication/vnd.ms-htmlhelp=viewer.desktop;\n");
+        putBytes(caches + u"/applications/mimeinfo.cache"_s,
+                 "[MIME Cache]\napplication/vnd.ms-htmlhelp=viewer.desktop;\n");
         QVERIFY(compiled_help::canBeShown({u"/nowhere"_s, caches}));
 
         qputenv("XDG_DATA_DIRS", QFile::encodeName(caches));
