@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/settings_file.h"
+#include "support/file_bytes.h"
 #include "support/test_class.h"
 
 #include <future>
@@ -66,15 +67,6 @@ public:
 private:
     int below(int bound) { return static_cast<int>(random_() % static_cast<unsigned>(std::max(1, bound))); }
 
-    void layFile(const QString &name, const QByteArray &bytes) const
-    {
-        const QString path = folder_.filePath(name);
-        QDir().mkpath(QFileInfo(path).path());
-        QFile file(path);
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-            qFatal("no room for the test's files");
-    }
-
     void layFiles() const
     {
         QByteArray words;
@@ -83,7 +75,7 @@ private:
         for (const auto *name :
              {"text/Hauptbausteine.Txt", "facit/Hauptbausteine.lex", "affix/prefix.afx", "affix/suffix.afx",
               "text kurz lang/langer Stammvokal.Txt", "text kurz lang/kurzer Stammvokal.Txt"})
-            layFile(QString::fromLatin1(name), words);
+            putBytes(folder_.filePath(QString::fromLatin1(name)), words);
         QFile::copy(QStringLiteral(WORTEL_SOURCE_DIR "/data/lextip.ini"), folder_.filePath(u"lextip.ini"_s));
         SettingsFile(folder_.filePath(u"settings.ini"_s))
             .SaveSettings(u"Settings"_s, {{u"UseBackup"_s, u"1"_s},
@@ -155,7 +147,7 @@ private:
         QByteArray lines = news();
         read_ += lines.size();
         if (!lines.isEmpty() && !lines.endsWith('\n')) {
-            layFile(u"journal"_s, {});
+            putBytes(journal(), {});
             read_ = 0;
             lines.truncate(lines.lastIndexOf('\n') + 1);
         }
