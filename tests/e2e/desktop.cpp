@@ -199,6 +199,23 @@ bool Desktop::waitForNoWindow(const QString &titlePattern, int milliseconds)
     return false;
 }
 
+bool Desktop::answer(const QString &titlePattern, const QString &keys)
+{
+    if (waitForWindow(titlePattern).isEmpty())
+        return false;
+    pause(300);
+    key(keys);
+    return waitForNoWindow(titlePattern);
+}
+
+bool Desktop::answerWith(const QString &titlePattern, const QString &text)
+{
+    if (waitForWindow(titlePattern).isEmpty())
+        return false;
+    enter(text);
+    return waitForNoWindow(titlePattern);
+}
+
 QRect Desktop::geometry(const QString &window)
 {
     // Not xdotool's geometry: below a window manager it counts the frame twice.
@@ -254,6 +271,12 @@ bool Desktop::waitForPicture(const std::function<bool(const QImage &)> &isAsWish
         pause(100);
     } while (timer.elapsed() < milliseconds);
     return false;
+}
+
+bool Desktop::boardBecomes(const QImage &board, bool same)
+{
+    const QRect area = boardArea();
+    return waitForPicture([&](const QImage &picture) { return (picture.copy(area) == board) == same; });
 }
 
 void Desktop::keepPicture(const QString &name)

@@ -54,6 +54,11 @@ public:
     /// The id of a visible window whose title matches the regular expression, waited for; empty if none came.
     QString waitForWindow(const QString &titlePattern, int milliseconds = 15000);
     bool waitForNoWindow(const QString &titlePattern, int milliseconds = 5000);
+    /// Waits for a window or box, presses keys in it and waits until it has gone; false if it does not come
+    /// or go.
+    bool answer(const QString &titlePattern, const QString &keys = QStringLiteral("Return"));
+    /// The same with a text that is entered into it.
+    bool answerWith(const QString &titlePattern, const QString &text);
 
     /// Place and size of a window's inside on the screen.
     QRect geometry(const QString &window);
@@ -68,6 +73,8 @@ public:
 
     QImage screenshot();
     QImage boardPicture() { return screenshot().copy(boardArea()); }
+    /// Waits until the board looks like that, or no longer does.
+    bool boardBecomes(const QImage &board, bool same = true);
     /// Looks at the screen until it is as wished; false if that does not come.
     bool waitForPicture(const std::function<bool(const QImage &)> &isAsWished, int milliseconds = 15000);
     /// Stores the picture below the build folder, for looking at.

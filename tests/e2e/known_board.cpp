@@ -62,6 +62,19 @@ QVector<QRect> tilesOn(const QImage &screen, const QRect &board, QRgb colour)
     return tiles;
 }
 
+bool startKnownBoard(Desktop &desktop)
+{
+    desktop.start({desktop.writeFile(u"brett.wlx"_s, knownBoard())});
+    return !desktop.waitForWindow(mainWindow).isEmpty();
+}
+
+bool showsTiles(Desktop &desktop, qsizetype count, QRgb colour)
+{
+    const QRect board = desktop.boardArea();
+    return desktop.waitForPicture(
+        [&](const QImage &picture) { return tilesOn(picture, board, colour).size() == count; });
+}
+
 bool reportIsUp(const QImage &screen, const QRect &board)
 {
     const QRect area = reportArea(board);

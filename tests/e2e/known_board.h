@@ -26,8 +26,13 @@ QStringList knownWords();
 /// A session: "auf" in yellow, the known words in red, "en" in blue, none over another.
 QByteArray knownBoard();
 
+/// Starts the program with the known board and waits for its window.
+bool startKnownBoard(Desktop &desktop);
+
 /// The places of the board's tiles of a colour on the screen, by rows and then from the left.
 QVector<QRect> tilesOn(const QImage &screen, const QRect &board, QRgb colour);
+/// Waits until so many tiles of that colour are seen on the board.
+bool showsTiles(Desktop &desktop, qsizetype count, QRgb colour = colour::red);
 
 /// Whether the report of a word check stands over the left end of the band; with a smiley it praises. `board`
 /// is free of tiles there.

@@ -175,8 +175,7 @@ private slots:
         QVERIFY(bus_.start(desktop_->environment()));
         desktop_->setVariable(u"DBUS_SESSION_BUS_ADDRESS"_s, bus_.address());
         desktop_->setVariable(u"QT_LINUX_ACCESSIBILITY_ALWAYS_ON"_s, u"1"_s);
-        desktop_->start({desktop_->writeFile(u"brett.wlx"_s, knownBoard())});
-        QVERIFY(!desktop_->waitForWindow(mainWindow).isEmpty());
+        QVERIFY(startKnownBoard(*desktop_));
         QVERIFY(QTest::qWaitFor([this] { return !bus_.find(u"lauf, Wortel"_s).path.isEmpty(); }, 10000));
     }
 

@@ -18,12 +18,10 @@ private slots:
         desktop_ = std::make_unique<Desktop>(QSize(1024, 640));
         QVERIFY(desktop_->isReady());
         quiet(*desktop_);
-        desktop_->start({desktop_->writeFile(u"brett.wlx"_s, knownBoard())});
-        QVERIFY(!desktop_->waitForWindow(mainWindow).isEmpty());
+        QVERIFY(startKnownBoard(*desktop_));
         board_ = desktop_->boardArea();
         counterArea_ = desktop_->toolArea(u"OptType(0)"_s);
-        QVERIFY(
-            desktop_->waitForPicture([this](const QImage &picture) { return wortels(picture).size() == 6; }));
+        QVERIFY(showsTiles(*desktop_, 6));
     }
 
     void aTileFollowsThePointer()
@@ -57,8 +55,7 @@ private slots:
         desktop_->keepPicture(u"main-menu"_s);
         QVERIFY(desktop_->boardPicture() != before);
         desktop_->key(u"Escape"_s);
-        QVERIFY(
-            desktop_->waitForPicture([&](const QImage &picture) { return picture.copy(board_) == before; }));
+        QVERIFY(desktop_->boardBecomes(before));
     }
 
     void aTilesMenuRemovesAndCopies()
@@ -66,12 +63,8 @@ private slots:
         const QImage six = counter();
         desktop_->chooseFromMenu(wortels().first().center(),
                                  u"Up Up Return"_s); // from the end: close, remove
-        QVERIFY(!desktop_->waitForWindow(u"^Entfernen$"_s).isEmpty());
-        desktop_->keepPicture(u"remove-question"_s);
-        desktop_->key(u"Return"_s);
-        QVERIFY(desktop_->waitForNoWindow(u"^Entfernen$"_s));
-        QVERIFY(
-            desktop_->waitForPicture([this](const QImage &picture) { return wortels(picture).size() == 5; }));
+        QVERIFY(desktop_->answer(u"^Entfernen$"_s));
+        QVERIFY(showsTiles(*desktop_, 5));
         QVERIFY(desktop_->waitForPicture(
             [&](const QImage &picture) { return !sameText(counter(picture), six); }));
 
@@ -86,10 +79,8 @@ private slots:
         const QImage before = desktop_->boardPicture();
         const QImage counted = counter();
         desktop_->chooseFromMenu(wortels().first().center(), u"Up Up Return"_s);
-        QVERIFY(!desktop_->waitForWindow(u"^Entfernen$"_s).isEmpty());
-        desktop_->key(u"Escape"_s);
-        QVERIFY(
-            desktop_->waitForPicture([&](const QImage &picture) { return picture.copy(board_) == before; }));
+        QVERIFY(desktop_->answer(u"^Entfernen$"_s, u"Escape"_s));
+        QVERIFY(desktop_->boardBecomes(before));
         QVERIFY(sameText(counter(), counted));
     }
 
@@ -97,12 +88,10 @@ private slots:
     {
         const QImage before = desktop_->boardPicture();
         desktop_->key(u"ctrl+f"_s);
-        QVERIFY(
-            desktop_->waitForPicture([&](const QImage &picture) { return picture.copy(board_) != before; }));
+        QVERIFY(desktop_->boardBecomes(before, false));
         desktop_->keepPicture(u"shuffled"_s);
         desktop_->key(u"ctrl+i"_s);
-        QVERIFY(
-            desktop_->waitForPicture([&](const QImage &picture) { return picture.copy(board_) == before; }));
+        QVERIFY(desktop_->boardBecomes(before));
 
         desktop_->key(u"ctrl+b"_s);
         // Five in a row, as the setting tells, and the sixth below the first.

@@ -48,10 +48,7 @@ private slots:
         QFETCH(QString, window);
         Desktop desktop;
         desktop.start({argument});
-        QVERIFY(!desktop.waitForWindow(window).isEmpty());
-        Desktop::pause(300);
-        desktop.keepPicture(u"argument-"_s + QString::fromLatin1(QTest::currentDataTag()));
-        desktop.key(u"Return"_s);
+        QVERIFY(desktop.answer(window));
         QVERIFY(desktop.waitForEnd());
     }
 
@@ -60,10 +57,7 @@ private slots:
         Desktop desktop;
         QVERIFY(QFile::remove(desktop.programFolder() + u"/affix/suffix.afx"_s));
         desktop.start();
-        QVERIFY(!desktop.waitForWindow(u"^Wortel-Meister - Fehler"_s).isEmpty());
-        Desktop::pause(300);
-        desktop.keepPicture(u"missing-list"_s);
-        desktop.key(u"Return"_s);
+        QVERIFY(desktop.answer(u"^Wortel-Meister - Fehler"_s));
         QVERIFY(desktop.waitForEnd());
         QCOMPARE(desktop.exitCode(), 1);
     }

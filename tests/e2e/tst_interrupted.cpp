@@ -99,9 +99,7 @@ private slots:
         desktop.kill();
 
         desktop.start();
-        QVERIFY(!desktop.waitForWindow(u"Error Recovery$"_s).isEmpty());
-        Desktop::pause(300);
-        desktop.key(u"Return"_s);
+        QVERIFY(desktop.answer(u"Error Recovery$"_s));
         QVERIFY(!desktop.waitForWindow(mainWindow).isEmpty());
         QVERIFY(desktop.keeps(tileCount));
         QVERIFY(desktop.close());

@@ -8,13 +8,6 @@ namespace {
 
 constexpr int noteStays = 3500; ///< milliseconds, until no short note lies over the board
 
-bool showsWortels(Desktop &desktop, qsizetype count)
-{
-    const QRect board = desktop.boardArea();
-    return desktop.waitForPicture(
-        [&](const QImage &picture) { return tilesOn(picture, board, colour::red).size() == count; });
-}
-
 QPoint firstWortel(Desktop &desktop)
 {
     return tilesOn(desktop.screenshot(), desktop.boardArea(), colour::red).value(0).center();
@@ -38,21 +31,18 @@ private slots:
     {
         Desktop desktop(QSize(1024, 640));
         quiet(desktop);
-        desktop.start({desktop.writeFile(u"brett.wlx"_s, knownBoard())});
-        QVERIFY(showsWortels(desktop, 6));
+        QVERIFY(startKnownBoard(desktop));
+        QVERIFY(showsTiles(desktop, 6));
         desktop.drag(firstWortel(desktop), desktop.boardArea().center());
         copyFirstWortel(desktop);
-        QVERIFY(showsWortels(desktop, 7));
+        QVERIFY(showsTiles(desktop, 7));
         Desktop::pause(noteStays);
         const QImage saved = desktop.boardPicture();
 
         // From the menu's end: quit, close, help, options, action, session; in it: load, save as.
         desktop.chooseFromMenu(desktop.boardArea().topLeft() + QPoint(40, 300),
                                u"Up Up Up Up Up Up Right Down Return"_s);
-        QVERIFY(!desktop.waitForWindow(u"^Wortel - Sitzung speichern"_s).isEmpty());
-        desktop.keepPicture(u"session-dialog"_s);
-        desktop.enter(u"meine Stunde"_s);
-        QVERIFY(desktop.waitForNoWindow(u"^Wortel - Sitzung speichern"_s));
+        QVERIFY(desktop.answerWith(u"^Wortel - Sitzung speichern"_s, u"meine Stunde"_s));
         QVERIFY(desktop.waitForPicture(
             [&](const QImage &) { return QFile::exists(desktop.programFolder() + u"/meine Stunde.wlx"_s); }));
         QVERIFY(desktop.close());
@@ -61,14 +51,14 @@ private slots:
         QVERIFY(QFile::rename(desktop.programFolder() + u"/meine Stunde.wlx"_s,
                               desktop.programFolder() + u"/stunde.wlx"_s));
         desktop.start({u"stunde.wlx"_s});
-        QVERIFY(showsWortels(desktop, 7));
+        QVERIFY(showsTiles(desktop, 7));
         Desktop::pause(noteStays);
         desktop.keepPicture(u"session-restored"_s);
         QVERIFY(desktop.boardPicture() == saved);
 
         // A second start hands its session to the first and ends.
         QCOMPARE(desktop.startAgain({u"brett.wlx"_s}), 0);
-        QVERIFY(showsWortels(desktop, 6));
+        QVERIFY(showsTiles(desktop, 6));
         QVERIFY(desktop.isRunning());
         QVERIFY(desktop.close());
     }
@@ -79,10 +69,10 @@ private slots:
         quiet(desktop);
         desktop.setSetting(u"UseBackup"_s, u"1"_s);
         const QString backup = desktop.programFolder() + u"/WLXAutoSave.bak"_s;
-        desktop.start({desktop.writeFile(u"brett.wlx"_s, knownBoard())});
-        QVERIFY(showsWortels(desktop, 6));
+        QVERIFY(startKnownBoard(desktop));
+        QVERIFY(showsTiles(desktop, 6));
         copyFirstWortel(desktop);
-        QVERIFY(showsWortels(desktop, 7));
+        QVERIFY(showsTiles(desktop, 7));
         desktop.drag(firstWortel(desktop), desktop.boardArea().center());
         Desktop::pause(noteStays);
         const QImage lost = desktop.boardPicture();
@@ -90,14 +80,9 @@ private slots:
         desktop.kill();
 
         desktop.start();
-        const QString question = u"Error Recovery$"_s;
-        QVERIFY(!desktop.waitForWindow(question).isEmpty());
-        Desktop::pause(300);
-        desktop.keepPicture(u"recovery-question"_s);
-        desktop.key(u"Return"_s); // Yes
-        QVERIFY(desktop.waitForNoWindow(question));
+        QVERIFY(desktop.answer(u"Error Recovery$"_s)); // Yes
         QVERIFY(!desktop.waitForWindow(mainWindow).isEmpty());
-        QVERIFY(showsWortels(desktop, 7));
+        QVERIFY(showsTiles(desktop, 7));
         Desktop::pause(noteStays);
         desktop.keepPicture(u"board-recovered"_s);
         QVERIFY(desktop.boardPicture() == lost);

@@ -16,15 +16,9 @@ private slots:
         QVERIFY(desktop.isReady());
         quiet(desktop);
         desktop.setSetting(u"VerifyWinTime"_s, u"2"_s);
-        desktop.start({desktop.writeFile(u"brett.wlx"_s, knownBoard())});
-        QVERIFY(!desktop.waitForWindow(mainWindow).isEmpty());
+        QVERIFY(startKnownBoard(desktop));
         const QRect board = desktop.boardArea();
-        const auto shows = [&](int redTiles) {
-            return desktop.waitForPicture([&](const QImage &picture) {
-                return tilesOn(picture, board, colour::red).size() == redTiles;
-            });
-        };
-        QVERIFY(shows(6));
+        QVERIFY(showsTiles(desktop, 6));
         desktop.key(u"Home Return End Return ctrl+Return"_s); // "mach" and "en"
         QVERIFY2(desktop.waitForPicture([&](const QImage &picture) { return praiseIsUp(picture, board); }),
                  "the word is not found right");
@@ -41,17 +35,13 @@ private slots:
         QVERIFY(desktop.waitForNoWindow(u"Optionen"_s));
         QVERIFY(desktop.storedSettings() != before);
         desktop.key(u"ctrl+s"_s);
-        QVERIFY(!desktop.waitForWindow(u"^Wortel - Sitzung speichern"_s).isEmpty());
-        desktop.enter(u"stunde"_s);
-        QVERIFY(desktop.waitForNoWindow(u"^Wortel - Sitzung speichern"_s));
+        QVERIFY(desktop.answerWith(u"^Wortel - Sitzung speichern"_s, u"stunde"_s));
         desktop.key(u"Home Delete"_s);
-        QVERIFY(!desktop.waitForWindow(u"^Entfernen"_s).isEmpty());
-        desktop.key(u"Return"_s);
-        QVERIFY(shows(5));
+        QVERIFY(desktop.answer(u"^Entfernen"_s));
+        QVERIFY(showsTiles(desktop, 5));
         desktop.key(u"ctrl+o"_s);
-        QVERIFY(!desktop.waitForWindow(u"^Wortel - Sitzung laden"_s).isEmpty());
-        desktop.enter(u"stunde.wlx"_s);
-        QVERIFY(shows(6));
+        QVERIFY(desktop.answerWith(u"^Wortel - Sitzung laden"_s, u"stunde.wlx"_s));
+        QVERIFY(showsTiles(desktop, 6));
         QVERIFY(desktop.close());
     }
 };

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "e2e/desktop.h"
 #include "e2e/known_board.h"
+#include "support/file_bytes.h"
 #include "support/test_class.h"
 
 #include <memory>
@@ -22,11 +23,9 @@ private slots:
         desktop_->setSetting(u"VerifyWinTime"_s, u"2"_s);
         desktop_->setSetting(u"ScrollerRndPos"_s, u"False"_s);
         desktop_->setSetting(u"ScrollerMiddlePos"_s, u"True"_s);
-        desktop_->start({desktop_->writeFile(u"brett.wlx"_s, knownBoard())});
-        QVERIFY(!desktop_->waitForWindow(mainWindow).isEmpty());
+        QVERIFY(startKnownBoard(*desktop_));
         board_ = desktop_->boardArea();
-        QVERIFY(desktop_->waitForPicture(
-            [this](const QImage &picture) { return tilesOn(picture, board_, colour::red).size() == 6; }));
+        QVERIFY(showsTiles(*desktop_, 6));
     }
 
     void aWordIsJudged_data()
@@ -55,10 +54,9 @@ private slots:
     void theRightWordsAreSaved()
     {
         desktop_->click(desktop_->tool(u"Command4"_s), 3);
-        QVERIFY(!desktop_->waitForWindow(u"Speichern$"_s).isEmpty());
-        desktop_->enter(u"gefunden"_s);
-        QVERIFY(desktop_->waitForNoWindow(u"Speichern$"_s));
-        QCOMPARE(savedWords(u"gefunden.txt"_s), (QStringList{u"Kauf"_s, u"laufen"_s, u"machen"_s}));
+        QVERIFY(desktop_->answerWith(u"Speichern$"_s, u"gefunden"_s));
+        QCOMPARE(bytesOf(desktop_->programFolder() + u"/gefunden.txt"_s),
+                 QByteArray("Kauf\r\nlaufen\r\nmachen\r\n"));
     }
 
     void theListIsCopiedToTheEnd()
@@ -75,10 +73,7 @@ private slots:
         QVERIFY(typeAndCheck(u"laufen"_s));
         QVERIFY(reportGoes());
         QVERIFY(typeAndCheck(u"Kauf"_s));
-        QVERIFY(!desktop_->waitForWindow(u"^Abschreiben: Fertig"_s).isEmpty());
-        desktop_->keepPicture(u"strip-praise"_s);
-        desktop_->key(u"Return"_s);
-        QVERIFY(desktop_->waitForNoWindow(u"^Abschreiben: Fertig"_s));
+        QVERIFY(desktop_->answer(u"^Abschreiben: Fertig"_s));
         QVERIFY(desktop_->waitForPicture([this](const QImage &picture) { return toolsAreBack(picture); }));
     }
 
@@ -124,13 +119,6 @@ private:
     bool toolsAreBack(const QImage &picture)
     {
         return pixelsOfColour(picture, desktop_->toolArea(u"Text1"_s), colour::white) > 500;
-    }
-    QStringList savedWords(const QString &name) const
-    {
-        QFile file(desktop_->programFolder() + u'/' + name);
-        if (!file.open(QIODevice::ReadOnly))
-            return {};
-        return QString::fromLatin1(file.readAll()).split(u"\r\n"_s, Qt::SkipEmptyParts);
     }
 
     std::unique_ptr<Desktop> desktop_;

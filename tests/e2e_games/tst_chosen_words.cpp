@@ -6,6 +6,7 @@
 #include "language/chooser/mark_list.h"
 #include "language/list_loader.h"
 #include "platform/word_lists.h"
+#include "support/file_bytes.h"
 #include "support/test_class.h"
 #include "support/test_ground.h"
 
@@ -56,12 +57,9 @@ private slots:
         Desktop::pause(500);
         desktop.keepPicture(u"chooser"_s);
         desktop.key(u"ctrl+s"_s);
-        QVERIFY(!desktop.waitForWindow(u"speichern$"_s).isEmpty());
-        desktop.enter(u"auswahl"_s);
-        QVERIFY(desktop.waitForNoWindow(u"speichern$"_s));
-        QFile saved(desktop.programFolder() + u"/auswahl.txt"_s);
-        QVERIFY(saved.open(QIODevice::ReadOnly));
-        QCOMPARE(saved.readAll(), QByteArray("abfahren\r\nErfahrung\r\nanhalten\r\n"));
+        QVERIFY(desktop.answerWith(u"speichern$"_s, u"auswahl"_s));
+        QCOMPARE(bytesOf(desktop.programFolder() + u"/auswahl.txt"_s),
+                 QByteArray("abfahren\r\nErfahrung\r\nanhalten\r\n"));
 
         desktop.click(desktop.childOf(title, same, u"Check1"_s));
         QVERIFY(desktop.waitForNoWindow(title));
@@ -78,8 +76,7 @@ private slots:
                 desktop.waitForPicture([&](const QImage &picture) { return !reportIsUp(picture, board); }));
             Desktop::pause(700);
         }
-        QVERIFY(!desktop.waitForWindow(u"^Abschreiben: Fertig"_s).isEmpty());
-        desktop.key(u"Return"_s);
+        QVERIFY(desktop.answer(u"^Abschreiben: Fertig"_s));
         QVERIFY(desktop.close());
     }
 };

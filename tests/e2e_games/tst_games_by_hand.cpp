@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "e2e/desktop.h"
 #include "e2e/known_board.h"
+#include "support/file_bytes.h"
 #include "support/test_class.h"
 
 #include <memory>
@@ -34,17 +35,11 @@ private slots:
             Desktop::pause(500);
         }
         desktop_->click(desktop_->tool(u"Command4"_s), 3);
-        QVERIFY(!desktop_->waitForWindow(u"Speichern$"_s).isEmpty());
-        desktop_->enter(u"stamm"_s);
-        QVERIFY(desktop_->waitForNoWindow(u"Speichern$"_s));
-        QCOMPARE(bytesOf(u"stamm.txt"_s), QByteArray("blick\r\nhand\r\n"));
+        QVERIFY(desktop_->answerWith(u"Speichern$"_s, u"stamm"_s));
+        QCOMPARE(written(u"stamm.txt"_s), QByteArray("blick\r\nhand\r\n"));
 
         desktop_->click(desktop_->tool(u"ChkVokal(1)"_s), 3);
-        QVERIFY(!desktop_->waitForWindow(u"^Vokale anh"_s).isEmpty());
-        desktop_->key(u"Right space"_s);
-        desktop_->keepPicture(u"vowels-heard"_s);
-        desktop_->key(u"Escape"_s);
-        QVERIFY(desktop_->waitForNoWindow(u"^Vokale anh"_s));
+        QVERIFY(desktop_->answer(u"^Vokale anh"_s, u"Right space Escape"_s));
 
         desktop_->click(desktop_->tool(u"ChkVokal(0)"_s));
         QVERIFY2(desktop_->waitForPicture([this](const QImage &picture) { return affixes(picture) > 10; }),
@@ -64,11 +59,8 @@ private slots:
         QVERIFY(!desktop_->waitForWindow(u"^Bestenliste Wortelspiele"_s, 90000).isEmpty());
         desktop_->keepPicture(u"game-name"_s);
         desktop_->enter(u"Mia"_s); // in the place of what is selected
-        QVERIFY(!desktop_->waitForWindow(u"^Bestenliste - Klotar"_s).isEmpty());
-        desktop_->keepPicture(u"game-list"_s);
-        desktop_->key(u"Return"_s);
-        QVERIFY(desktop_->waitForNoWindow(u"^Bestenliste - Klotar"_s));
-        QVERIFY(bytesOf(u"scores.lst"_s).startsWith("Mia:12\r\nWortel:10\r\n"));
+        QVERIFY(desktop_->answer(u"^Bestenliste - Klotar"_s));
+        QVERIFY(written(u"scores.lst"_s).startsWith("Mia:12\r\nWortel:10\r\n"));
     }
 
     void theListAfterARestart()
@@ -76,11 +68,8 @@ private slots:
         QVERIFY(desktop_->close());
         start();
         desktop_->click(desktop_->tool(u"Check3"_s), 3);
-        QVERIFY(!desktop_->waitForWindow(u"^Bestenliste - Klotar"_s).isEmpty());
-        desktop_->keepPicture(u"game-list-restarted"_s);
-        desktop_->key(u"Return"_s);
-        QVERIFY(desktop_->waitForNoWindow(u"^Bestenliste - Klotar"_s));
-        QVERIFY(bytesOf(u"scores.lst"_s).startsWith("Mia:12\r\n"));
+        QVERIFY(desktop_->answer(u"^Bestenliste - Klotar"_s));
+        QVERIFY(written(u"scores.lst"_s).startsWith("Mia:12\r\n"));
         // In the middle of a game the program closes at once.
         desktop_->click(desktop_->tool(u"Check3"_s));
         QVERIFY(desktop_->close());
@@ -97,11 +86,7 @@ private:
         QVERIFY(desktop_->waitForPicture([this](const QImage &picture) { return affixes(picture) > 10; }));
     }
     qsizetype affixes(const QImage &picture) const { return tilesOn(picture, board_, colour::yellow).size(); }
-    QByteArray bytesOf(const QString &name) const
-    {
-        QFile file(desktop_->programFolder() + u'/' + name);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    QByteArray written(const QString &name) const { return bytesOf(desktop_->programFolder() + u'/' + name); }
 
     std::unique_ptr<Desktop> desktop_;
     QRect board_;

@@ -99,8 +99,7 @@ private:
             desktop.keepPicture(u"memory-%1-%2"_s.arg(label, QLatin1String(moment)));
         };
         quiet(desktop);
-        desktop.start({desktop.writeFile(u"brett.wlx"_s, knownBoard())});
-        QVERIFY(!desktop.waitForWindow(mainWindow).isEmpty());
+        QVERIFY(startKnownBoard(desktop));
         Desktop::pause(1200);
         const QRect board = desktop.boardArea();
         desktop.chooseFromMenu(board.center() + QPoint(board.width() / 4, 0),
@@ -130,11 +129,7 @@ private:
         QVERIFY(!desktop.waitForWindow(u"^Bestenliste Paarlon \\(%1\\)$"_s.arg(plural)).isEmpty());
         desktop.enter(u"Mia"_s);
         const QString list = u"^Bestenliste - Paarlon \\(%1\\)$"_s.arg(label);
-        QVERIFY(!desktop.waitForWindow(list).isEmpty());
-        Desktop::pause(300);
-        keep("list");
-        desktop.key(u"Return"_s);
-        QVERIFY(desktop.waitForNoWindow(list));
+        QVERIFY(desktop.answer(list));
         // The score that the player has counted, in the list of that kind.
         const QString record =
             label + u"Top 10:=%20"_s + QString::number(player.clicks) + u",Mia~990,Wortel~"_s;

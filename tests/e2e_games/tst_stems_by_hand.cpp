@@ -4,6 +4,7 @@
 #include "e2e/known_board.h"
 #include "games/kernling/kernling_controls.h"
 #include "games/kernling/kernling_text.h"
+#include "support/file_bytes.h"
 #include "support/test_class.h"
 #include "widgets/press_button.h"
 
@@ -60,9 +61,7 @@ private slots:
     void aTextIsLoaded()
     {
         desktop_->click(middle(controls_.Command5));
-        QVERIFY(!desktop_->waitForWindow(u"^Text auswählen$"_s).isEmpty());
-        desktop_->enter(u"satz.txt"_s);
-        QVERIFY(desktop_->waitForNoWindow(u"^Text auswählen$"_s));
+        QVERIFY(desktop_->answerWith(u"^Text auswählen$"_s, u"satz.txt"_s));
         QVERIFY(desktop_->waitForPicture(
             [this](const QImage &picture) { return inkIn(picture, controls_.RTF, Ink::Black) > 50; }));
     }
@@ -105,13 +104,8 @@ private slots:
         desktop_->keepPicture(u"kernling-game"_s);
         QVERIFY(!desktop_->waitForWindow(u"^Bestenliste Kernling$"_s).isEmpty());
         desktop_->enter(u"Ada"_s);
-        QVERIFY(!desktop_->waitForWindow(u"^Bestenliste - Kernling$"_s).isEmpty());
-        desktop_->keepPicture(u"kernling-list"_s);
-        desktop_->key(u"Return"_s);
-        QVERIFY(desktop_->waitForNoWindow(u"^Bestenliste - Kernling$"_s));
-        QFile scores(desktop_->programFolder() + u"/ScoresKernling.lst"_s);
-        QVERIFY(scores.open(QIODevice::ReadOnly));
-        QVERIFY(scores.readAll().endsWith("\r\nAda:1\r\n"));
+        QVERIFY(desktop_->answer(u"^Bestenliste - Kernling$"_s));
+        QVERIFY(bytesOf(desktop_->programFolder() + u"/ScoresKernling.lst"_s).endsWith("\r\nAda:1\r\n"));
     }
 
     void theWindowAndTheProgramClose()
