@@ -189,7 +189,6 @@ private slots:
         QVERIFY2(!strip.Panning(), "a disabled strip hears of no release");
         QVERIFY(strip.isTimerOn());
     }
-
 };
 
 WORTEL_TEST(MsgScrollerTest)
