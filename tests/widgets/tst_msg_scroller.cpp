@@ -22,6 +22,15 @@ void movePointer(MsgScroller &strip, const QPoint &position, Qt::MouseButtons bu
     QCoreApplication::sendEvent(&strip, &event);
 }
 
+bool hasInk(const QImage &image, const QRect &area, const QColor &colour)
+{
+    for (int y = area.top(); y <= area.bottom(); ++y)
+        for (int x = area.left(); x <= area.right(); ++x)
+            if (image.pixelColor(x, y) == colour)
+                return true;
+    return false;
+}
+
 } // namespace
 
 class MsgScrollerTest : public QObject
@@ -44,9 +53,10 @@ private slots:
         strip.setAutoScroll(true);
         strip.show();
         QVERIFY(!strip.Running());
-        strip.resize(20, 30);
+        const int fits = strip.strip().StripWidth();
+        strip.resize(fits - 1, 30);
         QVERIFY(strip.Running());
-        strip.resize(300, 30);
+        strip.resize(fits, 30);
         QVERIFY(!strip.Running());
 
         strip.setScroll(true);
@@ -188,6 +198,27 @@ private slots:
         strip.setEnabled(false);
         QVERIFY2(!strip.Panning(), "a disabled strip hears of no release");
         QVERIFY(strip.isTimerOn());
+    }
+
+    void colours()
+    {
+        MsgScroller strip;
+        QFont large = strip.font();
+        large.setPixelSize(24);
+        strip.setFont(large);
+        strip.setBackColor(Qt::yellow);
+        strip.setForeColor(Qt::black);
+        fill(strip, {u"IIII"_s, u"HHHH"_s});
+        strip.setItemColor(2, 0xFF0000);
+        strip.Refresh();
+        const QImage image = strip.grab().toImage();
+        const ScrollerStrip::HotSpot first = strip.strip().hotSpots().at(0);
+        const ScrollerStrip::HotSpot second = strip.strip().hotSpots().at(1);
+        QVERIFY(hasInk(image, {first.left, 2, first.right - first.left, 26}, Qt::black));
+        QVERIFY(hasInk(image, {second.left, 2, second.right - second.left, 26}, Qt::blue));
+        QVERIFY(!hasInk(image, {second.left, 2, second.right - second.left, 26}, Qt::black));
+        QCOMPARE(image.pixelColor(5, 3), QColor(Qt::yellow));
+        QCOMPARE(image.pixelColor(290, 15), QColor(Qt::white));
     }
 };
 
