@@ -11,6 +11,17 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+namespace {
+
+bool isOwn(int file)
+{
+    struct stat facts
+    {};
+    return fstat(file, &facts) == 0 && facts.st_uid == geteuid();
+}
+
+} // namespace
+
 InstanceLock::InstanceLock(const QString &file)
     : file_(file)
 {}
@@ -40,13 +51,18 @@ void InstanceLock::release()
     descriptor_ = -1;
 }
 
-/// What cannot be opened (another's file, a link, a folder) holds no lock of this user's and makes room.
+/// What cannot be opened (a link, a folder) or belongs to another user, who may hold it for ever, is no lock of
+/// this user's and makes room.
 int InstanceLock::openFile() const
 {
     const QByteArray path = QFile::encodeName(file_);
     constexpr int how = O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK;
     const int file = open(path.constData(), how, S_IRUSR | S_IWUSR);
-    if (file >= 0 || (errno != EACCES && errno != ELOOP && errno != EISDIR))
+    if (file >= 0 && isOwn(file))
         return file;
+    if (file >= 0)
+        close(file);
+    else if (errno != EACCES && errno != ELOOP && errno != EISDIR)
+        return -1;
     return std::remove(path.constData()) == 0 ? open(path.constData(), how, S_IRUSR | S_IWUSR) : -1;
 }

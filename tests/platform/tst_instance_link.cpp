@@ -8,6 +8,7 @@
 #include <QLocalSocket>
 
 #include <atomic>
+#include <sys/file.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
@@ -183,6 +184,19 @@ private slots:
         QVERIFY(first.isFirst());
         QVERIFY(!InstanceLink(address).isFirst());
         QCOMPARE(handOver({u"a"_s}, 5000, address), InstanceLink::Outcome::Taken);
+    }
+
+    void aLockThatAnotherUserHoldsMakesRoom()
+    {
+        if (geteuid() != 0)
+            QSKIP("only root may be another user");
+        QFile held(address_ + u".lock"_s);
+        QVERIFY(held.open(QIODevice::ReadWrite));
+        QCOMPARE(fchmod(held.handle(), 0666) + fchown(held.handle(), 65534, 65534), 0);
+        QCOMPARE(flock(held.handle(), LOCK_EX | LOCK_NB), 0);
+        const InstanceLink first(address_);
+        QVERIFY(first.isFirst());
+        QVERIFY(!InstanceLink(address_).isFirst());
     }
 
     void aFolderMayHaveALongName()
