@@ -132,7 +132,10 @@ void Backup::RestoreMyObjects(const QString &path)
 void Backup::readBoard(const QString &path)
 {
     TileStore &store = canvas_.store();
-    const std::vector<BackupRecord> records = backup_file::decode(ReadWholeFile(path));
+    const QByteArray bytes = ReadWholeFile(path);
+    const std::vector<BackupRecord> records = backup_file::decode(bytes);
+    if (records.empty() && !bytes.isEmpty())
+        throw RuntimeError::of(RuntimeError::TypeMismatch); // an empty board has its record too
     TileList tiles;
     Procedure step{ground_.log, "RestoreMyObjects", form, Procedure::Silent};
     const bool whole = step([&] {

@@ -96,7 +96,7 @@ private slots:
         row("left out of 16 bits", good + record('S', 40000, 1) + good, "7,8 x", true);
         row("top at the end of 32 bits", good + record('M', 0, std::numeric_limits<qint32>::min()), "7,8 x",
             true);
-        row("text", "[Morpheme1]\r\nType=Prefix\r\n", "");
+        row("text", "[Morpheme1]\r\nType=Prefix\r\n", "50,50 weg", true);
     }
     void badFiles()
     {
