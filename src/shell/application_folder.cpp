@@ -26,5 +26,6 @@ QString application_folder::find(const QString &programFolder, const QString &in
     } catch (const std::exception &) {
         // A full disk, a home that cannot be written: what lies there may do all the same.
     }
-    return withTrailingBackslash(data_upgrade::isWhole(userFolder) ? userFolder : installedData);
+    return withTrailingBackslash(data_upgrade::isWhole(userFolder, installedData) ? userFolder
+                                                                                  : installedData);
 }

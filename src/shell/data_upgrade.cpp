@@ -13,12 +13,33 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <array>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr auto sumKind = QCryptographicHash::Sha256;
+
+/// The files without which no start is possible, whatever list is chosen.
+constexpr std::array needed{"text/Hauptbausteine.Txt", "facit/Hauptbausteine.lex", "affix/prefix.afx",
+                            "affix/suffix.afx"};
+
+bool isNeeded(const QString &name)
+{
+    return std::ranges::any_of(needed, [&](const char *file) { return name == QLatin1String(file); });
+}
+
+bool isThere(const QString &path) { return QFileInfo(nativePath(path)).isFile(); }
+
+/// True if `userFolder` has all of `needed` that is installed.
+bool hasNeeded(const QString &userFolder, const QString &installedData)
+{
+    return std::ranges::all_of(needed, [&](const char *file) {
+        const QString name = u'/' + QLatin1String(file);
+        return isThere(userFolder + name) || !isThere(installedData + name);
+    });
+}
 
 struct InstalledFile
 {
@@ -107,7 +128,7 @@ private:
         const QString target = nativePath(userFolder_ + u'/' + file.name);
         const QFileInfo old(target);
         if (!old.exists() && !old.isSymLink()) {
-            if (begins_ || !laid_.knows(file.name))
+            if (begins_ || isNeeded(file.name) || !laid_.knows(file.name))
                 steps_.push_back({file.name, target, sumOfInstalled(file), false});
             return;
         }
@@ -152,9 +173,10 @@ bool data_upgrade::holdsData(const QString &folder)
     return QFileInfo(folder + u"/text"_s).isDir() && QFileInfo(folder + u"/facit"_s).isDir();
 }
 
-bool data_upgrade::isWhole(const QString &userFolder)
+bool data_upgrade::isWhole(const QString &userFolder, const QString &installedData)
 {
-    return holdsData(userFolder) && DataManifest::read(userFolder).wasComplete();
+    return holdsData(userFolder) && DataManifest::read(userFolder).wasComplete() &&
+           hasNeeded(userFolder, installedData);
 }
 
 void data_upgrade::bringUpToDate(const QString &userFolder, const QString &installedData,
@@ -163,7 +185,8 @@ void data_upgrade::bringUpToDate(const QString &userFolder, const QString &insta
     const std::vector<InstalledFile> files = filesBelow(installedData);
     const QByteArray fingerprint = fingerprintOf(files);
     DataManifest laid = DataManifest::read(userFolder);
-    if (holdsData(userFolder) && (laid.isComplete(version, fingerprint) || laid.isNewerThan(version)))
+    const bool isUpToDate = laid.isComplete(version, fingerprint) && hasNeeded(userFolder, installedData);
+    if (holdsData(userFolder) && (isUpToDate || laid.isNewerThan(version)))
         return;
     if (Upgrade(userFolder, installedData, laid).run(files))
         laid.setComplete(version, fingerprint);

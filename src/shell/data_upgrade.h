@@ -9,7 +9,8 @@
 /// A manifest in the user's folder keeps the checksum of every file that was laid down. With a new version
 /// - a file that still is what was laid down, or what is installed now, gets the new content;
 /// - a file that the user has edited, or that nothing is known of, stays;
-/// - a file that is new comes, and a file that the user has taken away stays away;
+/// - a file that is new comes, and a file that the user has taken away stays away, but for the few without
+///   which no start is possible: those come back at the next start;
 /// - a file that the new version has no more stays: a session or a setting may name it.
 /// An older version leaves what a newer one has laid down.
 namespace data_upgrade {
@@ -17,8 +18,8 @@ namespace data_upgrade {
 /// True if the folder has the lists and dictionaries without which there is no game.
 bool holdsData(const QString &folder);
 
-/// True if some version has filled the folder to the last file.
-bool isWhole(const QString &userFolder);
+/// True if some version has filled the folder to the last file, and none is gone that a start needs.
+bool isWhole(const QString &userFolder, const QString &installedData);
 
 /// Native paths; `version` is the program's, "1.2.3". When nothing has changed since the last time it looks
 /// at sizes and times only. It may be cut off at any moment and goes on at the next start: every file is the
