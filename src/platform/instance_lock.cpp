@@ -51,8 +51,8 @@ void InstanceLock::release()
     descriptor_ = -1;
 }
 
-/// What cannot be opened (a link, a folder) or belongs to another user, who may hold it for ever, is no lock of
-/// this user's and makes room.
+/// What cannot be opened (a link, a folder) or belongs to another user, who may hold it for ever, is no lock
+/// of this user's and makes room.
 int InstanceLock::openFile() const
 {
     const QByteArray path = QFile::encodeName(file_);
