@@ -105,8 +105,7 @@ void Sessions::writeSession(const QString &path)
         ground_.boxes.plainBox(
             Boxes::Icon::Critical, product::faultTitle,
             u".WLX-Datei könnte nicht gespeichert werden.\n\n FrmTransform::SaveObjects (Line: "_s +
-                lineHere() + u") \n"_s +
-                (error.number() == RuntimeError::OutOfMemory ? faultWords(error) : error.description()));
+                lineHere() + u") \n"_s + faultWords(error));
         throw;
     }
     makeCurrent(path);

@@ -16,6 +16,8 @@ struct TileCopy
     QString text;
     Colour back = 0;
     Colour textColour = 0;
+
+    bool operator==(const TileCopy &) const = default;
 };
 
 /// The board as it stood after a change.

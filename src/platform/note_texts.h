@@ -47,6 +47,7 @@ inline constexpr char16_t noKnownWord[]     = u"Kein Wort deiner Wörterliste st
 inline constexpr char16_t allSeen[]         = u"Alle Bausteine sind schon zu sehen";
 inline constexpr char16_t sizeIs[]          = u"Größe: %1";
 inline constexpr char16_t noLarger[]        = u"Größer geht es auf diesem Bildschirm nicht";
+inline constexpr char16_t notSoLarge[]      = u"Auf diesem Bildschirm geht es nur bis %1";
 inline constexpr char16_t noSmaller[]       = u"Kleiner geht es nicht";
 inline constexpr char16_t sizeAfterGame[]   = u"Die neue Größe gilt, sobald das Spiel zu Ende ist";
 inline constexpr char16_t sizeAfterRetype[] = u"Die neue Größe gilt, sobald das Abschreiben zu Ende ist";

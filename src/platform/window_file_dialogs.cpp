@@ -65,6 +65,18 @@ QString troubleWith(const QString &path)
     return {};
 }
 
+/// Sizes and types would be told in the language of the system, and the list be wider than the window.
+void showNameAndDate(QHeaderView &header)
+{
+    constexpr int date = 3;
+    for (int column = 1; column < header.count(); ++column) {
+        header.setSectionHidden(column, column != date);
+        header.setSectionResizeMode(column, QHeaderView::ResizeToContents);
+    }
+    header.setStretchLastSection(false);
+    header.setSectionResizeMode(0, QHeaderView::Stretch);
+}
+
 /// The toolkit's dialog, in which nothing can be done but to choose: the common ways of all of them.
 class FileWindow : public QFileDialog
 {
@@ -91,8 +103,7 @@ public:
         if (auto *splitter = findChild<QSplitter *>(u"splitter"_s))
             splitter->setSizes({placesWidth, width() - placesWidth});
         if (auto *header = findChild<QHeaderView *>())
-            for (int column = 1; column < header->count(); ++column) // all but the name
-                header->setSectionResizeMode(column, QHeaderView::ResizeToContents);
+            showNameAndDate(*header);
         const auto views = findChildren<QAbstractItemView *>();
         for (QAbstractItemView *view : views)
             view->setDragEnabled(false); // a file manager would take it for a move

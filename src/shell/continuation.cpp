@@ -108,7 +108,7 @@ void putTools(const Continuation &kept, Rooms &r, frmMain &form)
         c.ChkVokal[kept.vowels == Vowels::Short ? 0 : 1]->setChecked(true);
         form.play().setCheckedVowels(kept.vowels);
     }
-    r.vowelBoard.goOn(kept.listBeforeVowels);
+    r.vowelBoard.goOn(kept.listBeforeVowels, kept.boardBeforeVowels);
     r.printing.takeSetUp(kept.printer);
     if (!kept.clipboard.isEmpty())
         QGuiApplication::clipboard()->setText(kept.clipboard);
@@ -142,6 +142,7 @@ Continuation continuationOf(frmMain &form, int percent)
     kept.dragMode = dragModeOf(c);
     kept.vowels = form.play().checkedVowels();
     kept.listBeforeVowels = r.vowelBoard.usedBefore();
+    kept.boardBeforeVowels = r.vowelBoard.boardBefore();
     kept.wordListOpen = !c.CorrectWordList->isHidden();
     kept.dictionaryOpen = r.dictionary.isOpen();
     for (std::size_t i = 0; i < kept.morphemeListsOpen.size(); ++i)

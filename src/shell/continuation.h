@@ -42,6 +42,7 @@ struct Continuation
     int dragMode = 1; ///< -1: none
     Vowels vowels = Vowels::None;
     QString listBeforeVowels;
+    Snapshot boardBeforeVowels;
     bool wordListOpen = false, dictionaryOpen = false;
     std::array<bool, 3> morphemeListsOpen{}; ///< Wortel, prefix, suffix
     bool tipIsDue = false;

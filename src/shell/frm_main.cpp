@@ -94,7 +94,10 @@ void frmMain::loadForm()
     step([&] { controls_.Text1->setText(ground_.options.text(Setting::NumWortel)); });
     step([&] { rooms_->game.takeLevel(); });
     step([&] { rooms_->optTypes.select(TileFilter::all); });
-    step([&] { rooms_->background.loadFromSetting(); });
+    QString trouble;
+    step([&] { trouble = rooms_->background.loadFromSetting(); });
+    if (!trouble.isEmpty())
+        onceActivated_.push_back([this, trouble] { rooms_->background.tell(trouble); });
 
     step([&] { rooms_->strip.SetUpMsgScroller(); });
 }
@@ -181,6 +184,7 @@ void frmMain::Form_Activate()
     if (const std::unique_ptr<Continuation> kept = std::exchange(opensAgain_, nullptr)) {
         step([&] { rooms_->fit.fit(); });
         step([&] { openAgain(*kept, *this); });
+        step([&] { size_.tellIfLess(); });
     }
     if (std::exchange(activated_, true))
         return;
@@ -257,7 +261,7 @@ void frmMain::tellNotOpened(const QStringList &missing, const QStringList &switc
     if (!missing.isEmpty())
         sentences << (missing.size() == 1 ? u"Diese Sitzung gibt es nicht:\n"_s
                                           : u"Diese Sitzungen gibt es nicht:\n"_s) +
-                         missing.join(u'\n');
+                         nativePath(missing.join(u'\n'));
     if (!switches.isEmpty())
         sentences << u"Wortel-Meister läuft schon. Das gilt nur beim ersten Start: "_s + switches.join(u' ');
     if (!sentences.isEmpty())

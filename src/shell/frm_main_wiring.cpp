@@ -207,6 +207,11 @@ void frmMain::wireModes()
     connect(&r.check, &WordCheck::vowelsSwitchedOff, &r.vowelBoard, &VowelBoard::RestoreAfterVokal);
     connect(&r.sessions, &Sessions::boardOpens, &r.game, &WordGame::boardOpens);
     connect(&r.sessions, &Sessions::boardOpens, &r.vowelBoard, &VowelBoard::makeRoom);
+    connect(&r.sessions, &Sessions::boardOpens, &r.tips, &Tips::hideTip);
+    connect(&r.news, &BoardNews::stepped, this, [this, &r] {
+        if (!play_.GameActive() && !play_.RetypeActive())
+            r.vowelBoard.boardSteps();
+    });
     connect(&r.check, &WordCheck::retypeWordFound, &r.retype, &RetypeMode::wordCopied);
     connect(&r.wordList, &WordListPanel::wordsEdited, &r.retype, &RetypeMode::wordsEdited);
     connect(&r.dictionary, &DictionaryPanel::startRetypeFromList, &r.retype,
@@ -243,7 +248,10 @@ void frmMain::wireKeeping()
     connect(&r.news, &BoardNews::opened, this, &frmMain::offerToFit);
     connect(&r.sessions, &Sessions::restored, this, &frmMain::offerToFit);
     for (const auto news : {&BoardNews::committed, &BoardNews::stepped})
-        connect(&r.news, news, this, [&r] { r.fit.follow(); });
+        connect(&r.news, news, this, [&r] {
+            r.fit.follow();
+            r.tips.recompose();
+        });
     size_.askBefore(
         [&r]() -> const char16_t * { return r.kernling.keepsText() ? note::sizeNextStart : nullptr; });
     connect(&size_, &SizeChange::due, this, &frmMain::sizeChangeDue);

@@ -105,6 +105,13 @@ void SizeChange::takeSetting()
     wanted_ = program_size::onScreen(wish, screen_);
     told_ = false;
     timer_.start();
+    ground_.gate.whenFree([this] { tellIfLess(); }); // once the options are gone
+}
+
+void SizeChange::tellIfLess()
+{
+    if (wish_ != program_size::automatic && wish_ > wanted_ && wanted_ == percent_)
+        ground_.notes.tell(note::notSoLarge, program_size::textOf(percent_));
 }
 
 void SizeChange::settle()

@@ -36,6 +36,8 @@ public:
     void automatic();
     /// The options were applied.
     void takeSetting();
+    /// Says that the size that was chosen is more than the screen has room for.
+    void tellIfLess();
     /// The size that the program is to have, in percent.
     int wanted() const { return wanted_; }
 

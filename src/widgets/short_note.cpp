@@ -5,8 +5,12 @@
 #include "widgets/announce.h"
 #include "widgets/colour.h"
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
 #include <QEvent>
+#include <QLabel>
+#include <QLineEdit>
 #include <QPainter>
 
 #include <algorithm>
@@ -88,6 +92,22 @@ QList<QRect> openOver(const QWidget &window)
     return places;
 }
 
+/// What a window is worked with: its lists and texts may be covered for a while, what stands around them not.
+QList<QRect> toolsOf(const QWidget &window)
+{
+    QList<QRect> places;
+    const auto children = window.findChildren<QWidget *>();
+    for (const QWidget *child : children) {
+        const bool isTool = qobject_cast<const QAbstractButton *>(child) != nullptr ||
+                            qobject_cast<const QLineEdit *>(child) != nullptr ||
+                            qobject_cast<const QComboBox *>(child) != nullptr ||
+                            qobject_cast<const QLabel *>(child) != nullptr;
+        if (isTool && child->isVisible() && child->window() == &window)
+            places << QRect(child->mapTo(&window, QPoint()), child->size());
+    }
+    return places;
+}
+
 } // namespace
 
 ShortNote::ShortNote(const QWidget &board, QWidget &band)
@@ -158,7 +178,7 @@ bool ShortNote::eventFilter(QObject *watched, QEvent *event)
 QList<QRect> ShortNote::covered() const
 {
     if (board_ == nullptr)
-        return {};
+        return toolsOf(*parentWidget());
     QList<QRect> taken = openOver(*parentWidget());
     for (const QObject *child : parentWidget()->children()) {
         const auto *widget = qobject_cast<const QWidget *>(child);

@@ -125,7 +125,7 @@ private slots:
     {
         columns<QStringList, QString>("arguments", "told");
         QTest::newRow("mistyped") << QStringList{u"\\fort 1.wlx"_s}
-                                  << u"Diese Sitzung gibt es nicht:\n\\fort 1.wlx"_s;
+                                  << u"Diese Sitzung gibt es nicht:\n/fort 1.wlx"_s;
         QTest::newRow("a switch") << QStringList{u"/L"_s}
                                   << u"Wortel-Meister läuft schon. Das gilt nur beim ersten Start: /L"_s;
     }

@@ -23,6 +23,8 @@ public:
     /// A dropped file (native path) replaces the picture; the setting stays. Tells the user what is wrong
     /// with a file that is no picture.
     void drop(const QString &nativePath);
+    /// Tells the user what is wrong with a picture.
+    void tell(const QString &trouble);
     /// Back to the plain colour.
     void remove();
 
@@ -34,7 +36,6 @@ public:
 private:
     void show(const QString &nativePath);
     QString troubleWith(const QString &nativePath);
-    void tell(const QString &trouble);
 
     Ground &ground_;
     const MainControls &controls_;

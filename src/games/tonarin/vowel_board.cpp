@@ -91,8 +91,10 @@ void VowelBoard::load()
         giveUp();
         return;
     }
-    if (usedBefore_.isEmpty())
+    if (usedBefore_.isEmpty()) {
         usedBefore_ = lists_.CurrentWortelFile;
+        boardBefore_ = copyOf(rooms_.canvas.store().tiles());
+    }
     controls_.PicAlpha->hide(); // a tip shows the board that was
     step([&] {
         const Work work(ground_);
@@ -169,6 +171,20 @@ void VowelBoard::makeRoom()
         return;
     step([&] { restoreLists(); });
     switchOff();
+}
+
+void VowelBoard::boardSteps()
+{
+    if (usedBefore_.isEmpty() || copyOf(rooms_.canvas.store().tiles()) != boardBefore_)
+        return;
+    makeRoom();
+    ground_.notes.tell(note::boardRecovered);
+}
+
+void VowelBoard::goOn(const QString &usedBefore, const Snapshot &boardBefore)
+{
+    usedBefore_ = usedBefore;
+    boardBefore_ = boardBefore;
 }
 
 void VowelBoard::PlayTheVokal(const QString &Word)

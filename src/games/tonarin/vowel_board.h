@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "persistence/snapshot_ring.h"
 #include "platform/play_state.h"
 
 #include <QObject>
@@ -47,10 +48,14 @@ public:
     void RestoreAfterVokal();
     /// Another board is opened: boxes off, lists back, the tiles are left to whoever opens it.
     void makeRoom();
+    /// Undo or redo has put a board back. With the one that lay there before, its lists come back too.
+    void boardSteps();
     /// The stem list that comes back afterwards, stored form; empty if there is no such board.
     QString usedBefore() const { return usedBefore_; }
+    /// The tiles that lay there before.
+    const Snapshot &boardBefore() const { return boardBefore_; }
     /// The board lies already: it was made before the window was.
-    void goOn(const QString &usedBefore) { usedBefore_ = usedBefore; }
+    void goOn(const QString &usedBefore, const Snapshot &boardBefore);
     /// Says the vowel of a stem of the table, by the setting of the sounds.
     void PlayTheVokal(const QString &Word);
 
@@ -65,4 +70,5 @@ private:
     WordLists &lists_;
     Rooms rooms_;
     QString usedBefore_; ///< the stem list in use when the board was made, stored form
+    Snapshot boardBefore_;
 };
