@@ -252,8 +252,12 @@ void frmMain::wireKeeping()
             r.fit.follow();
             r.tips.recompose();
         });
-    size_.askBefore(
-        [&r]() -> const char16_t * { return r.kernling.keepsText() ? note::sizeNextStart : nullptr; });
+    size_.askBefore([&r]() -> const char16_t * {
+        if (r.paarlon.window() != nullptr)
+            return note::sizeAfterWindow;
+        return r.kernling.keepsText() ? note::sizeNextStart : nullptr;
+    });
+    connect(&r.paarlon, &Paarlon::closed, &size_, &SizeChange::act);
     connect(&size_, &SizeChange::due, this, &frmMain::sizeChangeDue);
 
     connect(&ground_.options, &Options::applied, this, [this, &r] {
@@ -323,8 +327,10 @@ void frmMain::closeOnTop()
 void frmMain::showNote(const QString &text)
 {
     constexpr int narrowest = 500; // a box is too small for it
-    QWidget *const above = QApplication::activeModalWidget();
-    if (above == nullptr || above->width() < narrowest) {
+    QWidget *above = QApplication::activeModalWidget();
+    if (above == nullptr)
+        above = QApplication::activeWindow(); // Paarlon's, for one
+    if (above == nullptr || above == this || above->width() < narrowest) {
         note_->tell(text);
         return;
     }

@@ -38,6 +38,8 @@ public:
     void takeSetting();
     /// Says that the size that was chosen is more than the screen has room for.
     void tellIfLess();
+    /// What it had to wait for has ended, perhaps.
+    void act();
     /// The size that the program is to have, in percent.
     int wanted() const { return wanted_; }
 
@@ -52,7 +54,6 @@ private:
     bool isMine(const QKeyEvent &event);
     void want(int wish);
     void settle();
-    void act();
     void tellWait();
 
     Ground &ground_;

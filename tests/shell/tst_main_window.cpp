@@ -121,6 +121,18 @@ private slots:
         QVERIFY2(!house.r.undo.CanUndo(), "undo knows nothing before it");
     }
 
+    void tellsThatThePictureCannotBeRead()
+    {
+        Start house({{"NumWortel", "3"}});
+        house.t.writeFile(u"kaputt.jpg"_s, u"kein Bild"_s);
+        house.t.store.SaveSetting(u"Settings"_s, u"BackgroundPicture"_s,
+                                  house.t.AppFolder + u"kaputt.jpg"_s);
+        QVERIFY(house.form.Form_Load());
+        house.t.boxes.willAnswer(Boxes::Answer::Ok);
+        house.appear();
+        QVERIFY(house.t.boxes.told().contains(u"Das Bild kann nicht gezeigt werden."_s));
+    }
+
     void whatNamesNoSessionLeavesTheBoardAlone_data()
     {
         columns<QStringList, QString>("arguments", "told");

@@ -1,16 +1,17 @@
 // SPDX-FileCopyrightText: 2026 Wortel-Meister contributors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "games/kernling/kernling_text.h"
+#include "games/paarlon/frm_memory.h"
 #include "shell/continuation.h"
 #include "support/test_class.h"
 #include "support/test_house.h"
 
 namespace {
 
-StartFacts wideScreen()
+StartFacts factsOf(QSize screen)
 {
     StartFacts facts;
-    facts.Screen = {1920, 1080};
+    facts.Screen = screen;
     return facts;
 }
 
@@ -18,8 +19,8 @@ struct House : TestHouse
 {
     QSignalSpy due{&form, &frmMain::sizeChangeDue};
 
-    House()
-        : TestHouse(1, {632, 573}, true, wideScreen())
+    explicit House(QSize screen = {1920, 1080})
+        : TestHouse(1, {632, 573}, true, factsOf(screen))
     {}
 
     void strg(Qt::Key key, int times = 1)
@@ -78,6 +79,12 @@ private slots:
             meanwhile();
             house.play.stop();
         }) << u"Die neue Größe gilt, sobald das Abschreiben zu Ende ist"_s;
+        QTest::newRow("Paarlon") << Busy([](House &house, const std::function<void()> &meanwhile) {
+            house.run(command::From::MainMenu, 250);
+            meanwhile();
+            QVERIFY(house.r.paarlon.window() != nullptr);
+            house.r.paarlon.window()->close();
+        }) << u"Die neue Größe gilt, sobald dieses Fenster geschlossen ist"_s;
         QTest::newRow("work") << Busy([](House &house, const std::function<void()> &meanwhile) {
             const Gate::Passage passage = house.gate.stay();
             meanwhile();
@@ -123,6 +130,16 @@ private slots:
             house.run(command::From::MainMenu, id);
             QCOMPARE(house.form.sizeChange().wanted(), wanted);
         }
+    }
+
+    void moreThanTheScreenHas()
+    {
+        House house({853, 480});
+        house.t.options.setText(Setting::ProgramSize, u"300 %"_s);
+        house.t.options.ApplySettings();
+        House::rest();
+        QCOMPARE(house.due.size(), 0);
+        QCOMPARE(house.t.told.last(), u"Auf diesem Bildschirm geht es nur bis 100 %"_s);
     }
 
     /// What another start has handed over is done first: the new window would not know it.
@@ -174,7 +191,7 @@ private slots:
         QVERIFY(!first.gate.letsIn(Gate::Way::Play));
         QVERIFY2(first.t.sound.resources.isEmpty(), "no goodbye");
 
-        TestHouse second(2, {500, 400}, false, wideScreen());
+        TestHouse second(2, {500, 400}, false, factsOf({1920, 1080}));
         second.form.goOn(kept);
         QCOMPARE(second.described(), first.described());
         QCOMPARE(second.described().size(), 2);
@@ -215,7 +232,7 @@ private slots:
         first.form.leave();
         first.form.hide();
 
-        TestHouse second(2, {632, 573}, false, wideScreen());
+        TestHouse second(2, {632, 573}, false, factsOf({1920, 1080}));
         second.form.goOn(kept);
         second.form.show();
         QVERIFY(QTest::qWaitForWindowActive(&second.form));

@@ -35,4 +35,8 @@ void Paarlon::Display(const MemoryKind &kind)
     emit displayed();
 }
 
-void Paarlon::drop() { window_.release()->deleteLater(); }
+void Paarlon::drop()
+{
+    window_.release()->deleteLater();
+    emit closed();
+}

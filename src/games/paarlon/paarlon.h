@@ -35,6 +35,7 @@ public:
 signals:
     /// A game was opened.
     void displayed();
+    void closed();
 
 private:
     void drop();

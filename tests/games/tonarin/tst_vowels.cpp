@@ -97,9 +97,12 @@ private slots:
         QVERIFY(desk.lists.CorrectWordList.isEmpty());
         // Three steps: suffixes, prefixes, the stems.
         for (const int tiles : {13, 14, 3}) {
+            QVERIFY(desk.play.KurzVokalMode());
             desk.run(command::From::MainMenu, 2801);
             QCOMPARE(desk.r.store.count(), tiles);
         }
+        QVERIFY2(desk.play.checkedVowels() == Vowels::None, "with the board before, its lists are back");
+        QCOMPARE(desk.lists.WortelList.at(0), u"halt"_s);
         desk.tool(desk.controls.ChkVokal[1]);
         QVERIFY(desk.play.LangVokalMode() && !desk.controls.ChkVokal[0]->isChecked());
         desk.tool(desk.controls.ChkVokal[1]);
