@@ -81,21 +81,28 @@ void DictionaryPanel::toggleForSearch()
 /// required.
 void DictionaryPanel::openList()
 {
-    standOnBand(controls_, controls_.LexiconList);
     controls_.LexiconList->show();
+    placeOpen();
     if (lists_.LexiconList.isEmpty())
         ground_.notes.tell(note::dictionaryEmpty);
     controls_.CorrectWordList->hide();
     controls_.Dropper1->setCaption(QString());
-    const QRect list = controls_.LexiconList->geometry();
-    const int height = controls_.Text2->sizeHint().height();
-    controls_.Text2->setGeometry(list.left(), list.top() - height, list.width(), height);
     controls_.Text2->show();
-    controls_.Text2->raise();
     controls_.Text2->setText(controls_.Dropper1->Caption());
     controls_.Text2->setFocus();
     if (controls_.form->focusWidget() == controls_.Text2)
         controls_.Text2->selectAll();
+}
+
+void DictionaryPanel::placeOpen()
+{
+    if (!isOpen())
+        return;
+    standOnBand(controls_, controls_.LexiconList);
+    const QRect list = controls_.LexiconList->geometry();
+    const int height = controls_.Text2->sizeHint().height();
+    controls_.Text2->setGeometry(list.left(), list.top() - height, list.width(), height);
+    controls_.Text2->raise();
 }
 
 void DictionaryPanel::close()

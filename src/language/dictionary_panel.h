@@ -32,6 +32,8 @@ public:
     /// A list file is being loaded into `store`: if it is the dictionary, the open panel closes and stays
     /// closed.
     void storeLoading(const WordStore *store);
+    /// The window has another size: what is open stands on the band again.
+    void placeOpen();
     /// Closes it, if it is open, and leaves the focus alone.
     void close();
     /// A new text in the search box: selects the first entry that begins with it.

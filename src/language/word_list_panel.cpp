@@ -105,6 +105,12 @@ void WordListPanel::Show_Result()
         step([&] { dictionary_.toggle(); });
 }
 
+void WordListPanel::placeOpen()
+{
+    if (!controls_.CorrectWordList->isHidden())
+        standOnBand(controls_, controls_.CorrectWordList);
+}
+
 void WordListPanel::editByMenu()
 {
     Procedure step{ground_.log, "mnuEditWordList", "frmMain", Procedure::Silent};

@@ -27,6 +27,8 @@ public:
     void registerCommands(CommandRouter &router);
     /// Shows or hides the list (the left press on `Command4`); an open dictionary closes.
     void Show_Result();
+    /// The window has another size: an open list stands on the band again.
+    void placeOpen();
     /// The menu command "Bearbeiten": flips the list, above the band, and opens its menu.
     void editByMenu();
     /// Saves the list as a text file (the right press on `Command4`).

@@ -160,6 +160,9 @@ void frmMain::resizeEvent(QResizeEvent *)
     layOutMainControls(controls_, width(), height());
     rooms_->fit.resized();
     rooms_->canvas.repaint();
+    rooms_->morphemeLists.placeOpen();
+    rooms_->wordList.placeOpen();
+    rooms_->dictionary.placeOpen();
     rooms_->tips.recompose();
     rooms_->strip.boardResized();
 }

@@ -72,6 +72,14 @@ void endSplash(std::unique_ptr<frmSplash> splash, Ground &ground)
     ground.pump.yield();
 }
 
+/// In a smaller window some of its tools would lie outside.
+void keepToolsInSight(frmMain &form)
+{
+    constexpr int lowest = 300; // pixels
+    if (const QScreen *screen = QGuiApplication::primaryScreen())
+        form.setMinimumSize(QSize(frmMain::designSize.width(), lowest).boundedTo(screen->availableSize()));
+}
+
 /// The main window and the event loop until the window is closed, or is to be made anew: then `kept` has what
 /// goes on. A window that takes the place of another comes without the splash.
 int StartApplication(QApplication &application, RealGround &real, InstanceLink &link, const StartFacts &facts,
@@ -89,6 +97,7 @@ int StartApplication(QApplication &application, RealGround &real, InstanceLink &
     if (splash != nullptr)
         endSplash(std::move(splash), ground);
 
+    keepToolsInSight(form);
     if (kept == nullptr || kept->maximised) {
         showMainWindow(form, ground.options);
     } else {

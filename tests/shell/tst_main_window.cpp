@@ -125,8 +125,7 @@ private slots:
     {
         Start house({{"NumWortel", "3"}});
         house.t.writeFile(u"kaputt.jpg"_s, u"kein Bild"_s);
-        house.t.store.SaveSetting(u"Settings"_s, u"BackgroundPicture"_s,
-                                  house.t.AppFolder + u"kaputt.jpg"_s);
+        house.t.store.SaveSetting(u"Settings"_s, u"BackgroundPicture"_s, house.t.AppFolder + u"kaputt.jpg"_s);
         QVERIFY(house.form.Form_Load());
         house.t.boxes.willAnswer(Boxes::Answer::Ok);
         house.appear();

@@ -146,6 +146,11 @@ private slots:
         QCOMPARE(house.controls.Picture1->y() - note->geometry().bottom(), toBand);
         house.tool(house.controls.Command4); // the list opens, and the note makes room
         QVERIFY(!note->geometry().intersects(house.controls.CorrectWordList->geometry()));
+        house.r.morphemeLists.ToggleAllMorphemeLists();
+        house.form.resize(640, 573);
+        TestHouse::settle();
+        for (const StoreList *list : {house.controls.CorrectWordList, house.controls.PrefixList})
+            QCOMPARE(list->geometry().bottom() + 1, house.controls.Picture1->y());
         QTRY_VERIFY(!note->isVisible());
     }
 };

@@ -25,6 +25,8 @@ public:
     bool isAnyOpen() const;
     /// The list of `index` (0 to 2) lies over the board, as if it had been open all the time.
     void show(int index);
+    /// The window has another size: open lists stand over their buttons and the band again.
+    void placeOpen();
     /// A filter was chosen: a note if the board has nothing that it shows.
     void tellIfNone(int index);
 
@@ -33,7 +35,6 @@ signals:
     void menuRestoreWanted();
 
 private:
-    void placeOpen();
     StoreList *list(int index) const;
     void playOpened();
 

@@ -9,6 +9,7 @@
 #include "platform/procedure.h"
 #include "platform/product.h"
 #include "platform/word_lists.h"
+#include "widgets/plain_tool_tip.h"
 #include "widgets/store_list.h"
 
 #include <QGroupBox>
@@ -38,6 +39,7 @@ void KernlingDesk::Init2(const QString &path)
         step([&] { lists.wortellist.addAll(readListFile(path)); });
     controls.wortellist->setListIndex(-1); // the rows are other stems now
     controls.Label16->setText(listBaseName(path));
+    controls.Label16->setToolTip(plainToolTip(listBaseName(path))); // the panel may be too narrow for it
     const int stems = lists.wortellist.count();
     controls.Label17->setText(stems == 0   ? u"keine Wortstämme"_s
                               : stems == 1 ? u"1 Wortstamm"_s
