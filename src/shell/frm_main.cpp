@@ -29,11 +29,9 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDialog>
-#include <QDragEnterEvent>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMimeData>
 #include <QScreen>
 
 #include <utility>
@@ -261,10 +259,13 @@ void frmMain::UpdateCaption()
 void frmMain::tellNotOpened(const QStringList &missing, const QStringList &switches)
 {
     QStringList sentences;
+    QString paths;
+    for (const QString &path : missing)
+        paths += u'\n' + nativePath(path);
     if (!missing.isEmpty())
-        sentences << (missing.size() == 1 ? u"Diese Sitzung gibt es nicht:\n"_s
-                                          : u"Diese Sitzungen gibt es nicht:\n"_s) +
-                         nativePath(missing.join(u'\n'));
+        sentences << (missing.size() == 1 ? u"Diese Sitzung gibt es nicht:"_s
+                                          : u"Diese Sitzungen gibt es nicht:"_s) +
+                         paths;
     if (!switches.isEmpty())
         sentences << u"Wortel-Meister läuft schon. Das gilt nur beim ersten Start: "_s + switches.join(u' ');
     if (!sentences.isEmpty())
@@ -279,36 +280,6 @@ void frmMain::tellLater(const QString &text)
         ground_.gate.whenFree(tell);
     else
         onceActivated_.push_back(tell);
-}
-
-void frmMain::dragEnterEvent(QDragEnterEvent *event)
-{
-    if (!event->mimeData()->hasUrls())
-        return;
-    event->setDropAction(Qt::CopyAction); // a source that moves would delete its file
-    event->accept();
-}
-
-void frmMain::dropEvent(QDropEvent *event)
-{
-    const QList<QUrl> urls = event->mimeData()->urls();
-    if (urls.isEmpty() || !urls.first().isLocalFile())
-        return;
-    const QString path = urls.first().toLocalFile();
-    event->setDropAction(Qt::CopyAction);
-    event->setAccepted(BackgroundPicture::isPicture(path));
-    ground_.gate.whenFree([this, path] { rooms_->background.drop(path); });
-}
-
-/// What has the keyboard and goes or rests gives it to the board, never to a tool that the next Enter would
-/// press.
-bool frmMain::focusNextPrevChild(bool next)
-{
-    const QWidget *focus = focusWidget();
-    if (focus == nullptr || (focus->isVisible() && focus->isEnabled()))
-        return QWidget::focusNextPrevChild(next);
-    controls_.picCanvas->setFocus(Qt::OtherFocusReason);
-    return true;
 }
 
 void frmMain::closeEvent(QCloseEvent *event)
