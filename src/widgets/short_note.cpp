@@ -163,6 +163,22 @@ void ShortNote::tell(const QString &text)
 
 void ShortNote::showEvent(QShowEvent *) { timer_.start(); }
 
+void ShortNote::hideEvent(QHideEvent *) { refreshUnder(geometry()); }
+
+void ShortNote::moveEvent(QMoveEvent *event) { refreshUnder({event->oldPos(), size()}); }
+
+void ShortNote::resizeEvent(QResizeEvent *event) { refreshUnder({pos(), event->oldSize()}); }
+
+/// At a scale like 1.25 an edge lies within a pixel of the screen, of which the toolkit would leave a line.
+/// The window alone would not do: it spares what opaque children cover.
+void ShortNote::refreshUnder(const QRect &place)
+{
+    const QRect larger = place.adjusted(-1, -1, 1, 1);
+    for (QObject *sibling : parentWidget()->children())
+        if (auto *widget = qobject_cast<QWidget *>(sibling); widget != nullptr && !widget->isWindow())
+            widget->update(larger.translated(-widget->pos()));
+}
+
 bool ShortNote::eventFilter(QObject *watched, QEvent *event)
 {
     const auto type = event->type();

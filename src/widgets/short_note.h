@@ -30,11 +30,15 @@ public:
 protected:
     /// Told before the window is seen, the note waits for it.
     void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+    void moveEvent(QMoveEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
     QList<QRect> covered() const;
     void place();
+    void refreshUnder(const QRect &place);
 
     ShortNote(QWidget *window, const QWidget *board, const QWidget *band);
     const QWidget *board_; ///< or nullptr, and so the band
