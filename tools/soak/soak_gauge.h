@@ -71,8 +71,8 @@ public:
                              .arg(QLatin1String(name), QString::number(before), QString::number(after));
         };
         const qint64 memory = median(samples_.size() / 4, samples_.size() / 2, &SoakSample::memoryKb);
-        // Those of pictures and letters take long to fill, and the toolkit never forgets a picture's name: some
-        // forty bytes an event, where every life has pictures of its own.
+        // Those of pictures and letters take long to fill, and the toolkit never forgets a picture's name:
+        // some forty bytes an event, where every life has pictures of its own.
         constexpr qint64 caches = 12 * 1024;
         return grows(&SoakSample::memoryKb, caches + memory / 10, "kilobytes of memory") +
                grows(&SoakSample::files, 2, "open files") + grows(&SoakSample::threads, 1, "threads");
