@@ -66,10 +66,12 @@ std::optional<QByteArray> encode(const QString &text)
 QString missing(const QString &text)
 {
     QStringList found;
-    for (const char32_t character : text.normalized(QString::NormalizationForm_C).toUcs4())
-        if (const QString shown = QString::fromUcs4(&character, 1);
-            (character > 0xFFFF || byteOf(static_cast<char16_t>(character)) < 0) && !found.contains(shown))
+    for (const char32_t character : text.normalized(QString::NormalizationForm_C).toUcs4()) {
+        if (character <= 0xFFFF && byteOf(static_cast<char16_t>(character)) >= 0)
+            continue; // nearly all
+        if (const QString shown = QString::fromUcs4(&character, 1); !found.contains(shown))
             found << shown;
+    }
     return found.join(u' ');
 }
 
