@@ -46,13 +46,10 @@ bool SoakCallers::begin(const QByteArray &bytes, bool wantsAnswer)
 
 bool SoakCallers::look()
 {
-    std::erase_if(callers_, [this](const Caller &caller) {
+    std::erase_if(callers_, [](const Caller &caller) {
         char answer = 0;
-        const ssize_t count = recv(caller.socket, &answer, 1, 0);
-        if (count < 0 && errno == EAGAIN)
+        if (recv(caller.socket, &answer, 1, 0) < 0 && errno == EAGAIN)
             return false;
-        if (count == 1)
-            ++taken_;
         close(caller.socket);
         return true;
     });

@@ -26,7 +26,6 @@ public:
 
     /// Takes answers. True once every call has been answered.
     bool look();
-    int taken() const { return taken_; }
 
 private:
     struct Caller
@@ -39,5 +38,4 @@ private:
 
     QString address_;
     std::list<Caller> callers_;
-    int taken_ = 0;
 };
